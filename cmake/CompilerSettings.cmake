@@ -1,0 +1,54 @@
+# Language, warnings and code generation, the same for every target of ours.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_C_STANDARD 99)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_C_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+if(NOT CMAKE_BUILD_TYPE)
+    set(CMAKE_BUILD_TYPE Release CACHE STRING "Release, RelWithDebInfo or Debug" FORCE)
+endif()
+foreach(language C CXX)
+    set(CMAKE_${language}_FLAGS_RELEASE "-O2 -DNDEBUG")
+    set(CMAKE_${language}_FLAGS_RELWITHDEBINFO "-O1 -g")
+endforeach()
+
+# No path of the machine that builds ends up in what is built; the cache finds a file again in
+# another clone for the same reason.
+add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=)
+find_program(CCACHE ccache)
+if(CCACHE)
+    set(launcher ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE})
+    set(CMAKE_C_COMPILER_LAUNCHER ${launcher})
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${launcher})
+endif()
+
+if(ZENT_SANITIZE)
+    add_compile_options(-fsanitize=${ZENT_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${ZENT_SANITIZE})
+endif()
+
+if(WIN32)
+    add_compile_definitions(UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX)
+    # The library and the program stand alone: nothing of the compiler's is to be shipped with them.
+    add_link_options(-static -static-libgcc -static-libstdc++ -Wl,--no-insert-timestamp)
+    if(CMAKE_SYSTEM_PROCESSOR STREQUAL i686)
+        add_compile_definitions(_WIN32_WINNT=0x0501 WINVER=0x0501)
+    endif()
+endif()
+
+# Linked by what we write, not by what we only build (GoogleTest).
+add_library(zent_warnings INTERFACE)
+target_compile_options(zent_warnings INTERFACE
+    -Wall -Wextra -Wpedantic -Werror
+    -Wshadow -Wconversion -Wsign-conversion -Wcast-align -Wcast-qual -Wformat=2 -Wundef
+    -Wimplicit-fallthrough -Wnull-dereference -Wdouble-promotion
+    $<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual
+        -Wextra-semi -Wzero-as-null-pointer-constant>
+    $<$<AND:$<COMPILE_LANGUAGE:CXX>,$<CXX_COMPILER_ID:GNU>>:-Wsuggest-override -Wduplicated-cond
+        -Wduplicated-branches -Wlogical-op>)
