@@ -1,0 +1,64 @@
+#pragma once
+
+#include <compare>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+
+namespace zent {
+class CXString;
+}
+
+namespace zent::platform {
+
+/// What ends a folder's name in a path: a backslash on Windows, a slash elsewhere.
+extern const char16_t pathSeparator;
+
+/// An open file; closes with the object.
+class OpenFile {
+public:
+    /// Opens an existing file for reading, shared for reading; null on failure.
+    static std::unique_ptr<OpenFile> openForReading(const CXString& path);
+    /// Creates or truncates a file for writing, shared for reading; null on failure.
+    static std::unique_ptr<OpenFile> createForWriting(const CXString& path);
+
+    virtual ~OpenFile() = default;
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    /// The size in bytes; false on failure.
+    virtual bool getSize(std::uint64_t& size) = 0;
+    /// Reads or writes up to `length` bytes; `done` says how many. False on failure.
+    virtual bool read(void* buffer, std::size_t length, std::size_t& done) = 0;
+    virtual bool write(const void* data, std::size_t length, std::size_t& done) = 0;
+    /// The handle's number, for messages.
+    virtual std::uintptr_t getHandle() const = 0;
+
+protected:
+    OpenFile() = default;
+};
+
+/// Removes a file; false on failure.
+bool deleteFile(const CXString& path);
+
+/// What tells one state of a file from another without reading it. All zero if there is no file.
+struct FileStamp {
+    bool exists = false;
+    std::uint64_t size = 0;
+    std::uint64_t modified = 0; // in the system's finest unit
+    std::uint64_t identity = 0; // file number where the system has one
+    bool operator==(const FileStamp&) const = default;
+};
+FileStamp getFileStamp(const CXString& path);
+
+/// The full path of the file that this code was loaded from: the library, or the program that the
+/// library's objects are linked into. Empty if the system can't tell; cut to 260 units.
+CXString getModulePath();
+
+/// The folder of printer drivers, with a trailing separator: where driver files lie when no
+/// session has told the library its own folder. Windows: by the spooler, for a printer (its
+/// driver's folder) or, with an empty name or failing that, the environment's ("...\3").
+/// Elsewhere: the library's own folder.
+CXString getDriverDirectory(const CXString& printerName);
+
+} // namespace zent::platform

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <memory>
+
+namespace zent::platform {
+
+/// A recursive lock (Windows: CRITICAL_SECTION; elsewhere a recursive pthread mutex).
+/// Never fails once constructed.
+class Lock {
+public:
+    Lock();
+    ~Lock();
+    Lock(const Lock&) = delete;
+    Lock& operator=(const Lock&) = delete;
+
+    void enter() noexcept;
+    void leave() noexcept;
+
+private:
+    struct Native;
+    std::unique_ptr<Native> m_native;
+};
+
+} // namespace zent::platform

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+
+#include "ocore/CXString.h"
+
+namespace zent::platform {
+
+/// A window of the application, or null.
+using WindowHandle = void*;
+
+/// Shows a titled text with an icon and buttons and returns the button pressed (1 OK, 2 Cancel;
+/// 0 if it couldn't be shown). `flags` are those of the Windows message box: 16, 32, 48, 64 icons,
+/// 8192 task modal, 1 OK and Cancel. Without a display the text goes to stderr and the answer is OK.
+std::int32_t showMessageBox(WindowHandle owner, const CXString& body, const CXString& title,
+                            std::uint32_t flags);
+
+/// The caption of a window, at most 255 units; empty for null.
+CXString getWindowCaption(WindowHandle window);
+
+/// The system's text for an error number; empty if it has none. Leaves the last error as it was.
+CXString getSystemErrorText(std::uint32_t error);
+std::uint32_t getLastError();
+
+std::uint32_t getCurrentThreadId();
+
+/// An integer from a section of a profile file (key=value lines under [section]). Windows looks
+/// where GetPrivateProfileIntW does; elsewhere the file lies in the library's own folder.
+std::int32_t getProfileInteger(const CXString& section, const CXString& key,
+                               std::int32_t fallback, const CXString& file);
+
+/// Whether a debugger watches the process, and a stop in it.
+bool isDebuggerPresent();
+void breakIntoDebugger();
+
+/// Whether an exception that nothing is known of may travel on into the application: true on
+/// Windows, where it can be a processor fault that the application's own handlers want to see.
+extern const bool unknownExceptionsMayLeave;
+
+} // namespace zent::platform
