@@ -47,8 +47,8 @@ add_library(zent_warnings INTERFACE)
 target_compile_options(zent_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Werror
     -Wshadow -Wconversion -Wsign-conversion -Wcast-align -Wcast-qual -Wformat=2 -Wundef
-    -Wimplicit-fallthrough -Wnull-dereference -Wdouble-promotion
+    -Wimplicit-fallthrough -Wdouble-promotion
     $<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual
-        -Wextra-semi -Wzero-as-null-pointer-constant>
+        -Wextra-semi>
     $<$<AND:$<COMPILE_LANGUAGE:CXX>,$<CXX_COMPILER_ID:GNU>>:-Wsuggest-override -Wduplicated-cond
         -Wduplicated-branches -Wlogical-op>)
