@@ -1,0 +1,85 @@
+#include "expected/ExpectedTable.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+namespace zent::test {
+namespace {
+
+/// Unlike split(), keeps empty cells.
+std::vector<std::string> cellsOf(const std::string& line) {
+    std::vector<std::string> cells(1);
+    for (const char c : line) {
+        if (c == '\t') {
+            cells.emplace_back();
+        } else if (c != '\r') {
+            cells.back() += c;
+        }
+    }
+    return cells;
+}
+
+} // namespace
+
+std::string readTestFile(const std::string& path) {
+    const char* folder = std::getenv("ZENT_TEST_DATA");
+    if (folder == nullptr) {
+        throw std::runtime_error("ZENT_TEST_DATA does not name the folder of the tests");
+    }
+    std::ifstream file(std::string(folder) + "/" + path, std::ios::binary);
+    if (!file) {
+        throw std::runtime_error("can't read " + path);
+    }
+    std::ostringstream content;
+    content << file.rdbuf();
+    return content.str();
+}
+
+std::vector<std::string> split(const std::string& text, char separator) {
+    std::vector<std::string> words;
+    std::istringstream stream(text);
+    for (std::string word; std::getline(stream, word, separator);) {
+        if (!word.empty()) {
+            words.push_back(word);
+        }
+    }
+    return words;
+}
+
+std::u16string ExpectedRow::wide(const std::string& column) const {
+    const std::string& narrow = text(column);
+    return {narrow.begin(), narrow.end()};
+}
+
+std::vector<std::int32_t> ExpectedRow::numbers(const std::string& column) const {
+    std::vector<std::int32_t> result;
+    for (const std::string& word : split(text(column))) {
+        result.push_back(std::stoi(word));
+    }
+    return result;
+}
+
+std::vector<ExpectedRow> readExpectedTable(const std::string& name) {
+    std::vector<ExpectedRow> rows;
+    std::vector<std::string> header;
+    for (const std::string& line : split(readTestFile("expected/" + name), '\n')) {
+        const std::vector<std::string> cells = cellsOf(line);
+        if (header.empty()) {
+            header = cells;
+            continue;
+        }
+        if (cells.size() != header.size()) {
+            throw std::runtime_error(name + " has an uneven line: " + line);
+        }
+        std::map<std::string, std::string> row;
+        for (std::size_t i = 0; i < cells.size(); ++i) {
+            row[header[i]] = cells[i];
+        }
+        rows.emplace_back(std::move(row));
+    }
+    return rows;
+}
+
+} // namespace zent::test
