@@ -2,6 +2,7 @@
 
 #include <array>
 #include <concepts>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -28,7 +29,8 @@ public:
     using Value =
         std::variant<std::int64_t, std::uint64_t, double, WideText, NarrowText, const void*>;
 
-    template <std::integral T> explicit FormatArgument(T number) {
+    template <std::integral T>
+    explicit FormatArgument(T number) {
         if constexpr (std::is_signed_v<T>) {
             m_value = static_cast<std::int64_t>(number);
         } else {
@@ -36,18 +38,21 @@ public:
         }
     }
     template <typename T>
-        requires std::is_enum_v<T>
+    requires std::is_enum_v<T>
     explicit FormatArgument(T number)
         : FormatArgument(static_cast<std::underlying_type_t<T>>(number)) {}
     explicit FormatArgument(double number) : m_value(number) {}
     explicit FormatArgument(const char16_t* text)
         : m_value(WideText{text, text ? std::u16string_view(text).size() : 0}) {}
-    explicit FormatArgument(std::u16string_view text) : m_value(WideText{text.data(), text.size()}) {}
+    explicit FormatArgument(std::u16string_view text)
+        : m_value(WideText{text.data(), text.size()}) {}
     explicit FormatArgument(const CXString& text);
     explicit FormatArgument(const char* text)
         : m_value(NarrowText{text, text ? std::string_view(text).size() : 0}) {}
-    explicit FormatArgument(std::string_view text) : m_value(NarrowText{text.data(), text.size()}) {}
+    explicit FormatArgument(std::string_view text)
+        : m_value(NarrowText{text.data(), text.size()}) {}
     explicit FormatArgument(const std::string& text) : FormatArgument(std::string_view(text)) {}
+    explicit FormatArgument(std::nullptr_t) : m_value(WideText{nullptr, 0}) {}
     explicit FormatArgument(const void* pointer) : m_value(pointer) {}
 
     const Value& value() const { return m_value; }
@@ -57,6 +62,7 @@ private:
 };
 
 using FormatArguments = std::span<const FormatArgument>;
-template <std::size_t N> using FormatArgumentList = std::array<FormatArgument, N>;
+template <std::size_t N>
+using FormatArgumentList = std::array<FormatArgument, N>;
 
 } // namespace zent
