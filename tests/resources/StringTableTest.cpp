@@ -1,0 +1,81 @@
+#include <cctype>
+#include <map>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "expected/ExpectedTable.h"
+#include "resources/UseResourceLibrary.h"
+
+namespace zent::test {
+namespace {
+
+const char* const parts[] = {"features", "media", "messages", "sizes", "values"};
+
+/// The strings of one authored part, as rows of `id, "text"`; every fault is reported.
+std::map<std::int32_t, std::string> readStrings(const std::string& part) {
+    std::map<std::int32_t, std::string> strings;
+    for (const std::string& line :
+         split(readTestFile("../resources/strings-" + part + ".rc"), '\n')) {
+        const auto digit = line.find_first_not_of(' ');
+        if (digit == 0 || digit == std::string::npos || line[digit] == '/') {
+            continue; // no row
+        }
+        const auto open = line.find('"');
+        const auto close = line.rfind('"');
+        if (open == std::string::npos || open == close) {
+            ADD_FAILURE() << "no row of the string table: " << line;
+            continue;
+        }
+        const std::int32_t id = std::stoi(line.substr(digit));
+        EXPECT_TRUE(strings.empty() || strings.rbegin()->first < id) << line << " out of order";
+        strings[id] = line.substr(open + 1, close - open - 1);
+    }
+    return strings;
+}
+
+std::map<std::int32_t, std::string> readAllStrings() {
+    std::map<std::int32_t, std::string> all;
+    for (const char* part : parts) {
+        for (const auto& [id, text] : readStrings(part)) {
+            EXPECT_TRUE(all.emplace(id, text).second) << id << " stands twice";
+        }
+    }
+    return all;
+}
+
+TEST(StringTableTest, TextsFitForUsers) {
+    for (const auto& [id, text] : readAllStrings()) {
+        ASSERT_FALSE(text.empty()) << id;
+        EXPECT_LE(text.size(), 255U) << id;
+        EXPECT_EQ(text.find_first_of("\"\\\t%"), std::string::npos) << text;
+        EXPECT_NE(text.front(), ' ') << text;
+        EXPECT_NE(text.back(), ' ') << text;
+        EXPECT_EQ(text.find("  "), std::string::npos) << text;
+        const bool begins = std::isupper(static_cast<unsigned char>(text.front())) != 0 ||
+                            std::isdigit(static_cast<unsigned char>(text.front())) != 0;
+        EXPECT_TRUE(begins || text.starts_with("sRGB")) << text;
+        // Sentences end in a full stop, names don't.
+        const bool sentence = id == 11601 || id == 11602 || (id >= 11607 && id != 11619);
+        EXPECT_EQ(text.back() == '.', sentence) << text;
+    }
+}
+
+TEST(StringTableTest, EachIdThatATableNamesHasItsText) {
+    const std::map<std::int32_t, std::string> authored = readAllStrings();
+    const std::vector<ExpectedRow> wanted = readExpectedTable("strings-ids.tsv");
+    EXPECT_EQ(wanted.size(), authored.size());
+    for (const char16_t* fileName : {u"zenres37.dll", u"zenres27.dll"}) {
+        useResourceLibrary(fileName);
+        const ResourceLibrary library;
+        for (const ExpectedRow& row : wanted) {
+            const std::int32_t id = row.number("id");
+            ASSERT_TRUE(authored.contains(id)) << id << ", named by " << row.text("namedBy");
+            const CXString text = library.getString(static_cast<std::uint32_t>(id));
+            EXPECT_EQ(text.toNarrow(), authored.at(id)) << id;
+        }
+    }
+}
+
+} // namespace
+} // namespace zent::test
