@@ -1,0 +1,143 @@
+#include "ocore/FeatureSettings/FeatureDataBase.h"
+
+#include <atomic>
+#include <map>
+#include <optional>
+
+#include "ocore/Exceptions.h"
+#include "ocore/FeatureSettings/FeatureTable.h"
+#include "ocore/OwnedCriticalResource.h"
+
+namespace zent {
+
+namespace {
+
+constexpr FeatureEnum firstFeature = 2;
+
+/// The rows by number, and the two ways to a number by text.
+struct FeatureStore {
+    std::vector<FeatureInfo> byNumber; // the first is number 2, and there is no gap
+    std::map<std::u16string_view, FeatureEnum> byUniqueID;
+    std::map<std::u16string_view, FeatureEnum> byAbbreviation;
+};
+
+NestedAttrID makeNestedID(const FeatureRow& row) {
+    NestedAttrID id{AttrID(row.leaf)};
+    std::u16string_view rest = row.parents;
+    while (!rest.empty()) {
+        const std::u16string_view element = rest.substr(0, rest.find(u'/'));
+        rest.remove_prefix(std::min(element.size() + 1, rest.size()));
+        const std::size_t colon = element.find(u':');
+        const bool isSet = element[colon + 1] == u's';
+        const bool isNaming = element.back() == u'!';
+        id.addParent(element.substr(0, colon), isSet ? syntax::setOf : syntax::collection,
+                     isNaming ? NestedAttrID::namingParent : NestedAttrID::plainParent);
+    }
+    return id;
+}
+
+SyntaxList::Entry makeSyntax(const char16_t* keyword) {
+    const CXString text(keyword);
+    return {text, syntaxToAVTE(text)};
+}
+
+FeatureInfo makeInfo(const FeatureRow& row) {
+    FeatureInfo info{row.feature,
+                     makeNestedID(row),
+                     row.abbreviation,
+                     {},
+                     row.displayStringID,
+                     row.supportClass,
+                     SyntaxList(makeSyntax(row.syntaxes[0]), makeSyntax(row.syntaxes[1]),
+                                makeSyntax(row.syntaxes[2]))};
+    for (const FeatureEnum related : row.related) {
+        if (related != 0) {
+            info.m_related.push_back(related);
+        }
+    }
+    return info;
+}
+
+std::unique_ptr<const FeatureStore> buildStore() {
+    auto store = std::make_unique<FeatureStore>();
+    for (const FeatureRow& row : getFeatureRows()) {
+        store->byNumber.push_back(makeInfo(row));
+    }
+    for (const FeatureInfo& info : store->byNumber) {
+        store->byUniqueID.emplace(info.m_nestedID.getName().view(), info.m_feature);
+        store->byAbbreviation.emplace(info.m_abbreviation.view(), info.m_feature);
+    }
+    return store;
+}
+
+CriticalResource criticalResource(u"FeatureDataBase");
+std::unique_ptr<const FeatureStore> ownedStore;
+// What lookups go through: set once the store stands complete, so that they need no lock.
+std::atomic<const FeatureStore*> sharedStore{nullptr};
+
+const FeatureStore& store() { return *sharedStore.load(std::memory_order_acquire); }
+
+using NumberByText = std::map<std::u16string_view, FeatureEnum>;
+
+const FeatureInfo* findByText(const NumberByText& map, const CXString& text) {
+    const auto found = map.find(text.view());
+    return found == map.end() ? nullptr : &store().byNumber[found->second - firstFeature];
+}
+
+} // namespace
+
+FeatureDataBase::FeatureDataBase() {
+    if (sharedStore.load(std::memory_order_acquire) != nullptr) {
+        return;
+    }
+    const OwnedCriticalResource hold(criticalResource);
+    if (ownedStore == nullptr) {
+        ownedStore = buildStore();
+        sharedStore.store(ownedStore.get(), std::memory_order_release);
+    }
+}
+
+bool FeatureDataBase::hasFeature(FeatureEnum feature) const {
+    return feature >= firstFeature && feature - firstFeature < store().byNumber.size();
+}
+
+bool FeatureDataBase::hasUniqueID(const CXString& uniqueID) const {
+    return findByText(store().byUniqueID, uniqueID) != nullptr;
+}
+
+bool FeatureDataBase::hasAbbreviation(const CXString& abbreviation) const {
+    return findByText(store().byAbbreviation, abbreviation) != nullptr;
+}
+
+const FeatureInfo& FeatureDataBase::getFeatureInfo(FeatureEnum feature) const {
+    if (!hasFeature(feature)) {
+        Raise<UnknownFeatureRequestException>()("FeatureDataBase::getFeatureInfo( FeatureEnum ) "
+                                                "could not find requested FeatureEnum %ld\r\n",
+                                                feature);
+    }
+    return store().byNumber[feature - firstFeature];
+}
+
+const FeatureInfo& FeatureDataBase::getFeatureInfo(const CXString& uniqueID) const {
+    const AttrID id(uniqueID); // empty text fails as an attribute name
+    const FeatureInfo* const info = findByText(store().byUniqueID, id.getText());
+    if (info == nullptr) {
+        Raise<UnknownFeatureRequestException>()(
+            "FeatureDataBase::getFeatureInfo( UniqueID ) could not find requested ID '%s'\r\n",
+            uniqueID);
+    }
+    return *info;
+}
+
+const FeatureInfo&
+FeatureDataBase::getFeatureInfoByAbbreviation(const CXString& abbreviation) const {
+    const FeatureInfo* const info = findByText(store().byAbbreviation, abbreviation);
+    if (info == nullptr) {
+        Raise<UnknownFeatureRequestException>()("FeatureDataBase::getFeatureInfoByAbbreviation() "
+                                                "could not find requested ID '%s'\r\n",
+                                                abbreviation);
+    }
+    return *info;
+}
+
+} // namespace zent

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <span>
+
+#include "ocore/FeatureSettings/FeatureEnum.h"
+
+namespace zent {
+
+/// One feature as it is authored; FeatureDataBase makes a FeatureInfo of it.
+struct FeatureRow {
+    FeatureEnum feature;
+    const char16_t* leaf;
+    // Parents from the outermost inwards, separated by slashes, each with ":c" for a collection or
+    // ":s" for a set, and "!" behind it if it names the feature.
+    const char16_t* parents;
+    const char16_t* abbreviation;
+    std::array<const char16_t*, 3> syntaxes; // null where there is none
+    std::uint32_t supportClass;
+    std::uint32_t displayStringID;
+    std::array<FeatureEnum, 2> related; // 0 where there is none
+};
+
+/// All features, in the order of their numbers, without a gap.
+std::span<const FeatureRow> getFeatureRows();
+
+} // namespace zent

@@ -1,0 +1,163 @@
+#include "ocore/FeatureSettings/FeatureValue.h"
+
+#include <algorithm>
+#include <atomic>
+
+#include "ocore/Exceptions.h"
+#include "ocore/FeatureSettings/FeatureValueDataBase.h"
+#include "ocore/OwnedCriticalResource.h"
+#include "ocore/ResourceLibrary.h"
+
+namespace zent {
+
+namespace {
+
+std::atomic<std::int32_t> nextRunTimeValue{FeatureValueDataBase::firstRunTimeValue};
+
+std::vector<FeatureEnum> withRelated(FeatureEnum feature) {
+    const _FI id(feature);
+    std::vector<FeatureEnum> features{feature};
+    for (std::uint32_t i = 0; i < id.getRelatedCount(); ++i) {
+        features.push_back(id.getRelated(i));
+    }
+    return features;
+}
+
+/// Draws a number that is never given back. Beyond the last one the counter stays where it is, so
+/// that it can't run over.
+std::int32_t drawRunTimeValue(FeatureEnum feature, const CXString& text) {
+    constexpr std::int32_t end =
+        FeatureValueDataBase::firstRunTimeValue + FeatureValueDataBase::maximumRunTimeValues;
+    std::int32_t number = nextRunTimeValue.load();
+    do {
+        if (number >= end) {
+            FeatureValueDataBase::raiseUnknownValue(feature, text);
+        }
+    } while (!nextRunTimeValue.compare_exchange_weak(number, number + 1));
+    return number;
+}
+
+} // namespace
+
+FeatureValue::FeatureValue(FeatureEnum feature, const CXString& text)
+    : m_value(FeatureValueDataBase().getFeatureValueInfo(feature, text).m_value) {}
+
+FeatureValue FeatureValue::createFromAbbreviation(const CXString& abbreviation) {
+    return FeatureValue(
+        FeatureValueDataBase().getFeatureValueInfoByAbbreviation(abbreviation).m_value);
+}
+
+const FeatureValueInfo& FeatureValue::getInfo() const {
+    return FeatureValueDataBase().getFeatureValueInfo(m_value);
+}
+
+CXString FeatureValue::getDisplayString() const {
+    const FeatureValueInfo& info = getInfo();
+    return info.m_displayStringID == 0 ? info.m_text
+                                       : ResourceLibrary().getString(info.m_displayStringID);
+}
+
+std::uint32_t FeatureValue::getFeatureCount() const {
+    return static_cast<std::uint32_t>(getInfo().m_features.size());
+}
+
+bool FeatureValue::belongsTo(FeatureEnum feature) const {
+    const auto& features = getInfo().m_features;
+    return std::ranges::find(features, feature) != features.end();
+}
+
+bool FeatureValue::isShared() const { return belongsToAny() || getFeatureCount() > 1; }
+
+bool FeatureValue::isRunTimeValue() const {
+    return m_value >= FeatureValueDataBase::firstRunTimeValue;
+}
+
+bool FeatureValue::operator<(const FeatureValue& other) const {
+    if (isRunTimeValue() && other.isRunTimeValue()) {
+        return getDisplayString() < other.getDisplayString();
+    }
+    return m_value < other.m_value;
+}
+
+bool FeatureValue::isSameInfo(const FeatureValue& other) const {
+    const FeatureValueInfo& mine = getInfo();
+    const FeatureValueInfo& theirs = other.getInfo();
+    return mine.m_text == theirs.m_text && mine.m_abbreviation == theirs.m_abbreviation &&
+           mine.m_displayStringID == theirs.m_displayStringID &&
+           mine.m_imageID == theirs.m_imageID && mine.m_syntax == theirs.m_syntax &&
+           mine.m_type == theirs.m_type;
+}
+
+FeatureValue FeatureValue::convertToFeature(const _FI& feature) const {
+    if (belongsToAny()) {
+        return *this;
+    }
+    const CXString& text = getText();
+    return isKnownValue(feature.getFeature(), text) ? FeatureValue(feature.getFeature(), text)
+                                                    : FeatureValue();
+}
+
+bool FeatureValue::isKnownValue(FeatureEnum feature, const CXString& text) {
+    return FeatureValueDataBase().hasFeatureValue(feature, text);
+}
+
+bool FeatureValue::isValidNumber(std::int32_t value) {
+    return FeatureValueDataBase().hasValue(value);
+}
+
+bool FeatureValue::isValidAbbreviation(const CXString& abbreviation) {
+    return FeatureValueDataBase().hasAbbreviation(abbreviation);
+}
+
+std::int32_t FeatureValue::createNewValueEnum(FeatureEnum feature, const CXString& text,
+                                              const CXString& syntax, std::uint32_t type,
+                                              std::uint32_t displayStringID,
+                                              std::uint32_t imageID) {
+    if (text.length() > FeatureValueDataBase::maximumRunTimeLength) {
+        FeatureValueDataBase::raiseUnknownValue(feature, text);
+    }
+    const OwnedCriticalResource hold(FeatureValueDataBase::getCriticalResource());
+    std::vector<FeatureEnum> features = withRelated(feature);
+    for (const FeatureEnum sharing : features) {
+        if (isKnownValue(sharing, text)) {
+            Raise<DuplicateFeatureValueDBEntryException>()(
+                "FeatureValue::createNewValueEnum(): duplicate FVDB entry for feature %d and "
+                "value '%s'.\r\n",
+                sharing, text);
+        }
+    }
+    const std::int32_t number = drawRunTimeValue(feature, text);
+    if (isValidNumber(number)) {
+        Raise<DuplicateFeatureValueDBEntryException>()(
+            "FeatureValue::createNewValueEnum(): duplicate FVDB entry for value %d.\r\n", number);
+    }
+    const AVTE kind = type == 0 ? syntaxToAVTE(syntax) : static_cast<AVTE>(type);
+    FeatureValueDataBase().addValue(
+        {number, std::move(features), text, {}, displayStringID, imageID, syntax, kind});
+    return number;
+}
+
+FeatureValue FeatureValue::fromAttrValue(const _FI& feature, const AttrValue& value) {
+    const AVTE type = value.getAttrValueType();
+    const bool mayCreate = isUserType(type) && feature.hasAVTE(type);
+    return findOrCreate(feature, value.getIppValue(), mayCreate, value.getIppSyntax());
+}
+
+FeatureValue FeatureValue::fromText(const _FI& feature, const CXString& text) {
+    return findOrCreate(feature, text, feature.isUserDefinable(), feature.getPreferredSyntax());
+}
+
+FeatureValue FeatureValue::findOrCreate(const _FI& feature, const CXString& text, bool mayCreate,
+                                        const CXString& syntax) {
+    const FeatureEnum number = feature.getFeature();
+    if (mayCreate && !isKnownValue(number, text)) {
+        // Another thread may bring the same text along.
+        const OwnedCriticalResource hold(FeatureValueDataBase::getCriticalResource());
+        if (!isKnownValue(number, text)) {
+            return FeatureValue(createNewValueEnum(number, text, syntax, 0, 0, 0));
+        }
+    }
+    return {number, text};
+}
+
+} // namespace zent

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "ocore/Attributes/AttrValue.h"
+#include "ocore/FeatureSettings/FeatureIdentifier.h"
+#include "ocore/FeatureSettings/FeatureValueInfo.h"
+
+namespace zent {
+
+/// One value of a feature, by number: passed and copied freely. Every query goes to the value table
+/// and raises UnknownFeatureRequestException for a number that it doesn't know.
+class FeatureValue {
+public:
+    /// No value, or the printer's default.
+    static constexpr std::int32_t unspecified = 1;
+
+    /// Not checked.
+    explicit FeatureValue(std::int32_t value = unspecified) : m_value(value) {}
+    /// Raises UnknownFeatureRequestException if the feature has no such value.
+    FeatureValue(FeatureEnum feature, const CXString& text);
+    static FeatureValue createFromAbbreviation(const CXString& abbreviation);
+
+    std::int32_t getValue() const { return m_value; }
+    const CXString& getText() const { return getInfo().m_text; }
+    const CXString& getAbbreviation() const { return getInfo().m_abbreviation; }
+    std::uint32_t getDisplayStringID() const { return getInfo().m_displayStringID; }
+    std::uint32_t getImageID() const { return getInfo().m_imageID; }
+    const CXString& getSyntax() const { return getInfo().m_syntax; }
+    AVTE getType() const { return getInfo().m_type; }
+    /// For users: from the resource library, or the text itself of a run-time value.
+    CXString getDisplayString() const;
+
+    std::uint32_t getFeatureCount() const;
+    FeatureEnum getFeature(std::uint32_t index) const { return getInfo().m_features[index]; }
+    bool belongsTo(FeatureEnum feature) const;
+    /// To every feature.
+    bool belongsToAny() const { return belongsTo(TJTF_ANY); }
+    bool isShared() const;
+    bool isRunTimeValue() const;
+
+    bool operator==(const FeatureValue& other) const = default;
+    /// Fixed values in table order, then run-time values by the names that users see.
+    bool operator<(const FeatureValue& other) const;
+    /// The same content, maybe under another number.
+    bool isSameInfo(const FeatureValue& other) const;
+    /// The value of the same text of another feature; unspecified if it has none.
+    FeatureValue convertToFeature(const _FI& feature) const;
+
+    static bool isKnownValue(FeatureEnum feature, const CXString& text);
+    static bool isValidNumber(std::int32_t value);
+    static bool isValidAbbreviation(const CXString& abbreviation);
+    /// Whether users may invent values of this syntax: names and URIs.
+    static bool isUserSyntax(const CXString& syntax) { return isUserType(syntaxToAVTE(syntax)); }
+    static bool isUserType(AVTE type) { return type == AVTE_NAME || type == AVTE_URI; }
+
+    /// Adds a run-time value for a feature and its related ones, and gives its number. A `type` of
+    /// 0 is derived from the syntax. Raises DuplicateFeatureValueDBEntryException if one of the
+    /// features has the text already, UnknownFeatureRequestException if no more values, or none of
+    /// that length, can be taken.
+    static std::int32_t createNewValueEnum(FeatureEnum feature, const CXString& text,
+                                           const CXString& syntax, std::uint32_t type,
+                                           std::uint32_t displayStringID, std::uint32_t imageID);
+    /// The value that an attribute holds; a new one if it is of a free-text type that the feature
+    /// allows. Raises UnknownFeatureRequestException otherwise.
+    static FeatureValue fromAttrValue(const _FI& feature, const AttrValue& value);
+    /// The value of a text; a new one if users may define values of the feature.
+    static FeatureValue fromText(const _FI& feature, const CXString& text);
+
+private:
+    static FeatureValue findOrCreate(const _FI& feature, const CXString& text, bool mayCreate,
+                                     const CXString& syntax);
+    const FeatureValueInfo& getInfo() const;
+
+    std::int32_t m_value;
+};
+
+} // namespace zent

@@ -1,0 +1,114 @@
+#include "ocore/FeatureSettings/StockSize.h"
+
+#include <algorithm>
+#include <atomic>
+#include <iterator>
+#include <memory>
+#include <utility>
+
+#include "ocore/OwnedCriticalResource.h"
+#include "ocore/ResourceLibrary.h"
+
+namespace zent {
+
+struct StockSize::Row {
+    std::uint32_t code;
+    const char16_t* name;
+    std::int32_t width;
+    std::int32_t height;
+    std::uint32_t displayStringID;
+};
+
+// Two sizes alone are wider than high; a search gives them in that orientation.
+// clang-format off
+constexpr StockSize::Row StockSize::rows[] = {
+    { 1, u"SIZE_UNSPECIFIED", 0, 0, 7279},
+    { 2, u"SIZE_8PT5x11", 21600, 27900, 7265},
+    { 3, u"SIZE_8PT5x14", 21600, 35600, 7266},
+    { 4, u"SIZE_17x11", 43200, 27900, 7267},
+    { 5, u"SIZE_9x11", 22900, 27900, 7268},
+    { 6, u"SIZE_8PT5x13", 21600, 33000, 7270},
+    { 7, u"SIZE_223x297", 22300, 29700, 7271},
+    { 8, u"SIZE_A4", 21000, 29700, 7272},
+    { 9, u"SIZE_A3", 42000, 29700, 7273},
+    {10, u"SIZE_ISO_B4", 25000, 35300, 7274},
+    {11, u"SIZE_JIS_B4", 25700, 36400, 7275},
+    {12, u"SIZE_12x18_IN", 30500, 45700, 7382},
+    {13, u"SIZE_SRA3_320x450_MM", 32000, 45000, 7383},
+    {14, u"SIZE_B3_353x500_MM", 35300, 50000, 7384},
+    {15, u"SIZE_OTHER", -1, -1, 7278},
+};
+// clang-format on
+
+namespace {
+CriticalResource criticalResource(u"StockSize");
+} // namespace
+
+StockSize::StockSize(const Row& row, CXString displayName)
+    : m_size(row.code), m_width(row.width), m_height(row.height),
+      m_displayName(std::move(displayName)) {}
+
+const std::vector<StockSize>& StockSize::store() {
+    static std::unique_ptr<const std::vector<StockSize>> owned;
+    static std::atomic<const std::vector<StockSize>*> shared{nullptr};
+    if (const auto* const ready = shared.load(std::memory_order_acquire)) {
+        return *ready;
+    }
+    const OwnedCriticalResource hold(criticalResource);
+    if (owned == nullptr) {
+        const ResourceLibrary resources;
+        auto built = std::make_unique<std::vector<StockSize>>();
+        for (const Row& row : rows) {
+            built->push_back(StockSize(row, resources.getString(row.displayStringID)));
+        }
+        owned = std::move(built);
+        shared.store(owned.get(), std::memory_order_release);
+    }
+    return *owned;
+}
+
+StockSize::StockSize(std::uint32_t code) {
+    const auto& sizes = store();
+    const auto found = std::ranges::find(sizes, code, &StockSize::m_size);
+    *this = found == sizes.end() ? sizes.front() : *found;
+}
+
+StockSize::StockSize(std::int32_t width, std::int32_t height) {
+    const auto& sizes = store();
+    const auto found = std::find_if(
+        std::next(sizes.begin()), sizes.end(), [&](const StockSize& size) {
+            return (size.m_width == width && size.m_height == height) ||
+                   (size.m_width == height && size.m_height == width);
+        });
+    *this = found == sizes.end() ? sizes.back() : *found;
+    if (found == sizes.end()) {
+        m_width = width;
+        m_height = height;
+    }
+}
+
+CXString StockSize::getSizeName() const {
+    const auto* const row = std::ranges::find(rows, m_size, &Row::code);
+    return row->name;
+}
+
+void StockSize::getOrientedDimensions(const SizeLimits& limits, std::int32_t* width,
+                                      std::int32_t* height) const {
+    *width = m_width;
+    *height = m_height;
+    if (!limits.contains(m_width, m_height) && limits.contains(m_height, m_width)) {
+        std::swap(*width, *height);
+    }
+}
+
+std::vector<StockSize> StockSize::getSizesWithin(const SizeLimits& limits) {
+    std::vector<StockSize> fitting;
+    std::copy_if(std::next(store().begin()), store().end(), std::back_inserter(fitting),
+                 [&](const StockSize& size) {
+                     return limits.contains(size.m_width, size.m_height) ||
+                            limits.contains(size.m_height, size.m_width);
+                 });
+    return fitting;
+}
+
+} // namespace zent

@@ -1,0 +1,33 @@
+#include "ocore/FeatureSettings/SyntaxList.h"
+
+#include <algorithm>
+
+namespace zent {
+
+namespace {
+bool isGiven(const SyntaxList::Entry& entry) {
+    return !entry.first.isEmpty() && entry.second != AVTE_NULL;
+}
+} // namespace
+
+SyntaxList::SyntaxList(const Entry& first, const Entry& second, const Entry& third)
+    : m_entries{first} {
+    if (!isGiven(second)) {
+        return;
+    }
+    m_entries.push_back(second);
+    m_multiple = true;
+    if (isGiven(third)) {
+        m_entries.push_back(third);
+    }
+}
+
+bool SyntaxList::hasAVTE(AVTE type) const {
+    return std::ranges::find(m_entries, type, &Entry::second) != m_entries.end();
+}
+
+bool SyntaxList::hasSyntax(const CXString& syntax) const {
+    return std::ranges::find(m_entries, syntax, &Entry::first) != m_entries.end();
+}
+
+} // namespace zent
