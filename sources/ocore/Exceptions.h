@@ -47,4 +47,15 @@ ZENT_EXCEPTION_CLASS(PreferenceDataTypeMismatchException,         TarvoException
 
 #undef ZENT_EXCEPTION_CLASS
 
+// Told apart when a failure is shown to the user. Nothing here raises them; what does derives from
+// them, and says its id and result code.
+class DevModeOverflowException : public TarvoException {
+public:
+    using TarvoException::TarvoException;
+};
+class SpoolDataException : public TarvoException {
+public:
+    using TarvoException::TarvoException;
+};
+
 } // namespace zent

@@ -70,7 +70,8 @@ void noteRaise(SourcePlace place, std::uint32_t level);
 
 /// Raises an exception of class E with a formatted message, the way every raise site does: first
 /// the location, then the level, then the throw. The format is ASCII and its "%s" takes wide text.
-template <typename E> class Raise {
+template <typename E>
+class Raise {
 public:
     explicit Raise(std::uint32_t level = traceLevel::general,
                    SourcePlace place = SourcePlace::here())

@@ -1,0 +1,150 @@
+#include "platform/Files.h"
+
+#include <cerrno>
+#include <string>
+
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <limits.h>
+#include <link.h>
+#include <stdlib.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "ocore/CXString.h"
+
+namespace zent::platform {
+
+const char16_t pathSeparator = u'/';
+
+namespace {
+
+class PosixFile final : public OpenFile {
+public:
+    explicit PosixFile(int descriptor) : m_descriptor(descriptor) {}
+    ~PosixFile() override { close(m_descriptor); }
+
+    bool getSize(std::uint64_t& size) override {
+        struct stat status = {};
+        if (fstat(m_descriptor, &status) != 0 || status.st_size < 0) {
+            return false;
+        }
+        size = static_cast<std::uint64_t>(status.st_size);
+        return true;
+    }
+
+    bool read(void* buffer, std::size_t length, std::size_t& done) override {
+        auto* bytes = static_cast<std::byte*>(buffer);
+        return transfer(length, done, [&](std::size_t offset) {
+            return ::read(m_descriptor, bytes + offset, length - offset);
+        });
+    }
+
+    bool write(const void* data, std::size_t length, std::size_t& done) override {
+        const auto* bytes = static_cast<const std::byte*>(data);
+        return transfer(length, done, [&](std::size_t offset) {
+            return ::write(m_descriptor, bytes + offset, length - offset);
+        });
+    }
+
+    std::uintptr_t getHandle() const override { return static_cast<std::uintptr_t>(m_descriptor); }
+
+private:
+    /// The system may move less than it was asked to, or be interrupted, without anything being
+    /// wrong.
+    template <typename Step>
+    static bool transfer(std::size_t length, std::size_t& done, const Step& step) {
+        done = 0;
+        while (done < length) {
+            const ssize_t moved = step(done);
+            if (moved < 0 && errno != EINTR) {
+                return false;
+            }
+            if (moved == 0) {
+                break;
+            }
+            if (moved > 0) {
+                done += static_cast<std::size_t>(moved);
+            }
+        }
+        return true;
+    }
+
+    int m_descriptor;
+};
+
+/// The file that holds this code, as the loader knows it. Taken when the library is loaded, since
+/// the loader's name may be relative to the folder that the process is in at that time.
+const std::string& loadedFrom() {
+    static const std::string path = [] {
+        Dl_info information = {};
+        link_map* map = nullptr;
+        if (dladdr1(&pathSeparator, &information, reinterpret_cast<void**>(&map),
+                    RTLD_DL_LINKMAP) == 0 ||
+            map == nullptr) {
+            return std::string();
+        }
+        // The loader has no name for the program itself.
+        const char* name = *map->l_name != '\0' ? map->l_name : "/proc/self/exe";
+        char resolved[PATH_MAX] = {};
+        return std::string(realpath(name, resolved) != nullptr ? resolved : "");
+    }();
+    return path;
+}
+[[maybe_unused]] const std::string& loadedFromAtStart = loadedFrom();
+
+} // namespace
+
+std::unique_ptr<OpenFile> OpenFile::openForReading(const CXString& path) {
+    // A pipe would make the call wait for a writer, and a folder opens though it can't be read:
+    // only what holds bytes is a file here.
+    const int descriptor = open(path.toNarrow().c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (descriptor < 0) {
+        return nullptr;
+    }
+    auto file = std::make_unique<PosixFile>(descriptor);
+    struct stat status = {};
+    if (fstat(descriptor, &status) != 0) {
+        return nullptr;
+    }
+    if (!S_ISREG(status.st_mode)) {
+        file.reset();
+        errno = S_ISDIR(status.st_mode) ? EISDIR : EINVAL;
+        return nullptr;
+    }
+    return file;
+}
+
+std::unique_ptr<OpenFile> OpenFile::createForWriting(const CXString& path) {
+    const int descriptor =
+        open(path.toNarrow().c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    return descriptor < 0 ? nullptr : std::make_unique<PosixFile>(descriptor);
+}
+
+bool deleteFile(const CXString& path) { return unlink(path.toNarrow().c_str()) == 0; }
+
+FileStamp getFileStamp(const CXString& path) {
+    struct stat status = {};
+    if (stat(path.toNarrow().c_str(), &status) != 0) {
+        return {};
+    }
+    constexpr std::uint64_t nanosecondsPerSecond = 1'000'000'000;
+    return {.exists = true,
+            .size = static_cast<std::uint64_t>(status.st_size),
+            .modified = static_cast<std::uint64_t>(status.st_mtim.tv_sec) * nanosecondsPerSecond +
+                        static_cast<std::uint64_t>(status.st_mtim.tv_nsec),
+            .identity = static_cast<std::uint64_t>(status.st_ino)};
+}
+
+CXString getModulePath() {
+    constexpr std::int32_t longestPath = 260;
+    const std::string& path = loadedFrom();
+    return CXString(path.data(), path.size()).left(longestPath);
+}
+
+CXString getDriverDirectory(const CXString& /*printerName*/) {
+    const CXString path = getModulePath();
+    return path.left(path.findLast(pathSeparator) + 1);
+}
+
+} // namespace zent::platform

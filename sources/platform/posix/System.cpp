@@ -1,0 +1,133 @@
+#include "platform/System.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <charconv>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <string>
+
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include "platform/Files.h"
+
+namespace zent::platform {
+
+const bool unknownExceptionsMayLeave = false;
+
+namespace {
+
+/// Of what a message holds, line ends are kept; any other control character could steer a terminal.
+std::string printable(const CXString& text) {
+    std::string result = text.toNarrow();
+    std::erase(result, '\r');
+    std::replace_if(
+        result.begin(), result.end(),
+        [](char c) { return (static_cast<unsigned char>(c) < 0x20 && c != '\n') || c == 0x7F; },
+        ' ');
+    return result;
+}
+
+const char* nameOfIcon(std::uint32_t flags) {
+    switch (flags & 0xF0) {
+    case 16:
+        return "error";
+    case 32:
+        return "question";
+    case 48:
+        return "warning";
+    case 64:
+        return "information";
+    default:
+        return "message";
+    }
+}
+
+bool isSpace(char c) { return c == ' ' || c == '\t' || c == '\r'; }
+
+std::string_view trimmed(std::string_view text) {
+    while (!text.empty() && isSpace(text.front())) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && isSpace(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+bool equalsIgnoringCase(std::string_view a, std::string_view b) {
+    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [&](char x, char y) { return lower(x) == lower(y); });
+}
+
+/// The number that a text starts with, 0 if with none.
+std::int32_t leadingNumber(std::string_view text) {
+    std::int32_t value = 0;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
+}
+
+} // namespace
+
+std::int32_t showMessageBox(WindowHandle /*owner*/, const CXString& body, const CXString& title,
+                            std::uint32_t flags) {
+    constexpr std::int32_t answerOk = 1;
+    const std::string rule(72, '-');
+    std::string box = rule + '\n' + printable(title) + " (" + nameOfIcon(flags) + ")\n\n";
+    box += printable(body) + '\n' + rule + '\n';
+    // In one piece, so that nothing that another thread prints comes in between.
+    std::fwrite(box.data(), 1, box.size(), stderr);
+    return answerOk;
+}
+
+CXString getWindowCaption(WindowHandle /*window*/) { return {}; }
+
+CXString getSystemErrorText(std::uint32_t error) {
+    const char* text = strerrordesc_np(static_cast<int>(error));
+    return CXString(text);
+}
+
+std::uint32_t getLastError() { return static_cast<std::uint32_t>(errno); }
+
+std::uint32_t getCurrentThreadId() {
+    thread_local const auto id = static_cast<std::uint32_t>(syscall(SYS_gettid));
+    return id;
+}
+
+std::int32_t getProfileInteger(const CXString& section, const CXString& key, std::int32_t fallback,
+                               const CXString& file) {
+    std::ifstream lines((getDriverDirectory(CXString()) + file).toNarrow());
+    const std::string heading = '[' + section.toNarrow() + ']';
+    const std::string name = key.toNarrow();
+    bool isInSection = false;
+    for (std::string line; std::getline(lines, line);) {
+        const std::string_view text = trimmed(line);
+        const std::size_t equals = text.find('=');
+        if (text.starts_with('[')) {
+            isInSection = equalsIgnoringCase(text, heading);
+        } else if (isInSection && equals != std::string_view::npos &&
+                   equalsIgnoringCase(trimmed(text.substr(0, equals)), name)) {
+            return leadingNumber(trimmed(text.substr(equals + 1)));
+        }
+    }
+    return fallback;
+}
+
+bool isDebuggerPresent() {
+    constexpr std::string_view field = "TracerPid:";
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);) {
+        if (line.starts_with(field)) {
+            return leadingNumber(trimmed(std::string_view(line).substr(field.size()))) != 0;
+        }
+    }
+    return false;
+}
+
+void breakIntoDebugger() { std::raise(SIGTRAP); }
+
+} // namespace zent::platform

@@ -1,0 +1,167 @@
+#include "platform/Files.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "platform/win32/Module.h"
+#include "platform/win32/WideText.h"
+
+#include <winspool.h>
+
+namespace zent::platform {
+
+const char16_t pathSeparator = u'\\';
+
+namespace {
+
+class WindowsFile final : public OpenFile {
+public:
+    explicit WindowsFile(HANDLE handle) : m_handle(handle) {}
+    ~WindowsFile() override { CloseHandle(m_handle); }
+
+    bool getSize(std::uint64_t& size) override {
+        LARGE_INTEGER found = {};
+        if (GetFileSizeEx(m_handle, &found) == FALSE || found.QuadPart < 0) {
+            return false;
+        }
+        size = static_cast<std::uint64_t>(found.QuadPart);
+        return true;
+    }
+
+    bool read(void* buffer, std::size_t length, std::size_t& done) override {
+        auto* bytes = static_cast<std::byte*>(buffer);
+        return transfer(length, done, [&](std::size_t offset, DWORD count, DWORD* moved) {
+            return ReadFile(m_handle, bytes + offset, count, moved, nullptr);
+        });
+    }
+
+    bool write(const void* data, std::size_t length, std::size_t& done) override {
+        const auto* bytes = static_cast<const std::byte*>(data);
+        return transfer(length, done, [&](std::size_t offset, DWORD count, DWORD* moved) {
+            return WriteFile(m_handle, bytes + offset, count, moved, nullptr);
+        });
+    }
+
+    std::uintptr_t getHandle() const override { return reinterpret_cast<std::uintptr_t>(m_handle); }
+
+private:
+    /// One call takes 32-bit counts only.
+    template <typename Step>
+    static bool transfer(std::size_t length, std::size_t& done, const Step& step) {
+        constexpr std::size_t mostAtOnce = 0x40000000;
+        done = 0;
+        while (done < length) {
+            const auto count = static_cast<DWORD>(std::min(length - done, mostAtOnce));
+            DWORD moved = 0;
+            if (step(done, count, &moved) == FALSE) {
+                return false;
+            }
+            if (moved == 0) {
+                break;
+            }
+            done += moved;
+        }
+        return true;
+    }
+
+    HANDLE m_handle;
+};
+
+std::unique_ptr<OpenFile> wrap(HANDLE handle) {
+    return handle == INVALID_HANDLE_VALUE ? nullptr : std::make_unique<WindowsFile>(handle);
+}
+
+std::uint64_t joined(FILETIME time) {
+    return (std::uint64_t{time.dwHighDateTime} << 32) | time.dwLowDateTime;
+}
+
+CXString getFolder(const CXString& path) { return path.left(path.findLast(pathSeparator) + 1); }
+
+wchar_t driverEnvironment[] = L"Windows NT x86";
+
+/// The folder of a printer's driver, with its separator; empty on failure.
+CXString getFolderOfDriver(const CXString& printerName) {
+    HANDLE printer = nullptr;
+    std::vector<char16_t> name(printerName.c_str(), printerName.c_str() + printerName.length() + 1);
+    if (OpenPrinterW(wide(name.data()), &printer, nullptr) == FALSE) {
+        return {};
+    }
+    CXString folder;
+    DWORD needed = 0;
+    if (GetPrinterDriverW(printer, driverEnvironment, 2, nullptr, 0, &needed) == FALSE &&
+        GetLastError() == ERROR_INSUFFICIENT_BUFFER) {
+        const DWORD size = needed + 2;
+        // Allocated as what it starts with, for its alignment.
+        std::vector<DRIVER_INFO_2W> buffer(size / sizeof(DRIVER_INFO_2W) + 1);
+        if (GetPrinterDriverW(printer, driverEnvironment, 2,
+                              reinterpret_cast<LPBYTE>(buffer.data()), size, &needed) != FALSE) {
+            folder = getFolder(CXString(units(buffer.front().pDriverPath)));
+        }
+    }
+    ClosePrinter(printer);
+    return folder;
+}
+
+/// The folder of the environment's drivers of version 3, with its separator; empty on failure.
+CXString getFolderOfEnvironment() {
+    wchar_t buffer[260] = {};
+    DWORD needed = 0;
+    if (GetPrinterDriverDirectoryW(nullptr, driverEnvironment, 1, reinterpret_cast<LPBYTE>(buffer),
+                                   sizeof(buffer), &needed) == FALSE) {
+        return {};
+    }
+    CXString folder(units(buffer));
+    if (folder.right(2) != u"\\3") {
+        folder += u"\\3";
+    }
+    return folder + pathSeparator;
+}
+
+} // namespace
+
+std::unique_ptr<OpenFile> OpenFile::openForReading(const CXString& path) {
+    return wrap(CreateFileW(wide(path), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                            FILE_ATTRIBUTE_NORMAL, nullptr));
+}
+
+std::unique_ptr<OpenFile> OpenFile::createForWriting(const CXString& path) {
+    return wrap(CreateFileW(wide(path), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_ALWAYS,
+                            FILE_ATTRIBUTE_NORMAL, nullptr));
+}
+
+bool deleteFile(const CXString& path) { return DeleteFileW(wide(path)) != FALSE; }
+
+FileStamp getFileStamp(const CXString& path) {
+    WIN32_FILE_ATTRIBUTE_DATA found = {};
+    if (GetFileAttributesExW(wide(path), GetFileExInfoStandard, &found) == FALSE) {
+        return {};
+    }
+    // The file's number would need the file to be opened; its birth tells as much.
+    return {.exists = true,
+            .size = (std::uint64_t{found.nFileSizeHigh} << 32) | found.nFileSizeLow,
+            .modified = joined(found.ftLastWriteTime),
+            .identity = joined(found.ftCreationTime)};
+}
+
+CXString getModulePath() {
+    constexpr DWORD capacity = 261;
+    wchar_t path[capacity] = {};
+    GetModuleFileNameW(getOwnModule(), path, capacity);
+    path[capacity - 1] = L'\0'; // XP cuts a long path without ending it
+    return CXString(units(path));
+}
+
+CXString getDriverDirectory(const CXString& printerName) {
+    CXString folder;
+    if (!printerName.isEmpty()) {
+        folder = getFolderOfDriver(printerName);
+    }
+    if (folder.isEmpty()) {
+        folder = getFolderOfEnvironment();
+    }
+    // Without a spooler a library must not be looked for in the drive's root, where anybody could
+    // have put one.
+    return folder.isEmpty() ? getFolder(getModulePath()) : folder;
+}
+
+} // namespace zent::platform

@@ -1,0 +1,53 @@
+#include "platform/System.h"
+
+#include "platform/win32/WideText.h"
+
+namespace zent::platform {
+
+const bool unknownExceptionsMayLeave = true;
+
+std::int32_t showMessageBox(WindowHandle owner, const CXString& body, const CXString& title,
+                            std::uint32_t flags) {
+    return MessageBoxW(static_cast<HWND>(owner), wide(body), wide(title), flags);
+}
+
+CXString getWindowCaption(WindowHandle window) {
+    wchar_t caption[256] = {};
+    if (window != nullptr) {
+        GetWindowTextW(static_cast<HWND>(window), caption, 256);
+    }
+    return CXString(units(caption));
+}
+
+CXString getSystemErrorText(std::uint32_t error) {
+    const DWORD lastError = GetLastError();
+    wchar_t* text = nullptr;
+    // With the first flag, the buffer's place takes the address of what the system allocates.
+    const DWORD length = FormatMessageW(
+        FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+        nullptr, error, 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
+    CXString result;
+    if (length != 0) {
+        result = units(text);
+        result.trimRight();
+        LocalFree(text);
+    }
+    SetLastError(lastError);
+    return result;
+}
+
+std::uint32_t getLastError() { return GetLastError(); }
+
+std::uint32_t getCurrentThreadId() { return GetCurrentThreadId(); }
+
+std::int32_t getProfileInteger(const CXString& section, const CXString& key, std::int32_t fallback,
+                               const CXString& file) {
+    return static_cast<std::int32_t>(
+        GetPrivateProfileIntW(wide(section), wide(key), fallback, wide(file)));
+}
+
+bool isDebuggerPresent() { return IsDebuggerPresent() != FALSE; }
+
+void breakIntoDebugger() { DebugBreak(); }
+
+} // namespace zent::platform

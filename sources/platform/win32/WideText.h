@@ -1,0 +1,20 @@
+#pragma once
+
+#include "ocore/CXString.h"
+
+#include <windows.h>
+
+namespace zent::platform {
+
+// A wchar_t is 16 bits wide on this system, and holds what a char16_t holds: the casts between the
+// two stand here.
+static_assert(sizeof(wchar_t) == sizeof(char16_t));
+
+inline const wchar_t* wide(const char16_t* text) { return reinterpret_cast<const wchar_t*>(text); }
+inline wchar_t* wide(char16_t* text) { return reinterpret_cast<wchar_t*>(text); }
+inline const wchar_t* wide(const CXString& text) { return wide(text.c_str()); }
+inline const char16_t* units(const wchar_t* text) {
+    return reinterpret_cast<const char16_t*>(text);
+}
+
+} // namespace zent::platform
