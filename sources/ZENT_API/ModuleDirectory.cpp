@@ -1,0 +1,22 @@
+#include "ZENT_API/ModuleDirectory.h"
+
+#include <algorithm>
+
+#include "ocore/AnlXlate/OrdoTranslator.h"
+#include "ocore/ResourceLibrary.h"
+#include "platform/Files.h"
+
+namespace zent {
+
+CXString cutToDirectory(const CXString& path, char16_t separator) {
+    // The first character stays in any case, also where no separator was found behind it.
+    return path.left(std::max(path.findLast(separator), 0) + 1);
+}
+
+void announceModuleDirectory() {
+    const CXString directory = cutToDirectory(platform::getModulePath(), platform::pathSeparator);
+    OrdoTranslator::setDtdDirectory(directory);
+    ResourceLibrary::setPath(directory + u"zenres27.dll");
+}
+
+} // namespace zent

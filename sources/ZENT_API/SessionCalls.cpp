@@ -1,0 +1,76 @@
+#include <memory>
+
+#include "ZENT_API/Arguments.h"
+#include "ZENT_API/CallFrame.h"
+#include "ZENT_API/ModuleDirectory.h"
+
+using namespace zent;
+
+extern "C" {
+
+// The printer is not looked up yet, so any model, language and instruction form will do.
+ZentResult ZENT_CALL fnOpenSession(uint32_t version, uint32_t /*model*/, uint32_t /*pdl*/,
+                                   uint32_t /*instructionForm*/, ZentBool silent,
+                                   const ZentChar* /*preferencesName*/,
+                                   ZentBool /*useGenericPreferences*/, ZentSessionType* session) {
+    if (version != ZENT_INTERFACE_VERSION) {
+        return ZENT_ERR_VERSION;
+    }
+    return inFrame(u"ZENT::fnOpenSession()", silent != 0, [&](bool& isSilent) -> ZentResult {
+        ZentSessionType& handle = required(session);
+        announceModuleDirectory();
+        handle = std::make_unique<ZENTSession>(isSilent).release()->getHandle();
+        return ZENT_OK;
+    });
+}
+
+ZentResult ZENT_CALL fnCloseSession(ZentSessionType* session) {
+    return inFrame(u"ZENT::fnCloseSession()", false, [&](bool& silent) -> ZentResult {
+        ZentSessionType& handle = required(session);
+        const std::unique_ptr<ZENTSession> closed(&ZENTSession::getSessionObject(handle));
+        silent = closed->isSilent();
+        handle = nullptr;
+        return ZENT_OK;
+    });
+}
+
+ZentResult ZENT_CALL fnGetTarvoJtSettingsFromSession(ZentSessionType session,
+                                                     TarvoJtSettingsType* settings) {
+    return inSession(session, u"ZENT::fnGetTarvoJtSettingsFromSession()",
+                     [&](ZENTSession& opened) -> ZentResult {
+                         required(settings) = ZENTSession::getHandleOf(&opened.settings());
+                         return ZENT_OK;
+                     });
+}
+
+ZentResult ZENT_CALL fnCreateNewTarvoJtSettings(ZentSessionType session,
+                                                TarvoJtSettingsType* settings) {
+    return inSession(session, u"ZENT::fnCreateNewTarvoJtSettings()",
+                     [&](ZENTSession& /*opened*/) -> ZentResult {
+                         TarvoJtSettingsType& handle = required(settings);
+                         handle = nullptr; // what it stays when memory runs out
+                         try {
+                             auto made = std::make_unique<FeatureSettings>();
+                             handle = ZENTSession::getHandleOf(made.release());
+                         } catch (const std::bad_alloc&) {
+                             return ZENT_OK;
+                         }
+                         return ZENT_OK;
+                     });
+}
+
+ZentResult ZENT_CALL fnReleaseTarvoJtSettings(ZentSessionType session,
+                                              TarvoJtSettingsType* settings) {
+    return inSession(session, u"ZENT::fnReleaseTarvoJtSettings()",
+                     [&](ZENTSession& opened) -> ZentResult {
+                         TarvoJtSettingsType& handle = required(settings);
+                         FeatureSettings& object = ZENTSession::getSettingsObject(&handle);
+                         if (&object != &opened.settings()) {
+                             const std::unique_ptr<FeatureSettings> released(&object);
+                             handle = nullptr;
+                         }
+                         return ZENT_OK;
+                     });
+}
+
+} // extern "C"
