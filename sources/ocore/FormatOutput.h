@@ -13,6 +13,8 @@ class FormatOutput {
 public:
     static constexpr std::size_t limit = 1U << 20; // units
 
+    FormatOutput() { m_text.reserve(120); } // most texts
+
     void append(std::u16string_view text) { m_text += text.substr(0, room()); }
     /// ASCII.
     void append(std::string_view text) {

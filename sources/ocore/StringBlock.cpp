@@ -9,16 +9,16 @@
 
 namespace zent {
 
-namespace {
-
 // A sanitizer sees blocks that are used after their end, or lost, only if they come from the heap.
 #if defined(__SANITIZE_ADDRESS__)
-constexpr bool usePools = false;
+const bool StringBlock::usesPools = false;
 #elif defined(__has_feature)
-constexpr bool usePools = !__has_feature(address_sanitizer);
+const bool StringBlock::usesPools = !__has_feature(address_sanitizer);
 #else
-constexpr bool usePools = true;
+const bool StringBlock::usesPools = true;
 #endif
+
+namespace {
 
 constexpr std::array<std::size_t, 15> poolCapacities{6,  7,  8,  9,  10,  11,  12, 16,
                                                      20, 24, 32, 64, 128, 256, 512};
@@ -56,7 +56,7 @@ StringBlock* StringBlock::allocate(std::size_t capacity) {
         throw std::bad_alloc();
     }
     void* memory;
-    if (usePools && capacity <= largestPooled) {
+    if (usesPools && capacity <= largestPooled) {
         const std::size_t classIndex = classOfCapacity[capacity];
         capacity = poolCapacities[classIndex];
         memory = poolOf(classIndex).take();
@@ -70,7 +70,7 @@ StringBlock* StringBlock::allocate(std::size_t capacity) {
 
 void StringBlock::free(StringBlock* block) noexcept {
     const auto capacity = static_cast<std::size_t>(block->capacity);
-    if (usePools && capacity <= largestPooled) {
+    if (usesPools && capacity <= largestPooled) {
         poolOf(classOfCapacity[capacity]).giveBack(block);
     } else {
         ::operator delete(block);

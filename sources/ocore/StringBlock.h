@@ -10,6 +10,8 @@ namespace zent {
 /// The units, and one terminating zero unit, follow it in memory.
 struct StringBlock {
     static constexpr std::int32_t locked = -1;
+    /// False in builds that a sanitizer watches: there every block comes from the heap.
+    static const bool usesPools;
     /// The most units of a block that comes from a pool; longer ones come from the heap.
     static constexpr std::size_t largestPooled = 512;
     /// The most units a block can hold, so that sizes in bytes fit 32 bits.
