@@ -35,8 +35,8 @@
  * Missing values are no failure: "found" and its kin are out arguments that receive 0 or 1.
  * Number, range and stock size arguments stay as they were if nothing is found.
  *
- * Buffers. Where a call has a buffer and a size in/out argument, the size counts ZentChar units with
- * the terminator for text, and bytes for everything else. The call always sets it to the size
+ * Buffers. Where a call has a buffer and a size in/out argument, the size counts ZentChar units
+ * with the terminator for text, and bytes for everything else. The call always sets it to the size
  * required. With a null buffer it does no more and succeeds. With a buffer that is too small
  * nothing is copied and the result is ZENT_ERR_BUFFER_TOO_SMALL. So ask with null, allocate, ask
  * again.
@@ -92,38 +92,38 @@ typedef struct ZentSettingsObject* TarvoJtSettingsType;
  * Result codes. Applications switch on these numbers; they never change.
  */
 enum ZentResultCode {
-    ZENT_OK = 1,                      /* success */
-    ZENT_ERR_VERSION = 2,             /* the interface version isn't 27 */
-    ZENT_ERR_TICKET_FORMAT = 3,       /* a ticket format other than 1 or 2 */
-    ZENT_ERR_APPLY_MODE = 4,          /* an apply mode outside 1 to 5 */
-    ZENT_ERR_DIALOG_KIND = 5,         /* a dialog kind outside 1 to 4 */
-    ZENT_ERR_SESSION = 6,             /* the session handle isn't one */
-    ZENT_ERR_SETTINGS = 7,            /* the settings handle isn't one */
-    ZENT_ERR_BUFFER_TOO_SMALL = 8,    /* the size argument holds the size required */
-    ZENT_ERR_DIALOG_START = 9,        /* the dialog can't start (no display, for instance) */
-    ZENT_ERR_PREFERENCE_TYPE = 10,    /* a well-known preference has another type */
-    ZENT_ERR_RESOURCE_LIBRARY = 11,   /* zenres27.dll can't be loaded */
-    ZENT_ERR_UNKNOWN_FEATURE = 12,    /* no such feature, or no such value of a feature */
-    ZENT_ERR_ATTRIBUTE_TYPE = 13,     /* the value in the ticket is of another type */
-    ZENT_ERR_XML_PARSE = 14,          /* the document isn't well-formed or isn't valid */
-    ZENT_ERR_COMPRESSION = 15,        /* a state blob's compressed part is damaged */
-    ZENT_ERR_ATTRIBUTE_ID = 16,       /* an attribute name is empty */
-    ZENT_ERR_STATE_FORMAT = 17,       /* a state blob's header or data structure is wrong */
-    ZENT_ERR_OUT_OF_MEMORY = 18,      /* memory ran out */
-    ZENT_ERR_RESOURCE = 19,           /* a resource is missing in zenres27.dll */
-    ZENT_ERR_CAPABILITY_DATA = 20,    /* the printer's capabilities lack an entry */
-    ZENT_ERR_REGISTRY = 21,           /* the preference store failed */
-    ZENT_ERR_DUPLICATE_VALUE = 22,    /* a feature value exists already, or no more can be added */
-    ZENT_ERR_FILE_OPEN_READ = 23,     /* a file can't be opened for reading */
-    ZENT_ERR_FILE_OPEN_WRITE = 24,    /* a file can't be created or opened for writing */
-    ZENT_ERR_FILE_READ = 25,          /* a file can't be read, or its content not be converted */
-    ZENT_ERR_XML_GENERATE = 26,       /* a document can't be written */
-    ZENT_ERR_USER_INFORMATION = 27,   /* the user's profile can't be found */
-    ZENT_ERR_XML_OTHER = 28,          /* any other failure with documents, such as empty input */
-    ZENT_ERR_INTERNAL_INDEX = 29,     /* a value outside what a table or conversion knows */
-    ZENT_ERR_INTERNAL_OTHER = 30,     /* any other internal failure */
-    ZENT_ERR_STD_EXCEPTION = 31,      /* an exception of the language's library */
-    ZENT_ERR_UNKNOWN = 32             /* anything else, such as a null pointer argument */
+    ZENT_OK = 1,                    /* success */
+    ZENT_ERR_VERSION = 2,           /* the interface version isn't 27 */
+    ZENT_ERR_TICKET_FORMAT = 3,     /* a ticket format other than 1 or 2 */
+    ZENT_ERR_APPLY_MODE = 4,        /* an apply mode outside 1 to 5 */
+    ZENT_ERR_DIALOG_KIND = 5,       /* a dialog kind outside 1 to 4 */
+    ZENT_ERR_SESSION = 6,           /* the session handle isn't one */
+    ZENT_ERR_SETTINGS = 7,          /* the settings handle isn't one */
+    ZENT_ERR_BUFFER_TOO_SMALL = 8,  /* the size argument holds the size required */
+    ZENT_ERR_DIALOG_START = 9,      /* the dialog can't start (no display, for instance) */
+    ZENT_ERR_PREFERENCE_TYPE = 10,  /* a well-known preference has another type */
+    ZENT_ERR_RESOURCE_LIBRARY = 11, /* zenres27.dll can't be loaded */
+    ZENT_ERR_UNKNOWN_FEATURE = 12,  /* no such feature, or no such value of a feature */
+    ZENT_ERR_ATTRIBUTE_TYPE = 13,   /* the value in the ticket is of another type */
+    ZENT_ERR_XML_PARSE = 14,        /* the document isn't well-formed or isn't valid */
+    ZENT_ERR_COMPRESSION = 15,      /* a state blob's compressed part is damaged */
+    ZENT_ERR_ATTRIBUTE_ID = 16,     /* an attribute name is empty */
+    ZENT_ERR_STATE_FORMAT = 17,     /* a state blob's header or data structure is wrong */
+    ZENT_ERR_OUT_OF_MEMORY = 18,    /* memory ran out */
+    ZENT_ERR_RESOURCE = 19,         /* a resource is missing in zenres27.dll */
+    ZENT_ERR_CAPABILITY_DATA = 20,  /* the printer's capabilities lack an entry */
+    ZENT_ERR_REGISTRY = 21,         /* the preference store failed */
+    ZENT_ERR_DUPLICATE_VALUE = 22,  /* a feature value exists already, or no more can be added */
+    ZENT_ERR_FILE_OPEN_READ = 23,   /* a file can't be opened for reading */
+    ZENT_ERR_FILE_OPEN_WRITE = 24,  /* a file can't be created or opened for writing */
+    ZENT_ERR_FILE_READ = 25,        /* a file can't be read, or its content not be converted */
+    ZENT_ERR_XML_GENERATE = 26,     /* a document can't be written */
+    ZENT_ERR_USER_INFORMATION = 27, /* the user's profile can't be found */
+    ZENT_ERR_XML_OTHER = 28,        /* any other failure with documents, such as empty input */
+    ZENT_ERR_INTERNAL_INDEX = 29,   /* a value outside what a table or conversion knows */
+    ZENT_ERR_INTERNAL_OTHER = 30,   /* any other internal failure */
+    ZENT_ERR_STD_EXCEPTION = 31,    /* an exception of the language's library */
+    ZENT_ERR_UNKNOWN = 32           /* anything else, such as a null pointer argument */
 };
 
 /* Ticket formats of fnImportJobTicket and fnExportJobTicket. */
@@ -192,8 +192,8 @@ ZENT_API ZentResult ZENT_CALL fnGetTarvoJtSettingsFromSession(ZentSessionType se
 ZENT_API ZentResult ZENT_CALL fnCreateNewTarvoJtSettings(ZentSessionType session,
                                                          TarvoJtSettingsType* settings);
 
-/* Frees a free-standing ticket and sets the variable to null. The given session's own ticket is left
- * alone, and so is the variable; the handle of another session's ticket must not be given. */
+/* Frees a free-standing ticket and sets the variable to null. The given session's own ticket is
+ * left alone, and so is the variable; the handle of another session's ticket must not be given. */
 ZENT_API ZentResult ZENT_CALL fnReleaseTarvoJtSettings(ZentSessionType session,
                                                        TarvoJtSettingsType* settings);
 
@@ -252,7 +252,8 @@ ZENT_API ZentResult ZENT_CALL fnGetStockSizeValues(ZentSessionType session,
  * fnGetPrintInstructions that hasn't been fetched yet.
  */
 
-/* Sets a value by text: a keyword, enum or other value that the feature knows, or else free text. */
+/* Sets a value by text: a keyword, enum or other value that the feature knows, or else free text.
+ */
 ZENT_API ZentResult ZENT_CALL fnSetStringValue(ZentSessionType session,
                                                TarvoJtSettingsType settings,
                                                const ZentChar* feature, const ZentChar* value,
@@ -302,9 +303,11 @@ ZENT_API ZentResult ZENT_CALL fnCreateTarvoJtSettingsFromPageLevelFeature(
 /* Stores a copy of a ticket as the value at an index. For page-overrides the source is first given
  * the shape of a page exception: its document range (1 to 1 if it has none), then its page range,
  * in front. */
-ZENT_API ZentResult ZENT_CALL fnSetPageLevelFeatureFromTarvoJtSettings(
-    ZentSessionType session, TarvoJtSettingsType settings, const ZentChar* feature, uint32_t index,
-    TarvoJtSettingsType source);
+ZENT_API ZentResult ZENT_CALL fnSetPageLevelFeatureFromTarvoJtSettings(ZentSessionType session,
+                                                                       TarvoJtSettingsType settings,
+                                                                       const ZentChar* feature,
+                                                                       uint32_t index,
+                                                                       TarvoJtSettingsType source);
 
 /* Removes the value at an index. */
 ZENT_API ZentResult ZENT_CALL fnRemovePageLevelFeatureFromTarvoJtSettings(
@@ -327,8 +330,8 @@ ZENT_API ZentResult ZENT_CALL fnImportJobTicket(ZentSessionType session, const v
                                                 ZentWindow owner, const ZentChar* title,
                                                 ZentBool* problems, ZentBool* applied);
 
-/* Gives the session's ticket as bytes. A result that was only asked for its size is kept until it is
- * fetched or the ticket changes. */
+/* Gives the session's ticket as bytes. A result that was only asked for its size is kept until it
+ * is fetched or the ticket changes. */
 ZENT_API ZentResult ZENT_CALL fnExportJobTicket(ZentSessionType session, void* buffer,
                                                 uint32_t* size, uint32_t format);
 
@@ -344,9 +347,11 @@ ZENT_API ZentResult ZENT_CALL fnGetPrintInstructions(ZentSessionType session, vo
                                                      uint32_t* size, const char* documentName);
 
 /* Checks the session's ticket against the printer and repairs it, by a ZentApplyMode. */
-ZENT_API ZentResult ZENT_CALL fnApplyPrinterCapabilitiesToSettings(
-    ZentSessionType session, uint32_t mode, ZentWindow owner, const ZentChar* title,
-    ZentBool* problems, ZentBool* usable);
+ZENT_API ZentResult ZENT_CALL fnApplyPrinterCapabilitiesToSettings(ZentSessionType session,
+                                                                   uint32_t mode, ZentWindow owner,
+                                                                   const ZentChar* title,
+                                                                   ZentBool* problems,
+                                                                   ZentBool* usable);
 
 /* Lets the user edit the session's ticket in a dialog, by a ZentDialogKind. Cancelling is no
  * failure. The last argument is ignored. */

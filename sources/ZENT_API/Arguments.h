@@ -10,7 +10,8 @@ namespace zent {
 struct NullArgument {};
 
 /// What a pointer argument points to.
-template <typename T> T& required(T* argument) {
+template <typename T>
+T& required(T* argument) {
     if (argument == nullptr) {
         throw NullArgument();
     }

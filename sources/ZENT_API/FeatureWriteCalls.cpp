@@ -79,8 +79,7 @@ ZentResult ZENT_CALL fnUnspecifyFeature(ZentSessionType session, TarvoJtSettings
     });
 }
 
-ZentResult ZENT_CALL fnUnspecifyAllFeatures(ZentSessionType session,
-                                            TarvoJtSettingsType settings) {
+ZentResult ZENT_CALL fnUnspecifyAllFeatures(ZentSessionType session, TarvoJtSettingsType settings) {
     return changing(session, settings, u"ZENT::fnUnspecifyAllFeatures()",
                     [](FeatureSettings& ticket) { ticket = FeatureSettings(); });
 }

@@ -18,8 +18,10 @@ std::optional<FeatureSettings> readTicket(const ByteBuffer& data, uint32_t forma
     case ZENT_FORMAT_XML:
         OrdoTranslator().anlFromBuffer(data, ticket.getAttrNodeList());
         return ticket;
-    case ZENT_FORMAT_STATE: throw UnavailableCall();
-    default: return std::nullopt;
+    case ZENT_FORMAT_STATE:
+        throw UnavailableCall();
+    default:
+        return std::nullopt;
     }
 }
 
@@ -51,43 +53,42 @@ ZentResult ZENT_CALL fnImportJobTicket(ZentSessionType session, const void* data
                                        uint32_t format, uint32_t mode, ZentWindow /*owner*/,
                                        const ZentChar* /*title*/, ZentBool* problems,
                                        ZentBool* applied) {
-    return inSession(
-        session, u"ZENT::fnImportJobTicket()", [&](ZENTSession& opened) -> ZentResult {
-            ZentBool& hasProblems = required(problems);
-            ZentBool& isApplied = required(applied);
-            std::optional<FeatureSettings> ticket = readTicket(bytesOf(data, length), format);
-            if (!ticket) {
-                return ZENT_ERR_TICKET_FORMAT;
-            }
-            bool usable = false;
-            const ZentResult result = apply(*ticket, mode, hasProblems, usable);
-            isApplied = result == ZENT_OK && usable;
-            if (isApplied != 0) {
-                // The caches stay: a result that waits to be fetched is served as it is.
-                opened.settings() = std::move(*ticket);
-            }
-            return result;
-        });
+    return inSession(session, u"ZENT::fnImportJobTicket()", [&](ZENTSession& opened) -> ZentResult {
+        ZentBool& hasProblems = required(problems);
+        ZentBool& isApplied = required(applied);
+        std::optional<FeatureSettings> ticket = readTicket(bytesOf(data, length), format);
+        if (!ticket) {
+            return ZENT_ERR_TICKET_FORMAT;
+        }
+        bool usable = false;
+        const ZentResult result = apply(*ticket, mode, hasProblems, usable);
+        isApplied = result == ZENT_OK && usable;
+        if (isApplied != 0) {
+            // The caches stay: a result that waits to be fetched is served as it is.
+            opened.settings() = std::move(*ticket);
+        }
+        return result;
+    });
 }
 
 ZentResult ZENT_CALL fnExportJobTicket(ZentSessionType session, void* buffer, uint32_t* size,
                                        uint32_t format) {
-    return inSession(
-        session, u"ZENT::fnExportJobTicket()", [&](ZENTSession& opened) -> ZentResult {
-            uint32_t& bytes = required(size);
-            CachedOutput& cache = opened.exportCache();
-            switch (format) {
-            case ZENT_FORMAT_XML:
-                if (!cache.isFor(format)) {
-                    cache.setKeyFromNumber(format);
-                    OrdoTranslator().anlToBuffer(*opened.settings().getAttrNodeList(),
-                                                 &cache.buffer());
-                }
-                return cache.handOut(buffer, bytes);
-            case ZENT_FORMAT_STATE: throw UnavailableCall();
-            default: return ZENT_ERR_TICKET_FORMAT;
+    return inSession(session, u"ZENT::fnExportJobTicket()", [&](ZENTSession& opened) -> ZentResult {
+        uint32_t& bytes = required(size);
+        CachedOutput& cache = opened.exportCache();
+        switch (format) {
+        case ZENT_FORMAT_XML:
+            if (!cache.isFor(format)) {
+                cache.setKeyFromNumber(format);
+                OrdoTranslator().anlToBuffer(*opened.settings().getAttrNodeList(), &cache.buffer());
             }
-        });
+            return cache.handOut(buffer, bytes);
+        case ZENT_FORMAT_STATE:
+            throw UnavailableCall();
+        default:
+            return ZENT_ERR_TICKET_FORMAT;
+        }
+    });
 }
 
 ZentResult ZENT_CALL fnCreateTarvoJtSettingsFromPageLevelFeature(

@@ -36,16 +36,26 @@ AVTE syntaxToAVTE(const CXString& syntax) {
 
 CXString AVTEToString(AVTE type) {
     switch (type) {
-    case AVTE_NULL: return u"AVTE_NULL";
-    case AVTE_INTEGER: return u"AVTE_INTEGER";
-    case AVTE_ENUM: return u"AVTE_ENUM";
-    case AVTE_NAME: return u"AVTE_NAME";
-    case AVTE_KEYWORD: return u"AVTE_KEYWORD";
-    case AVTE_BOOLEAN: return u"AVTE_BOOLEAN";
-    case AVTE_TEXT: return u"AVTE_TEXT";
-    case AVTE_MIMEMEDIA: return u"AVTE_MIMEMEDIA";
-    case AVTE_URI: return u"AVTE_URI";
-    case AVTE_LIST: return u"AVTE_LIST";
+    case AVTE_NULL:
+        return u"AVTE_NULL";
+    case AVTE_INTEGER:
+        return u"AVTE_INTEGER";
+    case AVTE_ENUM:
+        return u"AVTE_ENUM";
+    case AVTE_NAME:
+        return u"AVTE_NAME";
+    case AVTE_KEYWORD:
+        return u"AVTE_KEYWORD";
+    case AVTE_BOOLEAN:
+        return u"AVTE_BOOLEAN";
+    case AVTE_TEXT:
+        return u"AVTE_TEXT";
+    case AVTE_MIMEMEDIA:
+        return u"AVTE_MIMEMEDIA";
+    case AVTE_URI:
+        return u"AVTE_URI";
+    case AVTE_LIST:
+        return u"AVTE_LIST";
     }
     return u"UNKNOWN!";
 }

@@ -36,8 +36,7 @@ AttrNodeList& AttrNodeList::operator=(const AttrNodeList& other) {
     return *this;
 }
 
-AttrNodeList::AttrNodeList(AttrNodeList&& other) noexcept
-    : m_nodes(std::move(other.m_nodes)) {
+AttrNodeList::AttrNodeList(AttrNodeList&& other) noexcept : m_nodes(std::move(other.m_nodes)) {
     other.removeAllNodes();
 }
 
@@ -87,8 +86,8 @@ AttrNode* AttrNodeList::findEqualNode(const AttrNode& node, std::uint32_t instan
 }
 
 std::uint32_t AttrNodeList::countNodes(const AttrID& id) const {
-    return static_cast<std::uint32_t>(std::ranges::count_if(
-        m_nodes, [&](const auto& node) { return node->getAttrID() == id; }));
+    return static_cast<std::uint32_t>(
+        std::ranges::count_if(m_nodes, [&](const auto& node) { return node->getAttrID() == id; }));
 }
 
 AttrNode* AttrNodeList::addNode(const AttrNode& node) { return addNode(AttrNode(node)); }
@@ -343,8 +342,7 @@ bool AttrNodeList::OrdoAttrToList(const AttrNodeList** target, const AttrID& id,
     return true;
 }
 
-bool AttrNodeList::OrdoAttrToList(AttrNodeList** target, const AttrID& id,
-                                  std::uint32_t instance) {
+bool AttrNodeList::OrdoAttrToList(AttrNodeList** target, const AttrID& id, std::uint32_t instance) {
     const AttrNodeList* found = nullptr;
     if (!std::as_const(*this).OrdoAttrToList(&found, id, instance)) {
         return false;

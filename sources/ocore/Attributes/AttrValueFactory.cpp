@@ -12,15 +12,24 @@ namespace {
 
 std::unique_ptr<AttrValue> makeSimple(AVTE type, const CXString& value) {
     switch (type) {
-    case AVTE_INTEGER: return std::make_unique<IppInteger>(value);
-    case AVTE_ENUM: return std::make_unique<IppEnum>(value);
-    case AVTE_NAME: return std::make_unique<IppName>(value);
-    case AVTE_KEYWORD: return std::make_unique<IppKeyword>(value);
-    case AVTE_BOOLEAN: return std::make_unique<IppBoolean>(value);
-    case AVTE_TEXT: return std::make_unique<IppText>(value);
-    case AVTE_MIMEMEDIA: return std::make_unique<IppMimeMediaType>(value);
-    case AVTE_URI: return std::make_unique<IppUri>(value);
-    default: break;
+    case AVTE_INTEGER:
+        return std::make_unique<IppInteger>(value);
+    case AVTE_ENUM:
+        return std::make_unique<IppEnum>(value);
+    case AVTE_NAME:
+        return std::make_unique<IppName>(value);
+    case AVTE_KEYWORD:
+        return std::make_unique<IppKeyword>(value);
+    case AVTE_BOOLEAN:
+        return std::make_unique<IppBoolean>(value);
+    case AVTE_TEXT:
+        return std::make_unique<IppText>(value);
+    case AVTE_MIMEMEDIA:
+        return std::make_unique<IppMimeMediaType>(value);
+    case AVTE_URI:
+        return std::make_unique<IppUri>(value);
+    default:
+        break;
     }
     Raise<UnknownCaseException>()("AttrValueFactory::createSimpleAttrValue(AVTE): unhandled "
                                   "attribute value enumeration (%ld).\r\n",

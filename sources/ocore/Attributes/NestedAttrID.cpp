@@ -64,8 +64,8 @@ AttrNodeList* NestedAttrID::findOrCreateList(AttrNodeList& list, std::uint32_t i
     for (std::size_t i = 0; i < m_path.size(); ++i) {
         const bool isLast = i + 1 == m_path.size();
         AttrNodeList* next = nullptr;
-        creating = creating ||
-                   !current->OrdoAttrToList(&next, m_path[i].name, isLast ? instance : 0);
+        creating =
+            creating || !current->OrdoAttrToList(&next, m_path[i].name, isLast ? instance : 0);
         current = creating ? current->addList(m_path[i].name, m_path[i].syntax) : next;
     }
     return current;

@@ -11,12 +11,13 @@ namespace zent {
 /// Names one attribute at any depth of a tree of lists: a leaf, and the parents on the way to it.
 ///
 /// Outside, the attribute is known by the leaf's name, or, where the leaf is just the "value" of a
-/// set, by the name of the parent that is marked as naming. So the page ranges have the leaf "value"
-/// in the set "page-ranges" and are known as "page-ranges"; a medium's "x-dimension" lies in the
-/// collections "media-col" and "media-size".
+/// set, by the name of the parent that is marked as naming. So the page ranges have the leaf
+/// "value" in the set "page-ranges" and are known as "page-ranges"; a medium's "x-dimension" lies
+/// in the collections "media-col" and "media-size".
 class NestedAttrID {
 public:
-    /// The role of a parent that doesn't name the attribute; every other number marks one that does.
+    /// The role of a parent that doesn't name the attribute; every other number marks one that
+    /// does.
     static constexpr std::uint32_t plainParent = 3;
     static constexpr std::uint32_t namingParent = 1;
 
@@ -35,7 +36,9 @@ public:
     std::uint32_t getDepth() const { return static_cast<std::uint32_t>(m_path.size()); }
 
     /// Parents are counted from the innermost, which is 0, up to getDepth() - 1.
-    const CXString& getParentName(std::uint32_t index) const { return parent(index).name.getText(); }
+    const CXString& getParentName(std::uint32_t index) const {
+        return parent(index).name.getText();
+    }
     const CXString& getParentSyntax(std::uint32_t index) const { return parent(index).syntax; }
     bool isNamingParent(std::uint32_t index) const { return parent(index).role != plainParent; }
     bool hasParent(const CXString& name) const;

@@ -12,7 +12,8 @@ CXString PrimitiveInteger::getIppValue() const {
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), m_value).ptr;
     std::array<char16_t, 16> wide{};
     const auto* wideEnd = std::copy(digits.data(), end, wide.data());
-    return CXString(std::u16string_view(wide.data(), static_cast<std::size_t>(wideEnd - wide.data())));
+    return CXString(
+        std::u16string_view(wide.data(), static_cast<std::size_t>(wideEnd - wide.data())));
 }
 
 bool PrimitiveInteger::isEqual(const AttrValue& other) const {

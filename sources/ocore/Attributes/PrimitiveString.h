@@ -24,7 +24,8 @@ private:
 
 class IppKeyword : public PrimitiveString {
 public:
-    explicit IppKeyword(const CXString& value = CXString()) : PrimitiveString(AVTE_KEYWORD, value) {}
+    explicit IppKeyword(const CXString& value = CXString())
+        : PrimitiveString(AVTE_KEYWORD, value) {}
     const CXString& getIppSyntax() const override { return syntax::keyword; }
     std::unique_ptr<AttrValue> clone() const override;
 };

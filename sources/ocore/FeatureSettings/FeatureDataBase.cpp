@@ -2,10 +2,11 @@
 
 #include <atomic>
 #include <map>
-#include <optional>
+#include <memory>
 
 #include "ocore/Exceptions.h"
 #include "ocore/FeatureSettings/FeatureTable.h"
+#include "ocore/FeatureSettings/NestedIDText.h"
 #include "ocore/OwnedCriticalResource.h"
 
 namespace zent {
@@ -21,35 +22,14 @@ struct FeatureStore {
     std::map<std::u16string_view, FeatureEnum> byAbbreviation;
 };
 
-NestedAttrID makeNestedID(const FeatureRow& row) {
-    NestedAttrID id{AttrID(row.leaf)};
-    std::u16string_view rest = row.parents;
-    while (!rest.empty()) {
-        const std::u16string_view element = rest.substr(0, rest.find(u'/'));
-        rest.remove_prefix(std::min(element.size() + 1, rest.size()));
-        const std::size_t colon = element.find(u':');
-        const bool isSet = element[colon + 1] == u's';
-        const bool isNaming = element.back() == u'!';
-        id.addParent(element.substr(0, colon), isSet ? syntax::setOf : syntax::collection,
-                     isNaming ? NestedAttrID::namingParent : NestedAttrID::plainParent);
-    }
-    return id;
-}
-
-SyntaxList::Entry makeSyntax(const char16_t* keyword) {
-    const CXString text(keyword);
-    return {text, syntaxToAVTE(text)};
-}
-
 FeatureInfo makeInfo(const FeatureRow& row) {
     FeatureInfo info{row.feature,
-                     makeNestedID(row),
+                     makeNestedAttrID(row.leaf, row.parents, NestedAttrID::namingParent),
                      row.abbreviation,
                      {},
                      row.displayStringID,
                      row.supportClass,
-                     SyntaxList(makeSyntax(row.syntaxes[0]), makeSyntax(row.syntaxes[1]),
-                                makeSyntax(row.syntaxes[2]))};
+                     SyntaxList(row.syntaxes)};
     for (const FeatureEnum related : row.related) {
         if (related != 0) {
             info.m_related.push_back(related);

@@ -21,7 +21,8 @@ struct FeatureInfo {
     FeatureEnum m_feature;
     NestedAttrID m_nestedID; // where the attribute lives
     CXString m_abbreviation;
-    // The features that share this one's value set: a run-time value of one mustn't clash with them.
+    // The features that share this one's value set: a run-time value of one mustn't clash with
+    // them.
     std::vector<FeatureEnum> m_related;
     std::uint32_t m_displayStringID;
     std::uint32_t m_supportClass;

@@ -36,8 +36,7 @@ void FeatureSettings::setStockSize(const StockSize& size) {
 FeatureSettings FeatureSettings::getNestedSettings(const _SI& setting, std::uint32_t instance) {
     AttrNodeList* const container = findContainer(setting);
     AttrNodeList* nested = nullptr;
-    if (container != nullptr &&
-        container->OrdoAttrToList(&nested, setting.getAttrID(), instance)) {
+    if (container != nullptr && container->OrdoAttrToList(&nested, setting.getAttrID(), instance)) {
         return FeatureSettings(nested);
     }
     return {};
@@ -47,8 +46,7 @@ void FeatureSettings::getNestedSettingsCopy(FeatureSettings* target, const _SI& 
                                             std::uint32_t instance) const {
     const AttrNodeList* const container = findContainer(setting);
     const AttrNodeList* nested = nullptr;
-    if (container != nullptr &&
-        container->OrdoAttrToList(&nested, setting.getAttrID(), instance)) {
+    if (container != nullptr && container->OrdoAttrToList(&nested, setting.getAttrID(), instance)) {
         *target = FeatureSettings(*nested);
     } else {
         *target = FeatureSettings();
@@ -61,7 +59,8 @@ void FeatureSettings::setNestedSettings(const _SI& setting, const FeatureSetting
     findOrCreateNestedList(setting, setting.getSyntax(0), instance) = std::move(copy);
 }
 
-template <typename Operation> bool FeatureSettings::changeEachPageOverride(Operation operation) {
+template <typename Operation>
+bool FeatureSettings::changeEachPageOverride(Operation operation) {
     const _FI overrides(feature::pageOverrides);
     AttrNodeList* const members = findContainer(overrides);
     bool changed = false;

@@ -20,8 +20,8 @@ public:
     /// always carries a size in portrait order; the unspecified size removes both.
     void setStockSize(const StockSize& size);
 
-    /// A view on the collection at an instance of a feature, or new, empty, owning settings: what is
-    /// written to those changes nothing here.
+    /// A view on the collection at an instance of a feature, or new, empty, owning settings: what
+    /// is written to those changes nothing here.
     FeatureSettings getNestedSettings(const _SI& setting, std::uint32_t instance = 0);
     /// Fills the target with an owning, deep copy of that collection.
     void getNestedSettingsCopy(FeatureSettings* target, const _SI& setting,
@@ -35,12 +35,13 @@ public:
     /// Turns the general image shifts, here and in each page override, into those of the sides that
     /// are printed. True if any was found.
     bool normalizeImageShift();
-    /// Makes these settings begin with a document range, from 1 to 1 if they have none, and then the
-    /// page range, as printers require of a page override. True if anything changed.
+    /// Makes these settings begin with a document range, from 1 to 1 if they have none, and then
+    /// the page range, as printers require of a page override. True if anything changed.
     bool shapeAsPageOverride();
 
 private:
-    template <typename Operation> bool changeEachPageOverride(Operation operation);
+    template <typename Operation>
+    bool changeEachPageOverride(Operation operation);
     bool convertImageShift(bool bothSides);
     bool moveShift(FeatureEnum general, FeatureEnum side1, FeatureEnum side2, bool bothSides);
 };

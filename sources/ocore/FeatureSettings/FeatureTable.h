@@ -12,9 +12,7 @@ namespace zent {
 struct FeatureRow {
     FeatureEnum feature;
     const char16_t* leaf;
-    // Parents from the outermost inwards, separated by slashes, each with ":c" for a collection or
-    // ":s" for a set, and "!" behind it if it names the feature.
-    const char16_t* parents;
+    const char16_t* parents; // as makeNestedAttrID() takes them
     const char16_t* abbreviation;
     std::array<const char16_t*, 3> syntaxes; // null where there is none
     std::uint32_t supportClass;

@@ -33,8 +33,8 @@ struct ValueStore {
 };
 
 FeatureValueInfo makeInfo(const FeatureValueRow& row) {
-    FeatureValueInfo info{row.value,     {},           row.text, row.abbreviation, row.displayStringID,
-                          row.imageID, row.syntax, AVTE_NULL};
+    FeatureValueInfo info{row.value,           {},          row.text,   row.abbreviation,
+                          row.displayStringID, row.imageID, row.syntax, AVTE_NULL};
     for (const FeatureEnum feature : row.features) {
         if (feature != 0) {
             info.m_features.push_back(feature);

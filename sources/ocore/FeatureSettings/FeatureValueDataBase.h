@@ -6,9 +6,9 @@
 namespace zent {
 
 /// The table of the values that features can take. Like FeatureDataBase a handle on one static
-/// store, but this one grows: a value that a ticket brings along gets a number at run time. So every
-/// lookup and addition holds the table's lock for the duration of the call. Rows are never moved or
-/// removed, and references stay valid.
+/// store, but this one grows: a value that a ticket brings along gets a number at run time. So
+/// every lookup and addition holds the table's lock for the duration of the call. Rows are never
+/// moved or removed, and references stay valid.
 ///
 /// A lookup that fails raises UnknownFeatureRequestException; the "has" lookups never fail.
 class FeatureValueDataBase {

@@ -131,8 +131,7 @@ bool Settings::getRange(const _SI& setting, std::int32_t* lower, std::int32_t* u
            container->OrdoAttrToRange(lower, upper, setting.getAttrID(), instance);
 }
 
-bool Settings::getResolution(const _SI& setting, Resolution* target,
-                             std::uint32_t instance) const {
+bool Settings::getResolution(const _SI& setting, Resolution* target, std::uint32_t instance) const {
     *target = Resolution();
     const AttrNode* const leaf = findLeaf(setting, instance);
     std::int32_t crossFeed = 0;

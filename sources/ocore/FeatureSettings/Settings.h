@@ -10,8 +10,8 @@
 
 namespace zent {
 
-/// A typed window on one node list, which it owns or views. It has no store of its own: a setting is
-/// specified when its attribute is in the list, at the place that its NestedAttrID names.
+/// A typed window on one node list, which it owns or views. It has no store of its own: a setting
+/// is specified when its attribute is in the list, at the place that its NestedAttrID names.
 ///
 /// `instance` counts the nodes of the setting's leaf name inside the list that holds them, its
 /// container. Gets return false where the attribute is absent and raise

@@ -75,8 +75,8 @@ StockSize::StockSize(std::uint32_t code) {
 
 StockSize::StockSize(std::int32_t width, std::int32_t height) {
     const auto& sizes = store();
-    const auto found = std::find_if(
-        std::next(sizes.begin()), sizes.end(), [&](const StockSize& size) {
+    const auto found =
+        std::find_if(std::next(sizes.begin()), sizes.end(), [&](const StockSize& size) {
             return (size.m_width == width && size.m_height == height) ||
                    (size.m_width == height && size.m_height == width);
         });

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <utility>
 #include <vector>
 
@@ -16,6 +17,8 @@ public:
     /// The second is stored only if it has a keyword and a kind other than AVTE_NULL, the third
     /// only if the second was, under the same condition.
     SyntaxList(const Entry& first, const Entry& second, const Entry& third);
+    /// By their keywords, as the tables have them; null where there is none.
+    explicit SyntaxList(const std::array<const char16_t*, 3>& keywords);
 
     std::uint32_t getSyntaxCount() const { return static_cast<std::uint32_t>(m_entries.size()); }
     const CXString& getSyntax(std::uint32_t index) const { return m_entries[index].first; }

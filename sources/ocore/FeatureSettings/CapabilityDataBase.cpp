@@ -1,0 +1,88 @@
+#include "ocore/FeatureSettings/CapabilityDataBase.h"
+
+#include <algorithm>
+#include <atomic>
+#include <memory>
+
+#include "ocore/Exceptions.h"
+#include "ocore/FeatureSettings/CapabilityTable.h"
+#include "ocore/FeatureSettings/FeatureDataBase.h"
+#include "ocore/FeatureSettings/NestedIDText.h"
+#include "ocore/OwnedCriticalResource.h"
+
+namespace zent {
+
+namespace {
+
+// The role of a parent that names a capability, told apart from one that names a feature.
+constexpr std::uint32_t namingRole = 2;
+
+/// The rows by feature and type, which is how they are authored.
+using CapabilityStore = std::vector<CapabilityInfo>;
+
+std::unique_ptr<const CapabilityStore> buildStore() {
+    auto built = std::make_unique<CapabilityStore>();
+    for (const CapabilityRow& row : getCapabilityRows()) {
+        built->push_back({row.feature, makeNestedAttrID(row.leaf, row.parents, namingRole),
+                          row.definedBy, row.type, SyntaxList(row.syntaxes)});
+    }
+    return built;
+}
+
+CriticalResource criticalResource(u"CapabilityDataBase");
+std::unique_ptr<const CapabilityStore> ownedStore;
+// What lookups go through: set once the store stands complete, so that they need no lock.
+std::atomic<const CapabilityStore*> sharedStore{nullptr};
+
+const CapabilityStore& store() { return *sharedStore.load(std::memory_order_acquire); }
+
+const CapabilityInfo* findInfo(FeatureEnum feature, std::uint32_t type) {
+    const std::span<const CapabilityInfo> rows = CapabilityDataBase().getRows(feature);
+    const auto found = std::ranges::find(rows, type, &CapabilityInfo::m_type);
+    return found == rows.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+CapabilityDataBase::CapabilityDataBase() {
+    if (sharedStore.load(std::memory_order_acquire) != nullptr) {
+        return;
+    }
+    const OwnedCriticalResource hold(criticalResource);
+    if (ownedStore == nullptr) {
+        ownedStore = buildStore();
+        sharedStore.store(ownedStore.get(), std::memory_order_release);
+    }
+}
+
+std::span<const CapabilityInfo> CapabilityDataBase::getRows(FeatureEnum feature) const {
+    const auto range = std::ranges::equal_range(store(), feature, {}, &CapabilityInfo::m_feature);
+    return {range.begin(), range.end()};
+}
+
+std::vector<CapabilityInfo> CapabilityDataBase::getCapabilityInfoList(FeatureEnum feature) const {
+    const std::span<const CapabilityInfo> rows = getRows(feature);
+    return {rows.begin(), rows.end()};
+}
+
+bool CapabilityDataBase::hasCapability(FeatureEnum feature, std::uint32_t type) const {
+    return findInfo(feature, type) != nullptr;
+}
+
+const CapabilityInfo& CapabilityDataBase::getCapabilityInfo(FeatureEnum feature,
+                                                            std::uint32_t type) const {
+    const CapabilityInfo* const info = findInfo(feature, type);
+    if (info == nullptr) {
+        const FeatureDataBase features;
+        const CXString name = features.hasFeature(feature)
+                                  ? features.getFeatureInfo(feature).m_nestedID.getName()
+                                  : CXString(u"<unknown>!");
+        Raise<UnknownFeatureRequestException>()(
+            "CapabilityDataBase::getCapabilityInfo( Feature, Capability type ) could not find "
+            "requested capability type '%d' for feature '%d' (%s).\r\n",
+            type, feature, name);
+    }
+    return *info;
+}
+
+} // namespace zent
