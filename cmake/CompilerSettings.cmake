@@ -36,7 +36,7 @@ endif()
 if(WIN32)
     add_compile_definitions(UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX)
     # The library and the program stand alone: nothing of the compiler's is to be shipped with them.
-    add_link_options(-static -static-libgcc -static-libstdc++ -Wl,--no-insert-timestamp)
+    add_link_options(-static -static-libgcc -static-libstdc++ -s -Wl,--no-insert-timestamp)
     if(CMAKE_SYSTEM_PROCESSOR STREQUAL i686)
         add_compile_definitions(_WIN32_WINNT=0x0501 WINVER=0x0501)
     endif()
