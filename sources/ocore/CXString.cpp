@@ -76,15 +76,11 @@ CXString::CXString(const char* narrow, std::size_t length) : CXString() {
 }
 
 CXString& CXString::operator=(const CXString& other) {
-    if (m_text == other.m_text) {
-        return *this;
-    }
     if (isLocked()) {
         assign(other.view());
     } else {
-        char16_t* const text = other.share();
-        release();
-        m_text = text;
+        CXString shared(other);
+        std::swap(m_text, shared.m_text);
     }
     return *this;
 }

@@ -168,7 +168,7 @@ inline void CXString::release() noexcept {
     }
     // A sole owner needn't count down: nobody else can reach the block any more.
     if (sharers <= 1 || count.fetch_sub(1, std::memory_order_acq_rel) == 1) {
-        StringBlock::free(block());
+        StringBlock::giveBack(block());
     }
 }
 

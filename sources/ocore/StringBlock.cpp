@@ -68,7 +68,7 @@ StringBlock* StringBlock::allocate(std::size_t capacity) {
     return block;
 }
 
-void StringBlock::free(StringBlock* block) noexcept {
+void StringBlock::giveBack(StringBlock* block) noexcept {
     const auto capacity = static_cast<std::size_t>(block->capacity);
     if (usesPools && capacity <= largestPooled) {
         poolOf(classOfCapacity[capacity]).giveBack(block);

@@ -31,7 +31,7 @@ struct StringBlock {
     /// A block of at least `capacity` units with count 1, length 0 and a terminator; from a pool
     /// if a pool has blocks of that size, else from the heap. Raises std::bad_alloc.
     static StringBlock* allocate(std::size_t capacity);
-    static void free(StringBlock* block) noexcept;
+    static void giveBack(StringBlock* block) noexcept;
 
     /// Sets the length, which must not exceed the capacity, and the terminator.
     void setLength(std::size_t units) noexcept {

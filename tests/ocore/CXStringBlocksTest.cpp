@@ -25,7 +25,7 @@ TEST(StringBlock, HasTheSmallestCapacityOfItsClasses) {
         EXPECT_EQ(block->count, 1);
         std::memset(block->text(), 0xFF, wanted * sizeof(char16_t));
         block->setLength(wanted);
-        StringBlock::free(block);
+        StringBlock::giveBack(block);
     }
     EXPECT_THROW(StringBlock::allocate(StringBlock::maximumCapacity + 1), std::bad_alloc);
 }
