@@ -6,10 +6,6 @@
 
 namespace zent {
 
-namespace {
-constexpr std::int32_t oneSided = 4;
-} // namespace
-
 std::unique_ptr<Settings> FeatureSettings::clone() const {
     return std::make_unique<FeatureSettings>(*this);
 }
@@ -64,6 +60,7 @@ bool FeatureSettings::changeEachPageOverride(Operation operation) {
     const _FI overrides(feature::pageOverrides);
     AttrNodeList* const members = findContainer(overrides);
     bool changed = false;
+    std::uint32_t instance = 0;
     // By position, since looking each one up by instance would walk the members again and again.
     for (std::uint32_t i = 0; members != nullptr && i < members->getNumberOfNodes(); ++i) {
         AttrNode& member = members->getNodeAt(i);
@@ -74,8 +71,9 @@ bool FeatureSettings::changeEachPageOverride(Operation operation) {
         if (member.getAttrValue().isList()) {
             list = &static_cast<IppList&>(member.getAttrValue()).getAttrNodeList();
         } else {
-            members->OrdoAttrToList(&list, overrides.getAttrID(), i); // raises the mismatch
+            members->OrdoAttrToList(&list, overrides.getAttrID(), instance); // raises the mismatch
         }
+        ++instance;
         FeatureSettings view(list);
         changed = operation(view) || changed;
     }
@@ -108,12 +106,12 @@ bool FeatureSettings::normalizePageOverrides() {
 
 bool FeatureSettings::normalizeImageShift() {
     const _FI sides(feature::sides);
-    const bool bothSides = getFeatureValue(sides).getValue() != oneSided;
+    const bool bothSides = getFeatureValue(sides).getValue() != value::oneSided;
     const bool changed = convertImageShift(bothSides);
     return changeEachPageOverride([&](FeatureSettings& member) {
                const std::int32_t ownSides = member.getFeatureValue(sides).getValue();
                const bool inheritsOneSide = ownSides == FeatureValue::unspecified && !bothSides;
-               return member.convertImageShift(ownSides != oneSided && !inheritsOneSide);
+               return member.convertImageShift(ownSides != value::oneSided && !inheritsOneSide);
            }) ||
            changed;
 }

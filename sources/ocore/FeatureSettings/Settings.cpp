@@ -132,17 +132,15 @@ bool Settings::getRange(const _SI& setting, std::int32_t* lower, std::int32_t* u
 }
 
 bool Settings::getResolution(const _SI& setting, Resolution* target, std::uint32_t instance) const {
-    *target = Resolution();
     const AttrNode* const leaf = findLeaf(setting, instance);
     std::int32_t crossFeed = 0;
     std::int32_t feedDirection = 0;
     std::int32_t units = 0;
-    if (leaf == nullptr ||
-        !leaf->getAttrValue().getResolutionValues(crossFeed, feedDirection, units)) {
-        return false;
-    }
-    *target = Resolution(crossFeed, feedDirection, units);
-    return true;
+    const bool isFound =
+        leaf != nullptr &&
+        leaf->getAttrValue().getResolutionValues(crossFeed, feedDirection, units);
+    *target = isFound ? Resolution(crossFeed, feedDirection, units) : Resolution();
+    return isFound;
 }
 
 FeatureValue Settings::getFeatureValue(const _SI& setting, std::uint32_t instance) const {
