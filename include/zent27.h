@@ -113,7 +113,7 @@ enum ZentResultCode {
     ZENT_ERR_RESOURCE = 19,         /* a resource is missing in zenres27.dll */
     ZENT_ERR_CAPABILITY_DATA = 20,  /* the printer's capabilities lack an entry */
     ZENT_ERR_REGISTRY = 21,         /* the preference store failed */
-    ZENT_ERR_DUPLICATE_VALUE = 22,  /* a feature value exists already, or no more can be added */
+    ZENT_ERR_DUPLICATE_VALUE = 22,  /* a feature value exists already */
     ZENT_ERR_FILE_OPEN_READ = 23,   /* a file can't be opened for reading */
     ZENT_ERR_FILE_OPEN_WRITE = 24,  /* a file can't be created or opened for writing */
     ZENT_ERR_FILE_READ = 25,        /* a file can't be read, or its content not be converted */

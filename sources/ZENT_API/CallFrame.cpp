@@ -1,23 +1,36 @@
 #include "ZENT_API/CallFrame.h"
 
+#include <new>
+
 #include "ocore/ExceptionReport.h"
 #include "platform/System.h"
 
 namespace zent {
 
 namespace {
+
 constexpr std::uint32_t boxTitle = 11619;
+
+/// The location as text, or none if memory has run out: a report mustn't fail for that.
+CXString textOfLocation(const char16_t* location) noexcept {
+    try {
+        return location;
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
+}
+
 } // namespace
 
 ZentResult endCall(const std::exception& exception, bool silent, const char16_t* location) {
     if (!silent) {
-        reportException(exception, boxTitle, location, 0, u"");
+        reportException(exception, boxTitle, textOfLocation(location), 0, u"");
     }
     return resultCodeOf(exception);
 }
 
 bool endUnknownCall(bool silent, const char16_t* location) {
-    return !silent && reportUnknownException(boxTitle, location, 0, u"") &&
+    return !silent && reportUnknownException(boxTitle, textOfLocation(location), 0, u"") &&
            platform::unknownExceptionsMayLeave;
 }
 

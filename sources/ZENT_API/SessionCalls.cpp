@@ -48,12 +48,11 @@ ZentResult ZENT_CALL fnCreateNewTarvoJtSettings(ZentSessionType session,
     return inSession(session, u"ZENT::fnCreateNewTarvoJtSettings()",
                      [&](ZENTSession& /*opened*/) -> ZentResult {
                          TarvoJtSettingsType& handle = required(settings);
-                         handle = nullptr; // what it stays when memory runs out
                          try {
                              auto made = std::make_unique<FeatureSettings>();
                              handle = ZENTSession::getHandleOf(made.release());
                          } catch (const std::bad_alloc&) {
-                             return ZENT_OK;
+                             handle = nullptr;
                          }
                          return ZENT_OK;
                      });

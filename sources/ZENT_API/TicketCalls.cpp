@@ -54,12 +54,12 @@ ZentResult ZENT_CALL fnImportJobTicket(ZentSessionType session, const void* data
                                        const ZentChar* /*title*/, ZentBool* problems,
                                        ZentBool* applied) {
     return inSession(session, u"ZENT::fnImportJobTicket()", [&](ZENTSession& opened) -> ZentResult {
-        ZentBool& hasProblems = required(problems);
-        ZentBool& isApplied = required(applied);
         std::optional<FeatureSettings> ticket = readTicket(bytesOf(data, length), format);
         if (!ticket) {
             return ZENT_ERR_TICKET_FORMAT;
         }
+        ZentBool& hasProblems = required(problems);
+        ZentBool& isApplied = required(applied);
         bool usable = false;
         const ZentResult result = apply(*ticket, mode, hasProblems, usable);
         isApplied = result == ZENT_OK && usable;
@@ -74,15 +74,16 @@ ZentResult ZENT_CALL fnImportJobTicket(ZentSessionType session, const void* data
 ZentResult ZENT_CALL fnExportJobTicket(ZentSessionType session, void* buffer, uint32_t* size,
                                        uint32_t format) {
     return inSession(session, u"ZENT::fnExportJobTicket()", [&](ZENTSession& opened) -> ZentResult {
-        uint32_t& bytes = required(size);
         CachedOutput& cache = opened.exportCache();
         switch (format) {
-        case ZENT_FORMAT_XML:
+        case ZENT_FORMAT_XML: {
+            uint32_t& bytes = required(size);
             if (!cache.isFor(format)) {
                 cache.setKeyFromNumber(format);
                 OrdoTranslator().anlToBuffer(*opened.settings().getAttrNodeList(), &cache.buffer());
             }
             return cache.handOut(buffer, bytes);
+        }
         case ZENT_FORMAT_STATE:
             throw UnavailableCall();
         default:
@@ -98,13 +99,12 @@ ZentResult ZENT_CALL fnCreateTarvoJtSettingsFromPageLevelFeature(
                         [&](ZENTSession& /*opened*/, FeatureSettings& ticket) -> ZentResult {
                             TarvoJtSettingsType& handle = required(pageSettings);
                             const _FI id(textOf(feature));
-                            handle = nullptr; // what it stays when memory runs out
                             try {
                                 auto made = std::make_unique<FeatureSettings>();
                                 ticket.getNestedSettingsCopy(made.get(), id, index);
                                 handle = ZENTSession::getHandleOf(made.release());
                             } catch (const std::bad_alloc&) {
-                                return ZENT_OK;
+                                handle = nullptr;
                             }
                             ticket.removeEmptyLists();
                             return ZENT_OK;

@@ -42,9 +42,9 @@ AttrNodeList::AttrNodeList(AttrNodeList&& other) noexcept : m_nodes(std::move(ot
 
 AttrNodeList& AttrNodeList::operator=(AttrNodeList&& other) noexcept {
     if (this != &other) {
-        m_nodes = std::move(other.m_nodes);
+        AttrNodeList taken(std::move(other)); // which may lie in this list, and goes with it
+        m_nodes.swap(taken.m_nodes);
         m_cursor = 0;
-        other.removeAllNodes();
     }
     return *this;
 }
@@ -218,13 +218,17 @@ void AttrNodeList::removeEmptyLists() {
 }
 
 void AttrNodeList::removeNodeEverywhere(const AttrNode& node) {
+    removeEqualNodes(AttrNode(node)); // a copy, since the node may be one of those that go
+}
+
+void AttrNodeList::removeEqualNodes(const AttrNode& node) {
     while (AttrNode* const equal = findEqualNode(node)) {
         removeNode(equal);
     }
     for (std::uint32_t i = 0; i < m_nodes.size();) {
         AttrNodeList* const list = embeddedList(*m_nodes[i]);
         if (list != nullptr) {
-            list->removeNodeEverywhere(node);
+            list->removeEqualNodes(node);
         }
         if (list != nullptr && list->m_nodes.empty()) {
             removeAt(i);

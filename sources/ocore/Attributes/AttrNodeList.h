@@ -66,7 +66,8 @@ public:
     AttrNode* getNextNonPrivateNode();
 
     /// Folds another list into this one. What this list has wins, and collections combine member by
-    /// member; as a set, members accumulate without duplicates.
+    /// member; as a set, members accumulate without duplicates. The other list mustn't lie in this
+    /// one.
     void merge(const AttrNodeList& other, bool asSet);
     /// Removes embedded lists that are empty or hold nothing but empty lists, at all depths.
     void removeEmptyLists();
@@ -104,6 +105,7 @@ public:
 private:
     std::uint32_t findPosition(const AttrID& id, std::uint32_t instance) const;
     std::uint32_t removeAt(std::uint32_t position);
+    void removeEqualNodes(const AttrNode& node);
     AttrNode* addValue(const CXString& syntax, const CXString& value, const AttrID& id);
     void mergeList(const AttrNode& node, bool asSet, bool bothSingle);
 

@@ -11,6 +11,8 @@ public:
     /// More lenient than setIppValue(): "true", "yes" and "1" are true, all other text is false, so
     /// that reading a document can't fail on a bad boolean.
     explicit IppBoolean(const CXString& text);
+    /// A literal would otherwise be taken for a true pointer.
+    explicit IppBoolean(const char16_t* text) : IppBoolean(CXString(text)) {}
 
     const CXString& getIppSyntax() const override { return syntax::boolean; }
     CXString getIppValue() const override;

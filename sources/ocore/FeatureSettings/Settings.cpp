@@ -136,9 +136,8 @@ bool Settings::getResolution(const _SI& setting, Resolution* target, std::uint32
     std::int32_t crossFeed = 0;
     std::int32_t feedDirection = 0;
     std::int32_t units = 0;
-    const bool isFound =
-        leaf != nullptr &&
-        leaf->getAttrValue().getResolutionValues(crossFeed, feedDirection, units);
+    const bool isFound = leaf != nullptr &&
+                         leaf->getAttrValue().getResolutionValues(crossFeed, feedDirection, units);
     *target = isFound ? Resolution(crossFeed, feedDirection, units) : Resolution();
     return isFound;
 }
