@@ -1,0 +1,118 @@
+# The front door. CMake does the building (CMakePresets.json); this installs what is missing, runs what
+# was built, and says what it does.
+
+SHELL := /bin/bash
+.SHELLFLAGS := -euo pipefail -c
+.DEFAULT_GOAL := help
+MAKEFLAGS += --no-print-directory
+
+PREFIX ?= /usr/local
+DESTDIR ?=
+FUZZ_SECONDS ?= 60
+# More arguments of the benchmark program, such as --benchmark_filter=Import
+BENCH_ARGUMENTS ?=
+
+say = @echo; echo "== $(1)"
+configure = cmake --preset $(1) --log-level=WARNING
+build = cmake --build --preset $(1)
+test = ctest --test-dir build/$(1) --output-on-failure --no-tests=error
+
+.PHONY: help
+help:
+	@echo "make run      build for Linux, and let the program change a ticket (start here)"
+	@echo "make test     build for Linux and Windows, and run all tests: native, sanitizers, Wine"
+	@echo "make windows  build for Windows x86-64 and x86, into build/windows-*/bin"
+	@echo "make bench    measure the library beside its floors and beside other libraries"
+	@echo "make fuzz     let libFuzzer loose on the library, FUZZ_SECONDS=$(FUZZ_SECONDS) for each target"
+	@echo "make check    format, clang-tidy, include rules"
+	@echo "make install  install the Linux build to PREFIX=$(PREFIX) (DESTDIR goes in front)"
+	@echo "make clean    remove build/"
+	@echo
+	@echo "Each installs the Debian packages that it needs and that are missing (tools/install-packages)."
+
+.PHONY: native
+native:
+	$(call say,What the Linux build needs)
+	@tools/install-packages native
+	$(call say,Building for Linux into build/native/bin)
+	@$(call configure,native)
+	@$(call build,native)
+
+.PHONY: run
+run: native
+	$(call say,A ticket through the library)
+	@tools/demo build/native
+
+.PHONY: windows
+windows:
+	$(call say,What the Windows builds need)
+	@tools/install-packages windows
+	$(call say,Building for Windows x86-64 into build/windows-x64/bin)
+	@$(call configure,windows-x64)
+	@$(call build,windows-x64)
+	$(call say,Building for Windows x86 into build/windows-x86/bin)
+	@$(call configure,windows-x86)
+	@$(call build,windows-x86)
+
+.PHONY: test
+test:
+	$(call say,What the tests need)
+	@tools/install-packages native windows test
+	$(call say,Linux)
+	@$(call configure,native) -DZENT_TESTS=ON
+	@$(call build,native)
+	@$(call test,native)
+	$(call say,Linux under AddressSanitizer and UBSan)
+	@$(call configure,sanitize)
+	@$(call build,sanitize)
+	@$(call test,sanitize)
+	$(call say,Windows x86)
+	@$(call configure,windows-x86) -DZENT_TESTS=ON
+	@$(call build,windows-x86)
+	@tools/wine-session $(call test,windows-x86)
+	$(call say,Windows x86-64 under Wine)
+	@$(call configure,windows-x64) -DZENT_TESTS=ON
+	@$(call build,windows-x64)
+	@tools/wine-session $(call test,windows-x64)
+
+.PHONY: bench
+bench:
+	$(call say,What the benchmarks need)
+	@tools/install-packages native bench
+	$(call say,Building the benchmarks)
+	@$(call configure,bench)
+	@$(call build,bench)
+	$(call say,Benchmarks)
+	@build/bench/bin/zent_benchmarks $(BENCH_ARGUMENTS)
+
+.PHONY: fuzz
+fuzz:
+	$(call say,What the fuzz targets need)
+	@tools/install-packages native fuzz
+	$(call say,Building the fuzz targets)
+	@$(call configure,fuzz)
+	@$(call build,fuzz)
+	@tools/run-fuzz build/fuzz $(FUZZ_SECONDS)
+
+.PHONY: check
+check:
+	$(call say,What the checks need)
+	@tools/install-packages native test check
+	$(call say,Include rules)
+	@tools/check-includes
+	$(call say,Format)
+	@git ls-files --cached --others --exclude-standard '*.h' '*.cpp' '*.c' \
+		| xargs clang-format --dry-run -Werror && echo "All sources are formatted"
+	$(call say,clang-tidy)
+	@$(call configure,native) -DZENT_TESTS=ON
+	@tools/run-tidy build/native
+
+.PHONY: install
+install: native
+	$(call say,Installing to $(DESTDIR)$(PREFIX))
+	@DESTDIR="$(DESTDIR)" cmake --install build/native --prefix "$(PREFIX)" --strip
+
+.PHONY: clean
+clean:
+	$(call say,Removing build/)
+	@rm -rf build
