@@ -20,7 +20,8 @@ endforeach()
 
 # No path of the machine that builds ends up in what is built; the cache finds a file again in
 # another clone for the same reason.
-add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=)
+file(RELATIVE_PATH up ${CMAKE_BINARY_DIR} ${CMAKE_SOURCE_DIR}) # ccache makes paths relative
+add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/= -ffile-prefix-map=${up}=)
 find_program(CCACHE ccache)
 if(CCACHE)
     set(launcher ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE})
