@@ -1,11 +1,7 @@
 #include "ocore/ExceptionReport.h"
 
-#include <cstdlib>
-#include <memory>
 #include <new>
 #include <typeinfo>
-
-#include <cxxabi.h>
 
 #include "ocore/Exceptions.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
@@ -182,14 +178,6 @@ bool reportUnknown(const Title& title, const Context& context) noexcept {
     return isStopping;
 }
 
-std::string getTypeName(const std::exception& exception) {
-    const char* mangled = typeid(exception).name();
-    int status = 0;
-    const std::unique_ptr<char, decltype(&std::free)> name(
-        abi::__cxa_demangle(mangled, nullptr, nullptr, &status), std::free);
-    return name != nullptr ? name.get() : mangled;
-}
-
 } // namespace
 
 ResultCode resultCodeOf(const std::exception& exception) noexcept {
@@ -200,7 +188,7 @@ ResultCode resultCodeOf(const std::exception& exception) noexcept {
 }
 
 CXString getDetailsReport(const std::exception& exception) {
-    CXString details = formatText("%S\r\n", getTypeName(exception));
+    CXString details = formatText("%S\r\n", platform::getTypeName(typeid(exception)));
     if (const auto* parse = dynamic_cast<const OrdoParseException*>(&exception)) {
         details += formatText("\tError Type: %s\r\n", parse->getCodeName());
     }

@@ -138,15 +138,14 @@ std::optional<PeResourceReader::Target> PeResourceReader::findEntry(std::uint64_
         return std::nullopt;
     }
     const std::uint64_t first = directory + directoryHeaderSize + *namedCount * directoryEntrySize;
-    for (std::uint32_t i = 0; i < *numberedCount; ++i) {
-        const std::uint64_t entry = first + i * directoryEntrySize;
-        const auto number = read32(m_directory, entry);
-        const auto target = read32(m_directory, entry + 4);
-        if (!number || !target) {
-            return std::nullopt;
-        }
-        if (*number == id) {
-            return Target{(*target & highBit) != 0, *target & ~highBit};
+    const auto entries = slice(m_directory, first, *numberedCount * directoryEntrySize);
+    if (!entries) {
+        return std::nullopt;
+    }
+    for (std::uint64_t place = 0; place < entries->size(); place += directoryEntrySize) {
+        if (read32(*entries, place) == id) {
+            const std::uint32_t target = *read32(*entries, place + 4);
+            return Target{(target & highBit) != 0, target & ~highBit};
         }
     }
     return std::nullopt;

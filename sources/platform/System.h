@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <typeinfo>
 
 #include "ocore/CXString.h"
 
@@ -11,7 +13,8 @@ using WindowHandle = void*;
 
 /// Shows a titled text with an icon and buttons and returns the button pressed (1 OK, 2 Cancel;
 /// 0 if it couldn't be shown). `flags` are those of the Windows message box: 16, 32, 48, 64 icons,
-/// 8192 task modal, 1 OK and Cancel. Without a display the text goes to stderr and the answer is OK.
+/// 8192 task modal, 1 OK and Cancel. Without a display the text goes to stderr and the answer is
+/// OK.
 std::int32_t showMessageBox(WindowHandle owner, const CXString& body, const CXString& title,
                             std::uint32_t flags);
 
@@ -25,9 +28,12 @@ std::uint32_t getLastError();
 std::uint32_t getCurrentThreadId();
 
 /// An integer from a section of a profile file (key=value lines under [section]). Windows looks
-/// where GetPrivateProfileIntW does; elsewhere the file lies in the library's own folder.
-std::int32_t getProfileInteger(const CXString& section, const CXString& key,
-                               std::int32_t fallback, const CXString& file);
+/// where GetPrivateProfileIntW does; elsewhere a bare file name lies in the library's own folder.
+std::int32_t getProfileInteger(const CXString& section, const CXString& key, std::int32_t fallback,
+                               const CXString& file);
+
+/// A type's name as written in the source, with its namespace.
+std::string getTypeName(const std::type_info& type);
 
 /// Whether a debugger watches the process, and a stop in it.
 bool isDebuggerPresent();

@@ -5,10 +5,13 @@
 #include <charconv>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <fstream>
+#include <memory>
 #include <string>
 
+#include <cxxabi.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -100,7 +103,9 @@ std::uint32_t getCurrentThreadId() {
 
 std::int32_t getProfileInteger(const CXString& section, const CXString& key, std::int32_t fallback,
                                const CXString& file) {
-    std::ifstream lines((getDriverDirectory(CXString()) + file).toNarrow());
+    const bool isBareName = file.find(pathSeparator) < 0;
+    const CXString path = isBareName ? getDriverDirectory(CXString()) + file : file;
+    std::ifstream lines(path.toNarrow());
     const std::string heading = '[' + section.toNarrow() + ']';
     const std::string name = key.toNarrow();
     bool isInSection = false;
@@ -111,10 +116,18 @@ std::int32_t getProfileInteger(const CXString& section, const CXString& key, std
             isInSection = equalsIgnoringCase(text, heading);
         } else if (isInSection && equals != std::string_view::npos &&
                    equalsIgnoringCase(trimmed(text.substr(0, equals)), name)) {
-            return leadingNumber(trimmed(text.substr(equals + 1)));
+            const std::string_view value = trimmed(text.substr(equals + 1));
+            return value.empty() ? fallback : leadingNumber(value);
         }
     }
     return fallback;
+}
+
+std::string getTypeName(const std::type_info& type) {
+    int status = 0;
+    const std::unique_ptr<char, decltype(&std::free)> name(
+        abi::__cxa_demangle(type.name(), nullptr, nullptr, &status), std::free);
+    return name != nullptr ? name.get() : type.name();
 }
 
 bool isDebuggerPresent() {

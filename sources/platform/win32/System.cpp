@@ -1,5 +1,10 @@
 #include "platform/System.h"
 
+#include <cstdlib>
+#include <memory>
+
+#include <cxxabi.h>
+
 #include "platform/win32/WideText.h"
 
 namespace zent::platform {
@@ -44,6 +49,13 @@ std::int32_t getProfileInteger(const CXString& section, const CXString& key, std
                                const CXString& file) {
     return static_cast<std::int32_t>(
         GetPrivateProfileIntW(wide(section), wide(key), fallback, wide(file)));
+}
+
+std::string getTypeName(const std::type_info& type) {
+    int status = 0;
+    const std::unique_ptr<char, decltype(&std::free)> name(
+        abi::__cxa_demangle(type.name(), nullptr, nullptr, &status), std::free);
+    return name != nullptr ? name.get() : type.name();
 }
 
 bool isDebuggerPresent() { return IsDebuggerPresent() != FALSE; }

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstdint>
+
+#include "ocore/ByteBuffer.h"
+#include "ocore/CXString.h"
+
+namespace zent::platform {
+
+/// Types of stored values, by the numbers of the Windows registry.
+namespace registryType {
+constexpr std::uint32_t text = 1;   // REG_SZ: 16-bit units, little-endian, no terminator
+constexpr std::uint32_t binary = 3; // REG_BINARY: any bytes
+constexpr std::uint32_t number = 4; // REG_DWORD: 4 bytes, little-endian
+} // namespace registryType
+
+/// A value as stored. Its bytes may be none, which is something else than no value.
+struct StoredPreference {
+    std::uint32_t type = 0;
+    ByteBuffer bytes;
+};
+
+enum class PreferenceStatus {
+    done,
+    noKey,       // reading: the key, or the store as a whole, isn't there or out of reach
+    noValue,     // reading: the key holds no such value
+    keyFailed,   // writing: the key couldn't be opened or created
+    valueFailed, // the store failed when the value was read or written
+};
+
+/// What became of a request. The error is the system's number for anything but success (Windows:
+/// as the registry functions return it; elsewhere: SQLite's result code).
+struct PreferenceResult {
+    PreferenceStatus status = PreferenceStatus::done;
+    std::uint32_t error = 0;
+};
+
+/// The user's own store of typed values, each under the path of a key (parts separated by
+/// backslashes) and a name. Nothing is kept between calls, and processes may read and write at the
+/// same time: each value is written as a whole or not at all.
+///
+/// Windows: the registry below HKEY_CURRENT_USER; keys and names compare without regard to case.
+/// Elsewhere: an SQLite database in the user's configuration folder, one row a value; keys and
+/// names compare exactly. It is created by the first writing, readable by its owner alone. A
+/// database that is there but can't be opened or read fails, while none at all means no key.
+
+/// Takes a value out of the store. `value` is touched only by success.
+PreferenceResult readPreference(const CXString& key, const CXString& name, StoredPreference& value);
+/// Stores a value, in place of the one of that name, and creates the key if there is none.
+PreferenceResult writePreference(const CXString& key, const CXString& name, std::uint32_t type,
+                                 const ByteBuffer& bytes);
+
+/// The system's text for the error of a result; empty if it has none.
+CXString getPreferenceErrorText(std::uint32_t error);
+
+} // namespace zent::platform

@@ -1,0 +1,222 @@
+#include "platform/PreferenceStore.h"
+
+#include <cerrno>
+#include <memory>
+#include <string>
+
+#include <sqlite3.h>
+#include <sys/stat.h>
+
+#include "platform/posix/UserFolders.h"
+
+namespace zent::platform {
+
+namespace {
+
+/// How long a call waits for another process to finish.
+constexpr int busyMilliseconds = 10'000;
+
+/// Raised in here for whatever SQLite refuses.
+struct StoreError {
+    int code;
+};
+
+void require(int code, int wanted = SQLITE_OK) {
+    if (code != wanted) {
+        throw StoreError{code};
+    }
+}
+
+/// A prepared statement. The values that are bound must outlive it.
+class Statement {
+public:
+    Statement(sqlite3* connection, std::string_view sql) {
+        sqlite3_stmt* statement = nullptr;
+        require(sqlite3_prepare_v2(connection, sql.data(), static_cast<int>(sql.size()), &statement,
+                                   nullptr));
+        m_statement.reset(statement);
+    }
+
+    void bind(const CXString& text) {
+        const auto* units = reinterpret_cast<const char*>(text.c_str());
+        const std::size_t size = text.view().size() * sizeof(char16_t);
+        require(
+            sqlite3_bind_text64(m_statement.get(), ++m_bound, units, size, nullptr, SQLITE_UTF16));
+    }
+    void bind(std::uint32_t number) {
+        require(sqlite3_bind_int64(m_statement.get(), ++m_bound, number));
+    }
+    void bind(const ByteBuffer& bytes) {
+        // A null address would bind no value in place of an empty one.
+        const void* data = bytes.isEmpty() ? "" : static_cast<const void*>(bytes.data());
+        require(sqlite3_bind_blob64(m_statement.get(), ++m_bound, data, bytes.size(), nullptr));
+    }
+
+    /// Whether there is a row, the next one.
+    bool step() {
+        const int code = sqlite3_step(m_statement.get());
+        if (code != SQLITE_ROW) {
+            require(code, SQLITE_DONE);
+        }
+        return code == SQLITE_ROW;
+    }
+    std::uint32_t getNumber(int column) {
+        return static_cast<std::uint32_t>(sqlite3_column_int64(m_statement.get(), column));
+    }
+    ByteBuffer getBytes(int column) {
+        // In this order: the second asks for the size of what the first has made.
+        const void* data = sqlite3_column_blob(m_statement.get(), column);
+        const int size = sqlite3_column_bytes(m_statement.get(), column);
+        if (data == nullptr &&
+            sqlite3_errcode(sqlite3_db_handle(m_statement.get())) == SQLITE_NOMEM) {
+            throw StoreError{SQLITE_NOMEM};
+        }
+        return {data, static_cast<std::size_t>(size)};
+    }
+
+private:
+    struct Finalizer {
+        void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+    };
+    std::unique_ptr<sqlite3_stmt, Finalizer> m_statement;
+    int m_bound = 0;
+};
+
+/// An open database; an unfinished transaction is undone when the object goes.
+class Connection {
+public:
+    /// Opens an existing file. It is opened for writing by readers too, since a reader may be the
+    /// one to undo what a process that died has left unfinished.
+    explicit Connection(const std::string& path) {
+        sqlite3* connection = nullptr;
+        const int code = sqlite3_open_v2(path.c_str(), &connection,
+                                         SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+        m_connection.reset(connection); // also a failed one
+        require(code);
+        require(sqlite3_busy_timeout(connection, busyMilliseconds));
+    }
+
+    Statement prepare(std::string_view sql) { return {m_connection.get(), sql}; }
+    void run(std::string_view sql) { prepare(sql).step(); }
+
+private:
+    struct Closer {
+        void operator()(sqlite3* connection) const { sqlite3_close_v2(connection); }
+    };
+    std::unique_ptr<sqlite3, Closer> m_connection;
+};
+
+/// Where the database lies; empty if the user has no home.
+std::string getPath() {
+    const std::string folder = getConfigFolder();
+    return folder.empty() ? folder : folder + "/zent27/preferences.sqlite";
+}
+
+bool isMissing(const std::string& path) {
+    struct stat status = {};
+    return stat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
+}
+
+/// Makes an empty file, and the folders that it lies in. What is there already stays; if one can't
+/// be made, opening the database tells.
+void createFile(const std::string& path) {
+    for (std::size_t end = path.find('/', 1); end != std::string::npos;
+         end = path.find('/', end + 1)) {
+        mkdir(path.substr(0, end).c_str(), S_IRWXU);
+    }
+    // SQLite would let everybody read it. It isn't opened here: closing it again would end the
+    // locks that another thread's connection holds on it.
+    mknod(path.c_str(), S_IFREG | S_IRUSR | S_IWUSR, 0);
+}
+
+/// An empty file, as the first writer leaves it for a moment, has no table.
+bool hasTable(Connection& database) {
+    return database.prepare("SELECT 1 FROM sqlite_schema WHERE name = 'preference'").step();
+}
+
+/// Texts are kept as they come, 16-bit unit by unit, also where they aren't valid UTF-16.
+constexpr std::string_view keepUnits = "PRAGMA encoding = 'UTF-16le'";
+
+constexpr std::string_view createTable = "CREATE TABLE IF NOT EXISTS preference ("
+                                         "key TEXT NOT NULL, "
+                                         "name TEXT NOT NULL, "
+                                         "type INTEGER NOT NULL, "
+                                         "bytes BLOB NOT NULL, "
+                                         "PRIMARY KEY (key, name)) STRICT";
+
+bool find(const std::string& path, const CXString& key, const CXString& name,
+          StoredPreference& value) {
+    Connection database(path);
+    if (!hasTable(database)) {
+        return false;
+    }
+    Statement select =
+        database.prepare("SELECT type, bytes FROM preference WHERE key = ? AND name = ?");
+    select.bind(key);
+    select.bind(name);
+    if (!select.step()) {
+        return false;
+    }
+    value = {select.getNumber(0), select.getBytes(1)};
+    return true;
+}
+
+/// Opens the database with a table in it, as the only writer until it is committed.
+Connection openForWriting(const std::string& path) {
+    if (path.empty()) {
+        throw StoreError{SQLITE_CANTOPEN};
+    }
+    createFile(path);
+    Connection database(path);
+    database.run(keepUnits);
+    database.run("BEGIN IMMEDIATE");
+    database.run(createTable);
+    return database;
+}
+
+PreferenceResult failed(PreferenceStatus status, const StoreError& error) {
+    return {status, static_cast<std::uint32_t>(error.code)};
+}
+
+} // namespace
+
+PreferenceResult readPreference(const CXString& key, const CXString& name,
+                                StoredPreference& value) {
+    const std::string path = getPath();
+    if (path.empty() || isMissing(path)) {
+        return {PreferenceStatus::noKey, SQLITE_CANTOPEN};
+    }
+    try {
+        // Keys are nothing by themselves here, so that none is missing.
+        const bool found = find(path, key, name, value);
+        return {found ? PreferenceStatus::done : PreferenceStatus::noValue, SQLITE_OK};
+    } catch (const StoreError& error) {
+        return failed(PreferenceStatus::valueFailed, error);
+    }
+}
+
+PreferenceResult writePreference(const CXString& key, const CXString& name, std::uint32_t type,
+                                 const ByteBuffer& bytes) {
+    PreferenceStatus failure = PreferenceStatus::keyFailed;
+    try {
+        Connection database = openForWriting(getPath());
+        failure = PreferenceStatus::valueFailed;
+        Statement insert = database.prepare(
+            "INSERT OR REPLACE INTO preference (key, name, type, bytes) VALUES (?, ?, ?, ?)");
+        insert.bind(key);
+        insert.bind(name);
+        insert.bind(type);
+        insert.bind(bytes);
+        insert.step();
+        database.run("COMMIT");
+        return {};
+    } catch (const StoreError& error) {
+        return failed(failure, error);
+    }
+}
+
+CXString getPreferenceErrorText(std::uint32_t error) {
+    return CXString(sqlite3_errstr(static_cast<int>(error)));
+}
+
+} // namespace zent::platform

@@ -1,0 +1,24 @@
+#include "platform/Locale.h"
+
+#include "platform/win32/WideText.h"
+
+namespace zent::platform {
+
+namespace {
+
+/// A text of the user's default locale into a buffer of that many units, terminator included;
+/// empty on failure.
+template <int capacity>
+CXString getLocaleText(LCTYPE type) {
+    wchar_t text[capacity] = {};
+    const int length = GetLocaleInfoW(LOCALE_USER_DEFAULT, type, text, capacity);
+    return length > 1 ? CXString(units(text)) : CXString();
+}
+
+} // namespace
+
+CXString getLocaleMeasurement() { return getLocaleText<2>(LOCALE_IMEASURE); }
+
+CXString getLocalePaperSize() { return getLocaleText<8>(LOCALE_IPAPERSIZE); }
+
+} // namespace zent::platform

@@ -1,0 +1,93 @@
+#include "platform/PreferenceStore.h"
+
+#include <utility>
+
+#include "platform/System.h"
+#include "platform/win32/WideText.h"
+
+namespace zent::platform {
+
+namespace {
+
+/// An open key below the user's own, closed with the object.
+class Key {
+public:
+    Key() = default;
+    ~Key() {
+        if (m_key != nullptr) {
+            RegCloseKey(m_key);
+        }
+    }
+    Key(const Key&) = delete;
+    Key& operator=(const Key&) = delete;
+
+    LSTATUS open(const CXString& path) {
+        return RegOpenKeyExW(HKEY_CURRENT_USER, wide(path), 0, KEY_READ, &m_key);
+    }
+    LSTATUS create(const CXString& path) {
+        return RegCreateKeyExW(HKEY_CURRENT_USER, wide(path), 0, nullptr, REG_OPTION_NON_VOLATILE,
+                               KEY_ALL_ACCESS, nullptr, &m_key, nullptr);
+    }
+    HKEY get() const { return m_key; }
+
+private:
+    HKEY m_key = nullptr;
+};
+
+BYTE* bytesOf(ByteBuffer& buffer) { return reinterpret_cast<BYTE*>(buffer.data()); }
+
+PreferenceResult resultOf(PreferenceStatus status, LSTATUS error) {
+    return {status, static_cast<std::uint32_t>(error)};
+}
+
+} // namespace
+
+PreferenceResult readPreference(const CXString& path, const CXString& name,
+                                StoredPreference& value) {
+    Key key;
+    LSTATUS error = key.open(path);
+    if (error != ERROR_SUCCESS) {
+        return resultOf(PreferenceStatus::noKey, error);
+    }
+    StoredPreference found;
+    DWORD type = 0;
+    DWORD size = 0;
+    error = RegQueryValueExW(key.get(), wide(name), nullptr, &type, nullptr, &size);
+    const bool exists = error == ERROR_SUCCESS;
+    if (exists && size > 0) {
+        found.bytes.resize(size);
+        error =
+            RegQueryValueExW(key.get(), wide(name), nullptr, &type, bytesOf(found.bytes), &size);
+        // Another process may have shortened the value, or taken it away, meanwhile.
+        found.bytes.resize(error == ERROR_SUCCESS ? size : 0);
+    }
+    if (error != ERROR_SUCCESS && error != ERROR_FILE_NOT_FOUND) {
+        return resultOf(PreferenceStatus::valueFailed, error);
+    }
+    if (!exists) {
+        return resultOf(PreferenceStatus::noValue, error);
+    }
+    found.type = type;
+    value = std::move(found);
+    return {};
+}
+
+PreferenceResult writePreference(const CXString& path, const CXString& name, std::uint32_t type,
+                                 const ByteBuffer& bytes) {
+    Key key;
+    LSTATUS error = key.create(path);
+    if (error != ERROR_SUCCESS) {
+        return resultOf(PreferenceStatus::keyFailed, error);
+    }
+    // The system looks behind a text, and counts a zero unit there as a part of it.
+    ByteBuffer guarded = bytes;
+    guarded.append(u"|");
+    error = RegSetValueExW(key.get(), wide(name), 0, type, bytesOf(guarded),
+                           static_cast<DWORD>(bytes.size()));
+    return error == ERROR_SUCCESS ? PreferenceResult{}
+                                  : resultOf(PreferenceStatus::valueFailed, error);
+}
+
+CXString getPreferenceErrorText(std::uint32_t error) { return getSystemErrorText(error); }
+
+} // namespace zent::platform

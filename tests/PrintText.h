@@ -1,0 +1,15 @@
+#pragma once
+
+#include <iomanip>
+#include <ostream>
+
+#include "ocore/CXString.h"
+
+namespace zent {
+
+/// How GoogleTest shows a text.
+inline void PrintTo(const CXString& text, std::ostream* out) {
+    *out << std::quoted(text.toNarrow());
+}
+
+} // namespace zent

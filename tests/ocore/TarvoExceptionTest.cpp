@@ -1,0 +1,174 @@
+#include "ocore/TarvoException.h"
+
+#include <memory>
+#include <stdexcept>
+
+#include <gtest/gtest.h>
+
+#include "PrintText.h"
+#include "ocore/Exceptions.h"
+#include "ocore/OrdoParse/OrdoParseException.h"
+
+namespace zent {
+namespace {
+
+template <typename E>
+std::unique_ptr<TarvoException> make() {
+    return std::make_unique<E>(CXString(u"message\r\n"));
+}
+
+TEST(TarvoException, EachClassHasItsIdAndResultCode) {
+    // clang-format off
+    const struct {
+        std::unique_ptr<TarvoException> (*make)();
+        const char* id;
+        ResultCode code;
+    } rows[] = {
+        {make<ResourceAcquisitionException>,                  "005:000", 19},
+        {make<ExceededNumberOfDlgItems>,                      "007:000", 30},
+        {make<UnknownCaseException>,                          "008:000", 29},
+        {make<AttributeTypeMismatchException>,                "009:000", 13},
+        {make<NodeAccessOutOfBoundsException>,                "010:000", 29},
+        {make<InvalidAttributeIdException>,                   "011:000", 16},
+        {make<UnknownFeatureRequestException>,                "012:000", 12},
+        {make<DuplicateFeatureValueDBEntryException>,         "013:000", 22},
+        {make<MissingCapabilityDataException>,                "014:000", 20},
+        {make<MissingOrBadCompressedBufferFooterException>,   "017:000", 15},
+        {make<CompressionException>,                          "018:000", 15},
+        {make<IndexOutOfBoundsException>,                     "019:000", 29},
+        {make<RegistryRequestException>,                      "020:000", 21},
+        {make<ResourceLibraryConstructionException>,          "021:000", 11},
+        {make<CreateFileForReadingException>,                 "022:001", 23},
+        {make<ReadFileException>,                             "022:002", 25},
+        {make<ProcessTokenRequestException>,                  "023:000", 30},
+        {make<UserInformationRequestException>,               "024:000", 27},
+        {make<InvalidZentSessionException>,                   "025:000", 6},
+        {make<InvalidTarvoJtSettingsException>,               "026:000", 7},
+        {make<MissingOrBadPersistentSettingsFormatException>, "027:000", 17},
+        {make<NotEnoughBytesForDesiredDataTypeException>,     "028:000", 30},
+        {make<PreferenceDataTypeMismatchException>,           "029:000", 10},
+    };
+    // clang-format on
+    for (const auto& row : rows) {
+        const auto exception = row.make();
+        EXPECT_EQ(exception->getErrorId().toNarrow(), row.id);
+        EXPECT_EQ(exception->getResultCode(), row.code) << row.id;
+        EXPECT_EQ(exception->getMessage(), u"message\r\n") << row.id;
+        EXPECT_EQ(dynamic_cast<FileException*>(exception.get()) != nullptr,
+                  std::string(row.id).starts_with("022:"))
+            << row.id;
+    }
+}
+
+TEST(OrdoParseException, EachCodeHasItsNameAndResultCode) {
+    // clang-format off
+    const struct {
+        std::int16_t code;
+        const char16_t* name;
+        ResultCode result;
+    } rows[] = {
+        {0,  u"ILLEGAL_ORDOPARSE_EXCEPTION_CODE",          29},
+        {1,  u"XMLEXCEPTION_RAISED_DURING_PARSE",          14},
+        {2,  u"ERROR_REPORTED_DURING_PARSE",               14},
+        {3,  u"XMLEXCEPTION_RAISED_DURING_XML_GENERATION", 26},
+        {4,  u"HANDLEOUTPUT_METHOD_FAILED_IN_WRITECHARS",  26},
+        {5,  u"DOMEXCEPTION_DURING_NODE_CONVERSION",       25},
+        {6,  u"DOMEXCEPTION_DURING_NODE_CREATION",         26},
+        {7,  u"NO_CATEGORY_FOR_ORDO_ATTRIBUTE",            26},
+        {8,  u"NO_XML_SOURCE_BUFFER_SPECIFIED",            28},
+        {9,  u"NO_XML_OUTPUT_RECEIVER_SPECIFIED",          28},
+        {10, u"REQUIRED_DTD_NOT_SPECIFIED",                28},
+        {11, u"TYPE_OF_XML_DATA_NOT_SPECIFIED",            28},
+        {12, u"READFILE_FAILED",                           25},
+        {13, u"FAILED_ALLOCATION_OF_XML_FILE_BUFFER",      25},
+        {14, u"FAILED_GETFILESIZE_DURING_READ",            25},
+        {15, u"FAILED_CREATFILE_DURING_READ",              23},
+        {16, u"FILE_TO_READ_NOT_SPECIFIED",                23},
+        {17, u"FAILED_CREATFILE_DURING_WRITE",             24},
+        {18, u"FILE_TO_WRITE_NOT_SPECIFIED",               24},
+        {19, u"WRITEFILE_FAILED",                          26},
+        {20, u"ATTEMPT_TO_INIT_ZNXML_AFTER_TERMINATION",   28},
+        {21, u"MULTIPLE_TERMINATION_OF_ZNXML",             28},
+        {22, u"XMLEXCEPTION_DURING_ZNXML_INITIALIZATION",  28},
+        {23, u"NULL_DOMDOC_OBJECT_RETURNED",               28},
+        {24, u"", 28},
+        {32767, u"", 28},
+        {-1, u"", 28},
+    };
+    // clang-format on
+    for (const auto& row : rows) {
+        const OrdoParseException exception(row.code, u"");
+        EXPECT_EQ(exception.getErrorCode(), row.code);
+        EXPECT_EQ(exception.getCodeName(), row.name);
+        EXPECT_EQ(exception.getResultCode(), row.result) << row.code;
+    }
+}
+
+TEST(OrdoParseException, IsRaisedWithItsCodePlaceAndLevel) {
+    try {
+        raiseOrdoParse(ordoParseCode::readFileFailed, "read %s, %ld bytes\r\n", u"a.xml", 7);
+    } catch (const OrdoParseException& exception) {
+        EXPECT_EQ(exception.getLocationLine(), __LINE__ - 2);
+        EXPECT_EQ(exception.getLocationFile(), u"TarvoExceptionTest.cpp");
+        EXPECT_EQ(exception.getTraceLevel(), 8192U);
+        EXPECT_EQ(exception.getMessage(), u"read a.xml, 7 bytes\r\n");
+        EXPECT_EQ(exception.getErrorId(), u"001:012");
+    }
+}
+
+TEST(TarvoException, TakesTheNotedLocationOnce) {
+    setExceptionLocation(u"ZENTSession.cpp", 674);
+    setExceptionLevel(traceLevel::handleCheck);
+    const InvalidZentSessionException first(1, u"first");
+    const InvalidZentSessionException second;
+    EXPECT_EQ(first.getLocationFile(), u"ZENTSession.cpp");
+    EXPECT_EQ(first.getLocationLine(), 674);
+    EXPECT_EQ(first.getTraceLevel(), 32768U);
+    EXPECT_TRUE(second.getLocationFile().isEmpty());
+    EXPECT_EQ(second.getLocationLine(), 0);
+    EXPECT_EQ(second.getTraceLevel(), 1024U);
+    EXPECT_TRUE(second.getMessage().isEmpty());
+}
+
+TEST(TarvoException, CopiesLeaveTheNotedLocationAlone) {
+    setExceptionLocation(u"a.cpp", 1);
+    const InvalidZentSessionException original(u"text");
+    setExceptionLocation(u"b.cpp", 2);
+    const InvalidZentSessionException copy(original);
+    EXPECT_EQ(copy.getLocationFile(), u"a.cpp");
+    EXPECT_EQ(copy.getLocationLine(), 1);
+    EXPECT_EQ(copy.getMessage(), u"text");
+    EXPECT_EQ(InvalidZentSessionException().getLocationLine(), 2);
+}
+
+TEST(TarvoException, IsRaisedWithTheRaiseSitesPlace) {
+    try {
+        Raise<InvalidAttributeIdException>(traceLevel::xmlLayer)("value '%s' of %d\r\n", u"x", 3);
+    } catch (const InvalidAttributeIdException& exception) {
+        EXPECT_EQ(exception.getLocationLine(), __LINE__ - 2);
+        EXPECT_EQ(exception.getLocationFile(), u"TarvoExceptionTest.cpp");
+        EXPECT_EQ(exception.getTraceLevel(), 8192U);
+        EXPECT_EQ(exception.getMessage(), u"value 'x' of 3\r\n");
+    }
+}
+
+TEST(TarvoException, ErrorNumberNamesIdAndLine) {
+    const struct {
+        std::int32_t line;
+        const char* number;
+    } rows[] = {{0, "025:000:0000"},
+                {5, "025:000:0005"},
+                {674, "025:000:0674"},
+                {9999, "025:000:9999"},
+                {12345, "025:000:12345"}};
+    for (const auto& row : rows) {
+        setExceptionLocation(u"a.cpp", row.line);
+        EXPECT_EQ(getErrorNumberText(InvalidZentSessionException()).toNarrow(), row.number);
+    }
+    setExceptionLocation(u"a.cpp", 200);
+    EXPECT_EQ(getErrorNumberText(OrdoParseException(12, u"")), u"001:012:0200");
+    EXPECT_EQ(getErrorNumberText(std::runtime_error("other")), u"000:000:000");
+}
+
+} // namespace
+} // namespace zent

@@ -1,0 +1,63 @@
+#include "platform/MemoryProbe.h"
+
+#include <atomic>
+#include <cstdint>
+#include <memory>
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace zent::platform {
+namespace {
+
+const void* at(std::uintptr_t address) { return reinterpret_cast<const void*>(address); }
+
+const char readOnly[20'000] = {1};
+
+TEST(MemoryProbe, TellsWritableMemory) {
+    std::vector<char> heap(100'000, 'x');
+    static std::uint64_t global = 5;
+    int local = 7;
+    EXPECT_TRUE(isWritableMemory(heap.data(), heap.size()));
+    EXPECT_TRUE(isWritableMemory(heap.data() + 1, 1));
+    EXPECT_TRUE(isWritableMemory(&global, sizeof(global)));
+    EXPECT_TRUE(isWritableMemory(&local, sizeof(local)));
+    EXPECT_EQ(heap, std::vector<char>(100'000, 'x'));
+    EXPECT_EQ(global, 5U);
+    EXPECT_EQ(local, 7);
+}
+
+TEST(MemoryProbe, RefusesWhatCannotBeWritten) {
+    constexpr std::uintptr_t last = UINTPTR_MAX;
+    int local = 0;
+    EXPECT_FALSE(isWritableMemory(nullptr, 0));
+    EXPECT_FALSE(isWritableMemory(nullptr, 8));
+    for (const std::uintptr_t address :
+         {std::uintptr_t{1}, std::uintptr_t{8}, std::uintptr_t{0xFFF}, last, last - 7, last / 2}) {
+        EXPECT_FALSE(isWritableMemory(at(address), 8)) << std::hex << address;
+    }
+    EXPECT_FALSE(isWritableMemory(readOnly, sizeof(readOnly)));
+    EXPECT_FALSE(isWritableMemory(readOnly + 10'000, 1));
+    EXPECT_FALSE(isWritableMemory(reinterpret_cast<const void*>(&isWritableMemory), 8));
+    EXPECT_FALSE(isWritableMemory(&local, SIZE_MAX / 2)) << "runs out of the mapped memory";
+    EXPECT_FALSE(isWritableMemory(&local, SIZE_MAX)) << "runs past the last address";
+}
+
+TEST(MemoryProbe, LeavesOtherThreadsWritesAlone) {
+    constexpr std::uint32_t rounds = 200'000;
+    const auto number = std::make_unique<std::atomic<std::uint32_t>>(0);
+    std::thread writer([&] {
+        for (std::uint32_t i = 0; i < rounds; ++i) {
+            ++*number;
+        }
+    });
+    while (*number < rounds) {
+        ASSERT_TRUE(isWritableMemory(number.get(), sizeof(*number)));
+    }
+    writer.join();
+    EXPECT_EQ(*number, rounds);
+}
+
+} // namespace
+} // namespace zent::platform

@@ -1,0 +1,61 @@
+#include "platform/System.h"
+
+#include <filesystem>
+#include <fstream>
+#include <thread>
+
+#include <gtest/gtest.h>
+
+#include "PrintText.h"
+
+namespace zent::platform {
+namespace {
+
+TEST(System, ReadsIntegersFromProfileFiles) {
+    const std::filesystem::path path =
+        (std::filesystem::path(testing::TempDir()) / "SystemTest.ini").make_preferred();
+    std::ofstream(path) << "outside=1\n"
+                           "[debug]\n"
+                           "Errors=5\n"
+                           "Errors=6\n"
+                           "  spaced  =  17  \n"
+                           "negative=-3\n"
+                           "mixed=12abc\n"
+                           "word=abc\n"
+                           "empty=\n"
+                           "[other]\n"
+                           "infra=9\n"
+                           "[Debug2]\n"
+                           "thread=4\n";
+    const struct {
+        const char16_t* section;
+        const char16_t* key;
+        std::int32_t value;
+    } rows[] = {
+        {u"debug", u"Errors", 5},    {u"DEBUG", u"eRRORS", 5},   {u"debug", u"spaced", 17},
+        {u"debug", u"negative", -3}, {u"debug", u"mixed", 12},   {u"debug", u"word", 0},
+        {u"debug", u"empty", 77},    {u"debug", u"infra", 77},   {u"debug", u"thread", 77},
+        {u"other", u"infra", 9},     {u"debug", u"outside", 77}, {u"none", u"Errors", 77},
+    };
+    const CXString file(path.string().c_str());
+    for (const auto& row : rows) {
+        EXPECT_EQ(getProfileInteger(row.section, row.key, 77, file), row.value)
+            << CXString(row.key).toNarrow();
+    }
+    std::filesystem::remove(path);
+    EXPECT_EQ(getProfileInteger(u"debug", u"Errors", 77, file), 77);
+}
+
+TEST(System, NamesErrorsThreadsAndTypes) {
+    constexpr std::uint32_t noSuchFile = 2; // on both kinds of system
+    EXPECT_FALSE(getSystemErrorText(noSuchFile).isEmpty());
+    EXPECT_TRUE(getSystemErrorText(0x2FFFFFFF).isEmpty());
+    EXPECT_EQ(getTypeName(typeid(CXString)), "zent::CXString");
+    EXPECT_TRUE(getWindowCaption(nullptr).isEmpty());
+    const std::uint32_t here = getCurrentThreadId();
+    EXPECT_EQ(getCurrentThreadId(), here);
+    std::thread([here] { EXPECT_NE(getCurrentThreadId(), here); }).join();
+}
+
+} // namespace
+} // namespace zent::platform
