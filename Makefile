@@ -35,7 +35,7 @@ native:
 	$(call say,What the Linux build needs)
 	@tools/install-packages native
 	$(call say,Building for Linux into build/native/bin)
-	@$(call configure,native)
+	@$(call configure,native) -DZENT_TESTS=OFF
 	@$(call build,native)
 
 .PHONY: run
@@ -48,10 +48,10 @@ windows:
 	$(call say,What the Windows builds need)
 	@tools/install-packages windows
 	$(call say,Building for Windows x86-64 into build/windows-x64/bin)
-	@$(call configure,windows-x64)
+	@$(call configure,windows-x64) -DZENT_TESTS=OFF
 	@$(call build,windows-x64)
 	$(call say,Building for Windows x86 into build/windows-x86/bin)
-	@$(call configure,windows-x86)
+	@$(call configure,windows-x86) -DZENT_TESTS=OFF
 	@$(call build,windows-x86)
 
 .PHONY: test

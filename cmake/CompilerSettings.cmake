@@ -18,10 +18,12 @@ foreach(language C CXX)
     set(CMAKE_${language}_FLAGS_RELWITHDEBINFO "-O1 -g")
 endforeach()
 
-# No path of the machine that builds ends up in what is built; the cache finds a file again in
-# another clone for the same reason.
-file(RELATIVE_PATH up ${CMAKE_BINARY_DIR} ${CMAKE_SOURCE_DIR}) # ccache makes paths relative
-add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/= -ffile-prefix-map=${up}=)
+# No path of the machine that builds ends up in what is built for use (what the sanitizers report is
+# easier to find with it). ccache makes paths relative, so that it knows a file again in another clone.
+if(NOT ZENT_SANITIZE)
+    file(RELATIVE_PATH up ${CMAKE_BINARY_DIR} ${CMAKE_SOURCE_DIR})
+    add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/= -ffile-prefix-map=${up}=)
+endif()
 find_program(CCACHE ccache)
 if(CCACHE)
     set(launcher ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE})

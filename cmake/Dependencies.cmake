@@ -16,6 +16,7 @@ if(WIN32)
 else()
     find_package(ZLIB REQUIRED)
     find_package(XercesC 3.2 REQUIRED)
+    find_package(SQLite3 3.37 REQUIRED) # STRICT tables
 endif()
 
 # CLI11 is headers only. They are the same for each target, but a cross-compiler must not see the
