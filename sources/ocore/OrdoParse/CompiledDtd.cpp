@@ -1,0 +1,145 @@
+#include "ocore/OrdoParse/CompiledDtd.h"
+
+#include <xercesc/framework/MemBufInputSource.hpp>
+#include <xercesc/parsers/XercesDOMParser.hpp>
+#include <xercesc/util/OutOfMemoryException.hpp>
+#include <xercesc/util/XMLException.hpp>
+#include <xercesc/validators/DTD/DTDGrammar.hpp>
+
+#include "ocore/OrdoParse/DOMTreeErrorReporter.h"
+#include "ocore/OrdoParse/DtdFolder.h"
+#include "ocore/OrdoParse/ParserMemory.h"
+#include "ocore/OrdoParse/XmlDocument.h"
+#include "platform/Files.h"
+#include "platform/Lock.h"
+
+namespace zent {
+
+namespace {
+
+/// The one definition that is kept, and what its file looked like when it was read.
+struct Slot {
+    platform::Lock lock;
+    CXString path;
+    platform::FileStamp stamp;
+    std::shared_ptr<const CompiledDtd> dtd;
+
+    void clear() {
+        path.clear();
+        stamp = {};
+        dtd.reset();
+    }
+};
+
+/// Never destroyed: at the end of the process the parser library may have gone before.
+Slot& slot() {
+    static Slot& kept = *std::make_unique<Slot>().release();
+    return kept;
+}
+
+class Hold {
+public:
+    explicit Hold(platform::Lock& lock) : m_lock(lock) { m_lock.enter(); }
+    ~Hold() { m_lock.leave(); }
+    Hold(const Hold&) = delete;
+    Hold& operator=(const Hold&) = delete;
+
+private:
+    platform::Lock& m_lock;
+};
+
+/// The library fills in parts of a declaration when a document first needs them, without a lock.
+/// After this nothing is left to fill in.
+void completeDeclarations(const xercesc::DTDGrammar& grammar) {
+    auto declarations = grammar.getElemEnumerator();
+    while (declarations.hasMoreElements()) {
+        xercesc::DTDElementDecl& declaration = declarations.nextElement();
+        declaration.getElementName()->getRawName();
+        declaration.getAttDefList();
+        declaration.getFormattedContentModel();
+        const auto model = declaration.getModelType();
+        if (model == xercesc::DTDElementDecl::Mixed_Simple ||
+            model == xercesc::DTDElementDecl::Children) {
+            declaration.getContentModel();
+        }
+    }
+}
+
+} // namespace
+
+CompiledDtd::CompiledDtd(const CXString& path, std::unique_ptr<ByteBuffer> bytes)
+    : m_path(path), m_bytes(std::move(bytes)),
+      m_grammars(std::make_unique<xercesc::XMLGrammarPoolImpl>()) {}
+
+CompiledDtd::~CompiledDtd() = default;
+
+std::shared_ptr<const CompiledDtd> CompiledDtd::find(const CXString& path) {
+    Slot& kept = slot();
+    const platform::FileStamp stamp = platform::getFileStamp(path);
+    const Hold hold(kept.lock);
+    if (kept.stamp == stamp && kept.path == path) {
+        return kept.dtd;
+    }
+    kept.clear();
+    if (!stamp.exists) {
+        return nullptr;
+    }
+    auto compiled = compile(path);
+    if (platform::getFileStamp(path) != stamp) { // it changed in the meantime
+        return nullptr;
+    }
+    kept.path = path;
+    kept.stamp = stamp;
+    kept.dtd = std::move(compiled);
+    return kept.dtd;
+}
+
+void CompiledDtd::forget() {
+    Slot& kept = slot();
+    const Hold hold(kept.lock);
+    kept.clear();
+}
+
+std::shared_ptr<const CompiledDtd> CompiledDtd::compile(const CXString& path) {
+    auto bytes = readEntityFile(path);
+    if (!bytes) {
+        return nullptr;
+    }
+    const std::shared_ptr<CompiledDtd> dtd(new CompiledDtd(path, std::move(bytes)));
+    DOMTreeErrorReporter reporter;
+    DtdFolder nothingElse(CXString(), nullptr);
+    ParserMemory memory;
+    xercesc::XercesDOMParser parser(nullptr, &memory, dtd->m_grammars.get());
+    parser.setErrorHandler(&reporter);
+    parser.setXMLEntityResolver(&nothingElse);
+    parser.setDisableDefaultEntityResolution(true);
+    parser.setValidationScheme(xercesc::XercesDOMParser::Val_Always);
+    parser.setDoNamespaces(false);
+    const xercesc::MemBufInputSource source(
+        static_cast<const XMLByte*>(static_cast<const void*>(dtd->m_bytes->data())),
+        dtd->m_bytes->size(), path.c_str());
+    const xercesc::Grammar* grammar = nullptr;
+    try {
+        grammar = parser.loadGrammar(source, xercesc::Grammar::DTDGrammarType, true);
+    } catch (const xercesc::XMLException&) {
+        return nullptr;
+    }
+    if (grammar == nullptr || !reporter.getMessages().isEmpty()) {
+        return nullptr;
+    }
+    completeDeclarations(*static_cast<const xercesc::DTDGrammar*>(grammar));
+    dtd->m_grammars->lockPool();
+    return dtd;
+}
+
+std::shared_ptr<const XmlDocument> CompiledDtd::getSkeleton() const {
+    const Hold hold(slot().lock);
+    return m_skeleton;
+}
+
+void CompiledDtd::keepSkeleton(std::shared_ptr<const XmlDocument> skeleton) const {
+    const Hold hold(slot().lock);
+    m_skeleton = std::move(skeleton);
+}
+
+} // namespace zent

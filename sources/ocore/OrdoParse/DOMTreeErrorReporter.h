@@ -1,0 +1,34 @@
+#pragma once
+
+#include <xercesc/sax/ErrorHandler.hpp>
+
+#include "ocore/CXString.h"
+
+namespace zent {
+
+/// Collects what the parser finds wrong with a document, as text and as three flags. It lets the
+/// parser go on, so that one message tells all faults.
+class DOMTreeErrorReporter final : public xercesc::ErrorHandler {
+public:
+    void warning(const xercesc::SAXParseException& report) override;
+    void error(const xercesc::SAXParseException& report) override;
+    void fatalError(const xercesc::SAXParseException& report) override;
+    /// Forgets all.
+    void resetErrors() override;
+
+    bool isWarningSeen() const { return m_warningSeen; }
+    bool isErrorSeen() const { return m_errorSeen; }
+    bool isFatalSeen() const { return m_fatalSeen; }
+    /// Two lines for each report, in the order of the document.
+    const CXString& getMessages() const { return m_messages; }
+
+private:
+    void add(const char* format, const xercesc::SAXParseException& report);
+
+    bool m_warningSeen = false;
+    bool m_errorSeen = false;
+    bool m_fatalSeen = false;
+    CXString m_messages;
+};
+
+} // namespace zent

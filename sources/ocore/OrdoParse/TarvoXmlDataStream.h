@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include "ocore/Attributes/AttrNodeList.h"
+#include "ocore/CXString.h"
+#include "ocore/OrdoParse/XmlOutputCallback.h"
+
+namespace zent {
+
+class TarvoDomDoc;
+
+/// The XML forms.
+enum class XmlDataType : std::uint32_t {
+    ordo = 1, // always validated, so that it needs a document type definition
+    ocap = 2,
+    mediaPreference = 3,
+    smallOrdo = 4,
+    notSpecified = 5,
+};
+
+/// One XML form as a node list, from and to memory. Set the buffer, then read; set the callback,
+/// then write.
+class TarvoXmlDataStream {
+public:
+    /// The name of the document type definition is the full path of its file.
+    explicit TarvoXmlDataStream(XmlDataType type = XmlDataType::notSpecified,
+                                std::optional<CXString> dtdName = std::nullopt)
+        : m_type(type), m_dtdName(std::move(dtdName)) {}
+    virtual ~TarvoXmlDataStream();
+    TarvoXmlDataStream(const TarvoXmlDataStream&) = delete;
+    TarvoXmlDataStream& operator=(const TarvoXmlDataStream&) = delete;
+
+    /// The bytes must outlive the reading; null or no bytes fail it.
+    virtual void setInputBuffer(const void* bytes, std::size_t length);
+    /// The callback must outlive the writing.
+    virtual void setOutputCallback(XmlOutputCallback* callback);
+
+    /// Adds the document's nodes to a list. On failure the list keeps what was added before.
+    virtual void read(AttrNodeList* list);
+    virtual void write(const AttrNodeList* list);
+    /// What the parser calls the document.
+    virtual CXString getStreamName() const;
+
+protected:
+    /// Null if there is none, or none but an empty one.
+    const CXString* findDtdName() const;
+
+private:
+    std::unique_ptr<TarvoDomDoc> createDomDocument() const;
+
+    XmlDataType m_type;
+    const void* m_input = nullptr;
+    std::size_t m_inputLength = 0;
+    XmlOutputCallback* m_callback = nullptr;
+    std::optional<CXString> m_dtdName;
+};
+
+} // namespace zent

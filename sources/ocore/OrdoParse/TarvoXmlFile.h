@@ -1,0 +1,29 @@
+#pragma once
+
+#include "ocore/OrdoParse/TarvoXmlDataStream.h"
+#include "platform/Files.h"
+
+namespace zent {
+
+/// One XML form as a node list, from and to a file. It is its own output callback, so that the
+/// layout is set on the file itself.
+class TarvoXmlFile final : public TarvoXmlDataStream, public XmlOutputCallback {
+public:
+    explicit TarvoXmlFile(XmlDataType type = XmlDataType::notSpecified,
+                          std::optional<CXString> fileName = std::nullopt,
+                          std::optional<CXString> dtdName = std::nullopt)
+        : TarvoXmlDataStream(type, std::move(dtdName)), m_fileName(std::move(fileName)) {}
+
+    void read(AttrNodeList* list) override;
+    /// A writing that fails leaves no file, also where there was one before.
+    void write(const AttrNodeList* list) override;
+    CXString getStreamName() const override;
+
+    bool handleOutput(const char* bytes, std::size_t length) override;
+
+private:
+    std::optional<CXString> m_fileName;
+    std::unique_ptr<platform::OpenFile> m_file; // while it is being written
+};
+
+} // namespace zent

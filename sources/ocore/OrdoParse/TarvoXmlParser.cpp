@@ -1,0 +1,169 @@
+#include "ocore/OrdoParse/TarvoXmlParser.h"
+
+#include <algorithm>
+#include <new>
+
+#include <xercesc/dom/DOMException.hpp>
+#include <xercesc/framework/MemBufInputSource.hpp>
+#include <xercesc/sax/SAXException.hpp>
+#include <xercesc/util/OutOfMemoryException.hpp>
+#include <xercesc/util/SecurityManager.hpp>
+#include <xercesc/util/XMLException.hpp>
+
+#include "ocore/OrdoParse/CompiledDtd.h"
+#include "ocore/OrdoParse/DtdFolder.h"
+#include "ocore/OrdoParse/OrdoParseException.h"
+#include "ocore/OrdoParse/ParserMemory.h"
+#include "ocore/OrdoParse/XmlLimits.h"
+#include "ocore/OrdoParse/XmlOutputCallback.h"
+#include "ocore/OrdoParse/XmlTreeBuilder.h"
+#include "ocore/OrdoParse/XmlWriter.h"
+
+namespace zent {
+
+namespace {
+
+/// The beginning of a document, for messages.
+std::string_view quoted(std::span<const std::byte> bytes) {
+    return {static_cast<const char*>(static_cast<const void*>(bytes.data())),
+            std::min(bytes.size(), xmlLimits::quotedBytes)};
+}
+
+[[noreturn]] void raiseParserFailure(const char16_t* message, std::span<const std::byte> bytes) {
+    raiseOrdoParse(ordoParseCode::xmlExceptionInParse,
+                   "TarvoXmlParser::parse(): An error occurred during parsing. Exception message "
+                   "is %s.\r\nXML is:\r\n\r\n%S\r\n",
+                   message, quoted(bytes));
+}
+
+[[noreturn]] void raiseProblem(const CXString& messages, std::span<const std::byte> bytes) {
+    raiseOrdoParse(ordoParseCode::errorReportedInParse,
+                   "TarvoXmlParser::parse(): There was a problem with the ORDO stream %s.\r\nXML "
+                   "is:\r\n\r\n%S\r\n",
+                   messages, quoted(bytes));
+}
+
+CXString writingEncoding(const XmlDocument& document) {
+    const XmlNode* const first = document.getNode().getFirstChild();
+    if (first != nullptr && first->getKind() == XmlNodeKind::xmlDeclaration) {
+        if (const XmlAttribute* const declared = first->findAttribute(u"encoding")) {
+            return declared->value;
+        }
+    }
+    return u"UTF-8";
+}
+
+} // namespace
+
+void TarvoXmlParser::parse(std::span<const std::byte> bytes) { parse(bytes, findDtd()); }
+
+void TarvoXmlParser::parseSkeleton(std::string_view skeleton) {
+    const auto dtd = findDtd();
+    if (const auto parsed = dtd ? dtd->getSkeleton() : nullptr) {
+        m_document.emplace().appendCopy(*parsed);
+        return;
+    }
+    parse(std::as_bytes(std::span(skeleton)), dtd);
+    if (dtd) {
+        const auto parsed = std::make_shared<XmlDocument>();
+        parsed->appendCopy(*m_document);
+        dtd->keepSkeleton(parsed);
+    }
+}
+
+XmlDocument& TarvoXmlParser::getDocument() {
+    return m_document ? *m_document : m_document.emplace();
+}
+
+std::shared_ptr<const CompiledDtd> TarvoXmlParser::findDtd() const {
+    try {
+        return m_validate ? CompiledDtd::find(m_streamName) : nullptr;
+    } catch (const xercesc::OutOfMemoryException&) {
+        throw std::bad_alloc();
+    }
+}
+
+void TarvoXmlParser::parse(std::span<const std::byte> bytes,
+                           std::shared_ptr<const CompiledDtd> dtd) {
+    m_reporter.resetErrors();
+    m_document.emplace();
+    if (bytes.size() > xmlLimits::documentBytes) {
+        raiseProblem(formatText("Fatal error: the document has %I64u bytes; %lu are allowed\r\n",
+                                bytes.size(), xmlLimits::documentBytes),
+                     bytes);
+    }
+    try {
+        runParser(bytes, std::move(dtd));
+    } catch (const XmlTreeBuilder::Refusal&) {
+        // The reason has been reported.
+    } catch (const xercesc::XMLException& exception) {
+        raiseParserFailure(exception.getMessage(), bytes);
+    } catch (const xercesc::SAXException& exception) {
+        raiseParserFailure(exception.getMessage(), bytes);
+    } catch (const xercesc::DOMException& exception) {
+        raiseParserFailure(exception.getMessage(), bytes);
+    } catch (const xercesc::OutOfMemoryException&) {
+        throw std::bad_alloc();
+    }
+    if (m_reporter.isErrorSeen() || m_reporter.isFatalSeen()) {
+        raiseProblem(m_reporter.getMessages(), bytes);
+    }
+}
+
+void TarvoXmlParser::runParser(std::span<const std::byte> bytes,
+                               std::shared_ptr<const CompiledDtd> dtd) {
+    xercesc::SecurityManager limits;
+    limits.setEntityExpansionLimit(xmlLimits::entityExpansions);
+    DtdFolder folder(m_validate ? m_streamName : CXString(), dtd);
+    ParserMemory memory;
+    XmlTreeBuilder parser(*m_document, memory, dtd ? &dtd->getGrammars() : nullptr);
+    parser.setErrorHandler(&m_reporter);
+    parser.setXMLEntityResolver(&folder);
+    parser.setDisableDefaultEntityResolution(true);
+    parser.setSecurityManager(&limits);
+    parser.setValidationScheme(m_validate ? xercesc::XercesDOMParser::Val_Always
+                                          : xercesc::XercesDOMParser::Val_Never);
+    parser.setDoNamespaces(false);
+    parser.setCreateEntityReferenceNodes(false);
+    parser.useCachedGrammarInParse(dtd != nullptr);
+    parser.setIgnoreCachedDTD(true); // by documents that declare something of their own
+
+    xercesc::MemBufInputSource source(
+        static_cast<const XMLByte*>(static_cast<const void*>(bytes.data())), bytes.size(),
+        m_streamName.c_str());
+    source.setCopyBufToStream(false);
+    parser.parse(source);
+}
+
+void TarvoXmlParser::convertToXmlStream(XmlOutputCallback& callback) {
+    XmlDocument& document = getDocument();
+    const CXString encoding = writingEncoding(document);
+    m_callback = &callback;
+    try {
+        xercesc::XMLFormatter formatter(encoding.c_str(), u"1.0", this,
+                                        xercesc::XMLFormatter::NoEscapes,
+                                        xercesc::XMLFormatter::UnRep_CharRef);
+        XmlWriter writer(formatter, callback.isFormatted());
+        writer.write(document.getNode());
+        writer.flush();
+    } catch (const xercesc::XMLException& exception) {
+        raiseOrdoParse(ordoParseCode::xmlExceptionInGeneration,
+                       "TarvoXmlParser::convertToXmlStream(): XMLException during creation of "
+                       "output stream. Message: %s\r\n",
+                       exception.getMessage());
+    } catch (const xercesc::OutOfMemoryException&) {
+        throw std::bad_alloc();
+    }
+}
+
+void TarvoXmlParser::writeChars(const XMLByte* bytes, XMLSize_t count,
+                                xercesc::XMLFormatter* /*formatter*/) {
+    const auto* const text = static_cast<const char*>(static_cast<const void*>(bytes));
+    if (!m_callback->handleOutput(text, count)) {
+        raiseOrdoParse(ordoParseCode::outputFailed,
+                       "TarvoXmlParser::writeChars(): Failed the call to handleOutput() in special "
+                       "callback object!\r\n");
+    }
+}
+
+} // namespace zent

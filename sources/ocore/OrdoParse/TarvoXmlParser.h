@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include <xercesc/framework/XMLFormatter.hpp>
+
+#include "ocore/CXString.h"
+#include "ocore/OrdoParse/DOMTreeErrorReporter.h"
+#include "ocore/OrdoParse/XmlDocument.h"
+
+namespace zent {
+
+class CompiledDtd;
+class XmlOutputCallback;
+
+/// Bytes to a document and back, for one document at a time. All failures are raised as
+/// OrdoParseException, but for lack of memory, which is std::bad_alloc.
+class TarvoXmlParser final : public xercesc::XMLFormatTarget {
+public:
+    /// The stream name stands for the document in messages. With `validate` it is also the path of
+    /// the document type definition: a document names that file as if it stood beside it.
+    TarvoXmlParser(const CXString& streamName, bool validate)
+        : m_streamName(streamName), m_validate(validate) {}
+
+    /// Code 1 if the parser library fails, code 2 if it finds an error, fatal or not.
+    void parse(std::span<const std::byte> bytes);
+    /// Parses a literal of the program. What it gave is taken from memory as long as the document
+    /// type definition is as it was.
+    void parseSkeleton(std::string_view skeleton);
+    /// The document of the last parse; empty before.
+    XmlDocument& getDocument();
+
+    /// Writes the document, in the encoding that it declares or else in UTF-8. Code 3 if the parser
+    /// library fails, code 4 if the callback doesn't take the bytes.
+    void convertToXmlStream(XmlOutputCallback& callback);
+    /// For the library's formatter.
+    void writeChars(const XMLByte* bytes, XMLSize_t count,
+                    xercesc::XMLFormatter* formatter) override;
+
+private:
+    std::shared_ptr<const CompiledDtd> findDtd() const;
+    void parse(std::span<const std::byte> bytes, std::shared_ptr<const CompiledDtd> dtd);
+    void runParser(std::span<const std::byte> bytes, std::shared_ptr<const CompiledDtd> dtd);
+
+    CXString m_streamName;
+    bool m_validate;
+    DOMTreeErrorReporter m_reporter;
+    std::optional<XmlDocument> m_document;
+    XmlOutputCallback* m_callback = nullptr;
+};
+
+} // namespace zent

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include <xercesc/framework/XMLFormatter.hpp>
+
+#include "ocore/OrdoParse/XmlDocument.h"
+
+namespace zent {
+
+/// Writes nodes of a document through the library's formatter, which encodes and escapes, in this
+/// system's own layout: line ends are CR LF, and with formatting on, each element stands on a line
+/// of its own, one tab deeper than its parent. An element that holds text stays on one line. One
+/// that begins with text and goes on with elements keeps those at its own depth.
+///
+/// What goes out can be read again: a character that XML 1.0 doesn't allow, and half a surrogate
+/// pair, go out as U+FFFD.
+class XmlWriter {
+public:
+    XmlWriter(xercesc::XMLFormatter& formatter, bool formatted);
+
+    /// Writes a node with all that it holds.
+    void write(const XmlNode& node);
+    /// Hands on what was collected; to be called at the end.
+    void flush();
+
+private:
+    void writeChildren(const XmlNode& node);
+    void writeElement(const XmlNode& element);
+    void writeXmlDeclaration(const XmlNode& declaration);
+    void writeDocumentType(const XmlNode& type);
+    void writeEntity(const XmlNode& entity);
+    /// What stands in front of the attribute, then its value in quotes; nothing if there is none.
+    void writeQuoted(const XmlNode& node, std::u16string_view attribute, std::u16string_view lead);
+    void writeLineBreak();
+    void writeMarkup(std::u16string_view text);
+    void writeEscaped(std::u16string_view text, xercesc::XMLFormatter::EscapeFlags escapes);
+
+    xercesc::XMLFormatter& m_formatter;
+    xercesc::XMLFormatter::UnRepFlags m_unrepresentable;
+    bool m_formatted;
+    std::u16string m_indent;
+    // Markup, and text without anything to escape, is collected: for the formatter a piece costs
+    // more than a character. One unit is left for the terminator that it may look at.
+    std::array<char16_t, 4096> m_collected;
+    std::size_t m_length = 0;
+};
+
+} // namespace zent

@@ -1,0 +1,25 @@
+#pragma once
+
+namespace zent {
+
+/// The start of the XML parser library, once per process. Who uses the library asks for the
+/// instance first. It is never ended by the library itself; a host that must may call Terminate(),
+/// when no document is being read or written, and no document can be made from then on.
+class ZNXMLInterface {
+public:
+    /// Starts the XML system at the first call. Raises OrdoParseException after Terminate() (code
+    /// 20) and if the parser library fails to start (code 22).
+    static ZNXMLInterface& Instance();
+    /// Ends the XML system; before any Instance() it does nothing. Raises OrdoParseException (code
+    /// 21) if it was ended before.
+    static void Terminate();
+
+    ZNXMLInterface(const ZNXMLInterface&) = delete;
+    ZNXMLInterface& operator=(const ZNXMLInterface&) = delete;
+
+private:
+    ZNXMLInterface();
+    ~ZNXMLInterface();
+};
+
+} // namespace zent
