@@ -22,14 +22,22 @@ const std::array<Brackets, 4> allBrackets{{{'{', '}', syntax::collection},
 
 CXString wide(std::string_view text) { return CXString(text.data(), text.size()); }
 
+bool isNumber(std::string_view text) {
+    return text.find_first_not_of("-0123456789") == std::string_view::npos;
+}
+
+/// What a value without a named syntax is taken for.
+const CXString& plainSyntax(std::string_view text) {
+    return isNumber(text) ? syntax::integer : syntax::keyword;
+}
+
 std::string textOfNode(const AttrNode& node) {
     const AttrValue& value = node.getAttrValue();
     const std::string text = (node.isPrivate() ? "!" : "") + node.getName().toNarrow();
     if (!value.isList()) {
-        const CXString& syntax = value.getIppSyntax();
-        const bool isPlain = syntax == syntax::integer || syntax == syntax::keyword;
-        return text + '=' + (isPlain ? "" : syntax.toNarrow() + ':') +
-               value.getIppValue().toNarrow();
+        const std::string content = value.getIppValue().toNarrow();
+        const bool isPlain = value.getIppSyntax() == plainSyntax(content);
+        return text + '=' + (isPlain ? "" : value.getIppSyntax().toNarrow() + ':') + content;
     }
     const auto& list = static_cast<const IppList&>(value);
     for (const Brackets& brackets : allBrackets) {
@@ -88,9 +96,7 @@ private:
             return AttrValueFactory::createAttrValue(wide(text.substr(0, colon)),
                                                      wide(text.substr(colon + 1)));
         }
-        const bool isNumber = text.find_first_not_of("-0123456789") == std::string_view::npos;
-        return AttrValueFactory::createAttrValue(isNumber ? syntax::integer : syntax::keyword,
-                                                 wide(text));
+        return AttrValueFactory::createAttrValue(plainSyntax(text), wide(text));
     }
 
     std::string_view m_rest;

@@ -1,0 +1,161 @@
+#include <gtest/gtest.h>
+
+#include "PrintText.h"
+#include "ocore/FeatureSettings/FeatureSettings.h"
+#include "resources/UseResourceLibrary.h"
+#include "support/ListText.h"
+#include "support/Raised.h"
+
+namespace zent::test {
+namespace {
+
+const _FI copies(2);
+const _FI coverFront(120);
+const _FI overrides(122);
+
+FeatureSettings ticketOf(const char* text) { return FeatureSettings(listOf(text)); }
+std::string textOf(const FeatureSettings& ticket) { return textOfList(*ticket.getAttrNodeList()); }
+
+TEST(FeatureSettingsTest, SizesAreKeptInPortraitOrder) {
+    useResourceLibrary();
+    const char* const a4 = "media-col{media-size{x-dimension=21000 y-dimension=29700}}";
+    for (const StockSize& size : {StockSize(21000, 29700), StockSize(29700, 21000)}) {
+        FeatureSettings ticket;
+        ticket.setStockSize(size);
+        EXPECT_EQ(textOf(ticket), a4);
+        EXPECT_EQ(ticket.getStockSize().getSizeName(), u"SIZE_A4");
+    }
+    FeatureSettings a3;
+    a3.setStockSize(StockSize(9));
+    EXPECT_EQ(textOf(a3), "media-col{media-size{x-dimension=29700 y-dimension=42000}}");
+    EXPECT_EQ(a3.getStockSize().getWidth(), 42000); // by the table of sizes
+    FeatureSettings ticket = ticketOf(a4);
+    ticket.setStockSize(StockSize());
+    EXPECT_EQ(textOf(ticket), "");
+    EXPECT_TRUE(
+        ticketOf("media-col{media-size{x-dimension=21000}}").getStockSize().isUnspecified());
+    EXPECT_THROW(ticketOf("media-col{media-size{x-dimension=x}}").getStockSize(),
+                 AttributeTypeMismatchException);
+}
+
+TEST(FeatureSettingsTest, NestedSettingsAreAViewOrFree) {
+    FeatureSettings ticket = ticketOf("page-overrides[value{copies=1} value{copies=2}]");
+    ticket.getNestedSettings(overrides, 1).setLong(copies, 5);
+    ticket.getNestedSettings(overrides, 2).setLong(copies, 9); // there is none
+    ticket.getNestedSettings(coverFront).setLong(copies, 9);
+    FeatureSettings copy = ticketOf("sides=x");
+    ticket.getNestedSettingsCopy(&copy, overrides, 1);
+    copy.setLong(copies, 7);
+    EXPECT_EQ(textOf(ticket), "page-overrides[value{copies=1} value{copies=5}]");
+    EXPECT_EQ(textOf(copy), "copies=7");
+    ticket.getNestedSettingsCopy(&copy, coverFront);
+    EXPECT_EQ(textOf(copy), "");
+    ticket.getNestedSettingsCopy(&ticket, overrides, 0);
+    EXPECT_EQ(textOf(ticket), "copies=1");
+    EXPECT_THROW(ticketOf("cover-front=1").getNestedSettings(coverFront),
+                 AttributeTypeMismatchException);
+    EXPECT_THROW(ticketOf("copies=1").getNestedSettingsCopy(&copy, copies),
+                 AttributeTypeMismatchException);
+}
+
+TEST(FeatureSettingsTest, NestedSettingsAreStoredAsACopy) {
+    FeatureSettings ticket = ticketOf("copies=1");
+    FeatureSettings page = ticketOf("copies=2");
+    ticket.setNestedSettings(overrides, page);
+    ticket.setNestedSettings(overrides, page, 7); // behind the last
+    page.setLong(copies, 3);
+    ticket.setNestedSettings(overrides, page, 1);
+    EXPECT_EQ(textOf(ticket), "copies=1 page-overrides[value{copies=2} value{copies=3}]");
+    // What is stored may be the ticket itself, or lie in it.
+    ticket.setNestedSettings(coverFront, ticket.getNestedSettings(overrides, 1));
+    ticket.setNestedSettings(overrides, ticket.getNestedSettings(overrides, 1), 0);
+    EXPECT_EQ(textOf(ticket),
+              "copies=1 page-overrides[value{copies=3} value{copies=3}] cover-front{copies=3}");
+    FeatureSettings small = ticketOf("copies=1");
+    small.setNestedSettings(coverFront, small);
+    small.setNestedSettings(coverFront, small);
+    EXPECT_EQ(textOf(small), "copies=1 cover-front{copies=1 cover-front{copies=1}}");
+    EXPECT_EQ(textOf(static_cast<const FeatureSettings&>(*small.clone())), textOf(small));
+}
+
+TEST(FeatureSettingsTest, PageOverridesBeginWithTheirRanges) {
+    struct Row {
+        const char* before;
+        bool changed;
+        const char* after;
+    };
+    const char* const shaped =
+        "page-overrides[value{input-documents[value(lower-bound=1 upper-bound=1)] "
+        "pages[value(lower-bound=2 upper-bound=3)] copies=5}]";
+    const Row rows[] = {
+        {"copies=1", false, "copies=1"},
+        {"page-overrides[]", false, "page-overrides[]"},
+        {shaped, false, shaped},
+        {"page-overrides[value{copies=5 pages[value(lower-bound=2 upper-bound=3)]}]", true, shaped},
+        {"page-overrides[value{pages[value(lower-bound=2 upper-bound=3)] copies=5 "
+         "input-documents[value(lower-bound=1 upper-bound=1)]}]",
+         true, shaped},
+        // Without pages there is nothing to put in the second place, and each run counts as a
+        // change.
+        {"page-overrides[value{copies=5}]", true,
+         "page-overrides[value{input-documents[value(lower-bound=1 upper-bound=1)] copies=5}]"},
+        {"page-overrides[value{input-documents[value(lower-bound=1 upper-bound=1)] copies=5}]",
+         true,
+         "page-overrides[value{input-documents[value(lower-bound=1 upper-bound=1)] copies=5}]"},
+        {"page-overrides[value{input-documents[]} other=1 value{}]", true,
+         "page-overrides[value{input-documents[value(lower-bound=1 upper-bound=1)]} other=1 "
+         "value{input-documents[value(lower-bound=1 upper-bound=1)]}]"},
+    };
+    for (const Row& row : rows) {
+        FeatureSettings ticket = ticketOf(row.before);
+        EXPECT_EQ(ticket.normalizePageOverrides(), row.changed) << row.before;
+        EXPECT_EQ(textOf(ticket), row.after);
+    }
+    // A member that is no ticket, wherever it stands.
+    for (const char* ticket : {"page-overrides[value=1]", "page-overrides[a=1 b=2 value=1]",
+                               "page-overrides[value{} value=1]", "page-overrides=1"}) {
+        EXPECT_THROW(ticketOf(ticket).normalizePageOverrides(), AttributeTypeMismatchException)
+            << ticket;
+    }
+}
+
+TEST(FeatureSettingsTest, ImageShiftsGoToTheSidesThatArePrinted) {
+    struct Row {
+        const char* before;
+        bool changed;
+        const char* after;
+    };
+    const Row rows[] = {
+        {"copies=1 x-side1-image-shift=3", false, "copies=1 x-side1-image-shift=3"},
+        {"sides=two-sided-long-edge x-image-shift=7", true,
+         "sides=two-sided-long-edge x-side1-image-shift=7 x-side2-image-shift=7"},
+        {"x-image-shift=7 y-image-shift=-8", true,
+         "x-side1-image-shift=7 x-side2-image-shift=7 y-side1-image-shift=-8 "
+         "y-side2-image-shift=-8"},
+        {"sides=one-sided y-image-shift=8 y-side2-image-shift=1", true,
+         "sides=one-sided y-side2-image-shift=1 y-side1-image-shift=8"},
+        {"y-image-shift=8 y-side1-image-shift=1", true,
+         "y-side1-image-shift=8 y-side2-image-shift=8"},
+        // An override prints on the sides of its own, or else of the ticket.
+        {"sides=one-sided page-overrides[value{x-image-shift=1} "
+         "value{sides=two-sided-short-edge x-image-shift=2}]",
+         true,
+         "sides=one-sided page-overrides[value{x-side1-image-shift=1} "
+         "value{sides=two-sided-short-edge x-side1-image-shift=2 x-side2-image-shift=2}]"},
+        {"page-overrides[value{x-image-shift=1} value{sides=one-sided y-image-shift=2}]", true,
+         "page-overrides[value{x-side1-image-shift=1 x-side2-image-shift=1} "
+         "value{sides=one-sided y-side1-image-shift=2}]"},
+        // Covers are not page overrides.
+        {"cover-front{x-image-shift=1}", false, "cover-front{x-image-shift=1}"},
+    };
+    for (const Row& row : rows) {
+        FeatureSettings ticket = ticketOf(row.before);
+        EXPECT_EQ(ticket.normalizeImageShift(), row.changed) << row.before;
+        EXPECT_EQ(textOf(ticket), row.after);
+    }
+    EXPECT_THROW(ticketOf("sides=folded").normalizeImageShift(), UnknownFeatureRequestException);
+    EXPECT_THROW(ticketOf("x-image-shift=x").normalizeImageShift(), AttributeTypeMismatchException);
+}
+
+} // namespace
+} // namespace zent::test
