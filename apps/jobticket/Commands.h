@@ -1,0 +1,23 @@
+#pragma once
+
+#include <functional>
+
+#include "ExitStatus.h"
+
+namespace CLI {
+class App;
+}
+
+namespace jobticket {
+
+/// What a command line asks for; run when all of it has been read.
+using Action = std::function<ExitStatus()>;
+
+/// Each adds a command to the program. When it is the one that is given, it stores what to do.
+void addShowCommand(CLI::App& program, Action& action);
+void addSetCommand(CLI::App& program, Action& action);
+void addUnsetCommand(CLI::App& program, Action& action);
+void addDiffCommand(CLI::App& program, Action& action);
+void addFeaturesCommand(CLI::App& program, Action& action);
+
+} // namespace jobticket

@@ -1,0 +1,190 @@
+#include "Feature.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "ExitStatus.h"
+#include "Text.h"
+#include "ocore/FeatureSettings/FeatureDataBase.h"
+#include "ocore/FeatureSettings/FeatureTable.h"
+#include "ocore/FeatureSettings/FeatureValueDataBase.h"
+#include "ocore/OrdoParse/OrdoCategories.h"
+
+namespace jobticket {
+
+namespace {
+
+constexpr std::string_view sizeCollection = "media-size";
+
+/// The number of letters to insert, leave out or replace, to make one text of another.
+std::size_t editDistance(std::string_view a, std::string_view b) {
+    std::vector<std::size_t> row(b.size() + 1);
+    std::iota(row.begin(), row.end(), std::size_t(0));
+    for (std::size_t i = 1; i <= a.size(); ++i) {
+        std::size_t diagonal = row[0];
+        row[0] = i;
+        for (std::size_t j = 1; j <= b.size(); ++j) {
+            const std::size_t replaced = diagonal + (a[i - 1] == b[j - 1] ? 0 : 1);
+            diagonal = row[j];
+            row[j] = std::min({replaced, row[j] + 1, row[j - 1] + 1});
+        }
+    }
+    return row.back();
+}
+
+} // namespace
+
+std::string findNearest(std::string_view text, const std::vector<std::string>& names) {
+    constexpr std::size_t longestText = 64; // beyond that it is no misspelt name
+    const bool isNumber = text.find_first_not_of("0123456789") == std::string_view::npos;
+    if (isNumber || text.size() > longestText) {
+        return {};
+    }
+    std::string nearest;
+    std::size_t best = std::max<std::size_t>(2, text.size() / 3) + 1;
+    for (const std::string& name : names) {
+        const std::size_t distance = editDistance(text, name);
+        if (distance < best) {
+            best = distance;
+            nearest = name;
+        }
+    }
+    return nearest;
+}
+
+bool Feature::exists(std::string_view name) {
+    return !name.empty() && zent::_FI::isFeatureName(zent::CXString(fromUtf8(name)));
+}
+
+Feature Feature::named(std::string_view name) {
+    if (exists(name)) {
+        return Feature(zent::_FI(zent::CXString(fromUtf8(name))).getFeature());
+    }
+    std::vector<std::string> names;
+    for (const Feature& feature : all()) {
+        names.push_back(feature.getName());
+    }
+    const std::string nearest = findNearest(name, names);
+    throw ProgramError(ExitStatus::badValue,
+                       "there is no feature \"" + toPrintable(fromUtf8(name)) + "\"" +
+                           (nearest.empty() ? "; \"jobticket features\" lists all"
+                                            : "; did you mean \"" + nearest + "\"?"));
+}
+
+std::vector<Feature> Feature::all() {
+    std::vector<Feature> features;
+    for (const zent::FeatureRow& row : zent::getFeatureRows()) {
+        features.emplace_back(row.feature);
+    }
+    return features;
+}
+
+std::string Feature::getName() const { return toUtf8(m_id.getName()); }
+
+std::string Feature::getDisplayName() const { return toPrintable(m_id.getDisplayString()); }
+
+ValueKind Feature::getKind() const {
+    switch (zent::syntaxToAVTE(m_id.getSyntax(0))) {
+    case zent::AVTE_INTEGER:
+        return ValueKind::number;
+    case zent::AVTE_NAME:
+    case zent::AVTE_TEXT:
+    case zent::AVTE_URI:
+        return ValueKind::text;
+    case zent::AVTE_LIST:
+        break;
+    default:
+        return ValueKind::keyword; // keywords, enums and MIME types come from the table
+    }
+    const zent::CXString& syntax = m_id.getSyntax(0);
+    if (syntax == zent::syntax::rangeOfInteger) {
+        return ValueKind::range;
+    }
+    if (syntax == zent::syntax::resolution) {
+        return ValueKind::resolution;
+    }
+    return getName() == sizeCollection ? ValueKind::size : ValueKind::collection;
+}
+
+std::string Feature::describeKind() const {
+    const std::string unit =
+        *getUnit().name == '\0' ? "" : std::string(" (") + getUnit().name + ")";
+    switch (getKind()) {
+    case ValueKind::keyword:
+    case ValueKind::text: {
+        const bool mayBeName = m_id.isMultiple() && takesOwnValues();
+        return toUtf8(m_id.getSyntax(0)) + (mayBeName ? " or own name" : "");
+    }
+    case ValueKind::number:
+        return "number" + unit;
+    case ValueKind::range:
+        return "range" + unit;
+    case ValueKind::resolution:
+        return "resolution";
+    case ValueKind::size:
+        return "size" + unit;
+    case ValueKind::collection:
+        break;
+    }
+    return isPageLevel() ? "ticket" : "collection";
+}
+
+bool Feature::takesOwnValues() const {
+    return getKind() == ValueKind::text ||
+           (getKind() == ValueKind::keyword && m_id.isUserDefinable());
+}
+
+bool Feature::keepsWhiteSpace() const {
+    // What is no known value goes in by the first syntax.
+    const zent::AVTE type = zent::syntaxToAVTE(m_id.getSyntax(0));
+    return type == zent::AVTE_NAME || type == zent::AVTE_TEXT;
+}
+
+bool Feature::isPageLevel() const {
+    if (getKind() != ValueKind::collection) {
+        return false;
+    }
+    const std::vector<Feature> features = all();
+    return std::none_of(features.begin(), features.end(), [this](const Feature& feature) {
+        return !(feature == *this) && feature.isMemberOf(*this);
+    });
+}
+
+bool Feature::standsInTicket() const {
+    const zent::NestedAttrID& path = m_id.getNestedAttrID();
+    const zent::CXString& outermost =
+        path.getDepth() == 0 ? m_id.getName() : path.getParentName(path.getDepth() - 1);
+    return zent::findOrdoCategory(outermost) != zent::OrdoCategory::none;
+}
+
+bool Feature::isMemberOf(const Feature& collection) const {
+    return m_id.getNestedAttrID().hasParent(collection.m_id.getName());
+}
+
+std::string Feature::getLocation() const {
+    const zent::NestedAttrID& path = m_id.getNestedAttrID();
+    const zent::CXString& value = u"value";
+    std::string location;
+    for (std::uint32_t index = path.getDepth(); index-- > 0;) {
+        // Sets stand for their members, and a set that names the feature isn't around it.
+        if (path.isNamingParent(index) || path.getParentName(index) == value) {
+            continue;
+        }
+        location += (location.empty() ? "" : " / ") + toUtf8(path.getParentName(index));
+    }
+    return location;
+}
+
+std::vector<zent::FeatureValue> Feature::getValues() const {
+    std::vector<zent::FeatureValue> values;
+    for (std::int32_t number = zent::FeatureValue::unspecified + 1;
+         number < zent::FeatureValueDataBase::firstRunTimeValue; ++number) {
+        if (zent::FeatureValue::isValidNumber(number) &&
+            zent::FeatureValue(number).belongsTo(getNumber())) {
+            values.emplace_back(number);
+        }
+    }
+    return values;
+}
+
+} // namespace jobticket

@@ -1,0 +1,155 @@
+#include <CLI/CLI.hpp>
+
+#include "Commands.h"
+#include "Completion.h"
+#include "Feature.h"
+#include "Listing.h"
+#include "Text.h"
+#include "TicketFile.h"
+#include "Value.h"
+
+namespace jobticket {
+
+namespace {
+
+struct FeaturesOptions {
+    std::string pattern;
+    bool table = false;
+    std::string word;
+};
+
+using Row = std::vector<std::string>;
+
+struct NamedValue {
+    std::string name;
+    std::string displayName;
+};
+
+std::vector<Feature> findFeatures(const std::string& pattern) {
+    if (Feature::exists(pattern)) {
+        return {Feature::named(pattern)};
+    }
+    std::vector<Feature> found;
+    for (const Feature& feature : Feature::all()) {
+        if (containsIgnoringCase(feature.getName(), pattern) ||
+            containsIgnoringCase(feature.getDisplayName(), pattern)) {
+            found.push_back(feature);
+        }
+    }
+    return found;
+}
+
+std::string kindOf(const Feature& feature) {
+    return (feature.takesSeveral() ? "set of " : "") + feature.describeKind();
+}
+
+std::string listFeatures(const std::vector<Feature>& features) {
+    std::vector<Row> rows;
+    for (const Feature& feature : features) {
+        rows.push_back({feature.getName(), kindOf(feature), feature.getDisplayName()});
+    }
+    return layOut(rows);
+}
+
+/// The collections that hold the feature; empty if it lies in the ticket itself.
+std::string locationOf(const Feature& feature) {
+    return feature.standsInTicket() ? feature.getLocation() : "page-level features only";
+}
+
+/// What is known by name, and its name for people.
+std::vector<NamedValue> namedValuesOf(const Feature& feature) {
+    std::vector<NamedValue> values;
+    for (const zent::FeatureValue& value : feature.getValues()) {
+        values.push_back({toUtf8(value.getText()), toPrintable(value.getDisplayString())});
+    }
+    if (feature.getKind() == ValueKind::size) {
+        for (const zent::StockSize& size : getNamedSizes()) {
+            values.push_back({toUtf8(size.getSizeName()), toPrintable(size.getDisplayName())});
+        }
+    }
+    return values;
+}
+
+std::string describe(const Feature& feature) {
+    std::vector<Row> rows = {{"Feature", feature.getName()},
+                             {"Name", feature.getDisplayName()},
+                             {"Type", kindOf(feature)}};
+    if (const std::string location = locationOf(feature); !location.empty()) {
+        rows.push_back({"Lies in", location});
+    }
+    rows.push_back(
+        {"Write", describeSyntax(feature) +
+                      (feature.takesSeveral() && feature.getKind() != ValueKind::collection
+                           ? "; several with commas between them"
+                           : "")});
+    std::string text = layOut(rows);
+    rows.clear();
+    for (const NamedValue& value : namedValuesOf(feature)) {
+        rows.push_back({"  " + value.name, value.displayName});
+    }
+    return text + (rows.empty() ? "" : "Values\n" + layOut(rows));
+}
+
+/// One line a feature, tabs between the columns: number, name, type, set or single, location, name
+/// for people, and the values with their names.
+std::string makeTable(const std::vector<Feature>& features) {
+    std::string text;
+    for (const Feature& feature : features) {
+        text += std::to_string(feature.getNumber()) + '\t' + feature.getName() + '\t' +
+                feature.describeKind() + '\t' + (feature.takesSeveral() ? "set" : "single") + '\t' +
+                locationOf(feature) + '\t' + feature.getDisplayName();
+        for (const NamedValue& value : namedValuesOf(feature)) {
+            text += '\t' + value.name + '=' + value.displayName;
+        }
+        text += '\n';
+    }
+    return text;
+}
+
+ExitStatus listOrDescribe(const FeaturesOptions& options) {
+    const std::vector<Feature> features = findFeatures(options.pattern);
+    if (features.empty()) {
+        Feature::named(options.pattern); // raises the error that suggests a name
+    }
+    std::string text;
+    if (options.table) {
+        text = makeTable(features);
+    } else {
+        text = features.size() == 1 ? describe(features.front()) : listFeatures(features);
+    }
+    writeFile(std::string(standardStream), text);
+    return ExitStatus::success;
+}
+
+ExitStatus complete(const FeaturesOptions& options) {
+    std::string text;
+    for (const std::string& candidate : completeWord(options.word)) {
+        text += candidate + '\n';
+    }
+    writeFile(std::string(standardStream), text);
+    return ExitStatus::success;
+}
+
+} // namespace
+
+void addFeaturesCommand(CLI::App& program, Action& action) {
+    CLI::App* command =
+        program.add_subcommand("features", "List the features that a ticket may hold");
+    const auto options = std::make_shared<FeaturesOptions>();
+    command->add_option("PATTERN", options->pattern,
+                        "A feature, to see all about it and its values; or a part of the names of "
+                        "those to list");
+    command->add_flag("--table", options->table,
+                      "One line a feature with tabs between the columns, for other programs");
+    const CLI::Option* word =
+        command->add_option("--complete", options->word,
+                            "List what FEATURE=VALUE may begin so; for the shell's completion");
+    command->callback([options, word, &action] {
+        const bool completes = word->count() > 0;
+        action = [options, completes] {
+            return completes ? complete(*options) : listOrDescribe(*options);
+        };
+    });
+}
+
+} // namespace jobticket

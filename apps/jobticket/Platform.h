@@ -1,0 +1,18 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace jobticket::platform {
+
+/// The arguments in UTF-8, without the program's name.
+std::vector<std::string> getArguments(int count, char** arguments);
+
+/// Makes the standard streams pass bytes on as they are, and a console show UTF-8.
+void prepareStandardStreams();
+
+/// The path that an argument names.
+std::filesystem::path toPath(const std::string& argument);
+
+} // namespace jobticket::platform

@@ -1,0 +1,150 @@
+#include "Session.h"
+
+#include <limits>
+#include <utility>
+
+#include "LibraryError.h"
+#include "Text.h"
+
+namespace jobticket {
+
+namespace {
+
+// Tickets are edited as they are, without regard to a printer, but a session wants one. Every model
+// has this language.
+constexpr std::uint32_t anyModel = 1;
+constexpr std::uint32_t monochromePcl = 2;
+
+ZentText textOf(const Feature& feature) { return toZent(feature.getId().getName()); }
+
+/// Chooses the call for each kind of value.
+struct Setter {
+    ZentSessionType session;
+    TarvoJtSettingsType settings;
+    const Feature& feature;
+    std::uint32_t index;
+
+    void operator()(const std::u16string& text) const {
+        check(fnSetStringValue(session, settings, textOf(feature).c_str(), toZent(text).c_str(),
+                               index),
+              "fnSetStringValue", feature.getName());
+    }
+    void operator()(std::int32_t number) const {
+        check(fnSetNumberValue(session, settings, textOf(feature).c_str(), number, index),
+              "fnSetNumberValue", feature.getName());
+    }
+    void operator()(const Range& range) const {
+        check(fnSetRangeValues(session, settings, textOf(feature).c_str(), range.lower, range.upper,
+                               index),
+              "fnSetRangeValues", feature.getName());
+    }
+    void operator()(const DotDensity& density) const {
+        check(fnSetResolutionValue(session, settings, textOf(feature).c_str(), density.crossFeed,
+                                   density.feed, density.units, index),
+              "fnSetResolutionValue", feature.getName());
+    }
+    void operator()(const Size& size) const {
+        check(fnSetStockSizeValues(session, settings, size.width, size.height),
+              "fnSetStockSizeValues", feature.getName());
+    }
+};
+
+} // namespace
+
+Session::Session() {
+    check(fnOpenSession(ZENT_INTERFACE_VERSION, anyModel, monochromePcl, ZENT_INSTRUCTIONS_XML, 1,
+                        nullptr, 1, &m_handle),
+          "fnOpenSession");
+}
+
+Session::~Session() { fnCloseSession(&m_handle); }
+
+void Session::importTicket(std::string_view document, const std::string& name) {
+    if (document.size() > std::numeric_limits<std::uint32_t>::max()) {
+        throw LibraryError(ZENT_ERR_XML_OTHER, "fnImportJobTicket", name);
+    }
+    ZentBool problems = 0;
+    ZentBool applied = 0;
+    check(fnImportJobTicket(m_handle, document.data(), static_cast<std::uint32_t>(document.size()),
+                            ZENT_FORMAT_XML, ZENT_APPLY_SILENT_KEEP, nullptr, nullptr, &problems,
+                            &applied),
+          "fnImportJobTicket", name);
+}
+
+std::string Session::exportTicket() {
+    std::uint32_t size = 0;
+    check(fnExportJobTicket(m_handle, nullptr, &size, ZENT_FORMAT_XML), "fnExportJobTicket");
+    std::string document(size, '\0');
+    check(fnExportJobTicket(m_handle, document.data(), &size, ZENT_FORMAT_XML),
+          "fnExportJobTicket");
+    return document;
+}
+
+Ticket Session::getTicket() {
+    TarvoJtSettingsType handle = nullptr;
+    check(fnGetTarvoJtSettingsFromSession(m_handle, &handle), "fnGetTarvoJtSettingsFromSession");
+    return {m_handle, handle};
+}
+
+Ticket Ticket::create(ZentSessionType session) {
+    TarvoJtSettingsType handle = nullptr;
+    check(fnCreateNewTarvoJtSettings(session, &handle), "fnCreateNewTarvoJtSettings");
+    if (handle == nullptr) {
+        throw LibraryError(ZENT_ERR_OUT_OF_MEMORY, "fnCreateNewTarvoJtSettings", "");
+    }
+    return {session, handle};
+}
+
+Ticket::Ticket(const Session& session) : Ticket(create(session.getHandle())) {}
+
+Ticket Ticket::createEmpty() const { return create(m_session); }
+
+Ticket::Ticket(Ticket&& other) noexcept
+    : m_session(other.m_session), m_handle(std::exchange(other.m_handle, nullptr)) {}
+
+Ticket::~Ticket() {
+    if (m_handle != nullptr) {
+        fnReleaseTarvoJtSettings(m_session, &m_handle); // leaves the session's own ticket alone
+    }
+}
+
+std::uint32_t Ticket::count(const Feature& feature) const {
+    std::uint32_t number = 0;
+    check(fnGetNumberOfValues(m_session, m_handle, textOf(feature).c_str(), &number),
+          "fnGetNumberOfValues", feature.getName());
+    return number;
+}
+
+void Ticket::set(const Feature& feature, std::uint32_t index, const Value& value) {
+    std::visit(Setter{m_session, m_handle, feature, index}, value);
+}
+
+void Ticket::remove(const Feature& feature, std::uint32_t index) {
+    check(fnRemovePageLevelFeatureFromTarvoJtSettings(m_session, m_handle, textOf(feature).c_str(),
+                                                      index),
+          "fnRemovePageLevelFeatureFromTarvoJtSettings", feature.getName());
+}
+
+void Ticket::removeAll() {
+    check(fnUnspecifyAllFeatures(m_session, m_handle), "fnUnspecifyAllFeatures");
+}
+
+Ticket Ticket::copyNested(const Feature& feature, std::uint32_t index) const {
+    TarvoJtSettingsType handle = nullptr;
+    check(fnCreateTarvoJtSettingsFromPageLevelFeature(m_session, m_handle, textOf(feature).c_str(),
+                                                      index, &handle),
+          "fnCreateTarvoJtSettingsFromPageLevelFeature", feature.getName());
+    if (handle == nullptr) {
+        throw LibraryError(ZENT_ERR_OUT_OF_MEMORY, "fnCreateTarvoJtSettingsFromPageLevelFeature",
+                           feature.getName());
+    }
+    return {m_session, handle};
+}
+
+void Ticket::setNested(const Feature& feature, std::uint32_t index, const Ticket& nested) {
+    check(fnSetPageLevelFeatureFromTarvoJtSettings(m_session, m_handle, textOf(feature).c_str(),
+                                                   index, nested.m_handle),
+          "fnSetPageLevelFeatureFromTarvoJtSettings", feature.getName());
+}
+
+} // namespace jobticket

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "Feature.h"
+#include "Value.h"
+#include "zent27.h"
+
+namespace jobticket {
+
+class Ticket;
+
+/// A session of the library, opened silent: what fails is raised as LibraryError, and the program
+/// tells the user.
+class Session {
+public:
+    Session();
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    ZentSessionType getHandle() const { return m_handle; }
+
+    /// Reads a ticket document in place of the ticket that the session holds. Nothing is repaired.
+    void importTicket(std::string_view document, const std::string& name);
+    std::string exportTicket();
+    /// The ticket that the session holds.
+    Ticket getTicket();
+
+private:
+    ZentSessionType m_handle = nullptr;
+};
+
+/// A ticket, or a part of one, behind a settings handle of a session.
+class Ticket {
+public:
+    /// An empty one of its own.
+    explicit Ticket(const Session& session);
+    ~Ticket();
+    Ticket(Ticket&& other) noexcept;
+    Ticket(const Ticket&) = delete;
+    Ticket& operator=(const Ticket&) = delete;
+
+    std::uint32_t count(const Feature& feature) const;
+    /// Replaces a value, or appends it.
+    void set(const Feature& feature, std::uint32_t index, const Value& value);
+    void remove(const Feature& feature, std::uint32_t index);
+    void removeAll();
+
+    /// A copy of the collection that is the value of a feature; empty if there is none.
+    Ticket copyNested(const Feature& feature, std::uint32_t index) const;
+    void setNested(const Feature& feature, std::uint32_t index, const Ticket& nested);
+
+    /// An empty one, in the same session.
+    Ticket createEmpty() const;
+
+private:
+    friend class Session;
+    Ticket(ZentSessionType session, TarvoJtSettingsType handle)
+        : m_session(session), m_handle(handle) {}
+    static Ticket create(ZentSessionType session);
+
+    ZentSessionType m_session;
+    TarvoJtSettingsType m_handle;
+};
+
+} // namespace jobticket

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "zent27.h"
+
+namespace jobticket {
+
+/// Text as the exported calls take it.
+using ZentText = std::basic_string<ZentChar>;
+
+/// UTF-8 is what the program reads and prints on every system, whatever the locale.
+std::string toUtf8(std::u16string_view text);
+/// Raises ProgramError (usage) for text that isn't UTF-8.
+std::u16string fromUtf8(std::string_view text);
+
+/// Units are copied as they are: ZentChar is 16 bits wide everywhere.
+ZentText toZent(std::u16string_view text);
+std::u16string fromZent(const ZentText& text);
+
+/// UTF-8 for one line of a listing: control characters, which could break the line or steer a
+/// terminal, are shown as "\n", "\t" or "\x1b".
+std::string toPrintable(std::u16string_view text);
+
+/// Whether the text holds another, ASCII letters compared without regard to case.
+bool containsIgnoringCase(std::string_view text, std::string_view part);
+
+} // namespace jobticket

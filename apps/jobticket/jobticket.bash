@@ -1,0 +1,55 @@
+# Completion of jobticket for bash: commands, options, files, features and values.
+
+# Candidates for FEATURE=VALUE. Bash splits words at "=", so what has been typed is taken from the
+# line, and of each candidate only what lies behind "=" is given back.
+_jobticket_assignments() {
+    local program=$1 typed=${COMP_LINE:0:COMP_POINT} candidate
+    typed=${typed##*[[:space:]]}
+    typed=${typed#[\'\"]}
+    while IFS= read -r candidate; do
+        if [[ $typed == *=* ]]; then
+            candidate=${candidate#*=}
+        fi
+        COMPREPLY+=("$candidate")
+    done < <("$program" features --complete "$typed" 2> /dev/null)
+    compopt -o nospace 2> /dev/null # more may follow behind "=", "." and ","
+}
+
+_jobticket_options() {
+    case $1 in
+    show) echo --help --raw ;;
+    set) echo --help --output ;;
+    unset) echo --help --output --all ;;
+    features) echo --help --table ;;
+    diff) echo --help ;;
+    *) echo --help --version show set unset diff features ;;
+    esac
+}
+
+_jobticket() {
+    local program=$1 current=$2 previous=$3 command="" before="" word
+    local -i arguments=0
+    COMPREPLY=()
+    for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
+        if [[ $word != -* && $before != -o && $before != --output ]]; then
+            if [[ -z $command ]]; then command=$word; else arguments+=1; fi
+        fi
+        before=$word
+    done
+    if [[ -z $command || $current == -* ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "$(_jobticket_options "$command")" -- "$current")
+    elif [[ $command == features ]]; then
+        _jobticket_assignments "$program"
+        COMPREPLY=("${COMPREPLY[@]%%[=.[]*}")
+    elif [[ $command == @(set|unset) && $previous != @(-o|--output) && arguments -gt 0 ]]; then
+        _jobticket_assignments "$program"
+        if [[ $command == unset ]]; then
+            COMPREPLY=("${COMPREPLY[@]%=}")
+        fi
+    else
+        compopt -o filenames 2> /dev/null
+        mapfile -t COMPREPLY < <(compgen -f -- "$current")
+    fi
+}
+
+complete -F _jobticket jobticket

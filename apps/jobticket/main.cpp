@@ -1,0 +1,78 @@
+// jobticket: reads, edits and compares job tickets on the command line.
+
+#include <algorithm>
+#include <iostream>
+
+#include <CLI/CLI.hpp>
+
+#include "Commands.h"
+#include "Platform.h"
+#include "Text.h"
+#include "ZENT_API/ModuleDirectory.h"
+#include "ocore/TarvoException.h"
+
+namespace jobticket {
+
+namespace {
+
+constexpr const char* aboutStatus = R"(Exit status:
+  0  success                       4  the file is no valid ticket
+  1  diff: the tickets differ      5  a feature or value that isn't known
+  2  wrong use of the command      6  the result can't be written
+  3  a file can't be read          7  any other failure of the library
+)";
+
+/// Reads the command line. What CLI11 has to say (help, wrong use) it prints itself; then there is
+/// nothing to do.
+ExitStatus parse(CLI::App& program, std::vector<std::string> arguments) {
+    try {
+        std::reverse(arguments.begin(), arguments.end()); // the order in which they are taken
+        program.parse(std::move(arguments));
+    } catch (const CLI::ParseError& error) {
+        return program.exit(error) == 0 ? ExitStatus::success : ExitStatus::usage;
+    }
+    return ExitStatus::success;
+}
+
+ExitStatus run(const std::vector<std::string>& arguments) {
+    CLI::App program("Reads, edits and compares job tickets for production printers.", "jobticket");
+    program.set_version_flag("--version", "jobticket " ZENT_VERSION);
+    program.require_subcommand(1);
+    program.footer(std::string("\"jobticket COMMAND --help\" tells more about a command.\n\n") +
+                   aboutStatus);
+    Action action;
+    addShowCommand(program, action);
+    addSetCommand(program, action);
+    addUnsetCommand(program, action);
+    addDiffCommand(program, action);
+    addFeaturesCommand(program, action);
+    const ExitStatus status = parse(program, arguments);
+    return action ? action() : status;
+}
+
+int fail(ExitStatus status, const std::string& message) {
+    std::cerr << "jobticket: " << message << '\n';
+    return static_cast<int>(status);
+}
+
+} // namespace
+
+} // namespace jobticket
+
+int main(int count, char** arguments) {
+    using jobticket::ExitStatus;
+    try {
+        jobticket::platform::prepareStandardStreams();
+        // Display names and the document type are found beside the program, with no session yet.
+        zent::announceModuleDirectory();
+        return static_cast<int>(
+            jobticket::run(jobticket::platform::getArguments(count, arguments)));
+    } catch (const jobticket::ProgramError& error) {
+        return jobticket::fail(error.getStatus(), error.what());
+    } catch (const zent::TarvoException& exception) {
+        return jobticket::fail(ExitStatus::libraryFailure,
+                               jobticket::toPrintable(exception.getMessage()));
+    } catch (const std::exception& exception) {
+        return jobticket::fail(ExitStatus::libraryFailure, exception.what());
+    }
+}
