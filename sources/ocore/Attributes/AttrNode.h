@@ -25,6 +25,7 @@ public:
 
     const AttrID& getAttrID() const { return m_id; }
     const CXString& getName() const { return m_id.getText(); }
+    void setAttrID(const AttrID& id) { m_id = id; }
     const AttrValue& getAttrValue() const { return *m_value; }
     AttrValue& getAttrValue() { return *m_value; }
     bool isPrivate() const { return m_private; }

@@ -2,8 +2,10 @@
 
 #include <new>
 
+#include "ocore/OrdoParse/OCapDomDoc.h"
 #include "ocore/OrdoParse/OrdoDomDoc.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
+#include "ocore/OrdoParse/SOrdoDomDoc.h"
 
 namespace zent {
 
@@ -57,9 +59,13 @@ std::unique_ptr<TarvoDomDoc> TarvoXmlDataStream::createDomDocument() const {
         }
         document.reset(new (std::nothrow) OrdoDomDoc(getStreamName(), true));
         break;
-    case XmlDataType::ocap: // only the forms that exist can be made
-    case XmlDataType::mediaPreference:
+    case XmlDataType::ocap:
+        document.reset(new (std::nothrow) OCapDomDoc(getStreamName(), findDtdName() != nullptr));
+        break;
     case XmlDataType::smallOrdo:
+        document.reset(new (std::nothrow) SOrdoDomDoc(getStreamName(), findDtdName() != nullptr));
+        break;
+    case XmlDataType::mediaPreference: // only the forms that exist can be made
     case XmlDataType::notSpecified:
     default:
         raiseOrdoParse(ordoParseCode::noDataType,

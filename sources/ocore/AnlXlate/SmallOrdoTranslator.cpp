@@ -1,0 +1,139 @@
+#include "ocore/AnlXlate/SmallOrdoTranslator.h"
+
+#include <utility>
+
+#include "ocore/Attributes/IppList.h"
+#include "ocore/FeatureSettings/FeatureDataBase.h"
+#include "ocore/FeatureSettings/FeatureValueDataBase.h"
+#include "ocore/OrdoParse/TarvoXmlFile.h"
+
+namespace zent {
+
+namespace {
+
+constexpr FeatureEnum noFeature = 0;
+constexpr char16_t mark = u'*';
+
+using MemberCode = std::pair<CXString, CXString>;
+const MemberCode memberCodes[] = {
+    {u"value", u"V"},      {u"lower-bound", u"L"},    {u"upper-bound", u"U"},
+    {u"cross-feed", u"C"}, {u"feed-direction", u"F"}, {u"units", u"T"},
+};
+
+/// Goes through a list and all lists within it, the embedded ones first. The feature that the last
+/// node stood for is carried along, since a value is abbreviated by its feature's table: what
+/// encodes and what decodes come to the same features in the same order.
+template <typename Coder>
+void walk(AttrNodeList& list, FeatureEnum& current, const Coder& coder) {
+    for (std::uint32_t i = 0; i < list.getNumberOfNodes(); ++i) {
+        AttrNode& node = list.getNodeAt(i);
+        AttrValue& value = node.getAttrValue();
+        if (value.isList()) {
+            walk(static_cast<IppList&>(value).getAttrNodeList(), current, coder);
+        }
+        coder.renameNode(node, current);
+        if (!value.isList()) {
+            coder.changeValue(value, current);
+        }
+    }
+}
+
+class Encoder {
+public:
+    void renameNode(AttrNode& node, FeatureEnum& current) const {
+        if (m_features.hasUniqueID(node.getName())) {
+            const FeatureInfo& feature = m_features.getFeatureInfo(node.getName());
+            current = feature.m_feature;
+            node.setAttrID(AttrID(feature.m_abbreviation));
+            return;
+        }
+        for (const auto& [name, code] : memberCodes) {
+            if (node.getName() == name) {
+                node.setAttrID(AttrID(code));
+                return;
+            }
+        }
+        current = noFeature;
+    }
+
+    void changeValue(AttrValue& value, FeatureEnum current) const {
+        const CXString text = value.getIppValue();
+        if (text.view().starts_with(mark) || m_values.hasAbbreviation(text)) {
+            value.setIppValue(mark + text);
+        } else if (current != noFeature && m_values.hasFeatureValue(current, text)) {
+            const CXString& code = m_values.getFeatureValueInfo(current, text).m_abbreviation;
+            if (!code.isEmpty()) {
+                value.setIppValue(code);
+            }
+        }
+    }
+
+private:
+    FeatureDataBase m_features;
+    FeatureValueDataBase m_values;
+};
+
+class Decoder {
+public:
+    void renameNode(AttrNode& node, FeatureEnum& current) const {
+        if (m_features.hasAbbreviation(node.getName())) {
+            const FeatureInfo& feature = m_features.getFeatureInfoByAbbreviation(node.getName());
+            current = feature.m_feature;
+            node.setAttrID(AttrID(feature.m_nestedID.getName()));
+            return;
+        }
+        for (const auto& [name, code] : memberCodes) {
+            if (node.getName() == code) {
+                node.setAttrID(AttrID(name));
+                return;
+            }
+        }
+        current = noFeature;
+    }
+
+    void changeValue(AttrValue& value, FeatureEnum current) const {
+        CXString text = value.getIppValue();
+        if (text.length() >= 2 && text.view().starts_with(mark)) {
+            const CXString rest = text.mid(1);
+            const bool isMarkedCode = m_values.hasAbbreviation(rest);
+            if (isMarkedCode || rest.view().starts_with(mark)) {
+                value.setIppValue(rest);
+                text = rest;
+            }
+            if (isMarkedCode) {
+                return;
+            }
+        }
+        if (current != noFeature && m_values.hasAbbreviation(text)) {
+            value.setIppValue(m_values.getFeatureValueInfoByAbbreviation(text).m_text);
+        }
+    }
+
+private:
+    FeatureDataBase m_features;
+    FeatureValueDataBase m_values;
+};
+
+} // namespace
+
+bool SmallOrdoTranslator::prepareForOutput(const AttrNodeList& source, AttrNodeList* target) {
+    *target = source;
+    FeatureEnum current = noFeature;
+    walk(*target, current, Encoder());
+    return true;
+}
+
+void SmallOrdoTranslator::finishAfterInput(AttrNodeList* list) {
+    FeatureEnum current = noFeature;
+    walk(*list, current, Decoder());
+}
+
+std::unique_ptr<TarvoXmlFile> SmallOrdoTranslator::createFileStream(const CXString& fileName) {
+    return std::make_unique<TarvoXmlFile>(XmlDataType::smallOrdo, fileName);
+}
+
+std::unique_ptr<TarvoXmlDataStream> SmallOrdoTranslator::createDataStream() {
+    return std::make_unique<TarvoXmlDataStream>(XmlDataType::smallOrdo);
+}
+
+} // namespace zent
