@@ -9,8 +9,13 @@ MAKEFLAGS += --no-print-directory
 PREFIX ?= /usr/local
 DESTDIR ?=
 FUZZ_SECONDS ?= 60
-# More arguments of the benchmark program, such as --benchmark_filter=Import
+# More arguments of the benchmark program, such as --benchmark_filter=import
 BENCH_ARGUMENTS ?=
+
+# Repetitions are shuffled, so that a burst of other work on the machine falls on all alike.
+bench_settings = --benchmark_repetitions=15 --benchmark_min_time=0.05 \
+	--benchmark_enable_random_interleaving=true --benchmark_report_aggregates_only=true \
+	--benchmark_out=build/bench/figures.json
 
 say = @echo; echo "== $(1)"
 configure = cmake --preset $(1) --log-level=WARNING
@@ -82,8 +87,9 @@ bench:
 	$(call say,Building the benchmarks)
 	@$(call configure,bench)
 	@$(call build,bench)
-	$(call say,Benchmarks)
-	@build/bench/bin/zent_benchmarks $(BENCH_ARGUMENTS)
+	$(call say,Benchmarks (all their figures: build/bench/figures.txt))
+	@build/bench/bin/zent_benchmarks $(bench_settings) $(BENCH_ARGUMENTS) >build/bench/figures.txt
+	@tools/bench-table build/bench/figures.json
 
 .PHONY: fuzz
 fuzz:
