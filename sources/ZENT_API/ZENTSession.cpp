@@ -7,7 +7,7 @@ namespace zent {
 
 ZENTSession& ZENTSession::getSessionObject(ZentSessionType handle) {
     if (!platform::isWritableMemory(handle, sizeof(ZENTSession))) {
-        Raise<InvalidZentSessionException>(traceLevel::handleCheck)(
+        Raise<InvalidZentSessionException>{traceLevel::handleCheck}(
             "ZENTSession::getSessionObject: Opaque session pointer 0x%lx is not a valid session "
             "ojbect.\r\n",
             reinterpret_cast<std::uintptr_t>(handle));
@@ -18,7 +18,7 @@ ZENTSession& ZENTSession::getSessionObject(ZentSessionType handle) {
 FeatureSettings& ZENTSession::getSettingsObject(const TarvoJtSettingsType* variable) {
     const TarvoJtSettingsType handle = *variable;
     if (!platform::isWritableMemory(handle, sizeof(FeatureSettings))) {
-        Raise<InvalidTarvoJtSettingsException>(traceLevel::handleCheck)(
+        Raise<InvalidTarvoJtSettingsException>{traceLevel::handleCheck}(
             "ZENTSession::getSettingsObject: Opaque TarvoJtSettingsType pointer 0x%lx is not a "
             "valid FeatureSettings ojbect.\r\n",
             reinterpret_cast<std::uintptr_t>(handle));
