@@ -1,9 +1,9 @@
 #include "Feature.h"
 
 #include <algorithm>
-#include <numeric>
 
 #include "ExitStatus.h"
+#include "Spelling.h"
 #include "Text.h"
 #include "ocore/FeatureSettings/FeatureDataBase.h"
 #include "ocore/FeatureSettings/FeatureTable.h"
@@ -16,41 +16,7 @@ namespace {
 
 constexpr std::string_view sizeCollection = "media-size";
 
-/// The number of letters to insert, leave out or replace, to make one text of another.
-std::size_t editDistance(std::string_view a, std::string_view b) {
-    std::vector<std::size_t> row(b.size() + 1);
-    std::iota(row.begin(), row.end(), std::size_t(0));
-    for (std::size_t i = 1; i <= a.size(); ++i) {
-        std::size_t diagonal = row[0];
-        row[0] = i;
-        for (std::size_t j = 1; j <= b.size(); ++j) {
-            const std::size_t replaced = diagonal + (a[i - 1] == b[j - 1] ? 0 : 1);
-            diagonal = row[j];
-            row[j] = std::min({replaced, row[j] + 1, row[j - 1] + 1});
-        }
-    }
-    return row.back();
-}
-
 } // namespace
-
-std::string findNearest(std::string_view text, const std::vector<std::string>& names) {
-    constexpr std::size_t longestText = 64; // beyond that it is no misspelt name
-    const bool isNumber = text.find_first_not_of("0123456789") == std::string_view::npos;
-    if (isNumber || text.size() > longestText) {
-        return {};
-    }
-    std::string nearest;
-    std::size_t best = std::max<std::size_t>(2, text.size() / 3) + 1;
-    for (const std::string& name : names) {
-        const std::size_t distance = editDistance(text, name);
-        if (distance < best) {
-            best = distance;
-            nearest = name;
-        }
-    }
-    return nearest;
-}
 
 bool Feature::exists(std::string_view name) {
     return !name.empty() && zent::_FI::isFeatureName(zent::CXString(fromUtf8(name)));

@@ -68,8 +68,4 @@ private:
     zent::_FI m_id;
 };
 
-/// The name of the list that comes closest to a text, or empty if none is near. Nothing is near to
-/// a number.
-std::string findNearest(std::string_view text, const std::vector<std::string>& names);
-
 } // namespace jobticket

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "ExitStatus.h"
+#include "Spelling.h"
 #include "Text.h"
 
 namespace jobticket {

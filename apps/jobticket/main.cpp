@@ -7,6 +7,7 @@
 
 #include "Commands.h"
 #include "Platform.h"
+#include "Spelling.h"
 #include "Text.h"
 #include "ZENT_API/ModuleDirectory.h"
 #include "ocore/TarvoException.h"
@@ -21,6 +22,25 @@ constexpr const char* aboutStatus = R"(Exit status:
   2  wrong use of the command      6  the result can't be written
   3  a file can't be read          7  any other failure of the library
 )";
+
+/// CLI11 would only say that a command is missing.
+void checkCommand(const CLI::App& program, const std::vector<std::string>& arguments) {
+    if (arguments.empty() || arguments.front().starts_with('-')) {
+        return;
+    }
+    std::vector<std::string> names;
+    for (const CLI::App* command : program.get_subcommands(nullptr)) {
+        names.push_back(command->get_name());
+    }
+    const std::string& name = arguments.front();
+    if (std::find(names.begin(), names.end(), name) == names.end()) {
+        const std::string nearest = findNearest(name, names);
+        throw ProgramError(ExitStatus::usage,
+                           "there is no command \"" + name + "\"; " +
+                               (nearest.empty() ? "\"jobticket --help\" lists all"
+                                                : "did you mean \"" + nearest + "\"?"));
+    }
+}
 
 /// Reads the command line. What CLI11 has to say (help, wrong use) it prints itself; then there is
 /// nothing to do.
@@ -46,6 +66,7 @@ ExitStatus run(const std::vector<std::string>& arguments) {
     addUnsetCommand(program, action);
     addDiffCommand(program, action);
     addFeaturesCommand(program, action);
+    checkCommand(program, arguments);
     const ExitStatus status = parse(program, arguments);
     return action ? action() : status;
 }

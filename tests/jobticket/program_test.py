@@ -1,0 +1,441 @@
+#!/usr/bin/env python3
+"""Runs the program jobticket as its users do, and looks at what it writes, says and returns."""
+import argparse
+import os
+import pathlib
+import re
+import shutil
+import stat
+import subprocess
+import sys
+import tempfile
+import unittest
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
+EXAMPLES = sorted((ROOT / "examples").glob("*.xml"))
+REPORT = ROOT / "examples" / "report.xml"
+COMPLETION = ROOT / "apps" / "jobticket" / "jobticket.bash"
+MANUAL = ROOT / "apps" / "jobticket" / "jobticket.1"
+COMMANDS = ["show", "set", "unset", "diff", "features"]
+
+OK, DIFFERENT, USAGE, UNREADABLE, INVALID, BAD_VALUE, UNWRITABLE, LIBRARY = range(8)
+
+EMPTY = (b'<?xml version="1.0" encoding="UTF-8"?>\r\n'
+         b'<!DOCTYPE ordo SYSTEM "ordo-v02025.dtd">\r\n'
+         b'<ordo krss-version="2.01" version="1.0" xml:lang="en-US"/>')
+
+program = []  # the command that starts the program
+example = None  # the example program in C
+is_windows = False
+
+
+def run(*arguments, data=b"", status=OK, cwd=None):
+    """The program's standard output; `status` is what it has to return."""
+    return run_for_both(*arguments, data=data, status=status, cwd=cwd)[0]
+
+
+def run_for_both(*arguments, data=b"", status=OK, cwd=None):
+    done = subprocess.run([*program, *map(str, arguments)], input=data, cwd=cwd,
+                          capture_output=True, timeout=100, check=False)
+    message = done.stderr.decode(errors="replace")
+    if done.returncode != status:
+        raise AssertionError(f"{arguments} gave {done.returncode}, not {status}: {message}")
+    return done.stdout, message
+
+
+def raw(document):
+    """A ticket's assignments, from a document."""
+    lines = run("show", "--raw", "-", data=document).decode().splitlines()
+    return dict(line.split("=", 1) for line in lines)
+
+
+class InFolder(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory(dir=os.environ.get("TEST_TMPDIR"))
+        self.addCleanup(folder.cleanup)
+        self.folder = pathlib.Path(folder.name)
+
+
+class Examples(InFolder):
+    def test_there_are_enough(self):
+        self.assertGreaterEqual(len(EXAMPLES), 6)
+
+    def test_each_passes_through_unchanged(self):
+        for ticket in EXAMPLES:
+            with self.subTest(ticket.name):
+                self.assertEqual(run("set", ticket), ticket.read_bytes())
+
+    def test_each_is_listed(self):
+        for ticket in EXAMPLES:
+            with self.subTest(ticket.name):
+                self.assertGreater(len(run("show", ticket).splitlines()), 10)
+
+    def test_each_can_be_built_from_its_listing(self):
+        for ticket in EXAMPLES:
+            with self.subTest(ticket.name):
+                # A line of the listing shows a line end as "\n".
+                edits = [f"{path}={value}".replace("\\n", "\n")
+                         for path, value in raw(ticket.read_bytes()).items()]
+                built = self.folder / ticket.name
+                run("set", "-", *edits, "-o", built, data=EMPTY)
+                self.assertEqual(run("diff", ticket, built), b"")
+
+
+    def test_the_program_in_c(self):
+        if not example:
+            self.skipTest("not given")
+        ticket = self.folder / "ticket.xml"
+        done = subprocess.run([*program[:-1], example, str(ticket)], capture_output=True, text=True,
+                              timeout=100, check=True)
+        self.assertIn(f"25 copies, {ticket.stat().st_size} bytes", done.stdout)
+        self.assertEqual(raw(ticket.read_bytes()), {
+            "job-name": "Quarterly report", "copies": "25", "sides": "two-sided-long-edge",
+            "page-ranges": "1-5,8-9", "media-size": "21000x29700"})
+
+
+class Editing(InFolder):
+    def test_writes_the_whole_document(self):
+        expected = "\r\n".join([
+            '<?xml version="1.0" encoding="UTF-8"?>',
+            '<!DOCTYPE ordo SYSTEM "ordo-v02025.dtd">',
+            '<ordo krss-version="2.01" version="1.0" xml:lang="en-US">',
+            "\t<ordo-operation-attributes>",
+            '\t\t<job-name syntax="name" xml:space="preserve"> Büro &lt;1&gt; &amp; "2"</job-name>',
+            "\t</ordo-operation-attributes>",
+            "\t<job-template-attributes>",
+            '\t\t<copies syntax="integer">2</copies>',
+            '\t\t<page-ranges syntax="1setOf">',
+            '\t\t\t<value syntax="rangeOfInteger">',
+            '\t\t\t\t<lower-bound syntax="integer">1</lower-bound>',
+            '\t\t\t\t<upper-bound syntax="integer">5</upper-bound>',
+            "\t\t\t</value>",
+            "\t\t</page-ranges>",
+            '\t\t<media-col syntax="collection">',
+            '\t\t\t<media-size syntax="collection">',
+            '\t\t\t\t<x-dimension syntax="integer">21000</x-dimension>',
+            '\t\t\t\t<y-dimension syntax="integer">29700</y-dimension>',
+            "\t\t\t</media-size>",
+            "\t\t</media-col>",
+            "\t</job-template-attributes>",
+            "</ordo>",
+        ])
+        edits = ['job-name= Büro <1> & "2"', "copies=2", "page-ranges=1-5",
+                 "media-size=21000x29700"]
+        written = run("set", "-", *edits, data=EMPTY)
+        self.assertEqual(written.decode(), expected)
+
+    def test_sets(self):
+        rows = [
+            # what is set, and what the ticket then says
+            (["copies=25"], {"copies": "25"}),
+            (["sides=two-sided-short-edge"], {"sides": "two-sided-short-edge"}),
+            (["media-size=297x210mm"], {"media-size": "21000x29700"}),
+            (["media-size=SIZE_17x11"], {"media-size": "27900x43200"}),
+            (["printer-resolution=600dpi"], {"printer-resolution": "600x600dpi"}),
+            (["printer-resolution=240x120dpcm"], {"printer-resolution": "240x120dpcm"}),
+            (["finishings=20,22"], {"finishings": "20,22"}),
+            (["finishings=20,22,28", "finishings=3"], {"finishings": "3"}),
+            (["finishings=20,22", "finishings[1]=28", "finishings[2]=3"],
+             {"finishings": "20,28,3"}),
+            (["page-ranges=1-5, 8", "page-ranges[0]=2-3"], {"page-ranges": "2-3,8"}),
+            (["x-side1-image-shift=-1.25mm"], {"x-side1-image-shift": "-125"}),
+            (["media-color= my own blue "], {"media-color": "my own blue"}),
+            (["job-name=  kept  "], {"job-name": "  kept  "}),
+            (["media-col.media-color=blue"], {"media-color": "blue"}),
+            (["cover-front.media-color=blue"], {"cover-front.media-color": "blue"}),
+            (["page-overrides[0].pages=3", "page-overrides[0].sides=one-sided"],
+             {"page-overrides[0].input-documents": "1", "page-overrides[0].pages": "3",
+              "page-overrides[0].sides": "one-sided"}),
+            (["insert-sheet[0].insert-after-page-number=4", "insert-sheet[1].insert-count=2"],
+             {"insert-sheet[0].insert-after-page-number": "4",
+              "insert-sheet[1].insert-count": "2"}),
+            (["form-name=a", "forms-col[1].form-name=b", "forms-col[1].form-cycle-start=7"],
+             {"form-name": "a", "forms-col[1].form-name": "b",
+              "forms-col[1].form-cycle-start": "7"}),
+        ]
+        for edits, expected in rows:
+            with self.subTest(edits):
+                self.assertEqual(raw(run("set", "-", *edits, data=EMPTY)), expected)
+
+    def test_keeps_the_place_of_what_is_replaced(self):
+        before = raw(REPORT.read_bytes())
+        after = raw(run("set", REPORT, "copies=99", "media-color=blue"))
+        self.assertEqual(list(before), list(after))
+
+    def test_unsets(self):
+        start = run("set", "-", "copies=2", "media-color=blue", "finishings=20,22,28",
+                    "page-overrides[0].pages=1-2", "page-overrides[1].pages=7",
+                    "page-overrides[1].sides=one-sided", "forms-col[0].form-name=a",
+                    "forms-col[1].form-name=b", data=EMPTY)
+        overrides = "page-overrides[{}].{}".format
+        rows = [
+            (["copies"], {"copies"}, {}),
+            (["sides", "insert-sheet", "page-overrides[9].pages", "cover-front.sides"], set(), {}),
+            (["media-color"], {"media-color"}, {}),
+            (["media-col"], {"media-color"}, {}),
+            (["finishings[1]"], set(), {"finishings": "20,28"}),
+            (["finishings"], {"finishings"}, {}),
+            (["page-overrides[1].sides"], {overrides(1, "sides")}, {}),
+            (["page-overrides[0]"],
+             {overrides(1, name) for name in ("input-documents", "pages", "sides")},
+             {overrides(0, "pages"): "7", overrides(0, "sides"): "one-sided"}),
+            (["forms-col[1].form-name"], {"forms-col[1].form-name"}, {}),
+        ]
+        for paths, gone, changed in rows:
+            with self.subTest(paths):
+                expected = {k: v for k, v in raw(start).items() if k not in gone} | changed
+                self.assertEqual(raw(run("unset", "-", *paths, data=start)), expected)
+        self.assertEqual(run("unset", "--all", REPORT), EMPTY)
+
+    def test_hints_at_a_slip(self):
+        _, message = run_for_both("set", REPORT, "media-color=bleu")
+        self.assertIn('did you mean "blue"?', message)
+        _, message = run_for_both("set", REPORT, "media-color=my own blue", "job-name=bleu")
+        self.assertEqual(message, "")
+
+
+class Files(InFolder):
+    def test_replaces_a_file_in_place(self):
+        ticket = self.folder / "ticket ü.xml"
+        shutil.copy(REPORT, ticket)
+        run("set", ticket, "copies=99", "-o", ticket)
+        self.assertEqual(raw(ticket.read_bytes())["copies"], "99")
+        self.assertEqual([file.name for file in self.folder.iterdir()], [ticket.name])
+
+    def test_leaves_the_file_alone_on_failure(self):
+        ticket = self.folder / "ticket.xml"
+        ticket.write_bytes(b"as it was")
+        run("set", REPORT, "copies=none", "-o", ticket, status=BAD_VALUE)
+        run("set", ticket, "copies=2", "-o", ticket, status=INVALID)
+        self.assertEqual(ticket.read_bytes(), b"as it was")
+        run("set", REPORT, "-o", self.folder, status=UNWRITABLE)
+        run("set", REPORT, "-o", self.folder / "none" / "ticket.xml", status=UNWRITABLE)
+        self.assertEqual([file.name for file in self.folder.iterdir()], [ticket.name])
+
+    def test_keeps_links_and_modes(self):
+        if is_windows:
+            self.skipTest("of POSIX")
+        ticket = self.folder / "ticket.xml"
+        shutil.copy(REPORT, ticket)
+        ticket.chmod(0o640)
+        link = self.folder / "link.xml"
+        link.symlink_to(ticket.name)
+        run("set", link, "copies=99", "-o", link)
+        self.assertTrue(link.is_symlink())
+        self.assertEqual(stat.S_IMODE(ticket.stat().st_mode), 0o640)
+        self.assertEqual(raw(ticket.read_bytes())["copies"], "99")
+
+    def test_writes_into_a_device(self):
+        if is_windows:
+            self.skipTest("of POSIX")
+        run("set", REPORT, "-o", "/dev/null")
+        self.assertTrue(stat.S_ISCHR(os.stat("/dev/null").st_mode))
+        run("set", REPORT, "-o", "/dev/full", status=UNWRITABLE)
+
+    def test_takes_standard_streams(self):
+        self.assertEqual(run("set", "-", data=REPORT.read_bytes()), REPORT.read_bytes())
+        self.assertEqual(run("diff", "-", REPORT, data=REPORT.read_bytes()), b"")
+        run("diff", "-", "-", status=USAGE)
+
+
+class Failures(InFolder):
+    def test_each_kind_has_its_status(self):
+        report = REPORT.read_bytes()
+        wrong_name = report.replace(b"copies", b"copiez")
+        wrong_type = EMPTY.replace(b"/>", b'><job-template-attributes><forms-col syntax="1setOf">'
+                                   b'<value syntax="text">no collection</value></forms-col>'
+                                   b"</job-template-attributes></ordo>")
+        rows = [
+            # arguments, standard input, status, what the message says
+            ([], b"", USAGE, "subcommand"),
+            (["edit", REPORT], b"", USAGE, "edit"),
+            (["shaw", REPORT], b"", USAGE, 'did you mean "show"'),
+            (["show"], b"", USAGE, "TICKET"),
+            (["show", REPORT, REPORT], b"", USAGE, ""),
+            (["set", REPORT, "copies"], b"", USAGE, "FEATURE=VALUE"),
+            (["show", self.folder / "none.xml"], b"", UNREADABLE, "none.xml"),
+            (["show", self.folder], b"", UNREADABLE, "folder"),
+            (["show", "-"], b"", INVALID, "empty"),
+            (["set", "-"], b"", INVALID, "empty"),
+            (["show", "-"], b"no XML", INVALID, "line 1, column 1"),
+            (["set", "-"], wrong_name, INVALID, "line 9, column 10: \"no declaration"),
+            (["diff", REPORT, "-"], report[:200], INVALID, "line 5"),
+            (["set", REPORT, "copis=2"], b"", BAD_VALUE, 'did you mean "copies"'),
+            (["unset", REPORT, "media-colour"], b"", BAD_VALUE, 'did you mean "media-color"'),
+            (["features", "zzz"], b"", BAD_VALUE, "zzz"),
+            (["set", REPORT, "copies=0"], b"", BAD_VALUE, "lowest is 1"),
+            (["set", REPORT, "copies=2.5"], b"", BAD_VALUE, "isn't a number"),
+            (["set", REPORT, "copies=4294967297"], b"", BAD_VALUE, "isn't a number"),
+            (["set", REPORT, "copies="], b"", BAD_VALUE, "empty"),
+            (["set", REPORT, "media-color=  "], b"", BAD_VALUE, "blank"),
+            (["set", REPORT, "sides=both"], b"", BAD_VALUE,
+             "allowed: one-sided, two-sided-long-edge, two-sided-short-edge"),
+            (["set", REPORT, "finishings=20,4"], b"", BAD_VALUE, '"4"'),
+            (["set", REPORT, "page-ranges=5-3"], b"", BAD_VALUE, "ends before"),
+            (["set", REPORT, "page-ranges=0-3"], b"", BAD_VALUE, "lowest is 1"),
+            (["set", REPORT, "printer-resolution=600"], b"", BAD_VALUE, "600x1200dpi"),
+            (["set", REPORT, "media-size=A4"], b"", BAD_VALUE, "SIZE_A4"),
+            (["set", REPORT, "media-size=0x0"], b"", BAD_VALUE, "lowest is 1"),
+            (["set", REPORT, "x-image-shift=999999999mm"], b"", BAD_VALUE, "x-image-shift"),
+            (["set", REPORT, "job-name=a\x01b"], b"", BAD_VALUE, "a\\x01b"),
+            (["set", REPORT, "media-col=blue"], b"", BAD_VALUE, "media-key=..."),
+            (["set", REPORT, "media-col.copies=2"], b"", BAD_VALUE, "no part of media-col"),
+            (["set", REPORT, "copies.sides=2"], b"", BAD_VALUE, "holds no other features"),
+            (["set", REPORT, "copies[0]=2"], b"", BAD_VALUE, "no index"),
+            (["set", REPORT, "finishings[x]=3"], b"", BAD_VALUE, "[0]"),
+            (["set", REPORT, "finishings[0=3"], b"", BAD_VALUE, "closed"),
+            (["set", REPORT, "finishings[0]=3,20"], b"", BAD_VALUE, "one value only"),
+            (["set", REPORT, "finishings[5]=3"], b"", BAD_VALUE, "the next is [1]"),
+            (["set", REPORT, "page-overrides[1].sides=one-sided"], b"", BAD_VALUE, "[0]"),
+            (["set", REPORT, "pages=1-2"], b"", BAD_VALUE, "page-overrides[0]"),
+            (["set", "-", "form-name=a"], wrong_type, INVALID, "form-name"),
+        ]
+        for arguments, data, status, expected in rows:
+            with self.subTest(arguments):
+                written, message = run_for_both(*arguments, data=data, status=status)
+                self.assertEqual(written, b"")
+                self.assertIn(expected, message)
+
+    def test_no_message_or_listing_steers_the_terminal(self):
+        name = "a\u009b31mb"
+        ticket = run("set", REPORT, f"job-name={name}")
+        self.assertIn(b"a\\x9b31mb", run("show", "-", data=ticket))
+        self.assertEqual(raw(ticket)["job-name"], "a\\x9b31mb")
+        _, message = run_for_both("set", REPORT, f"{name}=2", status=BAD_VALUE)
+        self.assertNotIn("\u009b", message)
+
+
+class Diff(InFolder):
+    def test_lists_what_differs(self):
+        other = self.folder / "other.xml"
+        run("set", REPORT, "copies=25", "cover-back.media-color=blue", "-o", other)
+        run("unset", other, "finishings", "-o", other)
+        lines = run("diff", REPORT, other, status=DIFFERENT).decode().splitlines()
+        self.assertEqual([line.split(maxsplit=1) for line in lines], [
+            ["copies", "3 -> 25"],
+            ["finishings", "20 -> (not set)"],
+            ["cover-back.media-color", "(not set) -> blue"],
+        ])
+
+    def test_order_says_nothing(self):
+        one = run("set", "-", "copies=2", "sides=one-sided", data=EMPTY)
+        other = self.folder / "other.xml"
+        run("set", "-", "sides=one-sided", "copies=2", "-o", other, data=EMPTY)
+        self.assertEqual(run("diff", "-", other, data=one), b"")
+
+
+class Looking(InFolder):
+    def test_show_for_people(self):
+        lines = {tuple(re.split(r"\s{2,}", line.strip())): len(line) - len(line.lstrip())
+                 for line in run("show", REPORT).decode().splitlines()}
+        for line, indent in [
+            (("Job name", "Quarterly report Q3"), 0),
+            (("Sides printed", "One-sided"), 0),
+            (("Media details",), 0),
+            (("Media size", "Letter (8.5 x 11 in)"), 2),
+            (("Media weight", "80 g/m2"), 2),
+            (("Finishing", "Staple, top left"), 0),
+            (("Resolution", "600 x 600 dpi"), 0),
+            (("Side 2 horizontal image shift", "-3 mm"), 0),
+        ]:
+            self.assertEqual(lines.get(line), indent, line)
+        self.assertEqual(run("show", "-", data=EMPTY), b"The ticket is empty.\n")
+        self.assertEqual(run("show", "--raw", "-", data=EMPTY), b"")
+
+    def test_show_lists_what_is_no_feature(self):
+        priority = b'<job-priority syntax="integer">50</job-priority>'
+        unknown = b'<job-sheets syntax="dateTime">2026</job-sheets>'
+        ticket = REPORT.read_bytes().replace(b"<copies", priority + unknown + b"<copies")
+        listed = raw(ticket)
+        self.assertEqual(listed["job-priority"], "50")
+        self.assertIn("dateTime", listed["job-sheets"])
+        self.assertEqual(run("diff", REPORT, "-", data=ticket, status=DIFFERENT).count(b"\n"), 2)
+
+    def test_features(self):
+        table = [line.split("\t") for line in run("features", "--table").decode().splitlines()]
+        self.assertEqual([int(row[0]) for row in table], list(range(2, 138)))
+        rows = {row[1]: row[2:] for row in table}
+        self.assertEqual(rows["page-ranges"][:4],
+                         ["range (page number)", "set", "", "Page ranges"])
+        self.assertEqual(rows["media-weight-metric"][:3], ["number (g/m2)", "single", "media-col"])
+        self.assertEqual(rows["x-dimension"][2], "media-col / media-size")
+        self.assertEqual(rows["pages"][2], "page-level features only")
+        self.assertEqual(rows["page-overrides"][:2], ["ticket", "set"])
+        self.assertIn("two-sided-long-edge=Two-sided, long edge", rows["sides"])
+        self.assertEqual(len(run("features").splitlines()), 136)
+        self.assertEqual({line.split()[0] for line in run("features", "HALFTONE").splitlines()},
+                         {b"halftone-graphics", b"halftone-images", b"halftone-text"})
+        self.assertIn(b"two-sided-long-edge   Two-sided, long edge", run("features", "sides"))
+
+    def test_help_and_manual_tell_all_commands(self):
+        general = run("--help").decode()
+        manual = MANUAL.read_text(encoding="utf-8")
+        for command in COMMANDS:
+            self.assertRegex(general, rf"(?m)^  {command} ")
+            self.assertIn(f"jobticket {command}", manual)
+            own = run(command, "--help").decode()
+            for option in set(re.findall(r"--[a-z]+", own)) - {"--help", "--complete"}:
+                self.assertIn(option.replace("-", "\\-"), manual.replace("\\-o", "\\-\\-output \\-o"))
+        self.assertRegex(run("--version").decode(), r"^jobticket \d+\.\d+\s*$")
+
+
+class Completion(InFolder):
+    def complete(self, line):
+        """What bash offers at the end of a line."""
+        script = """
+            source "$1"
+            COMP_LINE=$2 COMP_POINT=${#2}
+            # as bash splits it: at blanks, and at "=" and ":", which are words as well
+            read -r -a words <<< "$(sed 's/[=:]/ & /g' <<< "$2")"
+            [[ $2 == *[[:space:]] ]] && words+=("")
+            COMP_WORDS=("${words[@]}") COMP_CWORD=$((${#words[@]} - 1))
+            current=${words[-1]}
+            [[ $current == [=:] ]] && current=""
+            jobticket() { "$PROGRAM" "$@"; }
+            _jobticket jobticket "$current" "${words[-2]}"
+            printf '%s\\n' "${COMPREPLY[@]}"
+        """
+        done = subprocess.run(["bash", "-c", script, "bash", str(COMPLETION), line],
+                              env={**os.environ, "PROGRAM": program[-1]}, cwd=self.folder,
+                              capture_output=True, text=True, check=True)
+        return done.stdout.split()
+
+    def test_offers_what_fits(self):
+        if is_windows or not shutil.which("bash"):
+            self.skipTest("needs bash")
+        (self.folder / "ticket.xml").touch()
+        rows = [
+            ("jobticket se", ["set"]),
+            ("jobticket show --r", ["--raw"]),
+            ("jobticket set ", ["ticket.xml"]),
+            ("jobticket set -o ", ["ticket.xml"]),
+            ("jobticket set ticket.xml cop", ["copies="]),
+            ("jobticket set -o out.xml t", ["ticket.xml"]),
+            ("jobticket set ticket.xml sides=two-sided-s", ["two-sided-short-edge"]),
+            ("jobticket set ticket.xml sheet-collate=", ["collated", "uncollated"]),
+            ("jobticket set ticket.xml copies=2 finishings=20,11", ["20,110", "20,111"]),
+            ("jobticket set ticket.xml page-o", ["page-overrides[0]."]),
+            ("jobticket set ticket.xml page-overrides[0].sid", ["page-overrides[0].sides="]),
+            ("jobticket set ticket.xml pages", ["pages-per-subset="]),
+            ("jobticket set ticket.xml nonsense.", []),
+            ("jobticket unset ticket.xml cop", ["copies"]),
+            ("jobticket features cover-f", ["cover-front"]),
+        ]
+        for line, expected in rows:
+            with self.subTest(line):
+                self.assertEqual(self.complete(line), expected)
+
+
+def main():
+    global program, example, is_windows
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("program", nargs="+", help="the program, behind the command that starts it")
+    parser.add_argument("--example", help="the example program in C, built")
+    arguments = parser.parse_args()
+    program, example = arguments.program, arguments.example
+    is_windows = program[-1].endswith(".exe")
+    unittest.main(argv=sys.argv[:1])
+
+
+if __name__ == "__main__":
+    main()
