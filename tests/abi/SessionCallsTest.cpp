@@ -1,0 +1,322 @@
+#include <cstring>
+#include <functional>
+#include <set>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "abi/HeaderAsC.h"
+#include "abi/MessageBoxes.h"
+#include "abi/ProtectedMemory.h"
+#include "abi/Session.h"
+#include "abi/ZentLiteral.h"
+
+namespace zent::test {
+namespace {
+
+using testing::ContainsRegex;
+using testing::StartsWith;
+
+TEST(HeaderTest, ServesPlainC) {
+    EXPECT_EQ(numberOfCallsInC, 37U);
+    std::set<CallAddress> addresses;
+    for (std::size_t i = 0; i < numberOfCallsInC; ++i) {
+        EXPECT_TRUE(addresses.insert(callsInC[i].call).second) << callsInC[i].name;
+    }
+    EXPECT_EQ(numberOfResultCodesInC, 32U);
+    for (std::size_t i = 0; i < numberOfResultCodesInC; ++i) {
+        EXPECT_EQ(resultCodesInC[i], static_cast<int>(i) + 1);
+    }
+    EXPECT_EQ(useLibraryInC(), 0);
+}
+
+ZentResult open(std::uint32_t version, ZentBool silent, ZentSessionType* session) {
+    return fnOpenSession(version, 123456, 99, 7, silent, nullptr, 1, session);
+}
+
+TEST(SessionCallsTest, AnotherVersionIsRefusedWithoutAWord) {
+    MessageBoxes boxes;
+    int anything = 0;
+    auto* const before = reinterpret_cast<ZentSessionType>(&anything);
+    for (const std::uint32_t version : {0U, 26U, 28U}) {
+        ZentSessionType session = before;
+        EXPECT_EQ(open(version, 0, &session), ZENT_ERR_VERSION);
+        EXPECT_EQ(session, before);
+        EXPECT_EQ(open(version, 0, nullptr), ZENT_ERR_VERSION);
+    }
+    EXPECT_TRUE(boxes.take().empty());
+}
+
+TEST(SessionCallsTest, AClosedSessionIsGone) {
+    ZentSessionType session = nullptr;
+    ASSERT_EQ(open(27, 1, &session), ZENT_OK);
+    ZentSessionType other = nullptr;
+    ASSERT_EQ(fnOpenSession(27, 1, 1, 1, 1, ZT("My preferences"), 0, &other), ZENT_OK);
+    EXPECT_NE(session, other);
+    EXPECT_EQ(fnCloseSession(&session), ZENT_OK);
+    EXPECT_EQ(session, nullptr);
+    MessageBoxes boxes;
+    EXPECT_EQ(fnCloseSession(&session), ZENT_ERR_SESSION);
+    EXPECT_EQ(session, nullptr);
+    EXPECT_EQ(boxes.take().size(), 1U);
+    EXPECT_EQ(fnCloseSession(&other), ZENT_OK);
+}
+
+struct SessionCall {
+    const char* name;
+    std::function<ZentResult(ZentSessionType)> call;
+};
+
+/// Every call that begins with a session handle, with null for all that it may be given, as far as
+/// they exist; of the others more below.
+std::vector<SessionCall> existingCalls() {
+    return {
+        {"close", [](auto s) { return fnCloseSession(&s); }},
+        {"get settings", [](auto s) { return fnGetTarvoJtSettingsFromSession(s, nullptr); }},
+        {"create", [](auto s) { return fnCreateNewTarvoJtSettings(s, nullptr); }},
+        {"release", [](auto s) { return fnReleaseTarvoJtSettings(s, nullptr); }},
+        {"is empty", [](auto s) { return fnIsEmpty(s, nullptr, nullptr); }},
+        {"is specified", [](auto s) { return fnIsSpecified(s, nullptr, nullptr, nullptr); }},
+        {"count", [](auto s) { return fnGetNumberOfValues(s, nullptr, nullptr, nullptr); }},
+        {"get string",
+         [](auto s) {
+             return fnGetStringValue(s, nullptr, nullptr, nullptr, nullptr, 0, nullptr);
+         }},
+        {"get number",
+         [](auto s) { return fnGetNumberValue(s, nullptr, nullptr, nullptr, 0, nullptr); }},
+        {"get range",
+         [](auto s) {
+             return fnGetRangeValues(s, nullptr, nullptr, nullptr, nullptr, 0, nullptr);
+         }},
+        {"get resolution",
+         [](auto s) {
+             return fnGetResolutionValue(s, nullptr, nullptr, nullptr, nullptr, nullptr, 0,
+                                         nullptr);
+         }},
+        {"get size",
+         [](auto s) { return fnGetStockSizeValues(s, nullptr, nullptr, nullptr, nullptr); }},
+        {"unspecify", [](auto s) { return fnUnspecifyFeature(s, nullptr, nullptr); }},
+        {"unspecify all", [](auto s) { return fnUnspecifyAllFeatures(s, nullptr); }},
+        {"set string", [](auto s) { return fnSetStringValue(s, nullptr, nullptr, nullptr, 0); }},
+        {"set number", [](auto s) { return fnSetNumberValue(s, nullptr, nullptr, 0, 0); }},
+        {"set range", [](auto s) { return fnSetRangeValues(s, nullptr, nullptr, 0, 0, 0); }},
+        {"set resolution",
+         [](auto s) { return fnSetResolutionValue(s, nullptr, nullptr, 0, 0, 0, 0); }},
+        {"set size", [](auto s) { return fnSetStockSizeValues(s, nullptr, 0, 0); }},
+        {"create from page",
+         [](auto s) {
+             return fnCreateTarvoJtSettingsFromPageLevelFeature(s, nullptr, nullptr, 0, nullptr);
+         }},
+        {"set page",
+         [](auto s) {
+             return fnSetPageLevelFeatureFromTarvoJtSettings(s, nullptr, nullptr, 0, nullptr);
+         }},
+        {"remove page",
+         [](auto s) {
+             return fnRemovePageLevelFeatureFromTarvoJtSettings(s, nullptr, nullptr, 0);
+         }},
+        {"import",
+         [](auto s) {
+             return fnImportJobTicket(s, nullptr, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
+         }},
+        {"export", [](auto s) { return fnExportJobTicket(s, nullptr, nullptr, 1); }},
+    };
+}
+
+/// The calls that this version declares but can't do, with arguments that will be good.
+std::vector<SessionCall> callsToCome() {
+    static ZentBool truth = 0;
+    static std::int32_t number = 0;
+    static std::uint32_t size = 0;
+    return {
+        {"user context",
+         [](auto s) { return fnUpdateUserContextInformation(s, "", 0, nullptr, &size); }},
+        {"instructions", [](auto s) { return fnGetPrintInstructions(s, nullptr, &size, "doc"); }},
+        {"apply",
+         [](auto s) {
+             return fnApplyPrinterCapabilitiesToSettings(s, 1, nullptr, ZT(""), &truth, &truth);
+         }},
+        {"dialog", [](auto s) { return fnInvokeTarvoJobTicketDialog(s, 1, nullptr, 0); }},
+        {"get bool", [](auto s) { return fnGetPreferenceBoolValue(s, ZT("x"), &truth, 1); }},
+        {"get number", [](auto s) { return fnGetPreferenceNumberValue(s, ZT("x"), &number, 1); }},
+        {"get text",
+         [](auto s) { return fnGetPreferenceStringValue(s, ZT("x"), nullptr, &size, nullptr); }},
+        {"get data",
+         [](auto s) { return fnGetPreferenceDataValue(s, ZT("x"), nullptr, &size, nullptr, 0); }},
+        {"set bool", [](auto s) { return fnSetPreferenceBoolValue(s, ZT("x"), 1); }},
+        {"set number", [](auto s) { return fnSetPreferenceNumberValue(s, ZT("x"), 1); }},
+        {"set text", [](auto s) { return fnSetPreferenceStringValue(s, ZT("x"), ZT("y")); }},
+        {"set data", [](auto s) { return fnSetPreferenceDataValue(s, ZT("x"), "y", 1); }},
+        {"import blob",
+         [](auto s) {
+             return fnImportJobTicket(s, "x", 1, 2, 1, nullptr, nullptr, &truth, &truth);
+         }},
+        {"export blob", [](auto s) { return fnExportJobTicket(s, nullptr, &size, 2); }},
+    };
+}
+
+TEST(SessionCallsTest, ABadSessionHandleIsShownWhateverTheCall) {
+    std::vector<SessionCall> calls = existingCalls();
+    for (SessionCall& call : callsToCome()) {
+        calls.push_back(std::move(call));
+    }
+    EXPECT_EQ(calls.size(), 36U + 2); // two stand for a second format
+    const ProtectedMemory memory;
+    MessageBoxes boxes;
+    for (const SessionCall& call : calls) {
+        EXPECT_EQ(call.call(nullptr), ZENT_ERR_SESSION) << call.name;
+        const std::vector<MessageBox> shown = boxes.take();
+        ASSERT_EQ(shown.size(), 1U) << call.name;
+        EXPECT_EQ(shown[0].title, "Tarvo job ticket");
+        EXPECT_THAT(shown[0].text, StartsWith("The job ticket library ran into an error"));
+        EXPECT_THAT(shown[0].text, ContainsRegex("\n\n025:000:[0-9][0-9][0-9][0-9]$"));
+    }
+    EXPECT_EQ(calls[0].call(memory.readOnly<ZentSessionType>()), ZENT_ERR_SESSION);
+    EXPECT_EQ(calls[1].call(memory.unmapped<ZentSessionType>()), ZENT_ERR_SESSION);
+}
+
+TEST(SessionCallsTest, ABadSettingsHandleIsRefused) {
+    const Session session;
+    const ProtectedMemory memory;
+    const ZentSessionType s = session.handle();
+    ZentBool out = 0;
+    std::int32_t number = 0;
+    std::uint32_t size = 0;
+    TarvoJtSettingsType made = nullptr;
+    const ZentChar* const name = ZT("copies");
+    using Settings = TarvoJtSettingsType;
+    MessageBoxes boxes;
+    for (const Settings bad :
+         {Settings(), memory.readOnly<Settings>(), memory.unmapped<Settings>()}) {
+        Settings variable = bad;
+        EXPECT_EQ(fnReleaseTarvoJtSettings(s, &variable), ZENT_ERR_SETTINGS);
+        EXPECT_EQ(variable, bad);
+        const ZentResult results[] = {
+            fnIsEmpty(s, bad, &out),
+            fnIsSpecified(s, bad, name, &out),
+            fnGetNumberOfValues(s, bad, name, &size),
+            fnGetStringValue(s, bad, name, nullptr, &size, 0, &out),
+            fnGetNumberValue(s, bad, name, &number, 0, &out),
+            fnGetRangeValues(s, bad, name, &number, &number, 0, &out),
+            fnGetResolutionValue(s, bad, name, &number, &number, &number, 0, &out),
+            fnGetStockSizeValues(s, bad, &number, &number, &out),
+            fnUnspecifyFeature(s, bad, name),
+            fnUnspecifyAllFeatures(s, bad),
+            fnSetStringValue(s, bad, name, name, 0),
+            fnSetNumberValue(s, bad, name, 1, 0),
+            fnSetRangeValues(s, bad, name, 1, 2, 0),
+            fnSetResolutionValue(s, bad, name, 1, 2, 3, 0),
+            fnSetStockSizeValues(s, bad, 1, 2),
+            fnCreateTarvoJtSettingsFromPageLevelFeature(s, bad, name, 0, &made),
+            fnSetPageLevelFeatureFromTarvoJtSettings(s, bad, name, 0, session.ticket()),
+            fnSetPageLevelFeatureFromTarvoJtSettings(s, session.ticket(), name, 0, bad),
+            fnRemovePageLevelFeatureFromTarvoJtSettings(s, bad, name, 0),
+        };
+        EXPECT_THAT(results, testing::Each(static_cast<ZentResult>(ZENT_ERR_SETTINGS)));
+    }
+    EXPECT_TRUE(boxes.take().empty());
+}
+
+TEST(SessionCallsTest, NullOutArgumentsAreAnUnknownFailure) {
+    const Session session;
+    const ZentSessionType s = session.handle();
+    const TarvoJtSettingsType t = session.ticket();
+    ZentBool out = 0;
+    std::int32_t n = 0;
+    std::uint32_t size = 0;
+    const ZentChar* const name = ZT("copies");
+    const Session loud(false);
+    MessageBoxes boxes;
+    const ZentResult results[] = {
+        fnOpenSession(27, 1, 1, 1, 1, nullptr, 0, nullptr),
+        fnGetTarvoJtSettingsFromSession(s, nullptr),
+        fnCreateNewTarvoJtSettings(s, nullptr),
+        fnReleaseTarvoJtSettings(s, nullptr),
+        fnIsEmpty(s, t, nullptr),
+        fnIsSpecified(s, t, name, nullptr),
+        fnGetNumberOfValues(s, t, name, nullptr),
+        fnGetStringValue(s, t, name, nullptr, nullptr, 0, &out),
+        fnGetStringValue(s, t, name, nullptr, &size, 0, nullptr),
+        fnGetNumberValue(s, t, name, nullptr, 0, &out),
+        fnGetNumberValue(s, t, name, &n, 0, nullptr),
+        fnGetRangeValues(s, t, name, nullptr, &n, 0, &out),
+        fnGetRangeValues(s, t, name, &n, nullptr, 0, &out),
+        fnGetRangeValues(s, t, name, &n, &n, 0, nullptr),
+        fnGetResolutionValue(s, t, name, nullptr, &n, &n, 0, &out),
+        fnGetResolutionValue(s, t, name, &n, nullptr, &n, 0, &out),
+        fnGetResolutionValue(s, t, name, &n, &n, nullptr, 0, &out),
+        fnGetResolutionValue(s, t, name, &n, &n, &n, 0, nullptr),
+        fnGetStockSizeValues(s, t, nullptr, &n, &out),
+        fnGetStockSizeValues(s, t, &n, nullptr, &out),
+        fnGetStockSizeValues(s, t, &n, &n, nullptr),
+        fnCreateTarvoJtSettingsFromPageLevelFeature(s, t, name, 0, nullptr),
+        fnExportJobTicket(s, nullptr, nullptr, 1),
+        fnImportJobTicket(s, nullptr, 1, 1, 1, nullptr, nullptr, &out, &out),
+    };
+    EXPECT_THAT(results, testing::Each(static_cast<ZentResult>(ZENT_ERR_UNKNOWN)));
+    EXPECT_TRUE(boxes.take().empty());
+
+    // Here the session isn't known, so it is shown.
+    EXPECT_EQ(fnCloseSession(nullptr), ZENT_ERR_UNKNOWN);
+    EXPECT_EQ(fnIsEmpty(loud.handle(), loud.ticket(), nullptr), ZENT_ERR_UNKNOWN);
+    const std::vector<MessageBox> shown = boxes.take();
+    ASSERT_EQ(shown.size(), 2U);
+    EXPECT_THAT(shown[0].text, testing::HasSubstr("Choose OK to continue"));
+    EXPECT_EQ(shown[1].text, shown[0].text);
+}
+
+TEST(SessionCallsTest, CallsToComeFailAsUnknown) {
+    const Session session;
+    MessageBoxes boxes;
+    for (const SessionCall& call : callsToCome()) {
+        EXPECT_EQ(call.call(session.handle()), ZENT_ERR_UNKNOWN) << call.name;
+    }
+    EXPECT_TRUE(boxes.take().empty());
+    const Session loud(false);
+    EXPECT_EQ(callsToCome()[0].call(loud.handle()), ZENT_ERR_UNKNOWN);
+    EXPECT_EQ(boxes.take().size(), 1U);
+}
+
+TEST(SessionCallsTest, FailuresAreShownUnlessSilent) {
+    MessageBoxes boxes;
+    for (const bool silent : {true, false}) {
+        const Session session(silent);
+        EXPECT_EQ(session.setNumber("no-such-feature", 1), ZENT_ERR_UNKNOWN_FEATURE);
+        const std::vector<MessageBox> shown = boxes.take();
+        ASSERT_EQ(shown.size(), silent ? 0U : 1U);
+        if (!silent) {
+            EXPECT_EQ(shown[0].title, "Tarvo job ticket");
+            EXPECT_THAT(shown[0].text, ContainsRegex("\n\n012:000:[0-9][0-9][0-9][0-9]$"));
+        }
+        // These are no exceptions, so nothing is said.
+        ZentBool out = 0;
+        EXPECT_EQ(fnImportJobTicket(session.handle(), "", 0, 3, 1, nullptr, nullptr, &out, &out),
+                  ZENT_ERR_TICKET_FORMAT);
+        std::uint32_t size = 1;
+        EXPECT_EQ(fnExportJobTicket(session.handle(), &out, &size, 1), ZENT_ERR_BUFFER_TOO_SMALL);
+        EXPECT_TRUE(boxes.take().empty());
+    }
+}
+
+TEST(SessionCallsTest, SettingsHandlesLiveOnTheirOwn) {
+    TarvoJtSettingsType kept = nullptr;
+    {
+        const Session session;
+        TarvoJtSettingsType own = session.ticket();
+        EXPECT_EQ(fnReleaseTarvoJtSettings(session.handle(), &own), ZENT_OK);
+        EXPECT_EQ(own, session.ticket()); // left alone
+        EXPECT_EQ(session.setNumber("copies", 2), ZENT_OK);
+        EXPECT_EQ(fnGetTarvoJtSettingsFromSession(session.handle(), &own), ZENT_OK);
+        EXPECT_EQ(own, session.ticket());
+        kept = session.newSettings();
+        EXPECT_EQ(numberOf(session, kept, "copies"), "none");
+        fnSetNumberValue(session.handle(), kept, ZT("copies"), 7, 0);
+        EXPECT_EQ(numberOf(session, session.ticket(), "copies"), "2");
+    }
+    const Session other;
+    EXPECT_EQ(numberOf(other, kept, "copies"), "7");
+    other.release(kept);
+}
+
+} // namespace
+} // namespace zent::test

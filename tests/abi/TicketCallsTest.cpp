@@ -1,0 +1,281 @@
+#include <functional>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "abi/MessageBoxes.h"
+#include "abi/Session.h"
+#include "abi/ZentLiteral.h"
+
+namespace zent::test {
+namespace {
+
+/// A document around the content of the template category.
+std::string document(const std::string& content) {
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n"
+           "<!DOCTYPE ordo SYSTEM \"ordo-v02025.dtd\">\r\n"
+           "<ordo version=\"1.0\" krss-version=\"2.01\" xml:lang=\"en-US\">"
+           "<job-template-attributes>" +
+           content + "</job-template-attributes></ordo>";
+}
+
+std::string copiesDocument(int copies) {
+    return document("<copies syntax=\"integer\">" + std::to_string(copies) + "</copies>");
+}
+
+struct Imported {
+    ZentResult result;
+    ZentBool problems = 7;
+    ZentBool applied = 7;
+};
+
+Imported import(const Session& session, const std::string& data, std::uint32_t format = 1,
+                std::uint32_t mode = 1) {
+    Imported imported{};
+    imported.result =
+        fnImportJobTicket(session.handle(), data.data(), static_cast<std::uint32_t>(data.size()),
+                          format, mode, nullptr, ZT(""), &imported.problems, &imported.applied);
+    return imported;
+}
+
+std::string copiesIn(const Session& session) {
+    return numberOf(session, session.ticket(), "copies");
+}
+
+TEST(TicketCallsTest, ATicketIsWrittenAsPrintersExpectIt) {
+    const Session session;
+    const ZentSessionType s = session.handle();
+    session.setString("job-name", "Report");
+    session.setNumber("copies", 2);
+    fnSetRangeValues(s, session.ticket(), ZT("page-ranges"), 1, 5, 0);
+    fnSetStockSizeValues(s, session.ticket(), 29700, 21000);
+    const std::string expected =
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n"
+        "<!DOCTYPE ordo SYSTEM \"ordo-v02025.dtd\">\r\n"
+        "<ordo krss-version=\"2.01\" version=\"1.0\" xml:lang=\"en-US\">\r\n"
+        "\t<ordo-operation-attributes>\r\n"
+        "\t\t<job-name syntax=\"name\" xml:space=\"preserve\">Report</job-name>\r\n"
+        "\t</ordo-operation-attributes>\r\n"
+        "\t<job-template-attributes>\r\n"
+        "\t\t<copies syntax=\"integer\">2</copies>\r\n"
+        "\t\t<page-ranges syntax=\"1setOf\">\r\n"
+        "\t\t\t<value syntax=\"rangeOfInteger\">\r\n"
+        "\t\t\t\t<lower-bound syntax=\"integer\">1</lower-bound>\r\n"
+        "\t\t\t\t<upper-bound syntax=\"integer\">5</upper-bound>\r\n"
+        "\t\t\t</value>\r\n"
+        "\t\t</page-ranges>\r\n"
+        "\t\t<media-col syntax=\"collection\">\r\n"
+        "\t\t\t<media-size syntax=\"collection\">\r\n"
+        "\t\t\t\t<x-dimension syntax=\"integer\">21000</x-dimension>\r\n"
+        "\t\t\t\t<y-dimension syntax=\"integer\">29700</y-dimension>\r\n"
+        "\t\t\t</media-size>\r\n"
+        "\t\t</media-col>\r\n"
+        "\t</job-template-attributes>\r\n"
+        "</ordo>";
+    EXPECT_EQ(session.exported(), expected);
+
+    const Session other;
+    other.import(expected);
+    EXPECT_EQ(other.exported(), expected);
+    EXPECT_EQ(stringOf(other, other.ticket(), "job-name"), "Report");
+    EXPECT_EQ(rangeOf(other, other.ticket(), "page-ranges"), "1..5");
+    EXPECT_EQ(sizeOf(other, other.ticket()), "21000x29700");
+}
+
+TEST(TicketCallsTest, EveryFeatureThatIsSetComesBack) {
+    const Session session;
+    const ZentSessionType s = session.handle();
+    const TarvoJtSettingsType t = session.ticket();
+    session.setString("job-name", " <A & \"B\"> ");
+    session.setString("save-location", "file:x");
+    session.setString("form-save-format", "application/pdf");
+    session.setNumber("finishings", 20);
+    session.setNumber("finishings", 1000, 1);
+    session.setString("media-type", "handmade");
+    fnSetResolutionValue(s, t, ZT("printer-resolution"), 600, 300, 3, 0);
+    fnSetStringValue(s, t, ZT("job-account-id"),
+                     std::basic_string<ZentChar>{0x00E4, 0x20AC, 0xD83D, 0xDDA8}.c_str(), 0);
+    const std::string xml = session.exported();
+    EXPECT_THAT(xml, testing::HasSubstr("\xC3\xA4\xE2\x82\xAC\xF0\x9F\x96\xA8"));
+    const Session other;
+    other.import(xml);
+    EXPECT_EQ(other.exported(), xml);
+    EXPECT_EQ(stringOf(other, other.ticket(), "job-name"), " <A & \"B\"> ");
+    EXPECT_EQ(stringOf(other, other.ticket(), "save-location"), "file:x");
+    EXPECT_EQ(numberOf(other, other.ticket(), "finishings", 1), "1000");
+    EXPECT_EQ(resolutionOf(other, other.ticket(), "printer-resolution"), "600x300/3");
+}
+
+TEST(TicketCallsTest, AnImportReplacesTheTicketAndNormalizesIt) {
+    const Session session;
+    session.setString("job-name", "old");
+    session.import(document("<sides syntax=\"keyword\">one-sided</sides>"
+                            "<x-image-shift syntax=\"integer\">500</x-image-shift>"
+                            "<page-overrides syntax=\"1setOf\"><value syntax=\"collection\">"
+                            "<copies syntax=\"integer\">2</copies></value></page-overrides>"));
+    EXPECT_EQ(stringOf(session, session.ticket(), "job-name"), "none");
+    EXPECT_EQ(numberOf(session, session.ticket(), "x-image-shift"), "none");
+    EXPECT_EQ(numberOf(session, session.ticket(), "x-side1-image-shift"), "500");
+    EXPECT_EQ(numberOf(session, session.ticket(), "x-side2-image-shift"), "none");
+    TarvoJtSettingsType page = nullptr;
+    fnCreateTarvoJtSettingsFromPageLevelFeature(session.handle(), session.ticket(),
+                                                ZT("page-overrides"), 0, &page);
+    EXPECT_EQ(rangeOf(session, page, "input-documents"), "1..1");
+    session.release(page);
+    session.import(document(""));
+    ZentBool empty = 0;
+    EXPECT_EQ(fnIsEmpty(session.handle(), session.ticket(), &empty), ZENT_OK);
+    EXPECT_EQ(empty, 1);
+    for (const std::uint32_t mode : {2U, 3U, 4U, 5U}) {
+        const Imported imported = import(session, copiesDocument(5), 1, mode);
+        EXPECT_EQ(imported.result, ZENT_OK);
+        EXPECT_EQ(imported.problems, 0);
+        EXPECT_EQ(imported.applied, 1);
+    }
+}
+
+TEST(TicketCallsTest, AFailedImportLeavesTheSessionAlone) {
+    const std::string good = copiesDocument(9);
+    const std::string pageOfNumber = "<page-overrides syntax=\"1setOf\">"
+                                     "<value syntax=\"integer\">1</value></page-overrides>";
+    struct Row {
+        const char* name;
+        std::string data;
+        std::uint32_t format;
+        std::uint32_t mode;
+        ZentResult result;
+        ZentBool applied; // 7 if it isn't written
+    };
+    const Row rows[] = {
+        {"format 0", good, 0, 1, ZENT_ERR_TICKET_FORMAT, 7},
+        {"format 3", good, 3, 1, ZENT_ERR_TICKET_FORMAT, 7},
+        {"format and mode", good, 3, 6, ZENT_ERR_TICKET_FORMAT, 7},
+        {"mode 0", good, 1, 0, ZENT_ERR_APPLY_MODE, 0},
+        {"mode 6", good, 1, 6, ZENT_ERR_APPLY_MODE, 0},
+        {"nothing", "", 1, 1, ZENT_ERR_XML_OTHER, 7},
+        {"no XML", "copies=2", 1, 1, ZENT_ERR_XML_PARSE, 7},
+        {"cut short", good.substr(0, good.size() - 1), 1, 1, ZENT_ERR_XML_PARSE, 7},
+        {"no document type", "<ordo><job-template-attributes/></ordo>", 1, 1, ZENT_ERR_XML_PARSE,
+         7},
+        {"unknown element", document("<no-such syntax=\"integer\">1</no-such>"), 1, 1,
+         ZENT_ERR_XML_PARSE, 7},
+        {"another file", "<!DOCTYPE ordo [<!ENTITY e SYSTEM \"/etc/passwd\">]><ordo>&e;</ordo>", 1,
+         1, ZENT_ERR_XML_PARSE, 7},
+        {"unknown value", document("<sides syntax=\"keyword\">folded</sides>"), 1, 1,
+         ZENT_ERR_UNKNOWN_FEATURE, 7},
+        {"no collection", document(pageOfNumber), 1, 1, ZENT_ERR_ATTRIBUTE_TYPE, 7},
+    };
+    const Session session;
+    session.setNumber("copies", 4);
+    MessageBoxes boxes;
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const Imported imported = import(session, row.data, row.format, row.mode);
+        EXPECT_EQ(imported.result, row.result);
+        EXPECT_EQ(imported.problems, 7);
+        EXPECT_EQ(imported.applied, row.applied);
+        EXPECT_EQ(copiesIn(session), "4");
+    }
+    EXPECT_TRUE(boxes.take().empty());
+    const Session loud(false);
+    import(loud, "copies=2");
+    const std::vector<MessageBox> shown = boxes.take();
+    ASSERT_EQ(shown.size(), 1U);
+    EXPECT_THAT(shown[0].text, testing::StartsWith("A job ticket document could not be read"));
+}
+
+TEST(TicketCallsTest, ExportChecksItsFormatFirst) {
+    const Session session;
+    std::uint32_t size = 7;
+    for (const std::uint32_t format : {0U, 3U}) {
+        EXPECT_EQ(fnExportJobTicket(session.handle(), nullptr, &size, format),
+                  ZENT_ERR_TICKET_FORMAT);
+        EXPECT_EQ(fnExportJobTicket(session.handle(), nullptr, nullptr, format),
+                  ZENT_ERR_TICKET_FORMAT);
+    }
+    EXPECT_EQ(size, 7U);
+}
+
+TEST(TicketCallsTest, AResultWaitsUntilItIsFetched) {
+    const Session session;
+    session.import(copiesDocument(1));
+    const std::string first = session.exported();
+    const std::uint32_t size = session.exportSize();
+    EXPECT_EQ(size, first.size());
+    session.import(copiesDocument(22222)); // doesn't drop it
+
+    std::string buffer(size + 1, '?');
+    const std::string untouched = buffer;
+    std::uint32_t given = size - 1;
+    EXPECT_EQ(fnExportJobTicket(session.handle(), buffer.data(), &given, ZENT_FORMAT_XML),
+              ZENT_ERR_BUFFER_TOO_SMALL);
+    EXPECT_EQ(given, size);
+    EXPECT_EQ(buffer, untouched);
+    given = size + 1;
+    EXPECT_EQ(fnExportJobTicket(session.handle(), buffer.data(), &given, ZENT_FORMAT_XML), ZENT_OK);
+    EXPECT_EQ(given, size);
+    EXPECT_EQ(buffer, first + '?'); // no terminator
+    // Now it is made anew, also in one go.
+    std::string second(1000, '?');
+    given = 1000;
+    EXPECT_EQ(fnExportJobTicket(session.handle(), second.data(), &given, ZENT_FORMAT_XML), ZENT_OK);
+    EXPECT_EQ(given, size + 4);
+}
+
+TEST(TicketCallsTest, AWaitingResultIsDroppedByChangesOnly) {
+    const Session session;
+    const ZentSessionType s = session.handle();
+    const TarvoJtSettingsType t = session.ticket();
+    const TarvoJtSettingsType free = session.newSettings();
+    std::uint32_t out = 0;
+    ZentBool found = 0;
+    struct Row {
+        const char* name;
+        std::function<ZentResult()> call;
+        ZentResult result;
+        bool dropped;
+    };
+    const ZentChar* const overrides = ZT("page-overrides");
+    const Row rows[] = {
+        {"nothing", [] { return static_cast<ZentResult>(ZENT_OK); }, ZENT_OK, false},
+        {"number", [&] { return fnSetNumberValue(s, t, ZT("copies"), 5, 0); }, ZENT_OK, true},
+        {"text", [&] { return fnSetStringValue(s, t, ZT("job-name"), ZT("x"), 0); }, ZENT_OK, true},
+        {"range", [&] { return fnSetRangeValues(s, t, ZT("page-ranges"), 1, 2, 0); }, ZENT_OK,
+         true},
+        {"resolution",
+         [&] { return fnSetResolutionValue(s, t, ZT("printer-resolution"), 1, 2, 3, 0); }, ZENT_OK,
+         true},
+        {"size", [&] { return fnSetStockSizeValues(s, t, 1, 2); }, ZENT_OK, true},
+        {"unspecify", [&] { return fnUnspecifyFeature(s, t, ZT("sides")); }, ZENT_OK, true},
+        {"unspecify all", [&] { return fnUnspecifyAllFeatures(s, t); }, ZENT_OK, true},
+        {"page", [&] { return fnSetPageLevelFeatureFromTarvoJtSettings(s, t, overrides, 0, free); },
+         ZENT_OK, true},
+        {"remove page",
+         [&] { return fnRemovePageLevelFeatureFromTarvoJtSettings(s, t, overrides, 0); }, ZENT_OK,
+         true},
+        {"failed change", [&] { return fnSetNumberValue(s, t, ZT("no-such"), 5, 0); },
+         ZENT_ERR_UNKNOWN_FEATURE, false},
+        {"free settings", [&] { return fnSetNumberValue(s, free, ZT("copies"), 5, 0); }, ZENT_OK,
+         false},
+        {"reading", [&] { return fnGetNumberOfValues(s, t, ZT("copies"), &out); }, ZENT_OK, false},
+        {"failed import",
+         [&] { return fnImportJobTicket(s, "", 0, 1, 1, nullptr, nullptr, &found, &found); },
+         ZENT_ERR_XML_OTHER, false},
+    };
+    const std::string waiting = [&] {
+        session.import(copiesDocument(1));
+        return session.exported();
+    }();
+    for (const Row& row : rows) {
+        session.import(copiesDocument(1));
+        session.exportSize();
+        session.import(copiesDocument(22222));
+        EXPECT_EQ(row.call(), row.result) << row.name;
+        EXPECT_EQ(session.exported() == waiting, !row.dropped) << row.name;
+        fnUnspecifyAllFeatures(s, t);
+    }
+    session.release(free);
+}
+
+} // namespace
+} // namespace zent::test
