@@ -14,7 +14,7 @@ namespace zent::platform {
 namespace {
 
 /// How long a call waits for another process to finish.
-constexpr int busyMilliseconds = 10'000;
+constexpr int busyMilliseconds = 30'000;
 
 /// Raised in here for whatever SQLite refuses.
 struct StoreError {
@@ -147,6 +147,7 @@ constexpr std::string_view createTable = "CREATE TABLE IF NOT EXISTS preference 
 bool find(const std::string& path, const CXString& key, const CXString& name,
           StoredPreference& value) {
     Connection database(path);
+    database.run("BEGIN"); // one lock for all that follows
     if (!hasTable(database)) {
         return false;
     }

@@ -8,10 +8,10 @@ namespace {
 
 /// A text of the user's default locale into a buffer of that many units, terminator included;
 /// empty on failure.
-template <int capacity>
+template <std::size_t capacity>
 CXString getLocaleText(LCTYPE type) {
     wchar_t text[capacity] = {};
-    const int length = GetLocaleInfoW(LOCALE_USER_DEFAULT, type, text, capacity);
+    const int length = GetLocaleInfoW(LOCALE_USER_DEFAULT, type, text, static_cast<int>(capacity));
     return length > 1 ? CXString(units(text)) : CXString();
 }
 

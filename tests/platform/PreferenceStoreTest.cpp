@@ -1,0 +1,109 @@
+#include "platform/PreferenceStore.h"
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "PrintText.h"
+#include "support/ScratchPreferences.h"
+
+namespace zent::platform {
+namespace {
+
+class PreferenceStoreTest : public testing::Test {
+protected:
+    const test::ScratchPreferences m_scratch;
+
+    static ByteBuffer bytes(const std::string& content) { return {content.data(), content.size()}; }
+    static PreferenceStatus write(const CXString& key, const CXString& name,
+                                  const std::string& content,
+                                  std::uint32_t type = registryType::binary) {
+        return writePreference(key, name, type, bytes(content)).status;
+    }
+    /// The value as "type:bytes", or "absent".
+    static std::string read(const CXString& key, const CXString& name) {
+        StoredPreference value;
+        const PreferenceResult result = readPreference(key, name, value);
+        if (result.status == PreferenceStatus::done) {
+            EXPECT_EQ(result.error, 0U);
+            const auto* content = reinterpret_cast<const char*>(value.bytes.data());
+            return std::to_string(value.type) + ':' + std::string(content, value.bytes.size());
+        }
+        EXPECT_NE(result.status, PreferenceStatus::valueFailed) << result.error;
+        return "absent";
+    }
+};
+
+TEST_F(PreferenceStoreTest, KeepsTypesAndBytes) {
+    std::string all(300'000, 'x');
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        all[i] = static_cast<char>(i * 31 / 7);
+    }
+    const struct {
+        std::uint32_t type;
+        std::string content;
+    } rows[] = {
+        {registryType::text, std::string("a\0\xE9\0", 4)},
+        {registryType::text, ""},
+        {registryType::text, std::string("e\0n\0d\0\0\0", 8)},
+        {registryType::text, std::string("odd", 3)},
+        {registryType::binary, ""},
+        {registryType::binary, std::string("\0", 1)},
+        {registryType::binary, all},
+        {registryType::number, "\xFF\xFF\xFF\xFF"},
+        {registryType::number, ""},
+    };
+    // Each takes the place of the one before.
+    for (const auto& row : rows) {
+        EXPECT_EQ(write(u"a\\key", u"name", row.content, row.type), PreferenceStatus::done);
+        EXPECT_EQ(read(u"a\\key", u"name"), std::to_string(row.type) + ':' + row.content);
+    }
+}
+
+TEST_F(PreferenceStoreTest, KeepsKeysAndNamesApart) {
+    const std::u16string longName(250, u'n');
+    const char16_t loneSurrogates[][3] = {{0xD800, u'x', 0}, {0xD801, u'x', 0}, {u'x', 0xDC00, 0}};
+    const struct {
+        const char16_t* key;
+        const char16_t* name;
+    } rows[] = {
+        {u"a\\b", u"name"},           {u"a", u"name"},
+        {u"a\\b", u"name2"},          {u"a\\b", u""}, // has a value too
+        {u"a\\c\\d", u"name"},        {u"a\\gr\u00FC\u00DF \u65E5", u"\U0001F5A8 name"},
+        {u"a\\b", u"c\\name"},        {u"a'; --\\\"%_?*", u"'; DROP TABLE preference; --"},
+        {u"a\\b", longName.c_str()},  {u"a\\b", loneSurrogates[0]},
+        {u"a\\b", loneSurrogates[1]}, {u"a\\b", loneSurrogates[2]},
+        {u"a\\b\\end\\", u"name"}, // a path that ends in a separator can be used all the same
+    };
+    int number = 0;
+    for (const auto& row : rows) {
+        EXPECT_EQ(read(row.key, row.name), "absent") << number;
+        EXPECT_EQ(write(row.key, row.name, std::to_string(number)), PreferenceStatus::done);
+        ++number;
+    }
+    number = 0;
+    for (const auto& row : rows) {
+        EXPECT_EQ(read(row.key, row.name), "3:" + std::to_string(number)) << number;
+        ++number;
+    }
+    EXPECT_EQ(read(u"a\\b", u"name3"), "absent");
+    EXPECT_EQ(read(u"a\\z", u"name"), "absent");
+}
+
+TEST_F(PreferenceStoreTest, TellsMissingKeysFromMissingValues) {
+    StoredPreference value{registryType::number, bytes("kept")};
+    const PreferenceResult missing = readPreference(u"a\\key", u"name", value);
+    EXPECT_EQ(missing.status, PreferenceStatus::noKey);
+    EXPECT_NE(missing.error, 0U);
+    EXPECT_FALSE(getPreferenceErrorText(missing.error).isEmpty());
+
+    ASSERT_EQ(write(u"a\\key", u"name", ""), PreferenceStatus::done);
+    EXPECT_EQ(readPreference(u"a\\key", u"other", value).status, PreferenceStatus::noValue);
+    EXPECT_EQ(value.bytes, bytes("kept"));
+    EXPECT_EQ(value.type, registryType::number);
+    EXPECT_EQ(readPreference(u"a\\key", u"name", value).status, PreferenceStatus::done);
+    EXPECT_TRUE(value.bytes.isEmpty());
+}
+
+} // namespace
+} // namespace zent::platform

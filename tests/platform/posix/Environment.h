@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace zent::test {
+
+/// Sets a variable of the environment, or removes it, as long as the object lives.
+class Environment {
+public:
+    Environment(const char* name, const std::optional<std::string>& value) : m_name(name) {
+        if (const char* before = std::getenv(name)) {
+            m_before = before;
+        }
+        set(value);
+    }
+    ~Environment() { set(m_before); }
+    Environment(const Environment&) = delete;
+    Environment& operator=(const Environment&) = delete;
+
+private:
+    void set(const std::optional<std::string>& value) {
+        if (value) {
+            setenv(m_name, value->c_str(), 1);
+        } else {
+            unsetenv(m_name);
+        }
+    }
+
+    const char* m_name;
+    std::optional<std::string> m_before;
+};
+
+/// A new folder in that of temporary files; gone, with all that is in it, with the object.
+class ScratchFolder {
+public:
+    ScratchFolder();
+    ~ScratchFolder() { std::filesystem::remove_all(m_path); }
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+    const std::filesystem::path& path() const { return m_path; }
+
+private:
+    std::filesystem::path m_path;
+};
+
+} // namespace zent::test

@@ -1,0 +1,215 @@
+// The preference store where it is a database: where it lies, who may read it, what happens when it
+// can't be used, and that processes don't get into each other's way.
+
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "PrintText.h"
+#include "ocore/Exceptions.h"
+#include "ocore/Registry.h"
+#include "platform/PreferenceStore.h"
+#include "platform/posix/Environment.h"
+#include "support/Raised.h"
+
+namespace zent::platform {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char16_t* key = u"a\\key";
+
+/// Runs a function in a process of its own.
+template <typename Function>
+pid_t inChild(const Function& function) {
+    const pid_t child = fork();
+    if (child == 0) {
+        _exit(function() ? 0 : 1);
+    }
+    return child;
+}
+
+bool hasSucceeded(pid_t child) {
+    int status = 0;
+    return waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+std::string contentOf(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+mode_t modeOf(const fs::path& path) {
+    struct stat status = {};
+    EXPECT_EQ(stat(path.c_str(), &status), 0) << path;
+    return status.st_mode & 07777U;
+}
+
+PreferenceStatus write(const CXString& name, const ByteBuffer& value) {
+    return writePreference(key, name, registryType::binary, value).status;
+}
+
+/// The first byte of a value, if all others are the same; -1 for no value, -2 for a torn one.
+int read(const CXString& name, std::size_t size) {
+    StoredPreference value;
+    if (readPreference(key, name, value).status != PreferenceStatus::done) {
+        return -1;
+    }
+    const std::byte first = value.bytes.isEmpty() ? std::byte{0} : *value.bytes.data();
+    ByteBuffer whole;
+    whole.resize(size);
+    std::fill_n(whole.data(), size, first);
+    return value.bytes == whole ? static_cast<int>(first) : -2;
+}
+
+class PreferenceDatabaseTest : public testing::Test {
+protected:
+    const test::ScratchFolder m_scratch;
+    const fs::path m_configuration = m_scratch.path() / "not" / "there yet";
+    const fs::path m_folder = m_configuration / "zent27";
+    const fs::path m_file = m_folder / "preferences.sqlite";
+    const test::Environment m_variable{"XDG_CONFIG_HOME", m_configuration.string()};
+
+    void writeFile(const std::string& content) const {
+        fs::create_directories(m_folder);
+        std::ofstream(m_file, std::ios::binary) << content;
+    }
+};
+
+TEST_F(PreferenceDatabaseTest, IsCreatedByWritingForItsOwnerAlone) {
+    EXPECT_EQ(read(u"name", 0), -1);
+    EXPECT_FALSE(fs::exists(m_scratch.path() / "not"));
+
+    const mode_t mask = umask(0);
+    EXPECT_EQ(write(u"name", {}), PreferenceStatus::done);
+    umask(mask);
+    EXPECT_EQ(modeOf(m_scratch.path() / "not"), 0700U);
+    EXPECT_EQ(modeOf(m_folder), 0700U);
+    EXPECT_EQ(modeOf(m_file), 0600U);
+    EXPECT_EQ(std::distance(fs::directory_iterator(m_folder), {}), 1) << "nothing is left beside";
+    EXPECT_EQ(read(u"name", 0), 0);
+}
+
+TEST_F(PreferenceDatabaseTest, TakesAnEmptyFileForNewStore) {
+    writeFile("");
+    EXPECT_EQ(read(u"name", 1), -1);
+    EXPECT_EQ(contentOf(m_file), "");
+    EXPECT_EQ(write(u"name", ByteBuffer::fromBool(true)), PreferenceStatus::done);
+    EXPECT_EQ(read(u"name", 1), 1);
+}
+
+TEST_F(PreferenceDatabaseTest, FailsClearlyWhenBroken) {
+    ASSERT_EQ(write(u"name", ByteBuffer::fromLong(7)), PreferenceStatus::done);
+    const std::string sound = contentOf(m_file);
+    std::string noTree = sound; // the first page's type of tree, behind the header
+    noTree[100] = '\x7F';
+    std::string laterFormat = sound;
+    laterFormat[47] = 9;
+    const struct {
+        std::string content;
+        const char* error;
+    } rows[] = {
+        {std::string(5000, 'x'), "26 (0x1a)"},
+        {"short", "26 (0x1a)"},
+        {std::string(sound).replace(0, 6, "sqlite"), "26 (0x1a)"},
+        {noTree, "11 (0xb)"},
+        {sound.substr(0, 600), "11 (0xb)"},
+        {laterFormat, "1 (0x1)"},
+    };
+    const Registry registry{};
+    for (const auto& row : rows) {
+        writeFile(row.content);
+        EXPECT_EQ(
+            test::raised<RegistryRequestException>([&] { registry.getLongValue(key, u"name", 5); }),
+            std::string("Registry::getValue(): Call to RegQueryValueEx(name) failed with "
+                        "result of ") +
+                row.error + ".\r\n");
+        EXPECT_EQ(
+            test::raised<RegistryRequestException>([&] { registry.setLongValue(key, u"name", 5); }),
+            std::string("Registry::setValue(): Call to RegCreateKeyEx(a\\key) failed with "
+                        "result of ") +
+                row.error + ".\r\n");
+        EXPECT_EQ(contentOf(m_file), row.content) << "is left as it was";
+    }
+    EXPECT_EQ(RegistryRequestException(CXString()).getResultCode(), ResultCode{21});
+}
+
+TEST_F(PreferenceDatabaseTest, FailsWhereItCannotBe) {
+    const Registry registry{};
+    // Below a file, nothing can be: reading finds nothing.
+    fs::create_directory(m_scratch.path() / "not");
+    std::ofstream(m_configuration) << "a file";
+    EXPECT_EQ(registry.getLongValue(key, u"name", 5), 5);
+    EXPECT_EQ(
+        test::raised<RegistryRequestException>([&] { registry.setLongValue(key, u"name", 5); }),
+        "Registry::setValue(): Call to RegCreateKeyEx(a\\key) failed with result of 14 (0xe).\r\n");
+    fs::remove(m_configuration);
+    // Something else in its place is a store that can't be used.
+    fs::create_directories(m_file);
+    EXPECT_EQ(
+        test::raised<RegistryRequestException>([&] { registry.getLongValue(key, u"name", 5); }),
+        "Registry::getValue(): Call to RegQueryValueEx(name) failed with result of 14 (0xe).\r\n");
+}
+
+TEST_F(PreferenceDatabaseTest, FailsInFolderOfAnotherUser) {
+    ASSERT_EQ(write(u"name", {}), PreferenceStatus::done);
+    fs::permissions(m_folder, fs::perms::none);
+    EXPECT_TRUE(hasSucceeded(inChild([&] {
+        constexpr uid_t nobody = 65534; // who is root may read everything
+        if (geteuid() == 0 && setuid(nobody) != 0) {
+            return false;
+        }
+        StoredPreference value;
+        return readPreference(key, u"name", value).status == PreferenceStatus::valueFailed &&
+               write(u"name", {}) == PreferenceStatus::keyFailed;
+    })));
+    fs::permissions(m_folder, fs::perms::owner_all);
+}
+
+TEST_F(PreferenceDatabaseTest, WaitsForOtherProcesses) {
+    constexpr std::size_t processes = 8;
+    constexpr int rounds = 10;
+    constexpr std::size_t size = 20'000; // several pages
+    const auto nameOf = [](std::size_t process, int round) {
+        return CXString::Format(u"%d/%d", process, round);
+    };
+    const auto valueOf = [](std::size_t process) {
+        ByteBuffer value;
+        value.resize(size);
+        std::fill_n(value.data(), size, static_cast<std::byte>(process + 1));
+        return value;
+    };
+    std::array<pid_t, processes> writers = {};
+    for (std::size_t process = 0; process < processes; ++process) {
+        writers[process] = inChild([&] {
+            for (int round = 0; round < rounds; ++round) {
+                if (write(nameOf(process, round), valueOf(process)) != PreferenceStatus::done ||
+                    write(u"shared", valueOf(process)) != PreferenceStatus::done ||
+                    read(u"shared", size) <= 0) {
+                    return false;
+                }
+            }
+            return true;
+        });
+    }
+    for (const pid_t writer : writers) {
+        EXPECT_TRUE(hasSucceeded(writer));
+    }
+    for (std::size_t process = 0; process < processes; ++process) {
+        for (int round = 0; round < rounds; ++round) {
+            EXPECT_EQ(read(nameOf(process, round), size), static_cast<int>(process + 1));
+        }
+    }
+    EXPECT_GT(read(u"shared", size), 0);
+    EXPECT_EQ(modeOf(m_file), 0600U);
+}
+
+} // namespace
+} // namespace zent::platform
