@@ -56,8 +56,10 @@ CapabilityDataBase::CapabilityDataBase() {
 }
 
 std::span<const CapabilityInfo> CapabilityDataBase::getRows(FeatureEnum feature) const {
-    const auto range = std::ranges::equal_range(store(), feature, {}, &CapabilityInfo::m_feature);
-    return {range.begin(), range.end()};
+    // Not equal_range: clang 14 can't compile the range that it gives.
+    const auto& rows = store();
+    return {std::ranges::lower_bound(rows, feature, {}, &CapabilityInfo::m_feature),
+            std::ranges::upper_bound(rows, feature, {}, &CapabilityInfo::m_feature)};
 }
 
 std::vector<CapabilityInfo> CapabilityDataBase::getCapabilityInfoList(FeatureEnum feature) const {
