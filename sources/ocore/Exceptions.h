@@ -5,6 +5,7 @@
 namespace zent {
 
 /// An exception class whose id and result code are constants.
+// NOLINTBEGIN(bugprone-macro-parentheses): the arguments are class names
 #define ZENT_EXCEPTION_CLASS(Name, Base, id, code)                                                 \
     class Name : public Base {                                                                     \
     public:                                                                                        \
@@ -12,6 +13,7 @@ namespace zent {
         ResultCode getResultCode() const override { return code; }                                 \
         CXString getErrorId() const override { return CXString(u##id); }                           \
     }
+// NOLINTEND(bugprone-macro-parentheses)
 
 /// Failures of reading a file as a whole.
 class FileException : public TarvoException {

@@ -1,6 +1,7 @@
 #include "ocore/TarvoException.h"
 
 #include <memory>
+#include <utility>
 
 #include "ocore/OwnedCriticalResource.h"
 #include "ocore/Trace.h"
@@ -63,8 +64,8 @@ TarvoException::TarvoException() : TarvoException(CXString()) {}
 
 TarvoException::TarvoException(const CXString& message) : TarvoException(0, message) {}
 
-TarvoException::TarvoException(std::uint32_t traceMask, const CXString& message)
-    : m_message(message) {
+TarvoException::TarvoException(std::uint32_t traceMask, CXString message)
+    : m_message(std::move(message)) {
     {
         PendingLocation& pending = pendingLocation();
         const OwnedCriticalResource hold(pending.guard);

@@ -28,7 +28,7 @@ public:
     TarvoException();
     explicit TarvoException(const CXString& message);
     /// The mask is for the trace facility alone and isn't kept.
-    TarvoException(std::uint32_t traceMask, const CXString& message);
+    TarvoException(std::uint32_t traceMask, CXString message);
     TarvoException(const TarvoException&) = default;
     TarvoException& operator=(const TarvoException&) = default;
     ~TarvoException() override = default;

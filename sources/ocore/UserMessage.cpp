@@ -1,6 +1,7 @@
 #include "ocore/UserMessage.h"
 
 #include <atomic>
+#include <utility>
 
 #include "ocore/ResourceLibrary.h"
 #include "ocore/TarvoException.h"
@@ -18,15 +19,15 @@ CXString loadText(std::uint32_t id) { return ResourceLibrary().getString(id); }
 UserMessage::UserMessage(platform::WindowHandle owner)
     : UserMessage(owner, CXString(), CXString(), 0) {}
 
-UserMessage::UserMessage(platform::WindowHandle owner, const CXString& title, const CXString& body,
+UserMessage::UserMessage(platform::WindowHandle owner, CXString title, CXString body,
                          std::uint32_t flags, Severity severity)
-    : m_owner(owner), m_title(title), m_body(body), m_flags(flags), m_severity(severity) {
+    : m_owner(owner), m_title(std::move(title)), m_body(std::move(body)), m_flags(flags),
+      m_severity(severity) {
     deriveStyle();
 }
 
-UserMessage::UserMessage(const CXString& title, const CXString& body, std::uint32_t flags,
-                         Severity severity)
-    : UserMessage(nullptr, title, body, flags, severity) {}
+UserMessage::UserMessage(CXString title, CXString body, std::uint32_t flags, Severity severity)
+    : UserMessage(nullptr, std::move(title), std::move(body), flags, severity) {}
 
 UserMessage::UserMessage(platform::WindowHandle owner, std::uint32_t titleId, std::uint32_t bodyId,
                          std::uint32_t flags, Severity severity)

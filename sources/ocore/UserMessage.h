@@ -32,9 +32,9 @@ public:
     enum class Severity : std::uint32_t { information = 1, warning = 2, error = 3, question = 4 };
 
     explicit UserMessage(platform::WindowHandle owner);
-    UserMessage(platform::WindowHandle owner, const CXString& title, const CXString& body,
-                std::uint32_t flags, Severity severity = Severity::error);
-    UserMessage(const CXString& title, const CXString& body, std::uint32_t flags,
+    UserMessage(platform::WindowHandle owner, CXString title, CXString body, std::uint32_t flags,
+                Severity severity = Severity::error);
+    UserMessage(CXString title, CXString body, std::uint32_t flags,
                 Severity severity = Severity::error);
     /// Title and body by the numbers of resource strings; raises what ResourceLibrary raises.
     UserMessage(platform::WindowHandle owner, std::uint32_t titleId, std::uint32_t bodyId,

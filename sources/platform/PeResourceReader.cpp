@@ -65,7 +65,7 @@ std::optional<Headers> readHeaders(Bytes file) {
     if (*magic != pe32 && *magic != pe32Plus) {
         return std::nullopt;
     }
-    constexpr std::uint32_t resourceIndex = 2;
+    constexpr std::uint64_t resourceIndex = 2;
     const std::uint64_t directories = *magic == pe32 ? 96 : 112;
     const std::uint64_t place = directories + resourceIndex * 8;
     const auto directoryCount = read32(file, optional + directories - 4);

@@ -134,7 +134,8 @@ TEST(TarvoException, CopiesLeaveTheNotedLocationAlone) {
     setExceptionLocation(u"a.cpp", 1);
     const InvalidZentSessionException original(u"text");
     setExceptionLocation(u"b.cpp", 2);
-    const InvalidZentSessionException copy(original);
+    const InvalidZentSessionException copy(
+        original); // NOLINT(performance-*): the copy is the point
     EXPECT_EQ(copy.getLocationFile(), u"a.cpp");
     EXPECT_EQ(copy.getLocationLine(), 1);
     EXPECT_EQ(copy.getMessage(), u"text");
@@ -143,7 +144,7 @@ TEST(TarvoException, CopiesLeaveTheNotedLocationAlone) {
 
 TEST(TarvoException, IsRaisedWithTheRaiseSitesPlace) {
     try {
-        Raise<InvalidAttributeIdException>(traceLevel::xmlLayer)("value '%s' of %d\r\n", u"x", 3);
+        Raise<InvalidAttributeIdException>{traceLevel::xmlLayer}("value '%s' of %d\r\n", u"x", 3);
     } catch (const InvalidAttributeIdException& exception) {
         EXPECT_EQ(exception.getLocationLine(), __LINE__ - 2);
         EXPECT_EQ(exception.getLocationFile(), u"TarvoExceptionTest.cpp");

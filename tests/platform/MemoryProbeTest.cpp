@@ -11,7 +11,9 @@
 namespace zent::platform {
 namespace {
 
-const void* at(std::uintptr_t address) { return reinterpret_cast<const void*>(address); }
+const void* at(std::uintptr_t address) {
+    return reinterpret_cast<const void*>(address); // NOLINT(performance-no-int-to-ptr)
+}
 
 const char readOnly[20'000] = {1};
 

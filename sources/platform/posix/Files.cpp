@@ -1,13 +1,13 @@
 #include "platform/Files.h"
 
 #include <cerrno>
+#include <climits>
+#include <cstdlib>
 #include <string>
 
 #include <dlfcn.h>
 #include <fcntl.h>
-#include <limits.h>
 #include <link.h>
-#include <stdlib.h>
 #include <sys/stat.h>
 #include <unistd.h>
 

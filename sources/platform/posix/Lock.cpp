@@ -7,7 +7,7 @@
 namespace zent::platform {
 
 struct Lock::Native {
-    pthread_mutex_t mutex;
+    pthread_mutex_t mutex = {};
 
     Native() {
         pthread_mutexattr_t attributes;
