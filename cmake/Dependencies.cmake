@@ -12,7 +12,8 @@ if(WIN32)
     add_library(XercesC::XercesC STATIC IMPORTED)
     set_target_properties(XercesC::XercesC PROPERTIES
         IMPORTED_LOCATION ${xerces}/lib/libxerces-c.a
-        INTERFACE_INCLUDE_DIRECTORIES ${xerces}/include)
+        INTERFACE_INCLUDE_DIRECTORIES ${xerces}/include
+        INTERFACE_COMPILE_OPTIONS -ffile-prefix-map=${xerces}/include/=)
 else()
     find_package(ZLIB REQUIRED)
     find_package(XercesC 3.2 REQUIRED)
