@@ -76,13 +76,17 @@ AttrNode* AttrNodeList::findNode(const AttrID& id, std::uint32_t instance) {
     return position == lastPosition ? nullptr : m_nodes[position].get();
 }
 
-AttrNode* AttrNodeList::findEqualNode(const AttrNode& node, std::uint32_t instance) {
+const AttrNode* AttrNodeList::findEqualNode(const AttrNode& node, std::uint32_t instance) const {
     for (const auto& candidate : m_nodes) {
         if (*candidate == node && instance-- == 0) {
             return candidate.get();
         }
     }
     return nullptr;
+}
+
+AttrNode* AttrNodeList::findEqualNode(const AttrNode& node, std::uint32_t instance) {
+    return const_cast<AttrNode*>(std::as_const(*this).findEqualNode(node, instance));
 }
 
 std::uint32_t AttrNodeList::countNodes(const AttrID& id) const {
@@ -112,7 +116,7 @@ AttrNode* AttrNodeList::setNode(const AttrID& id, std::unique_ptr<AttrValue> val
 }
 
 std::uint32_t AttrNodeList::removeAt(std::uint32_t position) {
-    m_nodes.erase(m_nodes.begin() + position);
+    m_nodes.erase(m_nodes.begin() + static_cast<std::ptrdiff_t>(position));
     if (m_cursor == position + 1) {
         m_cursor = position;
     }
@@ -140,7 +144,7 @@ bool AttrNodeList::moveNodeToFront(const AttrID& id, std::uint32_t instance) {
     if (position == lastPosition || position == 0) {
         return false;
     }
-    const auto moved = m_nodes.begin() + position;
+    const auto moved = m_nodes.begin() + static_cast<std::ptrdiff_t>(position);
     std::rotate(m_nodes.begin(), moved, moved + 1);
     return true;
 }

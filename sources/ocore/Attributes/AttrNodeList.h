@@ -41,6 +41,7 @@ public:
     AttrNode* findNode(const AttrID& id, std::uint32_t instance = 0);
     const AttrNode* findNode(const AttrID& id, std::uint32_t instance = 0) const;
     AttrNode* findEqualNode(const AttrNode& node, std::uint32_t instance = 0);
+    const AttrNode* findEqualNode(const AttrNode& node, std::uint32_t instance = 0) const;
     /// How many nodes have this name.
     std::uint32_t countNodes(const AttrID& id) const;
 

@@ -1,0 +1,13 @@
+#include "ocore/Capabilities/CapabilitySource.h"
+
+#include "ocore/AnlXlate/OcapTranslator.h"
+
+namespace zent {
+
+void CapabilitySource::load(AttrNodeList& list) const {
+    ByteBuffer document;
+    getDocument(document);
+    OcapTranslator().anlFromBuffer(document, &list);
+}
+
+} // namespace zent

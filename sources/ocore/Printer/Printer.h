@@ -1,0 +1,47 @@
+#pragma once
+
+#include <memory>
+
+#include "ocore/Capabilities/Capabilities.h"
+#include "ocore/Printer/PrinterDefaults.h"
+#include "ocore/Printer/PrinterModel.h"
+#include "ocore/UserPreferences.h"
+
+namespace zent {
+
+class PersistentSettings;
+
+/// A printer: creates its model, defaults and capabilities on first need and owns them. They belong
+/// to the one thread that uses the printer at a time.
+class Printer {
+public:
+    virtual ~Printer();
+    Printer(const Printer&) = delete;
+    Printer& operator=(const Printer&) = delete;
+
+    virtual std::unique_ptr<UserPreferences> getUserPreferences() const = 0;
+    /// 1 for the ordo document; every other number stands for the stream of comment lines.
+    virtual std::uint32_t getInstructionForm() = 0;
+
+    const Capabilities& getCapabilities();
+    const PrinterDefaults& getDefaults();
+    const PrinterModel& getModel();
+    CXString getDisplayName() { return getModel().getDisplayName(); }
+
+    /// Writes the logon name and what the user prefers to do with it into a state blob. False, and
+    /// nothing changed, if there is no logon name.
+    bool updateUserContext(PersistentSettings& state) const;
+
+protected:
+    Printer();
+    virtual std::unique_ptr<Capabilities> createCapabilities() = 0;
+    virtual std::unique_ptr<PrinterModel> createModel() = 0;
+
+private:
+    // Destroyed in the reverse order: the model first.
+    std::unique_ptr<Capabilities> m_capabilities;
+    std::unique_ptr<PrinterDefaults> m_defaults;
+    std::unique_ptr<PrinterModel> m_model;
+};
+
+} // namespace zent
