@@ -1,0 +1,146 @@
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "expected/ExpectedTable.h"
+#include "ocore/Printer/PrinterModel.h"
+#include "resources/UseResourceLibrary.h"
+#include "support/Raised.h"
+
+namespace zent::test {
+namespace {
+
+std::uint32_t unsignedNumber(const ExpectedRow& row, const std::string& column) {
+    return static_cast<std::uint32_t>(row.number(column));
+}
+
+/// The number of some model of a family.
+std::uint32_t modelOf(std::uint32_t family) {
+    for (const ModelInfo& model : getModelTable()) {
+        if (model.family == family) {
+            return model.model;
+        }
+    }
+    ADD_FAILURE() << "family " << family << " has no model";
+    return 1;
+}
+
+TEST(PrinterTablesTest, FamiliesAreThoseOfTheTable) {
+    const std::vector<ExpectedRow> rows = readExpectedTable("families.tsv");
+    ASSERT_EQ(getFamilyTable().size(), rows.size());
+    for (std::uint32_t i = 0; i < rows.size(); ++i) {
+        const ExpectedRow& row = rows[i];
+        SCOPED_TRACE("family " + row.text("family"));
+        EXPECT_EQ(PrinterModel::getFamilyInfoIndex(unsignedNumber(row, "family")), i);
+        const PrinterModel model(modelOf(unsignedNumber(row, "family")), 2);
+        for (const std::uint32_t form : {0U, 1U, 3U, 4U}) {
+            EXPECT_EQ(model.getCapabilityResource(form),
+                      unsignedNumber(row, "capabilityResource1"));
+        }
+        EXPECT_EQ(model.getCapabilityResource(2), unsignedNumber(row, "capabilityResource2"));
+        const std::pair<const char*, bool> bytes[] = {
+            {"takesOrdo", model.takesOrdo()},
+            {"capability1a", model.isSeparateCoversCapable()},
+            {"capability1b", model.isInsertMultipleMediaCapable()},
+            {"capability1c", model.isTiffPrintSaveCapable()},
+            {"featureDefault", model.getFeatureDefault()},
+            {"mediaTextCapability", model.getMediaTextCapability()},
+            {"signatureSizeSwap", model.getTraits().signatureSizeSwap},
+            {"unixDestination", model.getTraits().unixDestination},
+            {"mediaWeightDefault", model.getTraits().mediaWeightDefault},
+            {"explicitFinishingNone", model.getTraits().explicitFinishingNone},
+            {"fullPageExceptions", model.getTraits().fullPageExceptions},
+        };
+        for (const auto& [column, answer] : bytes) {
+            EXPECT_EQ(answer, row.number(column) == 1) << column;
+        }
+        const std::pair<const char*, std::uint32_t> numbers[] = {
+            {"maxPageNumber", model.getMaxPageNumber()},
+            {"jobNameLimit", model.getJobNameLimit()},
+            {"jobNameRule", model.getJobNameRule()},
+            {"accountRangeUpper", model.getAccountRangeUpper()},
+            {"accountRangeLower", model.getAccountRangeLower()},
+            {"accountRule", model.getAccountRule()},
+            {"requestingUserLimit", model.getRequestingUserLimit()},
+            {"recipientLimit", model.getRecipientLimit()},
+            {"sheetMessageLimit", model.getSheetMessageLimit()},
+            {"operatorMessageLimit", model.getOperatorMessageLimit()},
+            {"phoneNumberLimit", model.getPhoneNumberLimit()},
+            {"mediaColorLimit", model.getMediaColorLimit()},
+            {"imageShiftRule", model.getImageShiftRule()},
+        };
+        for (const auto& [column, answer] : numbers) {
+            EXPECT_EQ(answer, unsignedNumber(row, column)) << column;
+        }
+        EXPECT_EQ(
+            model.getTraits().mediaSizeLimits,
+            (AjtPrinterTraits::MediaSizeLimits{row.number("xMinimum"), row.number("xMaximum"),
+                                               row.number("yMinimum"), row.number("yMaximum")}));
+    }
+}
+
+TEST(PrinterTablesTest, ModelsAreThoseOfTheTable) {
+    useResourceLibrary();
+    const std::vector<ExpectedRow> rows = readExpectedTable("models.tsv");
+    ASSERT_EQ(getModelTable().size(), rows.size());
+    std::set<std::string> names;
+    for (std::uint32_t i = 0; i < rows.size(); ++i) {
+        const std::uint32_t number = unsignedNumber(rows[i], "model");
+        SCOPED_TRACE(number);
+        EXPECT_EQ(PrinterModel::getModelInfoIndex(number), i);
+        const ModelInfo& info = getModelTable()[i];
+        EXPECT_EQ(info.displayNameStringID, unsignedNumber(rows[i], "stringId"));
+        EXPECT_EQ(info.family, unsignedNumber(rows[i], "family"));
+        EXPECT_EQ(PrinterModel(number, 2).getDisplayName().toNarrow(), rows[i].text("name"));
+        EXPECT_TRUE(names.insert(rows[i].text("name")).second);
+    }
+}
+
+TEST(PrinterTablesTest, DriversAreThoseOfTheTable) {
+    const std::vector<ExpectedRow> rows = readExpectedTable("drivers.tsv");
+    ASSERT_EQ(getDriverTable().size(), 109U);
+    ASSERT_EQ(rows.size(), 109U);
+    std::map<std::uint32_t, std::set<std::uint32_t>> modelsByLanguage;
+    for (const ExpectedRow& row : rows) {
+        const CXString name(row.wide("name"));
+        SCOPED_TRACE(row.text("name"));
+        const std::uint32_t index = PrinterModel::getDriverInfoIndex(name);
+        const DriverInfo& driver = getDriverTable()[index];
+        EXPECT_EQ(driver.pdl, unsignedNumber(row, "pdl"));
+        EXPECT_EQ(driver.model, unsignedNumber(row, "model"));
+        // Either way finds the one row: no name and no pair of model and language stands twice.
+        EXPECT_EQ(PrinterModel::getDriverInfoIndex(driver.model, driver.pdl), index);
+        EXPECT_TRUE(modelsByLanguage[driver.pdl].insert(driver.model).second);
+        const PrinterModel model = PrinterModel::fromDriverName(name);
+        EXPECT_EQ(model.getModel(), driver.model);
+        EXPECT_EQ(model.getPdl(), driver.pdl);
+        EXPECT_EQ(model.getDriverName(), name);
+    }
+    EXPECT_EQ(modelsByLanguage[pageLanguage::monochromePcl].size(), 51U);
+    EXPECT_EQ(modelsByLanguage[pageLanguage::postScript].size(), 49U);
+    EXPECT_EQ(modelsByLanguage[pageLanguage::colorPcl].size(), 9U);
+}
+
+TEST(PrinterTablesTest, LookupsThatFailSayWhatWasLookedFor) {
+    using E = IndexOutOfBoundsException;
+    EXPECT_EQ(raised<E>([] { PrinterModel(52, 2); }),
+              "PrinterModel::getModelInfoIndex(): Could not find the model enumeration value (52) "
+              "in the table of printer model information.\r\n");
+    EXPECT_EQ(raised<E>([] { PrinterModel::getFamilyInfoIndex(0); }),
+              "PrinterModel::getFamilyInfoIndex(): Could not find the family enumeration value (0) "
+              "in the table of printer family information.\r\n");
+    EXPECT_EQ(raised<E>([] { PrinterModel::fromDriverName(u"tarvo lumaset 510 pcl5e"); }),
+              "PrinterModel::getDriverInfoIndex(): Could not find the printer driver name 'tarvo "
+              "lumaset 510 pcl5e' in the table of printer driver information.\r\n");
+    // A language that a model doesn't have goes unnoticed until its driver's name is wanted.
+    const PrinterModel model(32, pageLanguage::postScript);
+    EXPECT_EQ(raised<E>([&] { model.getDriverName(); }),
+              "PrinterModel::getDriverInfoIndex(): Could not find the printer driver by model 32 "
+              "and PDL 1 in the table of printer driver information.\r\n");
+}
+
+} // namespace
+} // namespace zent::test
