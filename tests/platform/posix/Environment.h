@@ -1,9 +1,13 @@
 #pragma once
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <system_error>
+
+#include <gtest/gtest.h>
 
 namespace zent::test {
 
@@ -36,7 +40,13 @@ private:
 /// A new folder in that of temporary files; gone, with all that is in it, with the object.
 class ScratchFolder {
 public:
-    ScratchFolder();
+    ScratchFolder() {
+        std::string pattern = testing::TempDir() + "zentXXXXXX";
+        if (mkdtemp(pattern.data()) == nullptr) {
+            throw std::system_error(errno, std::generic_category(), pattern);
+        }
+        m_path = pattern;
+    }
     ~ScratchFolder() { std::filesystem::remove_all(m_path); }
     ScratchFolder(const ScratchFolder&) = delete;
     ScratchFolder& operator=(const ScratchFolder&) = delete;
