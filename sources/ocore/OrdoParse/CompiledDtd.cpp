@@ -124,7 +124,8 @@ std::shared_ptr<const CompiledDtd> CompiledDtd::compile(const CXString& path) {
     } catch (const xercesc::XMLException&) {
         return nullptr;
     }
-    if (grammar == nullptr || !reporter.getMessages().isEmpty()) {
+    // Faults in declarations are counted, but not all of them are reported outside of a document.
+    if (grammar == nullptr || parser.getErrorCount() > 0 || !reporter.getMessages().isEmpty()) {
         return nullptr;
     }
     completeDeclarations(*static_cast<const xercesc::DTDGrammar*>(grammar));

@@ -18,10 +18,9 @@ bool isBareName(std::u16string_view name) {
 }
 
 xercesc::InputSource* makeSource(const ByteBuffer& bytes, const CXString& path) {
-    auto* const source =
-        new xercesc::MemBufInputSource(static_cast<const XMLByte*>(static_cast<const void*>(
-                                           bytes.data())),
-                                       bytes.size(), path.c_str());
+    auto* const source = new xercesc::MemBufInputSource(
+        static_cast<const XMLByte*>(static_cast<const void*>(bytes.data())), bytes.size(),
+        path.c_str());
     source->setCopyBufToStream(false);
     return source;
 }

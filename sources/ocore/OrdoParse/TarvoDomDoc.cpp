@@ -119,8 +119,8 @@ void TarvoDomDoc::addDomNodeToAttrNodeList(const XmlNode& element, const XmlAttr
     const AttrID id(texts.trimmed(element.getName()));
     const CXString keyword = syntaxFromDocument(texts.trimmed(syntax.value));
     // An element has no value of its own, so one that comes first makes a list.
-    const CXString text = isSpacePreserved(element) ? CXString(first->getValue())
-                                                    : texts.trimmed(first->getValue());
+    const CXString text =
+        isSpacePreserved(element) ? CXString(first->getValue()) : texts.trimmed(first->getValue());
     if (!text.isEmpty()) {
         list.addNode(AttrNode(id, AttrValueFactory::createAttrValue(keyword, text), false));
         return;

@@ -28,8 +28,8 @@ public:
 
     void parse(std::span<const std::byte> bytes);
     /// Adds what the parsed document holds. Below the root, an element with the syntax attribute is
-    /// a value: a simple one if its first child is text (or a comment, whatever comes first), else a
-    /// list of its elements. One without content yields nothing; one without the attribute is
+    /// a value: a simple one if its first child is text (or a comment, whatever comes first), else
+    /// a list of its elements. One without content yields nothing; one without the attribute is
     /// skipped with all that it holds, unless it is a container.
     void toAttrNodeList(AttrNodeList* list);
     /// Makes the document of a list: the skeleton, with an element for each node that isn't

@@ -11,16 +11,13 @@ namespace zent {
 
 namespace {
 
-void traceLastError() {
-    trace::systemErrorText(platform::getLastError(), traceLevel::xmlLayer);
-}
+void traceLastError() { trace::systemErrorText(platform::getLastError(), traceLevel::xmlLayer); }
 
 } // namespace
 
 void TarvoXmlFile::read(AttrNodeList* list) {
     if (!m_fileName) {
-        raiseOrdoParse(ordoParseCode::noFileToRead,
-                       "TarvoXmlFile::read(): No file to open.\r\n");
+        raiseOrdoParse(ordoParseCode::noFileToRead, "TarvoXmlFile::read(): No file to open.\r\n");
     }
     const auto file = platform::OpenFile::openForReading(*m_fileName);
     if (!file) {
@@ -36,9 +33,8 @@ void TarvoXmlFile::read(AttrNodeList* list) {
     }
     // What the parser would refuse in any case isn't read.
     const std::unique_ptr<char[]> block(
-        size <= xmlLimits::documentBytes
-            ? new (std::nothrow) char[static_cast<std::size_t>(size)]()
-            : nullptr);
+        size <= xmlLimits::documentBytes ? new (std::nothrow) char[static_cast<std::size_t>(size)]()
+                                         : nullptr);
     if (!block) {
         traceLastError();
         raiseOrdoParse(ordoParseCode::fileBufferAllocationFailed,
@@ -57,8 +53,7 @@ void TarvoXmlFile::read(AttrNodeList* list) {
 
 void TarvoXmlFile::write(const AttrNodeList* list) {
     if (!m_fileName) {
-        raiseOrdoParse(ordoParseCode::noFileToWrite,
-                       "TarvoXmlFile::write(): No file to open.\r\n");
+        raiseOrdoParse(ordoParseCode::noFileToWrite, "TarvoXmlFile::write(): No file to open.\r\n");
     }
     m_file = platform::OpenFile::createForWriting(*m_fileName);
     if (!m_file) {

@@ -27,7 +27,8 @@ const XmlAttribute* XmlNode::findAttribute(std::u16string_view name) const {
     return attribute;
 }
 
-template <typename T, typename... Args> T* XmlDocument::make(Args... args) {
+template <typename T, typename... Args>
+T* XmlDocument::make(Args... args) {
     static_assert(std::is_trivially_destructible_v<T>, "the memory goes without its nodes");
     return new (m_memory.allocate(sizeof(T), alignof(T))) T{args...};
 }
@@ -42,8 +43,8 @@ XmlNode* XmlDocument::getDocumentElement() const {
 
 XmlNode& XmlDocument::append(XmlNode& parent, XmlNodeKind kind, std::u16string_view name,
                              std::u16string_view value) {
-    auto* const node = new (m_memory.allocate(sizeof(XmlNode), alignof(XmlNode)))
-        XmlNode(kind, name, value);
+    auto* const node =
+        new (m_memory.allocate(sizeof(XmlNode), alignof(XmlNode))) XmlNode(kind, name, value);
     node->m_parent = &parent;
     (parent.m_lastChild == nullptr ? parent.m_firstChild : parent.m_lastChild->m_nextSibling) =
         node;

@@ -108,7 +108,8 @@ public:
     std::u16string_view store(std::u16string_view text);
 
 private:
-    template <typename T, typename... Args> T* make(Args... args);
+    template <typename T, typename... Args>
+    T* make(Args... args);
     void copyChildren(const XmlNode& from, XmlNode& to);
 
     static constexpr std::size_t firstBlock = 8 * 1024;

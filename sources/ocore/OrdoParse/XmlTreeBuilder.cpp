@@ -95,8 +95,7 @@ void XmlTreeBuilder::startElement(const xercesc::XMLElementDecl& declaration,
     if (attributeCount > xmlLimits::attributesOfElement) {
         refuse(u"An element has more than 1000 attributes.");
     }
-    XmlNode& node =
-        m_document.append(*m_current, XmlNodeKind::element, nameOf(declaration), {});
+    XmlNode& node = m_document.append(*m_current, XmlNodeKind::element, nameOf(declaration), {});
     for (XMLSize_t i = 0; i < attributeCount; ++i) {
         const xercesc::XMLAttr& attribute = *attributes.elementAt(i);
         m_document.addAttribute(node, store(attribute.getName()), store(attribute.getValue()));
@@ -161,9 +160,9 @@ void XmlTreeBuilder::flushText() {
 
 // Faults
 
-void XmlTreeBuilder::error(unsigned int code, const XMLCh* domain, ErrTypes type,
-                           const XMLCh* text, const XMLCh* systemId, const XMLCh* publicId,
-                           XMLFileLoc line, XMLFileLoc column) {
+void XmlTreeBuilder::error(unsigned int code, const XMLCh* domain, ErrTypes type, const XMLCh* text,
+                           const XMLCh* systemId, const XMLCh* publicId, XMLFileLoc line,
+                           XMLFileLoc column) {
     XercesDOMParser::error(code, domain, type, text, systemId, publicId, line, column);
     if (++m_reports >= xmlLimits::reports) {
         throw Refusal();

@@ -28,7 +28,8 @@ public:
     void XMLDecl(const XMLCh* version, const XMLCh* encoding, const XMLCh* standalone,
                  const XMLCh* actualEncoding) override;
     void doctypeDecl(const xercesc::DTDElementDecl& root, const XMLCh* publicId,
-                     const XMLCh* systemId, bool hasInternalSubset, bool hasExternalSubset) override;
+                     const XMLCh* systemId, bool hasInternalSubset,
+                     bool hasExternalSubset) override;
     void startIntSubset() override;
     void endIntSubset() override;
     void elementDecl(const xercesc::DTDElementDecl& declaration, bool isIgnored) override;

@@ -52,16 +52,24 @@ XmlWriter::XmlWriter(XMLFormatter& formatter, bool formatted)
 
 void XmlWriter::write(const XmlNode& node) {
     switch (node.getKind()) {
-    case XmlNodeKind::element: writeElement(node); break;
-    case XmlNodeKind::text: writeEscaped(node.getValue(), XMLFormatter::CharEscapes); break;
+    case XmlNodeKind::element:
+        writeElement(node);
+        break;
+    case XmlNodeKind::text:
+        writeEscaped(node.getValue(), XMLFormatter::CharEscapes);
+        break;
     case XmlNodeKind::cdataSection:
         writeMarkup(u"<![CDATA[");
         writeMarkup(node.getValue());
         writeMarkup(u"]]>");
         break;
     case XmlNodeKind::entityReference:
-    case XmlNodeKind::document: writeChildren(node); break;
-    case XmlNodeKind::entity: writeEntity(node); break;
+    case XmlNodeKind::document:
+        writeChildren(node);
+        break;
+    case XmlNodeKind::entity:
+        writeEntity(node);
+        break;
     case XmlNodeKind::processingInstruction:
         writeMarkup(u"<?");
         writeMarkup(node.getName());
@@ -76,8 +84,12 @@ void XmlWriter::write(const XmlNode& node) {
         writeMarkup(node.getValue());
         writeMarkup(u"-->");
         break;
-    case XmlNodeKind::documentType: writeDocumentType(node); break;
-    case XmlNodeKind::xmlDeclaration: writeXmlDeclaration(node); break;
+    case XmlNodeKind::documentType:
+        writeDocumentType(node);
+        break;
+    case XmlNodeKind::xmlDeclaration:
+        writeXmlDeclaration(node);
+        break;
     }
 }
 

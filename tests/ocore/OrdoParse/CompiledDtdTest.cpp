@@ -1,0 +1,115 @@
+#include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "ocore/AnlXlate/OrdoTranslator.h"
+#include "ocore/OrdoParse/CompiledDtd.h"
+#include "ocore/OrdoParse/ZNXMLInterface.h"
+#include "support/ListText.h"
+#include "support/OrdoDocument.h"
+#include "support/ScratchFolder.h"
+
+namespace zent::test {
+namespace {
+
+using testing::StartsWith;
+
+const std::string copiesOnly =
+    "<!ELEMENT ordo (job-template-attributes?)>\n"
+    "<!ATTLIST ordo version CDATA #IMPLIED krss-version CDATA #IMPLIED xml:lang CDATA #IMPLIED>\n"
+    "<!ELEMENT job-template-attributes (copies*)>\n"
+    "<!ELEMENT copies (#PCDATA)>\n"
+    "<!ATTLIST copies syntax CDATA #REQUIRED>\n";
+const std::string sidesToo = copiesOnly + "<!ELEMENT sides (#PCDATA)>\n"
+                                          "<!ATTLIST sides syntax CDATA #REQUIRED>\n";
+
+class CompiledDtdTest : public testing::Test {
+protected:
+    CompiledDtdTest() {
+        ZNXMLInterface::Instance();
+        OrdoTranslator::setDtdDirectory(m_folder.file(""));
+    }
+    ~CompiledDtdTest() override { useOrdoDtd(); }
+
+    void writeDtd(const std::string& content) const { m_folder.write("ordo-v02025.dtd", content); }
+    auto find() const { return CompiledDtd::find(m_folder.file("ordo-v02025.dtd")); }
+
+    /// What is read from a ticket of copies, or why it isn't.
+    static std::string readCopies() {
+        return ordoFailure([] { readOrdo(ordoTicket("<copies syntax='integer'>1</copies>")); });
+    }
+
+    const std::string m_fine = "nothing was raised";
+    ScratchFolder m_folder;
+};
+
+TEST_F(CompiledDtdTest, IsKeptAsLongAsTheFileIsTheSame) {
+    EXPECT_EQ(find(), nullptr) << "there is no file yet";
+    writeDtd(copiesOnly);
+    const auto first = find();
+    ASSERT_NE(first, nullptr);
+    EXPECT_EQ(find(), first);
+    EXPECT_EQ(readCopies(), m_fine);
+    EXPECT_EQ(find(), first);
+
+    writeDtd(sidesToo);
+    const auto second = find();
+    EXPECT_NE(second, nullptr);
+    EXPECT_NE(second, first);
+
+    CompiledDtd::forget();
+    EXPECT_NE(find(), nullptr);
+}
+
+TEST_F(CompiledDtdTest, WhatTheFileSaysNowCounts) {
+    EXPECT_THAT(readCopies(), StartsWith("2: "));
+    EXPECT_THAT(ordoFailure([] { writeOrdo({}); }), StartsWith("2: ")) << "writing validates too";
+
+    writeDtd(copiesOnly);
+    EXPECT_EQ(readCopies(), m_fine);
+    EXPECT_THAT(writeOrdo(listOf("copies=1")), testing::HasSubstr("<copies"));
+
+    writeDtd("<!ELEMENT ordo (other)><!ATTLIST ordo version CDATA #IMPLIED>\n");
+    EXPECT_THAT(readCopies(), StartsWith("2: "));
+    EXPECT_THAT(ordoFailure([] { writeOrdo({}); }), StartsWith("2: "));
+
+    writeDtd(copiesOnly);
+    EXPECT_EQ(readCopies(), m_fine);
+    std::filesystem::remove(m_folder.path() / "ordo-v02025.dtd");
+    EXPECT_THAT(readCopies(), StartsWith("2: "));
+    EXPECT_THAT(ordoFailure([] { writeOrdo({}); }), StartsWith("2: "));
+}
+
+TEST_F(CompiledDtdTest, OneThatNeedsOtherFilesOrHasFaultsIsReadEachTime) {
+    writeDtd("<!ENTITY % rest SYSTEM \"rest.ent\">%rest;");
+    m_folder.write("rest.ent", copiesOnly);
+    EXPECT_EQ(find(), nullptr);
+    EXPECT_EQ(readCopies(), m_fine);
+    m_folder.write("rest.ent", "<!ELEMENT ordo EMPTY>");
+    EXPECT_THAT(readCopies(), StartsWith("2: ")) << "a change there shows at once";
+
+    writeDtd(copiesOnly + "<!ELEMENT copies EMPTY>");
+    EXPECT_EQ(find(), nullptr);
+    EXPECT_THAT(readCopies(), StartsWith("2: "));
+
+    writeDtd("nonsense");
+    EXPECT_EQ(find(), nullptr);
+    EXPECT_THAT(readCopies(), StartsWith("2: "));
+    EXPECT_THAT(ordoFailure([] { writeOrdo({}); }), StartsWith("2: "));
+}
+
+TEST_F(CompiledDtdTest, DocumentsMayNameAnotherOneInTheFolder) {
+    writeDtd(copiesOnly);
+    m_folder.write("other.dtd", "<!ELEMENT ordo (copies)><!ELEMENT copies (#PCDATA)>"
+                                "<!ATTLIST copies syntax CDATA #FIXED 'integer'>");
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(textOfList(readOrdo("<!DOCTYPE ordo SYSTEM 'other.dtd'>"
+                                      "<ordo><copies>3</copies></ordo>")),
+                  "copies=3");
+        EXPECT_EQ(readCopies(), m_fine);
+    }
+}
+
+} // namespace
+} // namespace zent::test

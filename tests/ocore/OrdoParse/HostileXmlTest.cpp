@@ -1,0 +1,247 @@
+#include <span>
+#include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "ocore/AnlXlate/OrdoTranslator.h"
+#include "ocore/OrdoParse/TarvoXmlDataStream.h"
+#include "ocore/OrdoParse/TarvoXmlParser.h"
+#include "ocore/OrdoParse/XmlLimits.h"
+#include "ocore/OrdoParse/ZNXMLInterface.h"
+#include "support/ListText.h"
+#include "support/OrdoDocument.h"
+#include "support/ScratchFolder.h"
+
+namespace zent::test {
+namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+class HostileXmlTest : public testing::Test {
+protected:
+    HostileXmlTest() { useOrdoDtd(); }
+};
+
+std::string failureOf(const std::string& document) {
+    return ordoFailure([&] { readOrdo(document); });
+}
+
+std::string withSubset(const std::string& subset, const std::string& jobName) {
+    return "<!DOCTYPE ordo SYSTEM \"ordo-v02025.dtd\" [" + subset +
+           "]>\n<ordo><job-template-attributes><job-name syntax=\"name\">" + jobName +
+           "</job-name></job-template-attributes></ordo>";
+}
+
+std::string repeated(std::string_view text, std::size_t count) {
+    std::string result;
+    for (std::size_t i = 0; i < count; ++i) {
+        result += text;
+    }
+    return result;
+}
+
+TEST_F(HostileXmlTest, DocumentsThatAreNoTicketsAreRefused) {
+    const std::string good = ordoTicket("<copies syntax=\"integer\">2</copies>");
+    const std::string rows[] = {
+        "x",
+        " ",
+        std::string(100, '\0'),
+        "<ordo/>", // no document type
+        "<!DOCTYPE ordo [<!ELEMENT ordo ANY>]><ordo/>",
+        good + "<",
+        good + good,
+        ordoTicket("<copies>2</copies>"), // no syntax
+        ordoTicket("<no-such-attribute syntax=\"integer\">2</no-such-attribute>"),
+        ordoDocument("<copies syntax=\"integer\">2</copies>"), // in no category
+        ordoTicket("<copies syntax=\"integer\">&nothing;</copies>"),
+        ordoTicket("<copies syntax=\"integer\">\x01</copies>"),
+        ordoTicket("<copies syntax=\"integer\">\xFF</copies>"),
+        ordoTicket("<copies syntax=\"integer\">&#xD800;</copies>"),
+        "<?xml version=\"1.0\" encoding=\"NO-SUCH-ENCODING\"?>" + good.substr(good.find("<!DOC")),
+        "<?xml version=\"9.9\"?>" + good.substr(good.find("<!DOC")),
+        "<!DOCTYPE ordo SYSTEM \"no-such.dtd\"><ordo/>",
+        "<!DOCTYPE other SYSTEM \"ordo-v02025.dtd\"><ordo/>",
+        "<!DOCTYPE & SYSTEM \"ordo-v02025.dtd\"><ordo/>",
+    };
+    for (const std::string& document : rows) {
+        EXPECT_THAT(failureOf(document),
+                    AllOf(StartsWith("2: TarvoXmlParser::parse(): There was a problem with the "
+                                     "ORDO stream "),
+                          HasSubstr("rror at line "), HasSubstr("\"\r\nDTD name is ")))
+            << document;
+    }
+}
+
+TEST_F(HostileXmlTest, DocumentsCutShortAreRefused) {
+    const std::string whole = ordoTicket("<job-name syntax=\"name\">a&lt;</job-name>");
+    for (std::size_t length = 1; length < whole.size(); ++length) {
+        EXPECT_THAT(failureOf(whole.substr(0, length)), StartsWith("2: ")) << length;
+    }
+    EXPECT_EQ(textOfList(readOrdo(whole)), "job-name=name:a<");
+}
+
+TEST_F(HostileXmlTest, MessagesTellEveryErrorAndQuoteTheBeginningOnly) {
+    const std::string failure =
+        failureOf(ordoTicket("<copies/>\r\n<wrong syntax=\"a\"/>" + repeated("<!-- -->", 2'000)));
+    EXPECT_THAT(failure, HasSubstr("Error at line 3, column"));
+    EXPECT_THAT(failure, HasSubstr("Error at line 4, column"));
+    EXPECT_THAT(failure, HasSubstr("\r\nXML is:\r\n\r\n<?xml version=\"1.0\""));
+    EXPECT_LT(failure.size(), xmlLimits::quotedBytes + 4'000);
+}
+
+TEST_F(HostileXmlTest, ErrorsWithoutEndAreToldUpToABound) {
+    const std::string failure = failureOf(ordoTicket(repeated("<wrong/>", 100'000)));
+    EXPECT_THAT(failure, StartsWith("2: "));
+    EXPECT_LT(failure.size(), std::size_t{xmlLimits::reports} * 1'000);
+}
+
+TEST_F(HostileXmlTest, EntitiesOfADocumentAreExpandedWithinBounds) {
+    EXPECT_EQ(textOfList(readOrdo(withSubset("<!ENTITY a 'x&b;'><!ENTITY b 'y'>", "1&a;2&b;"))),
+              "job-name=name:1xy2y");
+    EXPECT_EQ(textOfList(readOrdo(withSubset("<!ENTITY a 'x'>", repeated("&a;", 1'000)))),
+              "job-name=name:" + std::string(1'000, 'x'));
+    EXPECT_THAT(failureOf(withSubset("<!ENTITY a 'x'>", repeated("&a;", 1'001))),
+                StartsWith("2: "));
+    const std::string longest(xmlLimits::entityUnits, 'x');
+    EXPECT_EQ(readOrdo(withSubset("<!ENTITY a '" + longest + "'>", "&a;")).getNumberOfNodes(), 1U);
+    EXPECT_THAT(failureOf(withSubset("<!ENTITY a '" + longest + "x'>", "&a;")),
+                HasSubstr("The text of an entity is longer than 65536 characters."));
+}
+
+TEST_F(HostileXmlTest, BombsAreDefused) {
+    std::string general = "<!ENTITY l0 'lol'>";
+    std::string parameter = "<!ENTITY % p0 ''>";
+    for (int i = 1; i < 40; ++i) {
+        const std::string before = std::to_string(i - 1);
+        general +=
+            "<!ENTITY l" + std::to_string(i) + " '" + repeated("&l" + before + ";", 10) + "'>";
+        parameter += "<!ENTITY % p" + std::to_string(i) + " '" +
+                     repeated("&#37;p" + before + ";", 10) + "'>";
+    }
+    EXPECT_THAT(failureOf(withSubset(general, "&l39;")), StartsWith("2: "));
+    EXPECT_THAT(failureOf(withSubset(general, "</job-name><copies syntax=\"&l39;\">1</copies>"
+                                              "<job-name syntax=\"name\">")),
+                StartsWith("2: "));
+    EXPECT_THAT(failureOf(withSubset(parameter + "%p39;", "a")),
+                HasSubstr("A document can't declare parameter entities of its own."));
+    EXPECT_THAT(failureOf(withSubset("<!ENTITY a '&b;'><!ENTITY b '&a;'>", "&a;")),
+                StartsWith("2: "));
+    EXPECT_THAT(failureOf(withSubset("<!ELEMENT x ((a|b)*,a,(a|b),(a|b))>", "a")),
+                HasSubstr("A document can't declare element types of its own."));
+    // A default of 1 MB for each of many elements.
+    EXPECT_THAT(
+        failureOf(withSubset("<!ATTLIST sides x CDATA '" + std::string(1 << 20, 'x') + "'>",
+                             "a</job-name>" + repeated("<sides syntax='keyword'>a</sides>", 100) +
+                                 "<job-name syntax='name'>")),
+        HasSubstr("The document's text is longer than 67108864 characters."));
+}
+
+TEST_F(HostileXmlTest, NestingHasABound) {
+    const auto nested = [](std::size_t depth) { // of all elements, root and category among them
+        const std::size_t values = depth - 3;
+        return ordoTicket("<document-format syntax=\"1setOf\">" +
+                          repeated("<value syntax=\"1setOf\">", values) +
+                          repeated("</value>", values) + "</document-format>");
+    };
+    EXPECT_EQ(failureOf(nested(xmlLimits::depth)), "nothing was raised");
+    for (const std::size_t depth : {std::size_t{101}, std::size_t{200'000}}) {
+        EXPECT_THAT(failureOf(nested(depth)), HasSubstr("Fatal error at line 3, column"));
+        EXPECT_THAT(failureOf(nested(depth)),
+                    HasSubstr("Elements are nested deeper than 100 levels."));
+    }
+}
+
+TEST_F(HostileXmlTest, SizesHaveBounds) {
+    const std::string blanks(xmlLimits::documentBytes + 1, ' ');
+    EXPECT_THAT(failureOf(blanks), AllOf(StartsWith("2: "), HasSubstr("67108865 bytes")));
+    EXPECT_THAT(failureOf(ordoTicket(repeated("<sides syntax=''/>", xmlLimits::elements))),
+                HasSubstr("The document has more than 1000000 elements."));
+
+    ZNXMLInterface::Instance();
+    std::string attributes;
+    for (int i = 0; i < 1'001; ++i) {
+        attributes += " a" + std::to_string(i) + "=''";
+    }
+    EXPECT_THAT(ordoFailure([&] {
+                    const std::string document = "<a" + attributes + "/>";
+                    TarvoXmlParser(u"XmlStream", false).parse(std::as_bytes(std::span(document)));
+                }),
+                HasSubstr("An element has more than 1000 attributes."));
+}
+
+class ExternalEntityTest : public HostileXmlTest {
+protected:
+    ExternalEntityTest() {
+        std::filesystem::create_directory(m_folder.path() / "dtd");
+        std::filesystem::copy_file(std::filesystem::path(programFolder().toNarrow()) /
+                                       "ordo-v02025.dtd",
+                                   m_folder.path() / "dtd" / "ordo-v02025.dtd");
+        m_folder.write("dtd/beside.ent", "<?xml encoding='UTF-8'?>beside");
+        m_folder.write("above.ent", "above");
+        OrdoTranslator::setDtdDirectory(m_folder.file("dtd/"));
+    }
+    ~ExternalEntityTest() override { useOrdoDtd(); }
+
+    static std::string including(const std::string& systemId) {
+        return withSubset("<!ENTITY e SYSTEM \"" + systemId + "\">", "&e;");
+    }
+
+    ScratchFolder m_folder;
+};
+
+TEST_F(ExternalEntityTest, FilesBesideTheDocumentTypeResolve) {
+    const std::string full = m_folder.file("dtd/beside.ent").toNarrow();
+    for (const std::string& name : {std::string("beside.ent"), full}) {
+        EXPECT_EQ(textOfList(readOrdo(including(name))), "job-name=name:beside") << name;
+    }
+}
+
+TEST_F(ExternalEntityTest, NothingElseDoes) {
+    const std::string above = m_folder.file("above.ent").toNarrow();
+    const std::string folder = m_folder.file("dtd/").toNarrow();
+    const std::string rows[] = {
+        "../above.ent",
+        "..\\above.ent",
+        folder + "../above.ent",
+        above,
+        "file://" + above,
+        "file:///" + above,
+        "http://127.0.0.1:1/x",
+        "ftp://127.0.0.1/x",
+        "./beside.ent",
+        "no-such.ent",
+        ".",
+        "..",
+        "",
+        "beside.ent?x",
+        "%2e%2e/above.ent",
+        "beside.ent/",
+        "//127.0.0.1/x",
+        "\\\\127.0.0.1\\x\\y.ent",
+        folder,
+        "ordo-v02025.dtd",
+    };
+    for (const std::string& name : rows) {
+        EXPECT_THAT(failureOf(including(name)), StartsWith("2: ")) << name;
+        EXPECT_THAT(failureOf("<!DOCTYPE ordo SYSTEM \"" + name + "\"><ordo/>") + name,
+                    testing::AnyOf(StartsWith("2: "), testing::EndsWith("ordo-v02025.dtd")))
+            << name;
+    }
+}
+
+TEST_F(ExternalEntityTest, DocumentsWithoutADocumentTypeHaveNoFolder) {
+    ZNXMLInterface::Instance();
+    const std::string document = "<!DOCTYPE a [<!ENTITY e SYSTEM \"beside.ent\">]><a>&e;</a>";
+    for (const CXString& name : {CXString(u"XmlStream"), m_folder.file("dtd/a.xml")}) {
+        TarvoXmlParser parser(name, false);
+        EXPECT_THAT(ordoFailure([&] { parser.parse(std::as_bytes(std::span(document))); }),
+                    StartsWith("2: "));
+    }
+}
+
+} // namespace
+} // namespace zent::test

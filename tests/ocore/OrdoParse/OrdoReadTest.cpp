@@ -1,0 +1,190 @@
+#include <span>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "ocore/AnlXlate/OrdoTranslator.h"
+#include "ocore/Exceptions.h"
+#include "ocore/OrdoParse/TarvoDomDoc.h"
+#include "support/ListText.h"
+#include "support/OrdoDocument.h"
+#include "support/Raised.h"
+
+namespace zent::test {
+namespace {
+
+class OrdoReadTest : public testing::Test {
+protected:
+    OrdoReadTest() { useOrdoDtd(); }
+};
+
+struct Row {
+    const char* attributes;
+    const char* list;
+};
+
+TEST_F(OrdoReadTest, ElementsBecomeNodes) {
+    const Row rows[] = {
+        {"", ""},
+        {"<copies syntax='integer'>2</copies><sides syntax='keyword'>one-sided</sides>",
+         "copies=2 sides=one-sided"},
+        {"<copies syntax='integer'>2</copies><copies syntax='integer'>3</copies>",
+         "copies=2 copies=3"},
+        {"<orientation-requested syntax='enum'>4</orientation-requested>"
+         "<toner-saver syntax='boolean'>true</toner-saver>",
+         "orientation-requested=enum:4 toner-saver=boolean:true"},
+        {"<page-ranges syntax='1setOf'>\n<value syntax='rangeOfInteger'>"
+         "<lower-bound syntax='integer'>1</lower-bound> <upper-bound syntax='integer'>5"
+         "</upper-bound></value></page-ranges>",
+         "page-ranges[value(lower-bound=1 upper-bound=5)]"},
+        {"<media-col syntax='collection'><media-size syntax='collection'>"
+         "<x-dimension syntax='integer'>21000</x-dimension></media-size></media-col>",
+         "media-col{media-size{x-dimension=21000}}"},
+        // White space counts where it is marked, whatever the syntax.
+        {"<sides syntax=' keyword '>\r\n\t one-sided\n</sides>", "sides=one-sided"},
+        {"<sides syntax='keyword' xml:space='preserve'> a </sides>", "sides= a "},
+        {"<job-name syntax='name'> a </job-name>", "job-name=name:a"},
+        {"<job-name syntax='name' xml:space='default'> a </job-name>", "job-name=name:a"},
+        {"<job-name syntax='name' xml:space='preserve'>\r\n a \t</job-name>",
+         "job-name=name:\n a \t"},
+        {"<job-name syntax='name' xml:space='preserve'>  </job-name>", "job-name=name:  "},
+        // Nothing at all is no value, and white space makes an empty list.
+        {"<job-name syntax='name'></job-name><copies syntax='integer'/>", ""},
+        {"<media-col syntax='collection'/><media-col syntax='collection'> </media-col>",
+         "media-col{}"},
+        // The first child tells.
+        {"<document-format syntax='1setOf'><value syntax='keyword'>a<value syntax='integer'>1"
+         "</value></value></document-format>",
+         "document-format[value=a]"},
+        {"<document-format syntax='1setOf'><value syntax='collection'>"
+         "<copies syntax='integer'>1</copies>text</value></document-format>",
+         "document-format[value{copies=1}]"},
+        {"<copies syntax='integer'><!--3-->2</copies>", "copies=3"},
+        {"<copies syntax='integer'><?pi 4?>2</copies>", "copies=4"},
+        {"<copies syntax='integer'>2<!--3-->4</copies>", "copies=2"},
+        {"<job-name syntax='name'><![CDATA[<a> & b]]></job-name>", "job-name=name:<a> & b"},
+        {"<job-name syntax='name'>a<![CDATA[b]]></job-name>", "job-name=name:a"},
+        // References are part of the text around them.
+        {"<job-name syntax='name'>a&amp;&lt;b&#x20AC;&#10;c</job-name>",
+         "job-name=name:a&<b\xE2\x82\xAC\nc"},
+        {"<copies syntax='&#105;nteger'>&#50;</copies>", "copies=2"},
+        // What isn't known stays by its name and keyword.
+        {"<copies syntax='dateTime'>now</copies>", "copies=dateTime:"},
+        {"<toner-saver syntax='boolean'>TRUE</toner-saver><copies syntax='integer'>x"
+         "</copies>",
+         "toner-saver=boolean:false copies=0"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(ordoFailure([&] {
+                      EXPECT_EQ(textOfList(readOrdo(ordoTicket(row.attributes))), row.list);
+                  }),
+                  "nothing was raised")
+            << row.attributes;
+    }
+}
+
+TEST_F(OrdoReadTest, AnElementOfWhiteSpaceIsAListOfItsSyntax) {
+    const AttrNodeList list = readOrdo(ordoTicket("<copies syntax='integer'> </copies>"));
+    const AttrValue& value = list.getNodeAt(0).getAttrValue();
+    EXPECT_TRUE(value.isList());
+    EXPECT_EQ(value.getIppSyntax(), u"integer");
+}
+
+TEST_F(OrdoReadTest, CategoriesAddNoLevel) {
+    const std::string both = "<job-template-attributes><job-name syntax='name'>a</job-name>"
+                             "</job-template-attributes>\n"
+                             "<ordo-operation-attributes><copies syntax='integer'>1</copies>"
+                             "</ordo-operation-attributes>";
+    EXPECT_EQ(textOfList(readOrdo(ordoDocument(both))), "job-name=name:a copies=1");
+    EXPECT_EQ(textOfList(readOrdo(ordoDocument(""))), "");
+}
+
+TEST_F(OrdoReadTest, TextsOfAllLengthsAndAlphabetsArriveWhole) {
+    std::string text;
+    for (int i = 0; i < 40'000; ++i) {
+        text += "\xC3\xA4\xF0\x9D\x84\x9E" + std::to_string(i);
+    }
+    const AttrNodeList list =
+        readOrdo(ordoTicket("<job-name syntax='name'>" + text + "</job-name>"));
+    EXPECT_TRUE(list.getNodeAt(0).getAttrValue().getIppValue().toNarrow() == text);
+}
+
+TEST_F(OrdoReadTest, TheDocumentSaysItsEncoding) {
+    const std::string ticket = ordoTicket("<job-name syntax='name'>\xC3\xA4</job-name>");
+    EXPECT_EQ(textOfList(readOrdo("\xEF\xBB\xBF" + ticket)), "job-name=name:\xC3\xA4");
+
+    std::string latin = ticket;
+    latin.replace(latin.find("UTF-8"), 5, "ISO-8859-1");
+    latin.replace(latin.find('\xC3'), 2, "\xE4");
+    EXPECT_EQ(textOfList(readOrdo(latin)), "job-name=name:\xC3\xA4");
+
+    std::string wideTicket = ticket;
+    wideTicket.replace(wideTicket.find("UTF-8"), 5, "UTF-16");
+    for (const bool isBigEndian : {false, true}) {
+        std::string bytes;
+        for (const char16_t unit : (u'\xFEFF' + CXString(wideTicket.c_str())).view()) {
+            const char low = static_cast<char>(unit & 0xFF);
+            const char high = static_cast<char>(unit >> 8);
+            bytes += isBigEndian ? high : low;
+            bytes += isBigEndian ? low : high;
+        }
+        EXPECT_EQ(textOfList(readOrdo(bytes)), "job-name=name:\xC3\xA4") << isBigEndian;
+    }
+}
+
+TEST_F(OrdoReadTest, AddsToTheListAndLeavesItAloneOnAnError) {
+    AttrNodeList list = listOf("sides=one-sided");
+    const std::string good = ordoTicket("<copies syntax='integer'>2</copies>");
+    const std::string bad = ordoTicket("<copies syntax='integer'>2</copies><nonsense/>");
+    OrdoTranslator().anlFromBuffer(ByteBuffer(good.data(), good.size()), &list);
+    EXPECT_THROW(OrdoTranslator().anlFromBuffer(ByteBuffer(bad.data(), bad.size()), &list),
+                 OrdoParseException);
+    EXPECT_EQ(textOfList(list), "sides=one-sided copies=2");
+}
+
+TEST_F(OrdoReadTest, ListsWithTextFailAsTheirValueDoes) {
+    AttrNodeList list;
+    const std::string ticket = ordoTicket("<copies syntax='integer'>2</copies>"
+                                          "<document-format syntax='collection'>a"
+                                          "</document-format><sides syntax='keyword'>x</sides>");
+    EXPECT_EQ(raised<UnknownCaseException>([&] {
+                  OrdoTranslator().anlFromBuffer(ByteBuffer(ticket.data(), ticket.size()), &list);
+              }),
+              "AttrValueFactory::createSimpleAttrValue(AVTE): unhandled attribute value "
+              "enumeration (10).\r\n");
+    EXPECT_EQ(textOfList(list), "copies=2") << "what came before stays";
+}
+
+/// A form of no rules of its own, to see what all forms do.
+class PlainDomDoc : public TarvoDomDoc {
+public:
+    PlainDomDoc() { createParser(u"XmlStream", false); }
+
+protected:
+    std::string_view getSkeletonDocument() const override { return "<?xml version='1.0'?><root/>"; }
+};
+
+TEST(TarvoDomDocTest, ElementsWithoutSyntaxAreSkippedWithAllTheyHold) {
+    const Row rows[] = {
+        {"<root><a>1</a></root>", ""},
+        {"<root x='1'><a y='2'><b syntax='integer'>1</b></a><c syntax='integer'>2</c></root>",
+         "c=2"},
+        {"<root>text<c syntax='integer'>2</c><!-- x --></root>", "c=2"},
+        {"<root syntax='integer'>2</root>", ""},
+        {"<!DOCTYPE root><root><c syntax='collection'><d>1</d><e syntax='keyword'>f</e></c></root>",
+         "c{e=f}"},
+    };
+    for (const Row& row : rows) {
+        PlainDomDoc document;
+        document.parse(std::as_bytes(std::span(std::string_view(row.attributes))));
+        AttrNodeList list;
+        document.toAttrNodeList(&list);
+        EXPECT_EQ(textOfList(list), row.list) << row.attributes;
+    }
+    AttrNodeList list;
+    PlainDomDoc().toAttrNodeList(&list); // nothing was parsed
+    EXPECT_EQ(textOfList(list), "");
+}
+
+} // namespace
+} // namespace zent::test

@@ -1,0 +1,164 @@
+#include <map>
+#include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "expected/ExpectedTable.h"
+#include "ocore/Attributes/IppNull.h"
+#include "ocore/Attributes/PrimitiveString.h"
+#include "ocore/OrdoParse/OrdoCategories.h"
+#include "support/ListText.h"
+#include "support/OrdoDocument.h"
+
+namespace zent::test {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+const std::string emptyTicket = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n"
+                                "<!DOCTYPE ordo SYSTEM \"ordo-v02025.dtd\">\r\n"
+                                "<ordo krss-version=\"2.01\" version=\"1.0\" xml:lang=\"en-US\"/>";
+
+class OrdoWriteTest : public testing::Test {
+protected:
+    OrdoWriteTest() { useOrdoDtd(); }
+};
+
+TEST_F(OrdoWriteTest, ATicketIsLaidOutLineByLine) {
+    const AttrNodeList list =
+        listOf("job-name=name:Report copies=2 page-ranges[value(lower-bound=1 upper-bound=5)] "
+               "media-col{media-size{x-dimension=21000 y-dimension=29700}}");
+    const std::string golden = readTestFile("golden/ordo/report.xml");
+    EXPECT_EQ(writeOrdo(list), golden);
+    EXPECT_EQ(writeOrdo(list), golden) << "also the second time";
+    EXPECT_EQ(textOfList(readOrdo(golden)), textOfList(list));
+}
+
+TEST_F(OrdoWriteTest, NothingToWriteIsARootAlone) {
+    EXPECT_EQ(writeOrdo({}), emptyTicket);
+    EXPECT_EQ(writeOrdo(listOf("!copies=2 !nobody-knows=3")), emptyTicket);
+    EXPECT_EQ(textOfList(readOrdo(emptyTicket)), "");
+}
+
+/// What stands in the root, without the line breaks and tabs.
+std::string contentOf(const AttrNodeList& list) {
+    std::string text = writeOrdo(list);
+    text = text.substr(text.find("\"en-US\">") + 8);
+    std::erase_if(text, [](char c) { return c == '\r' || c == '\n' || c == '\t'; });
+    return text.substr(0, text.size() - std::string("</ordo>").size());
+}
+
+TEST_F(OrdoWriteTest, CategoriesStandInOrderOfTheirFirstAttributes) {
+    EXPECT_EQ(contentOf(listOf("copies=1 job-name=keyword:a sides=b document-name=c")),
+              "<job-template-attributes><copies syntax=\"integer\">1</copies>"
+              "<sides syntax=\"keyword\">b</sides></job-template-attributes>"
+              "<ordo-operation-attributes><job-name syntax=\"keyword\">a</job-name>"
+              "<document-name syntax=\"keyword\">c</document-name></ordo-operation-attributes>");
+}
+
+TEST_F(OrdoWriteTest, PrivateNodesStayInsideAtEveryDepth) {
+    EXPECT_EQ(contentOf(listOf("!copies=1 media-col{!media-color=red media-size{!x-dimension=1}}")),
+              "<job-template-attributes><media-col syntax=\"collection\">"
+              "<media-size syntax=\"collection\"/></media-col></job-template-attributes>");
+}
+
+/// The element of one attribute.
+std::string elementOf(const AttrValue& value) {
+    AttrNodeList list;
+    list.addNode(AttrNode(AttrID(u"copies"), value, false));
+    std::string text = writeOrdo(list);
+    text = text.substr(text.find("<copies"));
+    return text.substr(0, text.find("\r\n\t</job-template-attributes>"));
+}
+
+TEST_F(OrdoWriteTest, OnlyListsWithoutMembersHaveNoEndTag) {
+    EXPECT_EQ(elementOf(IppName()), "<copies syntax=\"name\" xml:space=\"preserve\"></copies>");
+    EXPECT_EQ(elementOf(IppText(CXString(u"a"))),
+              "<copies syntax=\"text\" xml:space=\"preserve\">a</copies>");
+    EXPECT_EQ(elementOf(IppNull(u"dateTime")), "<copies syntax=\"dateTime\"></copies>");
+    EXPECT_EQ(contentOf(listOf("finishings[]")),
+              "<job-template-attributes><finishings syntax=\"1setOf\"/>"
+              "</job-template-attributes>");
+}
+
+TEST_F(OrdoWriteTest, TextsAreEscapedAndWhatXmlCannotHoldIsReplaced) {
+    const std::map<std::u16string, std::string> rows = {
+        {u"a & b < c > d \" e ' f", "a &amp; b &lt; c &gt; d \" e ' f"},
+        {u"]]>", "]]&gt;"},
+        {u"\ta\nb\r", "\ta\nb&#xD;"},
+        {u"\u00E4\u20AC", "\xC3\xA4\xE2\x82\xAC"},
+        {u"\U0001D11E", "\xF0\x9D\x84\x9E"},
+        {std::u16string(u"\0\x1\x1F", 3), "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"},
+        {u"\xFFFE\xFFFF\x7F", "\xEF\xBF\xBD\xEF\xBF\xBD\x7F"},
+        {u"\xD834", "\xEF\xBF\xBD"},
+        {u"a\xDD1E\xD834", "a\xEF\xBF\xBD\xEF\xBF\xBD"},
+        {u"\xD834\xD834\xDD1E", "\xEF\xBF\xBD\xF0\x9D\x84\x9E"},
+    };
+    for (const auto& [text, bytes] : rows) {
+        EXPECT_EQ(elementOf(IppKeyword(CXString(text))),
+                  "<copies syntax=\"keyword\">" + bytes + "</copies>");
+    }
+    EXPECT_EQ(
+        elementOf(IppNull(u"&\"<>'\t\n\r\x1\xD834")),
+        "<copies syntax=\"&amp;&quot;&lt;>'&#x9;&#xA;&#xD;\xEF\xBF\xBD\xEF\xBF\xBD\"></copies>");
+}
+
+TEST_F(OrdoWriteTest, NamesComeBackAsTheyWere) {
+    const std::u16string longText(100'000, u'\u20AC');
+    for (const std::u16string& text : {std::u16string(u" \r\n\t<&>\"' \U0001D11E\r"), longText,
+                                       longText + u"\U0001D11E&", u"&" + longText}) {
+        AttrNodeList list;
+        list.addName(CXString(text), AttrID(u"job-name"));
+        const AttrNodeList read = readOrdo(writeOrdo(list));
+        ASSERT_EQ(read.getNumberOfNodes(), 1U);
+        EXPECT_TRUE(read.getNodeAt(0).getAttrValue().getIppValue() == text);
+    }
+}
+
+// Some texts straddle the pieces that the formatter is given.
+TEST_F(OrdoWriteTest, LongTicketsComeBackAsTheyWere) {
+    AttrNodeList list;
+    AttrNodeList* const set = list.addSetOf(AttrID(u"document-format"));
+    for (int i = 0; i < 5'000; ++i) {
+        const std::u16string text(static_cast<std::size_t>(i % 97), u'\u00E4');
+        set->addKeyword(CXString(u"a" + text + u"\U0001D11E"), AttrID(u"value"));
+    }
+    const std::string written = writeOrdo(list);
+    const AttrNodeList read = readOrdo(written);
+    EXPECT_TRUE(textOfList(read) == textOfList(list));
+    EXPECT_TRUE(writeOrdo(read) == written);
+}
+
+TEST_F(OrdoWriteTest, AttributesWithoutACategoryFail) {
+    EXPECT_EQ(ordoFailure([] { writeOrdo(listOf("copies=1 nobody-knows=2")); }),
+              "7: OrdoDomDoc::getParentNode(): No ORDO category for nobody-knows!\r\n");
+    // Below the top, nobody asks.
+    EXPECT_THAT(contentOf(listOf("media-col{nobody-knows=2}")), HasSubstr("<nobody-knows"));
+}
+
+TEST_F(OrdoWriteTest, NamesThatXmlDoesNotAllowFail) {
+    for (const char16_t* name : {u"a b", u"1st", u"<", u"-a", u"\xD834"}) {
+        AttrNodeList list;
+        list.addCollection(AttrID(u"media-col"))->addInteger(1, AttrID(name));
+        EXPECT_EQ(ordoFailure([&] { writeOrdo(list); }),
+                  "6: TarvoDomDoc::addAttrNodeToDOMTree(): DOM_DOMException exception during DOM "
+                  "node creation. Exception code is INVALID_CHARACTER_ERR.\r\n");
+    }
+}
+
+TEST(OrdoCategoriesTest, AreThoseOfTheDocumentFormat) {
+    const auto rows = readExpectedTable("categories.tsv");
+    EXPECT_EQ(rows.size(), 169U);
+    for (const ExpectedRow& row : rows) {
+        const std::u16string category = row.wide("category");
+        EXPECT_EQ(nameOf(findOrdoCategory(row.wide("name"))), category) << row.text("name");
+    }
+    for (const char16_t* name : {u"", u"copie", u"copies ", u"Copies", u"x-dimension", u"zzz"}) {
+        EXPECT_EQ(findOrdoCategory(name), OrdoCategory::none);
+    }
+}
+
+} // namespace
+} // namespace zent::test

@@ -1,0 +1,129 @@
+#include <span>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "ocore/OrdoParse/OrdoParseException.h"
+#include "ocore/OrdoParse/TarvoXmlParser.h"
+#include "ocore/OrdoParse/XmlOutputCallback.h"
+#include "ocore/OrdoParse/ZNXMLInterface.h"
+#include "support/OrdoDocument.h"
+
+namespace zent::test {
+namespace {
+
+class XmlWriterTest : public testing::Test {
+protected:
+    XmlWriterTest() { ZNXMLInterface::Instance(); }
+
+    static std::string written(TarvoXmlParser& parser, bool formatted) {
+        ByteBuffer buffer;
+        XmlOutputBufferCallback callback(&buffer);
+        callback.setFormatted(formatted);
+        parser.convertToXmlStream(callback);
+        return {reinterpret_cast<const char*>(buffer.data()), buffer.size()};
+    }
+
+    static std::string rewritten(std::string_view document, bool formatted) {
+        TarvoXmlParser parser(u"XmlStream", false);
+        parser.parse(std::as_bytes(std::span(document)));
+        return written(parser, formatted);
+    }
+};
+
+TEST_F(XmlWriterTest, DocumentsAreWrittenAsTheyWereRead) {
+    const char* const rows[] = {
+        "<a/>",
+        "<a></a>", // two ways to say one thing; see below
+        "<a b=\"1\" c=\"&lt;&amp;&quot;&#x9;\">text &lt; &gt;<b/>tail</a>",
+        "<a><![CDATA[<&]]></a>",
+        "<!--before--><a><!-- in --></a><!--after-->",
+        "<?before?><a><?in some data ?></a>",
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<a/>",
+        "<?xml version=\"1.0\" encoding=\"US-ASCII\" standalone=\"yes\"?>\r\n<a>&#xE4;</a>",
+        "<!DOCTYPE a><a/>",
+    };
+    for (const char* document : rows) {
+        const std::string expected = document == std::string("<a></a>") ? "<a/>" : document;
+        EXPECT_EQ(rewritten(document, false), expected);
+    }
+}
+
+struct LayoutRow {
+    const char* document;
+    const char* formatted;
+};
+
+TEST_F(XmlWriterTest, FormattingBreaksLinesAroundElements) {
+    const LayoutRow rows[] = {
+        {"<a/>", "\r\n<a/>"},
+        {"<a><b/><c><d/></c></a>", "\r\n<a>\r\n\t<b/>\r\n\t<c>\r\n\t\t<d/>\r\n\t</c>\r\n</a>"},
+        {"<a><b>text</b></a>", "\r\n<a>\r\n\t<b>text</b>\r\n</a>"},
+        // What begins with text keeps its elements at its own depth, and ends on their line.
+        {"<a> <b/></a>", "\r\n<a> \r\n<b/></a>"},
+        {"<r><a>x<b><c/></b></a></r>",
+         "\r\n<r>\r\n\t<a>x\r\n\t<b>\r\n\t\t<c/>\r\n\t</b></a>\r\n</r>"},
+        {"<a><b/>x</a>", "\r\n<a>\r\n\t<b/>x</a>"},
+        // Only text holds the end tag back.
+        {"<a><!--x--><b/></a>", "\r\n<a><!--x-->\r\n<b/>\r\n</a>"},
+        {"<a><![CDATA[x]]></a>", "\r\n<a><![CDATA[x]]>\r\n</a>"},
+    };
+    for (const LayoutRow& row : rows) {
+        EXPECT_EQ(rewritten(row.document, true), row.formatted);
+    }
+}
+
+TEST_F(XmlWriterTest, ReferencesAndDeclaredEntitiesAreExpanded) {
+    EXPECT_EQ(rewritten("<!DOCTYPE a [<!ENTITY e \"<b/>x\">]><a>1&e;2&e;</a>", false),
+              "<!DOCTYPE a[<!ENTITY e \"<b/>x\">]><a>1<b/>x2<b/>x</a>");
+}
+
+/// Nodes that no parse of a document with all references expanded gives.
+TEST_F(XmlWriterTest, DocumentTypesAndEntitiesNameTheirSources) {
+    TarvoXmlParser parser(u"XmlStream", false);
+    XmlDocument& document = parser.getDocument();
+    XmlNode& type =
+        document.append(document.getNode(), XmlNodeKind::documentType, u"a", u"<!-- -->");
+    document.addAttribute(type, u"SYSTEM", u"a.dtd");
+    document.addAttribute(type, u"PUBLIC", u"-//A");
+    XmlNode& entity = document.append(document.getNode(), XmlNodeKind::entity, u"e", {});
+    document.addAttribute(entity, u"SYSTEM", u"e.gif");
+    document.addAttribute(entity, u"NDATA", u"gif");
+    XmlNode& root = document.appendElement(document.getNode(), u"a");
+    XmlNode& reference = document.append(root, XmlNodeKind::entityReference, u"r", {});
+    document.append(reference, XmlNodeKind::text, {}, u"x");
+    document.appendElement(reference, u"b");
+    EXPECT_EQ(written(parser, true), "<!DOCTYPE a PUBLIC \"-//A\" SYSTEM \"a.dtd\"[<!-- -->]>"
+                                     "<!ENTITY eSYSTEM \"e.gif\"NDATA \"gif\">\r\n"
+                                     "\r\n<a>x\r\n\t<b/>\r\n</a>");
+}
+
+class Refusing : public XmlOutputCallback {
+public:
+    bool handleOutput(const char*, std::size_t) override { return false; }
+};
+
+TEST_F(XmlWriterTest, FailuresSayWhere) {
+    TarvoXmlParser parser(u"XmlStream", false);
+    parser.parse(std::as_bytes(std::span(std::string_view("<a/>"))));
+    EXPECT_EQ(ordoFailure([&] {
+                  Refusing callback;
+                  parser.convertToXmlStream(callback);
+              }),
+              "4: TarvoXmlParser::writeChars(): Failed the call to handleOutput() in special "
+              "callback object!\r\n");
+
+    XmlDocument& document = parser.getDocument();
+    TarvoXmlParser other(u"XmlStream", false);
+    XmlNode& declaration = other.getDocument().append(other.getDocument().getNode(),
+                                                      XmlNodeKind::xmlDeclaration, {}, {});
+    document.addAttribute(declaration, u"encoding", u"NO-SUCH-ENCODING");
+    const std::string failure = ordoFailure([&] { written(other, true); });
+    EXPECT_TRUE(failure.starts_with("3: TarvoXmlParser::convertToXmlStream(): XMLException during "
+                                    "creation of output stream. Message: "))
+        << failure;
+    EXPECT_NE(failure.find("NO-SUCH-ENCODING"), std::string::npos) << failure;
+}
+
+} // namespace
+} // namespace zent::test

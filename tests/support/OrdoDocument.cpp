@@ -1,0 +1,39 @@
+#include "support/OrdoDocument.h"
+
+#include "ocore/AnlXlate/OrdoTranslator.h"
+#include "platform/Files.h"
+
+namespace zent::test {
+
+CXString programFolder() {
+    const CXString path = platform::getModulePath();
+    return path.left(path.findLast(platform::pathSeparator) + 1);
+}
+
+void useOrdoDtd() { OrdoTranslator::setDtdDirectory(programFolder()); }
+
+std::string ordoDocument(std::string_view content) {
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n"
+           "<!DOCTYPE ordo SYSTEM \"ordo-v02025.dtd\">\r\n"
+           "<ordo version=\"1.0\" krss-version=\"2.01\" xml:lang=\"en-US\">" +
+           std::string(content) + "</ordo>";
+}
+
+std::string ordoTicket(std::string_view attributes) {
+    return ordoDocument("<job-template-attributes>" + std::string(attributes) +
+                        "</job-template-attributes>");
+}
+
+AttrNodeList readOrdo(std::string_view document) {
+    AttrNodeList list;
+    OrdoTranslator().anlFromBuffer(ByteBuffer(document.data(), document.size()), &list);
+    return list;
+}
+
+std::string writeOrdo(const AttrNodeList& list) {
+    ByteBuffer buffer;
+    OrdoTranslator().anlToBuffer(list, &buffer);
+    return {reinterpret_cast<const char*>(buffer.data()), buffer.size()};
+}
+
+} // namespace zent::test
