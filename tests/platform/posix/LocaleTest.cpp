@@ -12,6 +12,11 @@
 #include "ocore/User.h"
 #include "platform/posix/Environment.h"
 
+/// The leak checker asks. With LOCPATH set, the C library never frees its copy of the path; other
+/// leaks of opening a locale count.
+extern "C" const char* __lsan_default_suppressions();
+extern "C" const char* __lsan_default_suppressions() { return "leak:__argz_add_sep\n"; }
+
 namespace zent::platform {
 namespace {
 
