@@ -14,8 +14,14 @@
 namespace zent::test {
 namespace {
 
-using testing::ContainsRegex;
 using testing::StartsWith;
+
+/// What a box says last: the error's number, without the line in the source at its end.
+std::string errorIn(const MessageBox& box) {
+    const std::size_t start = box.text.rfind("\n\n");
+    const std::string number = start == std::string::npos ? "" : box.text.substr(start + 2);
+    return number.substr(0, number.rfind(':'));
+}
 
 TEST(HeaderTest, ServesPlainC) {
     EXPECT_EQ(numberOfCallsInC, 37U);
@@ -169,7 +175,7 @@ TEST(SessionCallsTest, ABadSessionHandleIsShownWhateverTheCall) {
         ASSERT_EQ(shown.size(), 1U) << call.name;
         EXPECT_EQ(shown[0].title, "Tarvo job ticket");
         EXPECT_THAT(shown[0].text, StartsWith("The job ticket library ran into an error"));
-        EXPECT_THAT(shown[0].text, ContainsRegex("\n\n025:000:[0-9][0-9][0-9][0-9]$"));
+        EXPECT_EQ(errorIn(shown[0]), "025:000");
     }
     EXPECT_EQ(calls[0].call(memory.readOnly<ZentSessionType>()), ZENT_ERR_SESSION);
     EXPECT_EQ(calls[1].call(memory.unmapped<ZentSessionType>()), ZENT_ERR_SESSION);
@@ -286,7 +292,7 @@ TEST(SessionCallsTest, FailuresAreShownUnlessSilent) {
         ASSERT_EQ(shown.size(), silent ? 0U : 1U);
         if (!silent) {
             EXPECT_EQ(shown[0].title, "Tarvo job ticket");
-            EXPECT_THAT(shown[0].text, ContainsRegex("\n\n012:000:[0-9][0-9][0-9][0-9]$"));
+            EXPECT_EQ(errorIn(shown[0]), "012:000");
         }
         // These are no exceptions, so nothing is said.
         ZentBool out = 0;
