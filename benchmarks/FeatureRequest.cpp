@@ -93,9 +93,9 @@ ZentResult FeatureRequest::set(ZentSessionType session, TarvoJtSettingsType sett
 ZentResult FeatureRequest::get(ZentSessionType session, TarvoJtSettingsType settings) const {
     ZentResult result = ZENT_ERR_UNKNOWN;
     ZentBool found = 0;
-    std::array<char16_t, 128> text;
+    std::array<char16_t, 64> text{};
     auto size = static_cast<std::uint32_t>(text.size());
-    std::array<std::int32_t, 3> numbers;
+    std::array<std::int32_t, 3> numbers{};
     switch (m_kind) {
     case Kind::text:
         result = fnGetStringValue(session, settings, m_name.c_str(), text.data(), &size, 0, &found);

@@ -29,7 +29,7 @@ Libxml2Peer::Libxml2Peer(const std::string& dtdPath)
     if (m_dtd == nullptr) {
         throw std::runtime_error("libxml2 can't read the document type");
     }
-    constexpr std::string_view invalid = "<!DOCTYPE ordo SYSTEM \"ordo-v02025.dtd\"><ordo a=\"\"/>";
+    constexpr std::string_view invalid = R"(<!DOCTYPE ordo SYSTEM "ordo-v02025.dtd"><ordo a=""/>)";
     for (const auto reader : {&Libxml2Peer::parse, &Libxml2Peer::parseWithCompiledDtd}) {
         try {
             (this->*reader)(invalid);

@@ -20,7 +20,7 @@ public:
 
 private:
     struct Ticket {
-        Ticket(std::string name, std::string xml);
+        Ticket(std::string ticketName, std::string text);
 
         std::string name;
         std::string xml;

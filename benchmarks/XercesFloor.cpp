@@ -95,7 +95,7 @@ void XercesParse::prepare(Parser& parser) {
     parser.loadGrammar(m_base.c_str(), xercesc::Grammar::DTDGrammarType, true);
     parser.useCachedGrammarInParse(true);
 
-    constexpr std::string_view invalid = "<!DOCTYPE ordo SYSTEM \"ordo-v02025.dtd\"><ordo a=\"\"/>";
+    constexpr std::string_view invalid = R"(<!DOCTYPE ordo SYSTEM "ordo-v02025.dtd"><ordo a=""/>)";
     try {
         parse(parser, invalid);
     } catch (const std::runtime_error&) {
@@ -157,11 +157,7 @@ void XercesWrite::addTag(std::string_view tag) {
     addMarkup(tag.substr(0, opening));
     std::string_view rest = tag.substr(opening, tag.size() - opening - closing);
     addMarkup(rest.substr(0, rest.find(' ')));
-    while (true) {
-        const auto blank = rest.find(' ');
-        if (blank == std::string_view::npos) {
-            break;
-        }
+    for (auto blank = rest.find(' '); blank != std::string_view::npos; blank = rest.find(' ')) {
         rest.remove_prefix(blank + 1);
         const auto quote = rest.find('"');
         const auto end = rest.find('"', quote + 1);
