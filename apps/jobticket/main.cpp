@@ -58,6 +58,8 @@ ExitStatus run(const std::vector<std::string>& arguments) {
     CLI::App program("Reads, edits and compares job tickets for production printers.", "jobticket");
     program.set_version_flag("--version", "jobticket " ZENT_VERSION);
     program.require_subcommand(1);
+    // The commands take this over: on every system "/a" is a file.
+    program.allow_windows_style_options(false);
     program.footer(std::string("\"jobticket COMMAND --help\" tells more about a command.\n\n") +
                    aboutStatus);
     Action action;
