@@ -28,9 +28,9 @@ TEST_F(UserPreferencesTest, HasDefaults) {
     const ByteBuffer no("\0", 1);
     const ByteBuffer one("\x01\0\0\0", 4);
     const struct {
-        const char16_t* name;
-        std::uint32_t type;
-        const char16_t* typeText;
+        const char16_t* name = nullptr;
+        std::uint32_t type = 0;
+        const char16_t* typeText = nullptr;
         ByteBuffer value;
     } rows[] = {
         {u"JOB_NAME_PREFERENCE", 1, u"<bool>", yes},

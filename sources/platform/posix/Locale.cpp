@@ -1,12 +1,12 @@
 #include "platform/Locale.h"
 
 #include <bit>
+#include <clocale>
 #include <cstdint>
 #include <memory>
 #include <type_traits>
 
 #include <langinfo.h>
-#include <locale.h>
 
 namespace zent::platform {
 

@@ -12,10 +12,12 @@
 #include "ocore/User.h"
 #include "platform/posix/Environment.h"
 
-/// The leak checker asks. With LOCPATH set, the C library never frees its copy of the path; other
-/// leaks of opening a locale count.
+// The leak checker asks. With LOCPATH set, the C library never frees its copy of the path; other
+// leaks of opening a locale count.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" const char* __lsan_default_suppressions();
 extern "C" const char* __lsan_default_suppressions() { return "leak:__argz_add_sep\n"; }
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace zent::platform {
 namespace {
@@ -68,19 +70,19 @@ TEST_F(LocaleTest, FollowsTheUsersLocale) {
     constexpr std::uint32_t a4 = 8;
     constexpr std::uint32_t a3 = 9;
     const struct {
-        char measurement;
-        std::uint32_t width;
-        std::uint32_t height;
         const char16_t* measurementText;
         const char16_t* paperText;
-        bool usesInches;
+        std::uint32_t width;
+        std::uint32_t height;
         std::uint32_t stockSize;
+        char measurement;
+        bool usesInches;
     } rows[] = {
-        {1, 210, 297, u"0", u"9", false, a4},     {1, 297, 420, u"0", u"8", false, a3},
-        {2, 216, 279, u"1", u"1", true, letter},  {2, 216, 356, u"1", u"5", true, legal},
-        {1, 216, 279, u"0", u"1", false, letter}, {2, 210, 297, u"1", u"9", true, a4},
-        {1, 297, 210, u"0", u"", false, a4},      {2, 148, 210, u"1", u"", true, letter},
-        {3, 0, 0, u"", u"", true, letter},
+        {u"0", u"9", 210, 297, a4, 1, false},     {u"0", u"8", 297, 420, a3, 1, false},
+        {u"1", u"1", 216, 279, letter, 2, true},  {u"1", u"5", 216, 356, legal, 2, true},
+        {u"0", u"1", 216, 279, letter, 1, false}, {u"1", u"9", 210, 297, a4, 2, true},
+        {u"0", u"", 297, 210, a4, 1, false},      {u"1", u"", 148, 210, letter, 2, true},
+        {u"", u"", 0, 0, letter, 3, true},
     };
     int number = 0;
     for (const auto& row : rows) {
