@@ -10,6 +10,7 @@
 #include <xercesc/util/XMLString.hpp>
 
 #include "expected/ExpectedTable.h"
+#include "ocore/OrdoParse/ParserMemory.h"
 
 namespace zent::test {
 namespace {
@@ -102,7 +103,8 @@ std::string complaintsAbout(const std::string& content) {
 
     Complaints complaints;
     Resolver resolver;
-    xercesc::XercesDOMParser parser;
+    ParserMemory memory; // or what the parser loses would be a leak
+    xercesc::XercesDOMParser parser(nullptr, &memory);
     parser.setValidationScheme(xercesc::XercesDOMParser::Val_Always);
     parser.setErrorHandler(&complaints);
     parser.setEntityResolver(&resolver);

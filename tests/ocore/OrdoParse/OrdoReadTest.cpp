@@ -120,9 +120,10 @@ TEST_F(OrdoReadTest, TheDocumentSaysItsEncoding) {
 
     std::string wideTicket = ticket;
     wideTicket.replace(wideTicket.find("UTF-8"), 5, "UTF-16");
+    const CXString wide = u'\xFEFF' + CXString(wideTicket.c_str());
     for (const bool isBigEndian : {false, true}) {
         std::string bytes;
-        for (const char16_t unit : (u'\xFEFF' + CXString(wideTicket.c_str())).view()) {
+        for (const char16_t unit : wide.view()) {
             const char low = static_cast<char>(unit & 0xFF);
             const char high = static_cast<char>(unit >> 8);
             bytes += isBigEndian ? high : low;
