@@ -67,6 +67,14 @@ void XmlTreeBuilder::elementDecl(const xercesc::DTDElementDecl& declaration, boo
     XercesDOMParser::elementDecl(declaration, isIgnored);
 }
 
+void XmlTreeBuilder::startAttList(const xercesc::DTDElementDecl& declaration) {
+    // The library doesn't count the entities that are expanded in the default of an attribute.
+    if (m_inInternalSubset) {
+        refuse(u"A document can't declare attributes of its own.");
+    }
+    XercesDOMParser::startAttList(declaration);
+}
+
 void XmlTreeBuilder::entityDecl(const xercesc::DTDEntityDecl& declaration, bool isParameterEntity,
                                 bool isIgnored) {
     // The library doesn't count how often parameter entities are expanded.

@@ -33,6 +33,7 @@ public:
     void startIntSubset() override;
     void endIntSubset() override;
     void elementDecl(const xercesc::DTDElementDecl& declaration, bool isIgnored) override;
+    void startAttList(const xercesc::DTDElementDecl& declaration) override;
     void entityDecl(const xercesc::DTDEntityDecl& declaration, bool isParameterEntity,
                     bool isIgnored) override;
 
