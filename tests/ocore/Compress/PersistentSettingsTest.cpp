@@ -1,0 +1,132 @@
+#include "ocore/Compress/PersistentSettings.h"
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "ocore/Compress/CompressedBuffer.h"
+#include "ocore/User.h"
+#include "support/ListText.h"
+#include "support/OrdoDocument.h"
+#include "support/Raised.h"
+#include "support/ScratchPreferences.h"
+
+namespace zent::test {
+namespace {
+
+ByteBuffer bytesOf(const std::string& text) { return {text.data(), text.size()}; }
+
+ByteBuffer compressed(const std::string& text) {
+    CompressedBuffer buffer(CompressedBuffer::defaultLevel);
+    buffer.store(bytesOf(text));
+    return buffer.getImage();
+}
+
+std::string structureOf(char size = '\x0A') {
+    std::string structure(522, '\0');
+    structure[0] = size; // 522 is 0x20A
+    structure[1] = '\x02';
+    structure[4] = '\x01';
+    structure[6] = 'm';
+    structure[8] = 'e';
+    structure[519] = '\x01';
+    return structure;
+}
+
+ByteBuffer blobOf(const std::string& header, const std::string& content) {
+    ByteBuffer blob = bytesOf(header);
+    blob.append(compressed(content));
+    return blob;
+}
+
+const std::string recentHeader("\x08\0\0\0\x01\0\x08\x03", 8);
+const std::string fullPayloadHeader("\x08\0\0\0\x01\0\0\x04", 8);
+const std::string documentHeader("\x0A\0\0\0\x01\0\x07\x03\x34\x12", 10);
+
+class PersistentSettingsTest : public testing::Test {
+protected:
+    PersistentSettingsTest() { useOrdoDtd(); }
+
+    static std::string listIn(const ByteBuffer& blob) {
+        PersistentSettings settings(blob, false);
+        return textOfList(*settings.toNewAttrNodeList());
+    }
+
+private:
+    ScratchPreferences m_preferences;
+};
+
+TEST_F(PersistentSettingsTest, ATicketTravelsWithItsUser) {
+    PersistentSettings settings;
+    EXPECT_EQ(settings.getUserContext().logonName, User::getLogonName());
+    EXPECT_TRUE(settings.getUserContext().useDocumentName);
+    EXPECT_EQ(textOfList(*settings.toNewAttrNodeList()), "");
+
+    settings.setUserContext({CXString(u"ada"), false, true, false});
+    settings.setFromAttrNodeList(listOf("copies=3 media-col{media-color=blue}"));
+    const ByteBuffer blob = settings.getBuffer();
+    EXPECT_EQ(blob.bytes().size(), settings.size());
+    EXPECT_EQ(ByteBuffer(blob.data(), 8), bytesOf(recentHeader));
+
+    const PersistentSettings copy(blob, false);
+    EXPECT_TRUE(copy.isEqual(settings));
+    const UserContext user = copy.getUserContext();
+    EXPECT_EQ(user.logonName, u"ada");
+    EXPECT_FALSE(user.useDocumentName);
+    EXPECT_TRUE(user.useLogonName);
+    EXPECT_EQ(listIn(blob), "copies=3 media-col{media-color=blue}");
+}
+
+TEST_F(PersistentSettingsTest, ALongNameIsCut) {
+    PersistentSettings settings;
+    settings.setUserContext(
+        {CXString(std::u16string_view(std::u16string(300, u'n'))), true, true, true});
+    EXPECT_EQ(settings.getUserContext().logonName.length(), 255);
+}
+
+TEST_F(PersistentSettingsTest, OlderFormsAreUpgraded) {
+    const std::string document = ordoTicket("<copies syntax='integer'>4</copies>");
+    const ByteBuffer old = blobOf(documentHeader, document);
+    PersistentSettings settings(old, false);
+    EXPECT_EQ(listIn(old), "copies=4");
+    EXPECT_EQ(settings.getStateTag(), 0x34);
+    EXPECT_EQ(settings.getUserContext().logonName, User::getLogonName());
+    EXPECT_EQ(listIn(bytesOf(documentHeader)), "");
+
+    const ByteBuffer full = blobOf(fullPayloadHeader, structureOf() + document);
+    EXPECT_EQ(listIn(full), "copies=4");
+    EXPECT_EQ(PersistentSettings(full, false).getUserContext().logonName, u"me");
+}
+
+TEST_F(PersistentSettingsTest, FaultsAreRefusedAndNothingIsTaken) {
+    struct Row {
+        ByteBuffer blob;
+        ResultCode result;
+    };
+    const Row rows[] = {
+        {bytesOf(recentHeader.substr(0, 7)), ZENT_ERR_STATE_FORMAT},
+        {bytesOf(std::string("\x08\0\0\0\x01\0\x09\x03", 8)), ZENT_ERR_STATE_FORMAT},
+        {bytesOf(recentHeader), ZENT_ERR_COMPRESSION},
+        {blobOf(recentHeader, structureOf().substr(0, 521)), ZENT_ERR_STATE_FORMAT},
+        {blobOf(recentHeader, structureOf('\x0B')), ZENT_ERR_STATE_FORMAT},
+        {blobOf(recentHeader, structureOf() + "<sordo>"), ZENT_ERR_XML_PARSE},
+        {blobOf(fullPayloadHeader, structureOf() + "<ordo/>"), ZENT_ERR_XML_PARSE},
+    };
+    PersistentSettings settings;
+    const ByteBuffer before = settings.getBuffer();
+    for (const Row& row : rows) {
+        try {
+            settings.importPersistentSettingsState(row.blob, false);
+            ADD_FAILURE() << "row " << &row - rows << " was taken";
+        } catch (const TarvoException& exception) {
+            EXPECT_EQ(exception.getResultCode(), row.result) << exception.getMessage().toNarrow();
+        }
+        EXPECT_EQ(settings.getBuffer(), before);
+    }
+    // Of a trusted blob the header alone is looked at; the rest comes to light when it is used.
+    EXPECT_TRUE(settings.importPersistentSettingsState(bytesOf(recentHeader), true));
+    EXPECT_THROW(settings.validate(), MissingOrBadCompressedBufferFooterException);
+}
+
+} // namespace
+} // namespace zent::test
