@@ -8,38 +8,72 @@
 
 namespace zent {
 
-/// Stands before what is handed out, and links all that is out.
-struct alignas(std::max_align_t) ParserMemory::Block {
-    Block* older;
-    Block* newer;
+/// Stands before what is handed out.
+struct alignas(std::max_align_t) ParserMemory::Head {
+    std::size_t sizeClass; // 0 for a large block
+    Head* next;            // of those to be used again
+};
+
+/// Stands before the head of a large block, and links all that are out.
+struct alignas(std::max_align_t) ParserMemory::Large {
+    Large* older;
+    Large* newer;
 };
 
 ParserMemory::~ParserMemory() {
     while (m_newest != nullptr) {
-        deallocate(m_newest + 1);
+        deallocateLarge(m_newest);
     }
 }
 
 void* ParserMemory::allocate(XMLSize_t size) {
-    void* const memory = size <= std::numeric_limits<XMLSize_t>::max() - sizeof(Block)
-                             ? ::operator new(sizeof(Block) + size, std::nothrow)
-                             : nullptr;
-    if (memory == nullptr) {
+    try {
+        const std::size_t sizeClass = size / step + 1;
+        return (sizeClass < sizeClasses ? allocateSmall(sizeClass) : allocateLarge(size)) + 1;
+    } catch (const std::bad_alloc&) {
         throw xercesc::OutOfMemoryException();
     }
-    auto* const block = new (memory) Block{m_newest, nullptr};
-    if (m_newest != nullptr) {
-        m_newest->newer = block;
-    }
-    m_newest = block;
-    return block + 1;
 }
 
 void ParserMemory::deallocate(void* memory) {
     if (memory == nullptr) {
         return;
     }
-    Block* const block = static_cast<Block*>(memory) - 1;
+    Head* const head = static_cast<Head*>(memory) - 1;
+    if (head->sizeClass == 0) {
+        void* const block = head;
+        deallocateLarge(static_cast<Large*>(block) - 1);
+        return;
+    }
+    head->next = m_free[head->sizeClass];
+    m_free[head->sizeClass] = head;
+}
+
+ParserMemory::Head* ParserMemory::allocateSmall(std::size_t sizeClass) {
+    Head*& used = m_free[sizeClass];
+    if (used != nullptr) {
+        Head* const head = used;
+        used = head->next;
+        return head;
+    }
+    void* const memory = m_pieces.allocate(sizeof(Head) + sizeClass * step, alignof(Head));
+    return new (memory) Head{sizeClass, nullptr};
+}
+
+ParserMemory::Head* ParserMemory::allocateLarge(std::size_t size) {
+    constexpr std::size_t heads = sizeof(Large) + sizeof(Head);
+    if (size > std::numeric_limits<std::size_t>::max() - heads) {
+        throw std::bad_alloc();
+    }
+    auto* const block = new (::operator new(heads + size)) Large{m_newest, nullptr};
+    if (m_newest != nullptr) {
+        m_newest->newer = block;
+    }
+    m_newest = block;
+    return new (block + 1) Head{0, nullptr};
+}
+
+void ParserMemory::deallocateLarge(Large* block) {
     (block->newer != nullptr ? block->newer->older : m_newest) = block->older;
     if (block->older != nullptr) {
         block->older->newer = block->newer;
