@@ -67,7 +67,7 @@ Assignment parseAssignment(const std::string& text) {
     }
     const FeaturePath path = parsePath(std::string_view(text).substr(0, equals));
     checkPlace(path.front().feature);
-    const Assignment assignment = {
+    Assignment assignment = {
         path, parseValues(path.back().feature, std::string_view(text).substr(equals + 1))};
     if (path.back().index && assignment.values.size() > 1) {
         throw ProgramError(ExitStatus::badValue,
@@ -138,7 +138,7 @@ ExitStatus unset(const EditOptions& options) {
 
 std::shared_ptr<EditOptions> addEditOptions(CLI::App& command, const char* editName,
                                             const char* editHelp) {
-    const auto options = std::make_shared<EditOptions>();
+    auto options = std::make_shared<EditOptions>();
     command.add_option("TICKET", options->input, "Ticket file, or - for standard input")
         ->required();
     command.add_option(editName, options->edits, editHelp);

@@ -45,6 +45,7 @@ std::string kindOf(const Feature& feature) {
 
 std::string listFeatures(const std::vector<Feature>& features) {
     std::vector<Row> rows;
+    rows.reserve(features.size());
     for (const Feature& feature : features) {
         rows.push_back({feature.getName(), kindOf(feature), feature.getDisplayName()});
     }

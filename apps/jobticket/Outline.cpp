@@ -59,9 +59,17 @@ Shown showResolution(const AttrNodeList& numbers) {
     const auto units = numberIn(numbers, zent::attrNames::units());
     const std::string across = textOf(numberIn(numbers, zent::attrNames::crossFeed()));
     const std::string along = textOf(numberIn(numbers, zent::attrNames::feedDirection()));
-    std::string unit = "unit " + textOf(units);
-    if (units == dotsPerInch || units == dotsPerCentimetre) {
-        unit = units == dotsPerInch ? "dpi" : "dpcm";
+    std::string unit;
+    switch (units.value_or(0)) {
+    case dotsPerInch:
+        unit = "dpi";
+        break;
+    case dotsPerCentimetre:
+        unit = "dpcm";
+        break;
+    default:
+        unit = "unit " + textOf(units);
+        break;
     }
     return {across + "x" + along + unit, across + " x " + along + " " + unit};
 }

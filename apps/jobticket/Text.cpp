@@ -40,7 +40,7 @@ std::string toUtf8(std::u16string_view text) {
     std::string result;
     while (!text.empty()) {
         std::mbstate_t state = {};
-        std::array<char8_t, 256> chunk;
+        std::array<char8_t, 256> chunk = {};
         const char16_t* next = text.data();
         char8_t* end = chunk.data();
         converter().out(state, text.data(), text.data() + text.size(), next, chunk.data(),

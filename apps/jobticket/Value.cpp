@@ -179,7 +179,7 @@ std::string listValues(const Feature& feature, std::string_view text) {
 }
 
 std::u16string parseKnownValue(const Feature& feature, std::string_view text) {
-    const std::u16string units = fromUtf8(text);
+    std::u16string units = fromUtf8(text);
     if (!zent::FeatureValue::isKnownValue(feature.getNumber(), zent::CXString(units))) {
         fail(feature, text, "is none of its values" + listValues(feature, text));
     }
@@ -187,7 +187,7 @@ std::u16string parseKnownValue(const Feature& feature, std::string_view text) {
 }
 
 std::u16string parseText(const Feature& feature, std::string_view text) {
-    const std::u16string units = fromUtf8(feature.keepsWhiteSpace() ? text : trimmed(text));
+    std::u16string units = fromUtf8(feature.keepsWhiteSpace() ? text : trimmed(text));
     checkCharacters(feature, text, units);
     if (units.empty()) {
         fail(feature, text, "is blank");
