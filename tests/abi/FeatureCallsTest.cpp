@@ -155,23 +155,23 @@ TEST_F(FeatureCallsTest, TextGoesOutByTheBufferProtocol) {
     struct Row {
         const char* feature;
         bool hasBuffer;
+        ZentBool found;
         std::uint32_t size;
         ZentResult result;
         std::uint32_t required;
-        ZentBool found;
         const char* text; // null if the buffer is untouched
     };
     const Row rows[] = {
-        {"sides", false, 0, ZENT_OK, 10, 1, nullptr},
-        {"sides", false, 99, ZENT_OK, 10, 1, nullptr},
-        {"sides", true, 0, ZENT_ERR_BUFFER_TOO_SMALL, 10, 1, nullptr},
-        {"sides", true, 9, ZENT_ERR_BUFFER_TOO_SMALL, 10, 1, nullptr},
-        {"sides", true, 10, ZENT_OK, 10, 1, "one-sided"},
-        {"sides", true, 12, ZENT_OK, 10, 1, "one-sided"},
-        {"job-name", false, 0, ZENT_OK, 1, 0, nullptr},
-        {"job-name", true, 0, ZENT_ERR_BUFFER_TOO_SMALL, 1, 0, nullptr},
-        {"job-name", true, 1, ZENT_OK, 1, 0, ""},
-        {"no-such", true, 12, ZENT_ERR_UNKNOWN_FEATURE, 12, 7, nullptr}, // all untouched
+        {"sides", false, 1, 0, ZENT_OK, 10, nullptr},
+        {"sides", false, 1, 99, ZENT_OK, 10, nullptr},
+        {"sides", true, 1, 0, ZENT_ERR_BUFFER_TOO_SMALL, 10, nullptr},
+        {"sides", true, 1, 9, ZENT_ERR_BUFFER_TOO_SMALL, 10, nullptr},
+        {"sides", true, 1, 10, ZENT_OK, 10, "one-sided"},
+        {"sides", true, 1, 12, ZENT_OK, 10, "one-sided"},
+        {"job-name", false, 0, 0, ZENT_OK, 1, nullptr},
+        {"job-name", true, 0, 0, ZENT_ERR_BUFFER_TOO_SMALL, 1, nullptr},
+        {"job-name", true, 0, 1, ZENT_OK, 1, ""},
+        {"no-such", true, 7, 12, ZENT_ERR_UNKNOWN_FEATURE, 12, nullptr}, // all untouched
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(std::string(row.feature) + " " + std::to_string(row.size));

@@ -15,7 +15,7 @@ _Static_assert(ZENT_INTERFACE_VERSION == 27 && ZENT_FORMAT_XML == 1 && ZENT_FORM
                "applications were built with these numbers");
 
 #define CALL(name)                                                                                 \
-    { #name, (CallAddress)name }
+    { #name, (CallAddress)(name) }
 
 const struct NamedCall callsInC[] = {
     CALL(fnOpenSession),

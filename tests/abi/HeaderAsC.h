@@ -1,5 +1,6 @@
 #pragma once
 
+// NOLINTBEGIN(modernize-*): this is C as well.
 #include <stddef.h>
 
 #ifdef __cplusplus
@@ -27,3 +28,4 @@ int useLibraryInC(void);
 #ifdef __cplusplus
 }
 #endif
+// NOLINTEND(modernize-*)

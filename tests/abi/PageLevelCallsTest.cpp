@@ -17,7 +17,7 @@ protected:
             EXPECT_EQ(page, nullptr);
             return "result " + std::to_string(result);
         }
-        const std::string copies = numberOf(session, page, "copies");
+        std::string copies = numberOf(session, page, "copies");
         session.release(page);
         return copies;
     }

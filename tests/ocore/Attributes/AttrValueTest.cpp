@@ -32,34 +32,34 @@ TEST(AttrValueTest, IsMadeFromText) {
         const char16_t* syntax;
         const char16_t* text;
         AVTE type;
-        const char16_t* value;
         bool spacePreserved;
+        const char16_t* value;
     };
     const Row rows[] = {
-        {u"integer", u"12", AVTE_INTEGER, u"12", false},
-        {u"integer", u" \t\r\n-7abc", AVTE_INTEGER, u"-7", false},
-        {u"integer", u"+5", AVTE_INTEGER, u"5", false},
-        {u"integer", u"- 5", AVTE_INTEGER, u"0", false},
-        {u"integer", u"many", AVTE_INTEGER, u"0", false},
-        {u"integer", u"", AVTE_INTEGER, u"0", false},
-        {u"integer", u"-", AVTE_INTEGER, u"0", false},
-        {u"integer", u"2147483648", AVTE_INTEGER, u"2147483647", false},
-        {u"integer", u"-2147483648", AVTE_INTEGER, u"-2147483648", false},
-        {u"integer", u"-999999999999999999999999", AVTE_INTEGER, u"-2147483648", false},
-        {u"enum", u"50", AVTE_ENUM, u"50", false},
-        {u"keyword", u" a b ", AVTE_KEYWORD, u" a b ", false},
-        {u"name", u"", AVTE_NAME, u"", true},
-        {u"text", u"t", AVTE_TEXT, u"t", true},
-        {u"mimeMediaType", u"a/b", AVTE_MIMEMEDIA, u"a/b", false},
-        {u"uri", u"file:x", AVTE_URI, u"file:x", false},
-        {u"boolean", u"true", AVTE_BOOLEAN, u"true", false},
-        {u"boolean", u"yes", AVTE_BOOLEAN, u"true", false},
-        {u"boolean", u"1", AVTE_BOOLEAN, u"true", false},
-        {u"boolean", u"TRUE", AVTE_BOOLEAN, u"false", false},
-        {u"boolean", u"", AVTE_BOOLEAN, u"false", false},
-        {u"octetString", u"lost", AVTE_NULL, u"", false},
-        {u"Integer", u"1", AVTE_NULL, u"", false},
-        {u"", u"1", AVTE_NULL, u"", false},
+        {u"integer", u"12", AVTE_INTEGER, false, u"12"},
+        {u"integer", u" \t\r\n-7abc", AVTE_INTEGER, false, u"-7"},
+        {u"integer", u"+5", AVTE_INTEGER, false, u"5"},
+        {u"integer", u"- 5", AVTE_INTEGER, false, u"0"},
+        {u"integer", u"many", AVTE_INTEGER, false, u"0"},
+        {u"integer", u"", AVTE_INTEGER, false, u"0"},
+        {u"integer", u"-", AVTE_INTEGER, false, u"0"},
+        {u"integer", u"2147483648", AVTE_INTEGER, false, u"2147483647"},
+        {u"integer", u"-2147483648", AVTE_INTEGER, false, u"-2147483648"},
+        {u"integer", u"-999999999999999999999999", AVTE_INTEGER, false, u"-2147483648"},
+        {u"enum", u"50", AVTE_ENUM, false, u"50"},
+        {u"keyword", u" a b ", AVTE_KEYWORD, false, u" a b "},
+        {u"name", u"", AVTE_NAME, true, u""},
+        {u"text", u"t", AVTE_TEXT, true, u"t"},
+        {u"mimeMediaType", u"a/b", AVTE_MIMEMEDIA, false, u"a/b"},
+        {u"uri", u"file:x", AVTE_URI, false, u"file:x"},
+        {u"boolean", u"true", AVTE_BOOLEAN, false, u"true"},
+        {u"boolean", u"yes", AVTE_BOOLEAN, false, u"true"},
+        {u"boolean", u"1", AVTE_BOOLEAN, false, u"true"},
+        {u"boolean", u"TRUE", AVTE_BOOLEAN, false, u"false"},
+        {u"boolean", u"", AVTE_BOOLEAN, false, u"false"},
+        {u"octetString", u"lost", AVTE_NULL, false, u""},
+        {u"Integer", u"1", AVTE_NULL, false, u""},
+        {u"", u"1", AVTE_NULL, false, u""},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(CXString(row.syntax).toNarrow() + " " + CXString(row.text).toNarrow());

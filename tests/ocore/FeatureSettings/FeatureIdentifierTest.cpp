@@ -11,23 +11,23 @@ namespace {
 TEST(FeatureIdentifierTest, QueriesGoToTheTable) {
     struct Row {
         const char16_t* id;
-        FeatureEnum number;
         const char16_t* leaf;
+        FeatureEnum number;
         bool inSet;
         bool userDefinable;
         const char16_t* preferredSyntax;
         FeatureEnum parent; // 0 for none
     };
     const Row rows[] = {
-        {u"copies", 2, u"copies", false, false, u"integer", 0},
-        {u"sides", 4, u"sides", false, false, u"keyword", 0},
-        {u"imposition-template", 5, u"imposition-template", false, true, u"name", 0},
-        {u"page-ranges", 6, u"value", true, false, u"rangeOfInteger", 0},
+        {u"copies", u"copies", 2, false, false, u"integer", 0},
+        {u"sides", u"sides", 4, false, false, u"keyword", 0},
+        {u"imposition-template", u"imposition-template", 5, false, true, u"name", 0},
+        {u"page-ranges", u"value", 6, true, false, u"rangeOfInteger", 0},
         // In a collection that is a member of a set.
-        {u"save-location", 10, u"save-location", false, true, u"uri", 126},
-        {u"x-dimension", 99, u"x-dimension", false, false, u"integer", 113},
-        {u"media-size", 113, u"media-size", false, false, u"collection", 133},
-        {u"save-info", 126, u"value", true, false, u"collection", 125},
+        {u"save-location", u"save-location", 10, false, true, u"uri", 126},
+        {u"x-dimension", u"x-dimension", 99, false, false, u"integer", 113},
+        {u"media-size", u"media-size", 113, false, false, u"collection", 133},
+        {u"save-info", u"value", 126, true, false, u"collection", 125},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(CXString(row.id).toNarrow());
@@ -88,7 +88,7 @@ TEST(SyntaxListTest, TakesTheSecondAndThirdOnlyIfGiven) {
     const SyntaxList::Entry unknown{u"octets", AVTE_NULL};
     struct Row {
         SyntaxList list;
-        std::uint32_t count;
+        std::uint32_t count = 0;
     };
     const Row rows[] = {{{keyword, none, none}, 1},    {{keyword, name, none}, 2},
                         {{keyword, name, name}, 3},    {{keyword, none, name}, 1},

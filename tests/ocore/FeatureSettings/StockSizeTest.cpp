@@ -50,7 +50,7 @@ TEST_F(StockSizeTest, SizesAreFoundEitherWayRound) {
 TEST_F(StockSizeTest, SizesAreTurnedIfOnlyThatFits) {
     struct Row {
         SizeLimits limits;
-        bool turned;
+        bool turned = false;
     };
     const Row rows[] = {
         {{21000, 21000, 29700, 29700}, false}, // bounds are inclusive
