@@ -9,14 +9,14 @@
 namespace zent {
 
 /// Stands before what is handed out.
-struct alignas(std::max_align_t) ParserMemory::Head {
-    std::size_t sizeClass; // 0 for a large block
-    Head* next;            // of those to be used again
+struct ParserMemory::Head {
+    alignas(alignment) std::size_t sizeClass; // 0 for a large block
+    Head* next;                               // of those to be used again
 };
 
 /// Stands before the head of a large block, and links all that are out.
-struct alignas(std::max_align_t) ParserMemory::Large {
-    Large* older;
+struct ParserMemory::Large {
+    alignas(alignment) Large* older;
     Large* newer;
 };
 

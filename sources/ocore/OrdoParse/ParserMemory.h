@@ -32,6 +32,9 @@ private:
     struct Head;
     struct Large;
 
+    /// What heaps give. Not std::max_align_t: with MinGW for x86 that is another one by the order
+    /// of the headers, and so would be this class.
+    static constexpr std::size_t alignment = 2 * sizeof(void*);
     static constexpr std::size_t step = 64;        // the sizes of small blocks, in bytes
     static constexpr std::size_t sizeClasses = 65; // of up to 4 KiB; class 0 stays empty
     static constexpr std::size_t firstPiece = 96 * 1024;
@@ -40,7 +43,7 @@ private:
     Head* allocateLarge(std::size_t size);
     void deallocateLarge(Large* block);
 
-    alignas(std::max_align_t) std::array<std::byte, firstPiece> m_firstPiece;
+    alignas(alignment) std::array<std::byte, firstPiece> m_firstPiece;
     std::pmr::monotonic_buffer_resource m_pieces{m_firstPiece.data(), m_firstPiece.size()};
     std::array<Head*, sizeClasses> m_free{}; // blocks to be used again
     Large* m_newest = nullptr;
