@@ -66,7 +66,7 @@ const CXString& checked(const CXString& text) {
 /// ASCII as it is; the rest from places where 16-bit text has its pitfalls.
 char16_t unitOf(std::uint8_t byte) {
     constexpr std::array<char16_t, 4> bases{0x0080, 0xD800, 0xDC00, 0xFFE0};
-    return byte < 0x80 ? byte : static_cast<char16_t>(bases[byte / 32 - 4] + byte % 32);
+    return static_cast<char16_t>(byte < 0x80 ? byte : bases[byte / 32 - 4] + byte % 32);
 }
 
 /// A format that ends within a specifier, or wants what isn't there, is refused by a literal.

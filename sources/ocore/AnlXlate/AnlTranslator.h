@@ -24,7 +24,7 @@ public:
 protected:
     AnlTranslator() = default;
     AnlTranslator(const AnlTranslator&) = default;
-    AnlTranslator& operator=(const AnlTranslator& /*other*/) { return *this; }
+    AnlTranslator& operator=(const AnlTranslator&) = default;
 };
 
 } // namespace zent
