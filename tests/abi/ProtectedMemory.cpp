@@ -35,10 +35,11 @@ ProtectedMemory::ProtectedMemory() : m_pageSize(static_cast<std::size_t>(sysconf
         throw std::runtime_error("no memory");
     }
     m_pages = static_cast<char*>(pages);
-    munmap(m_pages + m_pageSize, m_pageSize);
+    // Kept for nothing to use, as the heap would take a hole.
+    mprotect(m_pages + m_pageSize, m_pageSize, PROT_NONE);
 }
 
-ProtectedMemory::~ProtectedMemory() { munmap(m_pages, m_pageSize); }
+ProtectedMemory::~ProtectedMemory() { munmap(m_pages, 2 * m_pageSize); }
 
 #endif
 

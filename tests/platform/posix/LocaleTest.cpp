@@ -15,7 +15,7 @@
 // The leak checker asks. With LOCPATH set, the C library never frees its copy of the path; other
 // leaks of opening a locale count.
 // NOLINTBEGIN(bugprone-reserved-identifier)
-extern "C" const char* __lsan_default_suppressions();
+extern "C" [[gnu::visibility("default")]] const char* __lsan_default_suppressions();
 extern "C" const char* __lsan_default_suppressions() { return "leak:__argz_add_sep\n"; }
 // NOLINTEND(bugprone-reserved-identifier)
 
