@@ -89,7 +89,7 @@ public:
 
     /// Appends what the next round expands; true at the end of the stream.
     bool expandInto(ByteBuffer& output) {
-        std::array<std::byte, 16384> window;
+        std::array<std::byte, 16384> window{};
         m_stream.next_out = asZlib(window.data());
         m_stream.avail_out = static_cast<uInt>(window.size());
         const int result = inflate(&m_stream, Z_NO_FLUSH);

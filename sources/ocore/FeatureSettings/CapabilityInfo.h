@@ -35,10 +35,10 @@ CXString getCapabilityTypeText(std::uint32_t type);
 
 /// One row of the capability table.
 struct CapabilityInfo {
-    FeatureEnum m_feature; // TJTF_ANY for a capability of the printer as a whole
+    FeatureEnum m_feature = TJTF_ANY; // TJTF_ANY for a capability of the printer as a whole
     NestedAttrID m_nestedID;
-    std::uint32_t m_class;
-    std::uint32_t m_type;
+    std::uint32_t m_class = capabilityClass::standard;
+    std::uint32_t m_type = CAPTYPE_INT_RANGE;
     SyntaxList m_syntaxes;
 };
 

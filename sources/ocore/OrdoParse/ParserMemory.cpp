@@ -21,8 +21,10 @@ struct ParserMemory::Large {
 };
 
 ParserMemory::~ParserMemory() {
-    while (m_newest != nullptr) {
-        deallocateLarge(m_newest);
+    for (Large* block = m_newest; block != nullptr;) {
+        Large* const older = block->older;
+        ::operator delete(block);
+        block = older;
     }
 }
 

@@ -21,7 +21,7 @@ const SyntaxCode syntaxCodes[] = {
 } // namespace
 
 std::string_view SOrdoDomDoc::getSkeletonDocument() const {
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?><sordo xml:lang=\"en-US\"> </sordo>";
+    return R"(<?xml version="1.0" encoding="UTF-8"?><sordo xml:lang="en-US"> </sordo>)";
 }
 
 std::u16string_view SOrdoDomDoc::getSyntaxAttributeName() const { return u"s"; }

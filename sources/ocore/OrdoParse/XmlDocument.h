@@ -82,6 +82,7 @@ private:
 /// makes it so.
 class XmlDocument {
 public:
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the block of memory needs no zeros
     XmlDocument() : m_node(XmlNodeKind::document, {}, {}) {}
     XmlDocument(const XmlDocument&) = delete;
     XmlDocument& operator=(const XmlDocument&) = delete;
@@ -112,7 +113,7 @@ private:
     T* make(Args... args);
     void copyChildren(const XmlNode& from, XmlNode& to);
 
-    static constexpr std::size_t firstBlock = 8 * 1024;
+    static constexpr std::size_t firstBlock = std::size_t{8} * 1024;
 
     std::array<std::byte, firstBlock> m_firstBlock;
     std::pmr::monotonic_buffer_resource m_memory{m_firstBlock.data(), m_firstBlock.size()};

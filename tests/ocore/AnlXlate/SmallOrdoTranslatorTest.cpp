@@ -15,7 +15,7 @@ std::string written(const AttrNodeList& list) {
     const std::string text(static_cast<const char*>(static_cast<const void*>(bytes.data())),
                            bytes.size());
     const std::string begin = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n"
-                              "<sordo xml:lang=\"en-US\"> ";
+                              R"(<sordo xml:lang="en-US"> )";
     const std::string end = "</sordo>";
     EXPECT_TRUE(text.starts_with(begin) && text.ends_with(end)) << text;
     return text.substr(begin.size(), text.size() - begin.size() - end.size());
@@ -36,25 +36,25 @@ struct Row {
 
 TEST(SmallOrdoTranslatorTest, NamesAndValuesAreAbbreviated) {
     const Row rows[] = {
-        {"copies=2", "<A s=\"i\">2</A>"},
-        {"sides=one-sided", "<a s=\"k\">c</a>"},
-        {"job-name=name:Report", "<f s=\"n\" xml:space=\"preserve\">Report</f>"},
+        {"copies=2", R"(<A s="i">2</A>)"},
+        {"sides=one-sided", R"(<a s="k">c</a>)"},
+        {"job-name=name:Report", R"(<f s="n" xml:space="preserve">Report</f>)"},
         {"page-ranges[value(lower-bound=1 upper-bound=5)]",
-         "<E s=\"s\"><V s=\"r\"><L s=\"i\">1</L><U s=\"i\">5</U></V></E>"},
+         R"(<E s="s"><V s="r"><L s="i">1</L><U s="i">5</U></V></E>)"},
         {"printer-resolution<cross-feed=600 feed-direction=300 units=3>",
-         "<ay s=\"o\"><C s=\"i\">600</C><F s=\"i\">300</F><T s=\"i\">3</T></ay>"},
+         R"(<ay s="o"><C s="i">600</C><F s="i">300</F><T s="i">3</T></ay>)"},
         // An enum has no abbreviation, and neither has what no table knows.
-        {"finishings[value=enum:20]", "<ci s=\"s\"><V s=\"e\">20</V></ci>"},
-        {"job-priority=50", "<job-priority s=\"i\">50</job-priority>"},
-        {"job-priority=none", "<job-priority s=\"k\">none</job-priority>"},
+        {"finishings[value=enum:20]", R"(<ci s="s"><V s="e">20</V></ci>)"},
+        {"job-priority=50", R"(<job-priority s="i">50</job-priority>)"},
+        {"job-priority=none", R"(<job-priority s="k">none</job-priority>)"},
         // The feature of the node before decides within a set, which comes before its own name.
         {"imposition-template=none job-offset[value=none]",
-         "<D s=\"k\">f</D><cn s=\"s\"><V s=\"k\">f</V></cn>"},
+         R"(<D s="k">f</D><cn s="s"><V s="k">f</V></cn>)"},
         // What looks like an abbreviation, or begins with an asterisk, is marked.
-        {"job-name=name:c", "<f s=\"n\" xml:space=\"preserve\">*c</f>"},
-        {"job-name=name:*c", "<f s=\"n\" xml:space=\"preserve\">**c</f>"},
-        {"job-name=name:*", "<f s=\"n\" xml:space=\"preserve\">**</f>"},
-        {"!copies=2 sides=one-sided", "<a s=\"k\">c</a>"},
+        {"job-name=name:c", R"(<f s="n" xml:space="preserve">*c</f>)"},
+        {"job-name=name:*c", R"(<f s="n" xml:space="preserve">**c</f>)"},
+        {"job-name=name:*", R"(<f s="n" xml:space="preserve">**</f>)"},
+        {"!copies=2 sides=one-sided", R"(<a s="k">c</a>)"},
     };
     for (const Row& row : rows) {
         const AttrNodeList list = listOf(row.list);
@@ -66,8 +66,7 @@ TEST(SmallOrdoTranslatorTest, NamesAndValuesAreAbbreviated) {
 }
 
 TEST(SmallOrdoTranslatorTest, UnknownCodesStayAsTheyAre) {
-    const std::string document =
-        "<sordo><zz s=\"k\">c</zz><a s=\"q\">c</a><A s=\"i\">7</A></sordo>";
+    const std::string document = R"(<sordo><zz s="k">c</zz><a s="q">c</a><A s="i">7</A></sordo>)";
     AttrNodeList list;
     SmallOrdoTranslator().anlFromBuffer(ByteBuffer(document.data(), document.size()), &list);
     ASSERT_EQ(list.getNumberOfNodes(), 3U);

@@ -101,7 +101,7 @@ TEST_F(PersistentSettingsTest, OlderFormsAreUpgraded) {
 TEST_F(PersistentSettingsTest, FaultsAreRefusedAndNothingIsTaken) {
     struct Row {
         ByteBuffer blob;
-        ResultCode result;
+        ResultCode result = ZENT_OK;
     };
     const Row rows[] = {
         {bytesOf(recentHeader.substr(0, 7)), ZENT_ERR_STATE_FORMAT},
