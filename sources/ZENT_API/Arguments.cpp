@@ -17,6 +17,13 @@ CXString textOf(const ZentChar* argument) {
     return text;
 }
 
+ByteBuffer bytesOf(const void* data, std::uint32_t length) {
+    if (data == nullptr && length != 0) {
+        throw NullArgument();
+    }
+    return {data, length};
+}
+
 ZentResult handOutText(const CXString& text, ZentChar* buffer, std::uint32_t& size) {
     const std::uint32_t given = size;
     const std::uint32_t needed = static_cast<std::uint32_t>(text.length()) + 1;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ocore/ByteBuffer.h"
 #include "ocore/CXString.h"
 #include "zent27.h"
 
@@ -20,6 +21,9 @@ T& required(T* argument) {
 
 /// A text argument; null gives the empty string.
 CXString textOf(const ZentChar* argument);
+
+/// The bytes of a data argument, which may be null only without a length.
+ByteBuffer bytesOf(const void* data, std::uint32_t length);
 
 /// The buffer protocol for text: sets the size to what is required, terminator included, and copies
 /// if there is a buffer that is large enough. Otherwise ZENT_OK without a buffer, and

@@ -97,19 +97,19 @@ ZentResult ZENT_CALL fnGetResolutionValue(ZentSessionType session, TarvoJtSettin
                         });
 }
 
-// Without a printer there are no limits that could ask for the size to be turned.
 ZentResult ZENT_CALL fnGetStockSizeValues(ZentSessionType session, TarvoJtSettingsType settings,
                                           int32_t* width, int32_t* height, ZentBool* found) {
     return withSettings(session, settings, u"ZENT::fnGetStockSizeValues()",
-                        [&](ZENTSession& /*opened*/, FeatureSettings& ticket) -> ZentResult {
+                        [&](ZENTSession& opened, FeatureSettings& ticket) -> ZentResult {
                             int32_t& outWidth = required(width);
                             int32_t& outHeight = required(height);
                             ZentBool& isFound = required(found);
                             const StockSize size = ticket.getStockSize();
                             isFound = !size.isUnspecified();
                             if (isFound != 0) {
-                                outWidth = size.getWidth();
-                                outHeight = size.getHeight();
+                                size.getOrientedDimensions(
+                                    opened.getCapabilities().getStockSizeLimits(), &outWidth,
+                                    &outHeight);
                             }
                             return ZENT_OK;
                         });

@@ -8,18 +8,20 @@ using namespace zent;
 
 extern "C" {
 
-// The printer is not looked up yet, so any model, language and instruction form will do.
-ZentResult ZENT_CALL fnOpenSession(uint32_t version, uint32_t /*model*/, uint32_t /*pdl*/,
-                                   uint32_t /*instructionForm*/, ZentBool silent,
-                                   const ZentChar* /*preferencesName*/,
-                                   ZentBool /*useGenericPreferences*/, ZentSessionType* session) {
+ZentResult ZENT_CALL fnOpenSession(uint32_t version, uint32_t model, uint32_t pdl,
+                                   uint32_t instructionForm, ZentBool silent,
+                                   const ZentChar* preferencesName, ZentBool useGenericPreferences,
+                                   ZentSessionType* session) {
     if (version != ZENT_INTERFACE_VERSION) {
         return ZENT_ERR_VERSION;
     }
     return inFrame(u"ZENT::fnOpenSession()", silent != 0, [&](bool& isSilent) -> ZentResult {
         ZentSessionType& handle = required(session);
         announceModuleDirectory();
-        handle = std::make_unique<ZENTSession>(isSilent).release()->getHandle();
+        auto opened =
+            std::make_unique<ZENTSession>(model, pdl, instructionForm, isSilent,
+                                          textOf(preferencesName), useGenericPreferences != 0);
+        handle = opened.release()->getHandle();
         return ZENT_OK;
     });
 }

@@ -4,22 +4,24 @@
 
 #include "ZENT_API/Arguments.h"
 #include "ZENT_API/CallFrame.h"
-#include "ZENT_API/UnavailableCall.h"
 #include "ocore/AnlXlate/OrdoTranslator.h"
 
 using namespace zent;
 
 namespace {
 
-/// Reads a ticket; nothing if the format is none.
-std::optional<FeatureSettings> readTicket(const ByteBuffer& data, uint32_t format) {
+/// Reads a ticket; nothing if the format is none. A blob is read into the state as well.
+std::optional<FeatureSettings> readTicket(const ByteBuffer& data, uint32_t format,
+                                          PersistentSettings& state) {
     FeatureSettings ticket;
     switch (format) {
     case ZENT_FORMAT_XML:
         OrdoTranslator().anlFromBuffer(data, ticket.getAttrNodeList());
         return ticket;
     case ZENT_FORMAT_STATE:
-        throw UnavailableCall();
+        state.importPersistentSettingsState(data, false);
+        state.toAttrNodeList(ticket.getAttrNodeList());
+        return ticket;
     default:
         return std::nullopt;
     }
@@ -38,11 +40,14 @@ ZentResult apply(FeatureSettings& ticket, uint32_t mode, ZentBool& problems, boo
     return ZENT_OK;
 }
 
-ByteBuffer bytesOf(const void* data, uint32_t length) {
-    if (data == nullptr && length != 0) {
-        throw NullArgument();
-    }
-    return {data, length};
+void generateXml(ZENTSession& session, ByteBuffer& target) {
+    OrdoTranslator().anlToBuffer(*session.settings().getAttrNodeList(), &target);
+}
+
+void generateState(ZENTSession& session, ByteBuffer& target) {
+    PersistentSettings& state = session.currentState();
+    session.updateUserContext(state);
+    target = state.getBuffer();
 }
 
 } // namespace
@@ -54,7 +59,8 @@ ZentResult ZENT_CALL fnImportJobTicket(ZentSessionType session, const void* data
                                        const ZentChar* /*title*/, ZentBool* problems,
                                        ZentBool* applied) {
     return inSession(session, u"ZENT::fnImportJobTicket()", [&](ZENTSession& opened) -> ZentResult {
-        std::optional<FeatureSettings> ticket = readTicket(bytesOf(data, length), format);
+        PersistentSettings state = opened.copyState();
+        std::optional<FeatureSettings> ticket = readTicket(bytesOf(data, length), format, state);
         if (!ticket) {
             return ZENT_ERR_TICKET_FORMAT;
         }
@@ -64,8 +70,7 @@ ZentResult ZENT_CALL fnImportJobTicket(ZentSessionType session, const void* data
         const ZentResult result = apply(*ticket, mode, hasProblems, usable);
         isApplied = result == ZENT_OK && usable;
         if (isApplied != 0) {
-            // The caches stay: a result that waits to be fetched is served as it is.
-            opened.settings() = std::move(*ticket);
+            opened.replaceTicket(std::move(*ticket), state);
         }
         return result;
     });
@@ -74,22 +79,30 @@ ZentResult ZENT_CALL fnImportJobTicket(ZentSessionType session, const void* data
 ZentResult ZENT_CALL fnExportJobTicket(ZentSessionType session, void* buffer, uint32_t* size,
                                        uint32_t format) {
     return inSession(session, u"ZENT::fnExportJobTicket()", [&](ZENTSession& opened) -> ZentResult {
-        CachedOutput& cache = opened.exportCache();
-        switch (format) {
-        case ZENT_FORMAT_XML: {
-            uint32_t& bytes = required(size);
-            if (!cache.isFor(format)) {
-                cache.setKeyFromNumber(format);
-                OrdoTranslator().anlToBuffer(*opened.settings().getAttrNodeList(), &cache.buffer());
-            }
-            return cache.handOut(buffer, bytes);
-        }
-        case ZENT_FORMAT_STATE:
-            throw UnavailableCall();
-        default:
+        if (format != ZENT_FORMAT_XML && format != ZENT_FORMAT_STATE) {
             return ZENT_ERR_TICKET_FORMAT;
         }
+        uint32_t& bytes = required(size);
+        CachedOutput& cache = opened.exportCache();
+        if (!cache.isFor(format)) {
+            cache.setKeyFromNumber(format);
+            const auto generate = format == ZENT_FORMAT_XML ? generateXml : generateState;
+            generate(opened, cache.buffer());
+        }
+        return cache.handOut(buffer, bytes);
     });
+}
+
+ZentResult ZENT_CALL fnUpdateUserContextInformation(ZentSessionType session, const void* blob,
+                                                    uint32_t blobLength, void* buffer,
+                                                    uint32_t* size) {
+    return inSession(session, u"ZENT::fnUpdateUserContextInformation()",
+                     [&](ZENTSession& opened) -> ZentResult {
+                         uint32_t& bytes = required(size);
+                         PersistentSettings state(bytesOf(blob, blobLength), true);
+                         opened.updateUserContext(state);
+                         return handOutBytes(state.getBuffer(), buffer, bytes);
+                     });
 }
 
 ZentResult ZENT_CALL fnCreateTarvoJtSettingsFromPageLevelFeature(

@@ -23,11 +23,12 @@ std::string narrow(const Text& text) {
     return ascii;
 }
 
-Session::Session(bool silent) {
-    EXPECT_EQ(fnOpenSession(ZENT_INTERFACE_VERSION, 1, 1, ZENT_INSTRUCTIONS_XML, silent, nullptr, 0,
-                            &m_handle),
+Session::Session(bool silent, std::uint32_t model) {
+    EXPECT_EQ(fnOpenSession(ZENT_INTERFACE_VERSION, model, 2, ZENT_INSTRUCTIONS_XML, silent,
+                            nullptr, 0, &m_handle),
               ZENT_OK);
     EXPECT_EQ(fnGetTarvoJtSettingsFromSession(m_handle, &m_ticket), ZENT_OK);
+    EXPECT_EQ(fnUnspecifyAllFeatures(m_handle, m_ticket), ZENT_OK);
 }
 
 Session::~Session() { EXPECT_EQ(fnCloseSession(&m_handle), ZENT_OK); }
@@ -43,29 +44,29 @@ void Session::release(TarvoJtSettingsType settings) const {
     EXPECT_EQ(settings, nullptr);
 }
 
-void Session::import(std::string_view xml) const {
+void Session::import(std::string_view data, std::uint32_t format) const {
     ZentBool problems = 2;
     ZentBool applied = 2;
-    EXPECT_EQ(fnImportJobTicket(m_handle, xml.data(), static_cast<std::uint32_t>(xml.size()),
-                                ZENT_FORMAT_XML, ZENT_APPLY_SILENT_REPAIR, nullptr, nullptr,
-                                &problems, &applied),
+    EXPECT_EQ(fnImportJobTicket(m_handle, data.data(), static_cast<std::uint32_t>(data.size()),
+                                format, ZENT_APPLY_SILENT_REPAIR, nullptr, nullptr, &problems,
+                                &applied),
               ZENT_OK);
     EXPECT_EQ(problems, 0);
     EXPECT_EQ(applied, 1);
 }
 
-std::uint32_t Session::exportSize() const {
+std::uint32_t Session::exportSize(std::uint32_t format) const {
     std::uint32_t size = 0;
-    EXPECT_EQ(fnExportJobTicket(m_handle, nullptr, &size, ZENT_FORMAT_XML), ZENT_OK);
+    EXPECT_EQ(fnExportJobTicket(m_handle, nullptr, &size, format), ZENT_OK);
     return size;
 }
 
-std::string Session::exported() const {
-    std::uint32_t size = exportSize();
-    std::string xml(size, '?');
-    EXPECT_EQ(fnExportJobTicket(m_handle, xml.data(), &size, ZENT_FORMAT_XML), ZENT_OK);
-    EXPECT_EQ(size, xml.size());
-    return xml;
+std::string Session::exported(std::uint32_t format) const {
+    std::uint32_t size = exportSize(format);
+    std::string bytes(size, '?');
+    EXPECT_EQ(fnExportJobTicket(m_handle, bytes.data(), &size, format), ZENT_OK);
+    EXPECT_EQ(size, bytes.size());
+    return bytes;
 }
 
 ZentResult Session::setString(const char* feature, const char* value, std::uint32_t index) const {

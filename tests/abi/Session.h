@@ -12,10 +12,11 @@ using Text = std::basic_string<ZentChar>;
 inline Text wide(std::string_view ascii) { return {ascii.begin(), ascii.end()}; }
 std::string narrow(const Text& text);
 
-/// An open session and its own ticket, used as any application would use them.
+/// An open session and its own ticket, used as any application would use them. The ticket is empty
+/// at first: what a new session holds has tests of its own.
 class Session {
 public:
-    explicit Session(bool silent = true);
+    explicit Session(bool silent = true, std::uint32_t model = 1);
     ~Session();
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
@@ -26,9 +27,9 @@ public:
     /// Results are checked on the way: each failure is a test's.
     TarvoJtSettingsType newSettings() const;
     void release(TarvoJtSettingsType settings) const;
-    void import(std::string_view xml) const;
-    std::uint32_t exportSize() const;
-    std::string exported() const;
+    void import(std::string_view data, std::uint32_t format = ZENT_FORMAT_XML) const;
+    std::uint32_t exportSize(std::uint32_t format = ZENT_FORMAT_XML) const;
+    std::string exported(std::uint32_t format = ZENT_FORMAT_XML) const;
 
     ZentResult setString(const char* feature, const char* value, std::uint32_t index = 0) const;
     ZentResult setNumber(const char* feature, std::int32_t value, std::uint32_t index = 0) const;
