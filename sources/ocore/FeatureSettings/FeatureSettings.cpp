@@ -55,28 +55,33 @@ void FeatureSettings::setNestedSettings(const _SI& setting, const FeatureSetting
     findOrCreateNestedList(setting, setting.getSyntax(0), instance) = std::move(copy);
 }
 
-template <typename Operation>
-bool FeatureSettings::changeEachPageOverride(Operation operation) {
-    const _FI overrides(feature::pageOverrides);
-    AttrNodeList* const members = findContainer(overrides);
-    bool changed = false;
+void FeatureSettings::visitNestedSettings(const _SI& setting,
+                                          const std::function<void(FeatureSettings&)>& visit) {
+    AttrNodeList* const members = findContainer(setting);
     std::uint32_t instance = 0;
     // By position, since looking each one up by instance would walk the members again and again.
     for (std::uint32_t i = 0; members != nullptr && i < members->getNumberOfNodes(); ++i) {
         AttrNode& member = members->getNodeAt(i);
-        if (member.getAttrID() != overrides.getAttrID()) {
+        if (member.getAttrID() != setting.getAttrID()) {
             continue;
         }
         AttrNodeList* list = nullptr;
         if (member.getAttrValue().isList()) {
             list = &static_cast<IppList&>(member.getAttrValue()).getAttrNodeList();
         } else {
-            members->OrdoAttrToList(&list, overrides.getAttrID(), instance); // raises the mismatch
+            members->OrdoAttrToList(&list, setting.getAttrID(), instance); // raises the mismatch
         }
         ++instance;
         FeatureSettings view(list);
-        changed = operation(view) || changed;
+        visit(view);
     }
+}
+
+bool FeatureSettings::changeEachPageOverride(
+    const std::function<bool(FeatureSettings&)>& operation) {
+    bool changed = false;
+    visitNestedSettings(_FI(feature::pageOverrides),
+                        [&](FeatureSettings& member) { changed = operation(member) || changed; });
     return changed;
 }
 

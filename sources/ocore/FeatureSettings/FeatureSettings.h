@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "ocore/FeatureSettings/Settings.h"
 #include "ocore/FeatureSettings/StockSize.h"
 
@@ -23,6 +25,9 @@ public:
     /// A view on the collection at an instance of a feature, or new, empty, owning settings: what
     /// is written to those changes nothing here.
     FeatureSettings getNestedSettings(const _SI& setting, std::uint32_t instance = 0);
+    /// Shows a view on each collection of a feature to `visit`, in order and in one walk.
+    void visitNestedSettings(const _SI& setting,
+                             const std::function<void(FeatureSettings&)>& visit);
     /// Fills the target with an owning, deep copy of that collection.
     void getNestedSettingsCopy(FeatureSettings* target, const _SI& setting,
                                std::uint32_t instance = 0) const;
@@ -40,8 +45,7 @@ public:
     bool shapeAsPageOverride();
 
 private:
-    template <typename Operation>
-    bool changeEachPageOverride(Operation operation);
+    bool changeEachPageOverride(const std::function<bool(FeatureSettings&)>& operation);
     bool convertImageShift(bool bothSides);
     bool moveShift(FeatureEnum general, FeatureEnum side1, FeatureEnum side2, bool bothSides);
 };

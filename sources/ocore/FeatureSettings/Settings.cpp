@@ -119,6 +119,26 @@ bool Settings::getLong(const _SI& setting, std::int32_t* target, std::uint32_t i
     return container != nullptr && container->OrdoAttrToLong(target, setting.getAttrID(), instance);
 }
 
+std::vector<std::int32_t> Settings::getLongs(const _SI& setting) const {
+    const AttrNodeList* const container = findContainer(setting);
+    const std::uint32_t count = container == nullptr ? 0 : container->getNumberOfNodes();
+    std::vector<std::int32_t> numbers;
+    for (std::uint32_t i = 0; i < count; ++i) {
+        const AttrNode& node = container->getNodeAt(i);
+        if (node.getAttrID() != setting.getAttrID()) {
+            continue;
+        }
+        std::int32_t number = 0;
+        if (node.getAttrValue().isPrimitiveInteger()) {
+            number = static_cast<const PrimitiveInteger&>(node.getAttrValue()).getValue();
+        } else {
+            getLong(setting, &number, static_cast<std::uint32_t>(numbers.size())); // raises
+        }
+        numbers.push_back(number);
+    }
+    return numbers;
+}
+
 bool Settings::getBool(const _SI& setting, bool* target, std::uint32_t instance) const {
     const AttrNodeList* const container = findContainer(setting);
     return container != nullptr && container->OrdoAttrToBool(target, setting.getAttrID(), instance);

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 #include "ocore/Attributes/AttrNodeList.h"
 #include "ocore/FeatureSettings/FeatureValue.h"
@@ -55,6 +56,8 @@ public:
 
     bool getString(const _SI& setting, CXString* target, std::uint32_t instance = 0) const;
     bool getLong(const _SI& setting, std::int32_t* target, std::uint32_t instance = 0) const;
+    /// All numbers of a setting in order, found in one walk.
+    std::vector<std::int32_t> getLongs(const _SI& setting) const;
     bool getBool(const _SI& setting, bool* target, std::uint32_t instance = 0) const;
     bool getRange(const _SI& setting, std::int32_t* lower, std::int32_t* upper,
                   std::uint32_t instance = 0) const;

@@ -1,0 +1,15 @@
+#include "ocore/AnlXlate/AjtOutput.h"
+
+#include <charconv>
+#include <limits>
+
+namespace zent::ajt {
+
+Output& Output::operator<<(std::int32_t number) {
+    char digits[std::numeric_limits<std::int32_t>::digits10 + 2]; // all digits and the sign
+    const auto [end, error] = std::to_chars(std::begin(digits), std::end(digits), number);
+    m_bytes.append(digits, static_cast<std::size_t>(end - digits));
+    return *this;
+}
+
+} // namespace zent::ajt

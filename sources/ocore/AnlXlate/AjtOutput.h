@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "ocore/ByteBuffer.h"
+
+namespace zent::ajt {
+
+/// A ticket stream as it grows.
+class Output {
+public:
+    /// Bytes as they are: ASCII, which is the same in every code page, or text that was converted.
+    Output& operator<<(std::string_view bytes) {
+        m_bytes.append(bytes.data(), bytes.size());
+        return *this;
+    }
+    /// Text, converted to the ANSI code page.
+    Output& operator<<(const CXString& text) {
+        m_bytes.appendNarrow(text);
+        return *this;
+    }
+    /// Decimal.
+    Output& operator<<(std::int32_t number);
+
+    const ByteBuffer& getBytes() const { return m_bytes; }
+
+private:
+    ByteBuffer m_bytes;
+};
+
+/// Shifts and sizes are written in whole millimetres, of which the rest is cut off.
+constexpr std::int32_t inMillimetres(std::int32_t hundredths) { return hundredths / 100; }
+
+} // namespace zent::ajt
