@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "expected/ExpectedTable.h"
 #include "ocore/Compress/CompressedBuffer.h"
 #include "ocore/User.h"
 #include "support/ListText.h"
@@ -55,6 +56,24 @@ protected:
 private:
     ScratchPreferences m_preferences;
 };
+
+// The same on every system: what an application stored on one, it may hand back on another.
+TEST_F(PersistentSettingsTest, ABlobIsTheSameOnEverySystem) {
+    struct Row {
+        const char* document;
+        const char* blob; // by golden/state/make-blob
+    };
+    const Row rows[] = {
+        {"golden/ordo/report.xml", "golden/state/report.blob"},
+        {"../examples/brochure-with-covers.xml", "golden/state/brochure.blob"},
+    };
+    for (const Row& row : rows) {
+        PersistentSettings settings;
+        settings.setUserContext({u"me", true, false, true});
+        settings.setFromAttrNodeList(readOrdo(readTestFile(row.document)));
+        EXPECT_TRUE(settings.getBuffer() == bytesOf(readTestFile(row.blob))) << row.blob;
+    }
+}
 
 TEST_F(PersistentSettingsTest, ATicketTravelsWithItsUser) {
     PersistentSettings settings;
