@@ -1,6 +1,6 @@
 #pragma once
 
-#include <span>
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
@@ -11,7 +11,11 @@ namespace zent::bench {
 /// Throws std::runtime_error unless the result is ZENT_OK: a call that fails is no measurement.
 void require(ZentResult result);
 
-/// A silent session and its ticket, through the exported calls alone, as an application has them.
+/// Opens a silent session, and closes it.
+void openAndClose();
+
+/// A silent session and its ticket, empty at first, through the exported calls alone, as an
+/// application has them.
 class TicketSession {
 public:
     TicketSession();
@@ -23,12 +27,12 @@ public:
     TarvoJtSettingsType settings() const { return m_settings; }
 
     /// Replaces the ticket.
-    void importTicket(std::string_view xml) const;
+    void importTicket(std::string_view bytes, std::uint32_t format = ZENT_FORMAT_XML) const;
     /// Asks for the size, then fetches. The bytes are valid until the next export.
-    std::string_view exportTicket();
+    std::string_view exportTicket(std::uint32_t format = ZENT_FORMAT_XML);
 
 private:
-    ZentSessionType m_session = nullptr;
+    ZentSessionType m_session;
     TarvoJtSettingsType m_settings = nullptr;
     std::vector<char> m_exported;
 };

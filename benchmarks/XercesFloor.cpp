@@ -90,8 +90,17 @@ XercesParse::~XercesParse() {
 template <typename Parser>
 void XercesParse::prepare(Parser& parser) {
     parser.setErrorHandler(m_handler.get());
-    parser.setValidationScheme(Parser::Val_Always);
     parser.setDoNamespaces(false);
+    if (m_base.empty()) {
+        parser.setValidationScheme(Parser::Val_Never);
+    } else {
+        prepareToValidate(parser);
+    }
+}
+
+template <typename Parser>
+void XercesParse::prepareToValidate(Parser& parser) {
+    parser.setValidationScheme(Parser::Val_Always);
     parser.loadGrammar(m_base.c_str(), xercesc::Grammar::DTDGrammarType, true);
     parser.useCachedGrammarInParse(true);
 

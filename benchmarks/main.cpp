@@ -4,21 +4,35 @@
 #include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <string_view>
 
 #include <benchmark/benchmark.h>
 
+#include "BlobBenchmark.h"
 #include "FeatureBenchmark.h"
+#include "FirstSessions.h"
+#include "ScratchPreferences.h"
+#include "SessionBenchmark.h"
 #include "TicketBenchmark.h"
 
 int main(int argc, char** argv) {
     try {
+        if (argc == 2 && std::string_view(argv[1]) == zent::bench::firstSessionsOption) {
+            zent::bench::printFirstSessions();
+            return EXIT_SUCCESS;
+        }
         benchmark::Initialize(&argc, argv);
         if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
             return EXIT_FAILURE;
         }
+        const zent::bench::ScratchPreferences preferences;
+        zent::bench::SessionBenchmark sessions(preferences);
         zent::bench::TicketBenchmark tickets(ZENT_DTD_PATH);
+        zent::bench::BlobBenchmark blobs;
         zent::bench::FeatureBenchmark features;
+        sessions.registerAll();
         tickets.registerAll();
+        blobs.registerAll();
         features.registerAll();
         benchmark::RunSpecifiedBenchmarks();
         benchmark::Shutdown();

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+
+#include "ScratchPreferences.h"
+#include "XercesFloor.h"
+#include "Zlib.h"
+#include "ocore/Printer/PrinterModel.h"
+#include "ocore/ResourceLibrary.h"
+
+namespace zent::bench {
+
+/// Opening and closing a session, and what it loads when it first needs the printer's capabilities.
+/// The names are
+///
+/// - "session/open", with no preferences stored, and "session/open-stored", with some;
+/// - "session/first" and "session/second": the two first sessions of a process;
+/// - "capabilities/SUBJECT": by the library and by its floor, zlib and Xerces-C's own tree.
+class SessionBenchmark {
+public:
+    explicit SessionBenchmark(const ScratchPreferences& preferences);
+
+    void registerAll();
+
+private:
+    void registerOpening();
+    static void registerFirstSessions();
+    void registerCapabilities();
+
+    const ScratchPreferences& m_preferences;
+    ResourceLibrary m_library; // stays loaded, as long as a session would be open
+    PrinterModel m_model;
+    std::string m_stream;
+    std::size_t m_documentSize;
+    XercesParse m_xerces;
+    Inflater m_inflater;
+};
+
+} // namespace zent::bench
