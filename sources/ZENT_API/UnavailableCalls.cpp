@@ -17,11 +17,6 @@ ZentResult unavailable(ZentSessionType session, const char16_t* location) {
 
 extern "C" {
 
-ZentResult ZENT_CALL fnGetPrintInstructions(ZentSessionType session, void* /*buffer*/,
-                                            uint32_t* /*size*/, const char* /*documentName*/) {
-    return unavailable(session, u"ZENT::fnGetPrintInstructions()");
-}
-
 // The name in the report differs from the call's; support staff know it by that.
 ZentResult ZENT_CALL fnApplyPrinterCapabilitiesToSettings(ZentSessionType session,
                                                           uint32_t /*mode*/, ZentWindow /*owner*/,
@@ -29,11 +24,6 @@ ZentResult ZENT_CALL fnApplyPrinterCapabilitiesToSettings(ZentSessionType sessio
                                                           ZentBool* /*problems*/,
                                                           ZentBool* /*usable*/) {
     return unavailable(session, u"ZENT::fnApplyPrinterCapabilitiesToSettingsSilently()");
-}
-
-ZentResult ZENT_CALL fnInvokeTarvoJobTicketDialog(ZentSessionType session, uint32_t /*kind*/,
-                                                  ZentWindow /*owner*/, uint32_t /*reserved*/) {
-    return unavailable(session, u"ZENT::fnInvokeTarvoJobTicketDialog()");
 }
 
 } // extern "C"

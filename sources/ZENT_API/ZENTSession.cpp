@@ -56,6 +56,7 @@ void ZENTSession::replaceTicket(FeatureSettings&& ticket, const PersistentSettin
 void ZENTSession::noteSettingsChanged(const FeatureSettings& settings) {
     if (&settings == &m_settings) {
         m_stateCurrent = false;
+        m_instructionsCache.clear();
         m_exportCache.clear();
     }
 }

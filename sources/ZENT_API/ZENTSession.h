@@ -35,6 +35,7 @@ public:
     bool isSilent() const { return m_silent; }
     FeatureSettings& settings() { return m_settings; }
     CachedOutput& exportCache() { return m_exportCache; }
+    CachedOutput& instructionsCache() { return m_instructionsCache; }
 
     /// The state blob, brought up to date with the settings if need be.
     PersistentSettings& currentState();
@@ -55,6 +56,7 @@ private:
     FeatureSettings m_settings;
     bool m_stateCurrent = true; // the blob holds the ticket that the settings hold
     CachedOutput m_exportCache;
+    CachedOutput m_instructionsCache;
 };
 
 } // namespace zent

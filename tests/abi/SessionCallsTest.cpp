@@ -126,6 +126,8 @@ std::vector<SessionCall> existingCalls() {
              return fnImportJobTicket(s, nullptr, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
          }},
         {"export", [](auto s) { return fnExportJobTicket(s, nullptr, nullptr, 1); }},
+        {"instructions", [](auto s) { return fnGetPrintInstructions(s, nullptr, nullptr, ""); }},
+        {"dialog", [](auto s) { return fnInvokeTarvoJobTicketDialog(s, 0, nullptr, 0); }},
         {"user context",
          [](auto s) { return fnUpdateUserContextInformation(s, "", 0, nullptr, nullptr); }},
         {"get bool", [](auto s) { return fnGetPreferenceBoolValue(s, ZT("x"), nullptr, 1); }},
@@ -145,14 +147,11 @@ std::vector<SessionCall> existingCalls() {
 /// The calls that this version declares but can't do, with arguments that will be good.
 std::vector<SessionCall> callsToCome() {
     static ZentBool truth = 0;
-    static std::uint32_t size = 0;
     return {
-        {"instructions", [](auto s) { return fnGetPrintInstructions(s, nullptr, &size, "doc"); }},
         {"apply",
          [](auto s) {
              return fnApplyPrinterCapabilitiesToSettings(s, 1, nullptr, ZT(""), &truth, &truth);
          }},
-        {"dialog", [](auto s) { return fnInvokeTarvoJobTicketDialog(s, 1, nullptr, 0); }},
     };
 }
 

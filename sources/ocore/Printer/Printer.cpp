@@ -1,5 +1,6 @@
 #include "ocore/Printer/Printer.h"
 
+#include "ocore/AnlXlate/CreateStreamTranslator.h"
 #include "ocore/Compress/PersistentSettings.h"
 #include "ocore/User.h"
 
@@ -40,6 +41,36 @@ bool Printer::updateUserContext(PersistentSettings& state) const {
                           preferences->getUseLogonNamePreference(),
                           preferences->getUseLogonNameForRecipientPreference()});
     return true;
+}
+
+void Printer::generateInstructions(PersistentSettings& state, Stream& target,
+                                   const CXString& documentName) {
+    AttrNodeList list;
+    state.toAttrNodeList(&list);
+    FeatureSettings settings(&list);
+    applyUserContext(settings, state.getUserContext(), documentName);
+    createStreamTranslator(getCapabilities(), getInstructionForm())->translate(list, target);
+}
+
+void Printer::applyUserContext(FeatureSettings& settings, const UserContext& context,
+                               const CXString& documentName) {
+    if (context.useDocumentName) {
+        setCut(settings, _FI(feature::jobName), documentName);
+    }
+    if (context.useLogonName) {
+        setCut(settings, _FI(feature::requestingUserName), context.logonName);
+    }
+    if (context.useLogonNameRecipient) {
+        setCut(settings, _FI(feature::jobRecipientName), context.logonName);
+    }
+}
+
+/// An empty text changes nothing.
+void Printer::setCut(FeatureSettings& settings, const _FI& feature, const CXString& text) {
+    if (!text.isEmpty()) {
+        const auto limit = static_cast<std::int32_t>(getCapabilities().getUpperLimit(feature));
+        settings.setString(feature, text.left(limit));
+    }
 }
 
 } // namespace zent

@@ -10,6 +10,8 @@
 namespace zent {
 
 class PersistentSettings;
+class Stream;
+struct UserContext;
 
 /// A printer: creates its model, defaults and capabilities on first need and owns them. They belong
 /// to the one thread that uses the printer at a time.
@@ -31,6 +33,11 @@ public:
     /// Writes the logon name and what the user prefers to do with it into a state blob. False, and
     /// nothing changed, if there is no logon name.
     bool updateUserContext(PersistentSettings& state) const;
+    /// Writes the printing instructions for a document of the job in a state blob, in the form that
+    /// the printer takes. The job's name, sender and recipient are put in as the user context of
+    /// the blob says; the document's name may be empty.
+    void generateInstructions(PersistentSettings& state, Stream& target,
+                              const CXString& documentName);
 
 protected:
     Printer();
@@ -38,6 +45,10 @@ protected:
     virtual std::unique_ptr<PrinterModel> createModel() = 0;
 
 private:
+    void applyUserContext(FeatureSettings& settings, const UserContext& context,
+                          const CXString& documentName);
+    void setCut(FeatureSettings& settings, const _FI& feature, const CXString& text);
+
     // Destroyed in the reverse order: the model first.
     std::unique_ptr<Capabilities> m_capabilities;
     std::unique_ptr<PrinterDefaults> m_defaults;
