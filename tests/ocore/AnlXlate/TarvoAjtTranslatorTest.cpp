@@ -4,10 +4,13 @@
 
 #include <gtest/gtest.h>
 
+#include "expected/ExpectedTable.h"
 #include "ocore/AnlXlate/CreateStreamTranslator.h"
 #include "ocore/Capabilities/Capabilities.h"
+#include "ocore/Exceptions.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/ListText.h"
+#include "support/OrdoDocument.h"
 
 namespace zent::test {
 namespace {
@@ -117,6 +120,7 @@ TEST_F(TarvoAjtTranslatorTest, EachFeatureGivesItsLines) {
         {"insert-sheet[value{insert-count=2} value{insert-after-page-number=4}]",
          "blankPageInserts: 4 1 216 279 white opaque Plain 0 0 75\n"},
         {"page-overrides[value{sides=one-sided}]", ""},
+        {"requesting-user-name=name:Jürgen", "senderName: Jürgen\n"},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(linesOf(row.ticket, plain), row.lines) << row.ticket;
@@ -144,6 +148,59 @@ TEST_F(TarvoAjtTranslatorTest, MediaAreTurnedAsThePrinterTakesThem) {
                   std::string("signature: True\npaperType-size: ") + row.signature + "\n");
         EXPECT_EQ(linesOf(ticket, plain),
                   std::string("signature: True\npaperType-size: ") + row.written + "\n");
+    }
+}
+
+TEST_F(TarvoAjtTranslatorTest, WeightsOfTheJobCountWhereThePrinterKnowsWeights) {
+    const std::string ticket =
+        "media-col{media-weight-metric=90} cover-front{cover-type=print-both}";
+    EXPECT_EQ(linesOf(ticket, plain),
+              "paperType-weight: 90\ncover-front: both 216 279 white opaque Plain 0 0 75\n");
+    EXPECT_EQ(linesOf(ticket, full),
+              "paperType-weight: 90\ncover-front: both 216 279 white opaque Plain 0 0 90\n");
+}
+
+TEST_F(TarvoAjtTranslatorTest, AFailureWritesNothing) {
+    for (const char* const ticket :
+         {"sides=three-sided", "copies=two", "page-overrides[value=3]",
+          "page-overrides[value{pages[value(lower-bound=1 upper-bound=1)] page-rotation=up}]"}) {
+        Writes stream;
+        EXPECT_THROW(TarvoAjtTranslator(plain).translate(listOf(ticket), stream), TarvoException)
+            << ticket;
+        EXPECT_EQ(stream.count, 0) << ticket;
+    }
+}
+
+// One printer of each family that takes the stream. The expected streams are worked out by
+// golden/ajt/expected_streams.py.
+TEST_F(TarvoAjtTranslatorTest, FullTicketsOfEachFamily) {
+    useOrdoDtd();
+    const struct {
+        const char* ticket;
+        std::uint32_t model;
+    } rows[] = {{"family-07", 1},  {"family-11", 17}, {"family-12", 25},
+                {"family-13", 32}, {"family-14", 16}, {"family-17", 4}};
+    for (const auto& row : rows) {
+        const std::string path = std::string("golden/ajt/") + row.ticket;
+        const AttrNodeList ticket = readOrdo(readTestFile(path + ".xml"));
+        const Capabilities capabilities(PrinterModel(row.model, pageLanguage::postScript), 2);
+        Writes stream;
+        createStreamTranslator(capabilities, 2)->translate(ticket, stream);
+        EXPECT_EQ(stream.text, readTestFile(path + ".golden")) << row.ticket;
+    }
+}
+
+TEST_F(TarvoAjtTranslatorTest, OnlyFormOneIsTheOrdoDocument) {
+    useOrdoDtd();
+    const Capabilities capabilities(PrinterModel(1, pageLanguage::postScript), 1);
+    const struct {
+        std::uint32_t form;
+        const char* begin;
+    } rows[] = {{1, "<?xml"}, {0, "%TRV"}, {2, "%TRV"}, {4, "%TRV"}};
+    for (const auto& row : rows) {
+        Writes stream;
+        createStreamTranslator(capabilities, row.form)->translate(listOf("copies=2"), stream);
+        EXPECT_EQ(stream.text.substr(0, std::string(row.begin).size()), row.begin) << row.form;
     }
 }
 
