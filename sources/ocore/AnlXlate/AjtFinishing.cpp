@@ -19,7 +19,7 @@ struct Finishing {
 /// By the numbers of the "finishings" attribute.
 Finishing getFinishing(std::int32_t finishing) {
     struct Row {
-        std::int32_t number;
+        std::int32_t number = 0;
         Finishing finishing;
     };
     static constexpr Row rows[] = {
