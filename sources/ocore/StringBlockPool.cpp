@@ -6,17 +6,6 @@ namespace zent {
 
 namespace {
 
-class Hold {
-public:
-    explicit Hold(platform::Lock& lock) noexcept : m_lock(lock) { m_lock.enter(); }
-    ~Hold() { m_lock.leave(); }
-    Hold(const Hold&) = delete;
-    Hold& operator=(const Hold&) = delete;
-
-private:
-    platform::Lock& m_lock;
-};
-
 constexpr std::size_t roundUp(std::size_t size) {
     return (size + alignof(void*) - 1) / alignof(void*) * alignof(void*);
 }
@@ -34,7 +23,7 @@ StringBlockPool::~StringBlockPool() {
 }
 
 void* StringBlockPool::take() {
-    const Hold hold(m_lock);
+    const platform::LockHold hold(m_lock);
     if (!m_free) {
         grow();
     }
@@ -44,7 +33,7 @@ void* StringBlockPool::take() {
 }
 
 void StringBlockPool::giveBack(void* block) noexcept {
-    const Hold hold(m_lock);
+    const platform::LockHold hold(m_lock);
     m_free = new (block) FreeBlock{m_free};
 }
 

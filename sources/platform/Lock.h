@@ -21,4 +21,16 @@ private:
     std::unique_ptr<Native> m_native;
 };
 
+/// Holds a lock for a scope.
+class LockHold {
+public:
+    explicit LockHold(Lock& lock) noexcept : m_lock(lock) { m_lock.enter(); }
+    ~LockHold() { m_lock.leave(); }
+    LockHold(const LockHold&) = delete;
+    LockHold& operator=(const LockHold&) = delete;
+
+private:
+    Lock& m_lock;
+};
+
 } // namespace zent::platform

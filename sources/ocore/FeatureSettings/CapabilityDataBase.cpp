@@ -1,14 +1,13 @@
 #include "ocore/FeatureSettings/CapabilityDataBase.h"
 
 #include <algorithm>
-#include <atomic>
 #include <memory>
 
 #include "ocore/Exceptions.h"
 #include "ocore/FeatureSettings/CapabilityTable.h"
 #include "ocore/FeatureSettings/FeatureDataBase.h"
 #include "ocore/FeatureSettings/NestedIDText.h"
-#include "ocore/OwnedCriticalResource.h"
+#include "ocore/SharedTable.h"
 
 namespace zent {
 
@@ -29,12 +28,9 @@ std::unique_ptr<const CapabilityStore> buildStore() {
     return built;
 }
 
-CriticalResource criticalResource(u"CapabilityDataBase");
-std::unique_ptr<const CapabilityStore> ownedStore;
-// What lookups go through: set once the store stands complete, so that they need no lock.
-std::atomic<const CapabilityStore*> sharedStore{nullptr};
+SharedTable<CapabilityStore> sharedStore(u"CapabilityDataBase");
 
-const CapabilityStore& store() { return *sharedStore.load(std::memory_order_acquire); }
+const CapabilityStore& store() { return *sharedStore; }
 
 const CapabilityInfo* findInfo(FeatureEnum feature, std::uint32_t type) {
     const std::span<const CapabilityInfo> rows = CapabilityDataBase().getRows(feature);
@@ -44,16 +40,7 @@ const CapabilityInfo* findInfo(FeatureEnum feature, std::uint32_t type) {
 
 } // namespace
 
-CapabilityDataBase::CapabilityDataBase() {
-    if (sharedStore.load(std::memory_order_acquire) != nullptr) {
-        return;
-    }
-    const OwnedCriticalResource hold(criticalResource);
-    if (ownedStore == nullptr) {
-        ownedStore = buildStore();
-        sharedStore.store(ownedStore.get(), std::memory_order_release);
-    }
-}
+CapabilityDataBase::CapabilityDataBase() { sharedStore.get(buildStore); }
 
 std::span<const CapabilityInfo> CapabilityDataBase::getRows(FeatureEnum feature) const {
     // Not equal_range: clang 14 can't compile the range that it gives.

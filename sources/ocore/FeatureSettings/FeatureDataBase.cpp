@@ -1,13 +1,12 @@
 #include "ocore/FeatureSettings/FeatureDataBase.h"
 
-#include <atomic>
 #include <map>
 #include <memory>
 
 #include "ocore/Exceptions.h"
 #include "ocore/FeatureSettings/FeatureTable.h"
 #include "ocore/FeatureSettings/NestedIDText.h"
-#include "ocore/OwnedCriticalResource.h"
+#include "ocore/SharedTable.h"
 
 namespace zent {
 
@@ -50,12 +49,9 @@ std::unique_ptr<const FeatureStore> buildStore() {
     return store;
 }
 
-CriticalResource criticalResource(u"FeatureDataBase");
-std::unique_ptr<const FeatureStore> ownedStore;
-// What lookups go through: set once the store stands complete, so that they need no lock.
-std::atomic<const FeatureStore*> sharedStore{nullptr};
+SharedTable<FeatureStore> sharedStore(u"FeatureDataBase");
 
-const FeatureStore& store() { return *sharedStore.load(std::memory_order_acquire); }
+const FeatureStore& store() { return *sharedStore; }
 
 using NumberByText = std::map<std::u16string_view, FeatureEnum>;
 
@@ -66,16 +62,7 @@ const FeatureInfo* findByText(const NumberByText& map, const CXString& text) {
 
 } // namespace
 
-FeatureDataBase::FeatureDataBase() {
-    if (sharedStore.load(std::memory_order_acquire) != nullptr) {
-        return;
-    }
-    const OwnedCriticalResource hold(criticalResource);
-    if (ownedStore == nullptr) {
-        ownedStore = buildStore();
-        sharedStore.store(ownedStore.get(), std::memory_order_release);
-    }
-}
+FeatureDataBase::FeatureDataBase() { sharedStore.get(buildStore); }
 
 bool FeatureDataBase::hasFeature(FeatureEnum feature) const {
     return feature >= firstFeature && feature - firstFeature < store().byNumber.size();

@@ -1,13 +1,12 @@
 #include "ocore/FeatureSettings/StockSize.h"
 
 #include <algorithm>
-#include <atomic>
 #include <iterator>
 #include <memory>
 #include <utility>
 
-#include "ocore/OwnedCriticalResource.h"
 #include "ocore/ResourceLibrary.h"
+#include "ocore/SharedTable.h"
 
 namespace zent {
 
@@ -40,31 +39,20 @@ constexpr StockSize::Row StockSize::rows[] = {
 };
 // clang-format on
 
-namespace {
-CriticalResource criticalResource(u"StockSize");
-} // namespace
-
 StockSize::StockSize(const Row& row, CXString displayName)
     : m_size(row.code), m_width(row.width), m_height(row.height),
       m_displayName(std::move(displayName)) {}
 
 const std::vector<StockSize>& StockSize::store() {
-    static std::unique_ptr<const std::vector<StockSize>> owned;
-    static std::atomic<const std::vector<StockSize>*> shared{nullptr};
-    if (const auto* const ready = shared.load(std::memory_order_acquire)) {
-        return *ready;
-    }
-    const OwnedCriticalResource hold(criticalResource);
-    if (owned == nullptr) {
+    static SharedTable<std::vector<StockSize>> sizes(u"StockSize");
+    return sizes.get([]() -> std::unique_ptr<const std::vector<StockSize>> {
         const ResourceLibrary resources;
         auto built = std::make_unique<std::vector<StockSize>>();
         for (const Row& row : rows) {
             built->push_back(StockSize(row, resources.getString(row.displayStringID)));
         }
-        owned = std::move(built);
-        shared.store(owned.get(), std::memory_order_release);
-    }
-    return *owned;
+        return built;
+    });
 }
 
 StockSize::StockSize(std::uint32_t code) {

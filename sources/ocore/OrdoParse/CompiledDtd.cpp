@@ -37,17 +37,6 @@ Slot& slot() {
     return kept;
 }
 
-class Hold {
-public:
-    explicit Hold(platform::Lock& lock) : m_lock(lock) { m_lock.enter(); }
-    ~Hold() { m_lock.leave(); }
-    Hold(const Hold&) = delete;
-    Hold& operator=(const Hold&) = delete;
-
-private:
-    platform::Lock& m_lock;
-};
-
 /// The library fills in parts of a declaration when a document first needs them, without a lock.
 /// After this nothing is left to fill in.
 void completeDeclarations(const xercesc::DTDGrammar& grammar) {
@@ -76,7 +65,7 @@ CompiledDtd::~CompiledDtd() = default;
 std::shared_ptr<const CompiledDtd> CompiledDtd::find(const CXString& path) {
     Slot& kept = slot();
     const platform::FileStamp stamp = platform::getFileStamp(path);
-    const Hold hold(kept.lock);
+    const platform::LockHold hold(kept.lock);
     if (kept.stamp == stamp && kept.path == path) {
         return kept.dtd;
     }
@@ -96,7 +85,7 @@ std::shared_ptr<const CompiledDtd> CompiledDtd::find(const CXString& path) {
 
 void CompiledDtd::forget() {
     Slot& kept = slot();
-    const Hold hold(kept.lock);
+    const platform::LockHold hold(kept.lock);
     kept.clear();
 }
 
@@ -134,12 +123,12 @@ std::shared_ptr<const CompiledDtd> CompiledDtd::compile(const CXString& path) {
 }
 
 std::shared_ptr<const XmlDocument> CompiledDtd::getSkeleton() const {
-    const Hold hold(slot().lock);
+    const platform::LockHold hold(slot().lock);
     return m_skeleton;
 }
 
 void CompiledDtd::keepSkeleton(std::shared_ptr<const XmlDocument> skeleton) const {
-    const Hold hold(slot().lock);
+    const platform::LockHold hold(slot().lock);
     m_skeleton = std::move(skeleton);
 }
 
