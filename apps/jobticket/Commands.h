@@ -14,10 +14,12 @@ namespace jobticket {
 using Action = std::function<ExitStatus()>;
 
 /// Each adds a command to the program. When it is the one that is given, it stores what to do.
+void addNewCommand(CLI::App& program, Action& action);
 void addShowCommand(CLI::App& program, Action& action);
 void addSetCommand(CLI::App& program, Action& action);
 void addUnsetCommand(CLI::App& program, Action& action);
 void addDiffCommand(CLI::App& program, Action& action);
 void addFeaturesCommand(CLI::App& program, Action& action);
+void addModelsCommand(CLI::App& program, Action& action);
 
 } // namespace jobticket

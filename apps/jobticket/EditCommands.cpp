@@ -6,6 +6,7 @@
 #include "FeaturePath.h"
 #include "LibraryError.h"
 #include "Session.h"
+#include "Text.h"
 #include "TicketDocument.h"
 #include "TicketEditor.h"
 #include "TicketFile.h"
@@ -63,7 +64,7 @@ void checkPlace(const Feature& feature) {
 Assignment parseAssignment(const std::string& text) {
     const std::size_t equals = text.find('=');
     if (equals == std::string::npos || equals == 0) {
-        throw ProgramError(ExitStatus::usage, "\"" + text + "\" isn't of the form FEATURE=VALUE");
+        throw ProgramError(ExitStatus::usage, inQuotes(text) + " isn't of the form FEATURE=VALUE");
     }
     const FeaturePath path = parsePath(std::string_view(text).substr(0, equals));
     checkPlace(path.front().feature);

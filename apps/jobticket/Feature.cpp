@@ -32,7 +32,7 @@ Feature Feature::named(std::string_view name) {
     }
     const std::string nearest = findNearest(name, names);
     throw ProgramError(ExitStatus::badValue,
-                       "there is no feature \"" + toPrintable(fromUtf8(name)) + "\"" +
+                       "there is no feature " + inQuotes(name) +
                            (nearest.empty() ? "; \"jobticket features\" lists all"
                                             : "; did you mean \"" + nearest + "\"?"));
 }

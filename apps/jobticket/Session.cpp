@@ -10,11 +10,6 @@ namespace jobticket {
 
 namespace {
 
-// Tickets are edited as they are, without regard to a printer, but a session wants one. Every model
-// has this language.
-constexpr std::uint32_t anyModel = 1;
-constexpr std::uint32_t monochromePcl = 2;
-
 ZentText textOf(const Feature& feature) { return toZent(feature.getId().getName()); }
 
 /// Chooses the call for each kind of value.
@@ -51,9 +46,11 @@ struct Setter {
 
 } // namespace
 
-Session::Session() {
-    check(fnOpenSession(ZENT_INTERFACE_VERSION, anyModel, monochromePcl, ZENT_INSTRUCTIONS_XML, 1,
-                        nullptr, 1, &m_handle),
+Session::Session(const PrinterChoice& printer, const PreferenceSet& preferences) {
+    constexpr ZentBool silent = 1;
+    check(fnOpenSession(ZENT_INTERFACE_VERSION, printer.model, printer.pdl, printer.form, silent,
+                        toZent(fromUtf8(preferences.name)).c_str(), preferences.isShared ? 1 : 0,
+                        &m_handle),
           "fnOpenSession");
 }
 

@@ -12,11 +12,26 @@ namespace jobticket {
 
 class Ticket;
 
+/// The printer that a session is for. Every model has monochrome PCL.
+struct PrinterChoice {
+    std::uint32_t model = 1;
+    std::uint32_t pdl = 2;
+    std::uint32_t form = ZENT_INSTRUCTIONS_BY_MODEL; // of printing instructions
+};
+
+/// The set of preferences that a session uses: the one of that name; without a name that of the
+/// printer's driver, or the one that is shared by all printers.
+struct PreferenceSet {
+    std::string name;
+    bool isShared = true;
+};
+
 /// A session of the library, opened silent: what fails is raised as LibraryError, and the program
 /// tells the user.
 class Session {
 public:
-    Session();
+    /// Tickets are edited as they are, whatever the printer; then it doesn't matter which.
+    explicit Session(const PrinterChoice& printer = {}, const PreferenceSet& preferences = {});
     ~Session();
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;

@@ -90,6 +90,10 @@ std::string toPrintable(std::u16string_view text) {
     return result;
 }
 
+std::string inQuotes(std::string_view argument) {
+    return '"' + toPrintable(fromUtf8(argument)) + '"';
+}
+
 bool containsIgnoringCase(std::string_view text, std::string_view part) {
     return std::search(text.begin(), text.end(), part.begin(), part.end(),
                        [](char a, char b) { return toLower(a) == toLower(b); }) != text.end() ||

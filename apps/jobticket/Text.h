@@ -23,6 +23,9 @@ std::u16string fromZent(const ZentText& text);
 /// terminal, are shown as "\n", "\t" or "\x1b".
 std::string toPrintable(std::u16string_view text);
 
+/// An argument in quotation marks for a message, printable.
+std::string inQuotes(std::string_view argument);
+
 /// Whether the text holds another, ASCII letters compared without regard to case.
 bool containsIgnoringCase(std::string_view text, std::string_view part);
 

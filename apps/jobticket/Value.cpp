@@ -13,11 +13,9 @@ namespace jobticket {
 
 namespace {
 
-std::string quoted(std::string_view text) { return '"' + toPrintable(fromUtf8(text)) + '"'; }
-
 [[noreturn]] void fail(const Feature& feature, std::string_view text, const std::string& reason) {
     throw ProgramError(ExitStatus::badValue,
-                       feature.getName() + ": " + quoted(text) + " " + reason);
+                       feature.getName() + ": " + inQuotes(text) + " " + reason);
 }
 
 bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
@@ -167,7 +165,7 @@ std::string listValues(const Feature& feature, std::string_view text) {
     constexpr std::size_t mostListed = 24;
     const std::vector<std::string> names = getValueNames(feature);
     const std::string nearest = findNearest(text, names);
-    std::string result = nearest.empty() ? "" : "; did you mean " + quoted(nearest) + "?";
+    std::string result = nearest.empty() ? "" : "; did you mean " + inQuotes(nearest) + "?";
     if (names.size() > mostListed) {
         return result + " (\"jobticket features " + feature.getName() + "\" lists the values)";
     }

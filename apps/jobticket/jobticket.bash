@@ -17,26 +17,39 @@ _jobticket_assignments() {
 
 _jobticket_options() {
     case $1 in
+    new) echo --help --output --model --pdl --form ;;
     show) echo --help --raw ;;
     set) echo --help --output ;;
     unset) echo --help --output --all ;;
-    features) echo --help --table ;;
+    features | models) echo --help --table ;;
     diff) echo --help ;;
-    *) echo --help --version show set unset diff features ;;
+    *) echo --help --version new show set unset diff features models ;;
+    esac
+}
+
+# The values of an option; fails for one that has none of its own.
+_jobticket_option_values() {
+    case $2 in
+    -m | --model) "$1" models --table | cut -f 1 ;;
+    -p | --pdl) echo ps pcl color-pcl ;;
+    --form) echo xml stream model ;;
+    *) return 1 ;;
     esac
 }
 
 _jobticket() {
-    local program=$1 current=$2 previous=$3 command="" before="" word
+    local program=$1 current=$2 previous=$3 command="" before="" word values
     local -i arguments=0
     COMPREPLY=()
     for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
-        if [[ $word != -* && $before != -o && $before != --output ]]; then
+        if [[ $word != -* && $before != @(-o|--output|-m|--model|-p|--pdl|--form) ]]; then
             if [[ -z $command ]]; then command=$word; else arguments+=1; fi
         fi
         before=$word
     done
-    if [[ -z $command || $current == -* ]]; then
+    if values=$(_jobticket_option_values "$program" "$previous"); then
+        mapfile -t COMPREPLY < <(compgen -W "$values" -- "$current")
+    elif [[ -z $command || $current == -* ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$(_jobticket_options "$command")" -- "$current")
     elif [[ $command == features ]]; then
         _jobticket_assignments "$program"

@@ -63,11 +63,13 @@ ExitStatus run(const std::vector<std::string>& arguments) {
     program.footer(std::string("\"jobticket COMMAND --help\" tells more about a command.\n\n") +
                    aboutStatus);
     Action action;
+    addNewCommand(program, action);
     addShowCommand(program, action);
     addSetCommand(program, action);
     addUnsetCommand(program, action);
     addDiffCommand(program, action);
     addFeaturesCommand(program, action);
+    addModelsCommand(program, action);
     checkCommand(program, arguments);
     const ExitStatus status = parse(program, arguments);
     return action ? action() : status;

@@ -17,7 +17,7 @@ EXAMPLES = sorted((ROOT / "examples").glob("*.xml"))
 REPORT = ROOT / "examples" / "report.xml"
 COMPLETION = ROOT / "apps" / "jobticket" / "jobticket.bash"
 MANUAL = ROOT / "apps" / "jobticket" / "jobticket.1"
-COMMANDS = ["show", "set", "unset", "diff", "features"]
+COMMANDS = ["new", "show", "set", "unset", "diff", "features", "models"]
 
 OK, DIFFERENT, USAGE, UNREADABLE, INVALID, BAD_VALUE, UNWRITABLE, LIBRARY = range(8)
 
@@ -94,7 +94,8 @@ class Examples(InFolder):
         done = subprocess.run([*program[:-1], example, str(ticket)], capture_output=True, text=True,
                               timeout=100, check=True)
         self.assertIn(f"25 copies, {ticket.stat().st_size} bytes", done.stdout)
-        self.assertEqual(raw(ticket.read_bytes()), {
+        of_printer = raw(run("new", "--model", 1))
+        self.assertEqual(raw(ticket.read_bytes()), of_printer | {
             "job-name": "Quarterly report", "copies": "25", "sides": "two-sided-long-edge",
             "page-ranges": "1-5,8-9", "media-size": "21000x29700"})
 
@@ -244,6 +245,26 @@ class Files(InFolder):
         run("diff", "-", "-", status=USAGE)
 
 
+class Printers(InFolder):
+    def test_models(self):
+        rows = [line.split("\t") for line in run("models", "--table").decode().splitlines()]
+        self.assertEqual([int(row[0]) for row in rows], list(range(1, 52)))
+        self.assertEqual(sum(len(row[4:]) for row in rows), 109)
+        self.assertEqual(rows[3], ["4", "Tarvo Lumaset 540", "17", "stream",
+                                   "ps=Tarvo Lumaset 540 PS3 C3", "pcl=Tarvo Lumaset 540 PCL5e"])
+        self.assertEqual(len(run("models", "chromaset").splitlines()), 1 + 9)
+        self.assertIn(b"color-pcl  Tarvo Chromaset 900 PCL5c", run("models", "43"))
+
+    def test_a_new_ticket_holds_the_defaults_of_its_printer(self):
+        common = raw(run("new", "--model", "16"))
+        self.assertEqual((common["copies"], common["media-type"]), ("1", "stationery"))
+        for printer, more in [
+            (["--model", "lumaset 540"], {"imposition-template": "none"}),
+            (["-m", "43", "-p", "ps", "--form", "xml"], {"opi-image-insertion": "insert"}),
+        ]:
+            self.assertLessEqual(more.items(), raw(run("new", *printer)).items() - common.items())
+
+
 class Failures(InFolder):
     def test_each_kind_has_its_status(self):
         report = REPORT.read_bytes()
@@ -269,6 +290,13 @@ class Failures(InFolder):
             (["set", REPORT, "copis=2"], b"", BAD_VALUE, 'did you mean "copies"'),
             (["unset", REPORT, "media-colour"], b"", BAD_VALUE, 'did you mean "media-color"'),
             (["features", "zzz"], b"", BAD_VALUE, "zzz"),
+            (["models", "zzz"], b"", BAD_VALUE, "zzz"),
+            (["new"], b"", USAGE, "which printer"),
+            (["new", "--model", "52"], b"", USAGE, '"52"'),
+            (["new", "--model", "lumaset 61"], b"", USAGE, "may be Tarvo Lumaset 610, Tarvo"),
+            (["new", "--model", "1", "--pdl", "3"], b"", USAGE, "it has ps, pcl"),
+            (["new", "--model", "1", "--pdl", "x"], b"", USAGE, "color-pcl (3)"),
+            (["new", "--model", "1", "--form", "0"], b"", USAGE, "stream (2)"),
             (["set", REPORT, "copies=0"], b"", BAD_VALUE, "lowest is 1"),
             (["set", REPORT, "copies=2.5"], b"", BAD_VALUE, "isn't a number"),
             (["set", REPORT, "copies=4294967297"], b"", BAD_VALUE, "isn't a number"),
@@ -455,6 +483,8 @@ class Completion(InFolder):
             ("jobticket set ticket.xml pages", ["pages-per-subset="]),
             ("jobticket set ticket.xml nonsense.", []),
             ("jobticket unset ticket.xml cop", ["copies"]),
+            ("jobticket new -m 5", ["5", "50", "51"]),
+            ("jobticket new -m 5 --pdl ", ["ps", "pcl", "color-pcl"]),
             ("jobticket features cover-f", ["cover-front"]),
         ]
         for line, expected in rows:

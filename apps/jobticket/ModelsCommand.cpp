@@ -1,0 +1,91 @@
+#include <CLI/CLI.hpp>
+
+#include "Commands.h"
+#include "Listing.h"
+#include "Printers.h"
+#include "Text.h"
+#include "TicketFile.h"
+
+namespace jobticket {
+
+namespace {
+
+struct ModelsOptions {
+    std::string pattern;
+    bool table = false;
+};
+
+using Row = std::vector<std::string>;
+
+std::string formOf(const Model& model) { return model.takesXml ? "xml" : "stream"; }
+
+std::string listModels(const std::vector<Model>& models) {
+    std::vector<Row> rows = {{"No.", "Name", "Languages", "Form", "Family"}};
+    for (const Model& model : models) {
+        rows.push_back({std::to_string(model.number), model.name, listLanguages(model),
+                        formOf(model), std::to_string(model.family)});
+    }
+    return layOut(rows);
+}
+
+std::string describe(const Model& model) {
+    std::vector<Row> rows = {
+        {"Model", std::to_string(model.number)},
+        {"Name", model.name},
+        {"Family", std::to_string(model.family)},
+        {"Form", formOf(model) + (model.takesXml ? " (instructions are an XML document)"
+                                                 : " (instructions are comment lines)")}};
+    std::string text = layOut(rows) + "Drivers\n";
+    rows.clear();
+    for (const Driver& driver : model.drivers) {
+        rows.push_back({"  " + std::string(driver.language.name), driver.name});
+    }
+    return text + layOut(rows);
+}
+
+/// One line a model, tabs between the columns: number, name, family, form, and the drivers by
+/// language.
+std::string makeTable(const std::vector<Model>& models) {
+    std::string text;
+    for (const Model& model : models) {
+        text += std::to_string(model.number) + '\t' + model.name + '\t' +
+                std::to_string(model.family) + '\t' + formOf(model);
+        for (const Driver& driver : model.drivers) {
+            text.append("\t").append(driver.language.name).append("=").append(driver.name);
+        }
+        text += '\n';
+    }
+    return text;
+}
+
+ExitStatus list(const ModelsOptions& options) {
+    const std::vector<Model> models = findModels(options.pattern);
+    if (models.empty()) {
+        throw ProgramError(ExitStatus::badValue, "there is no printer \"" + options.pattern +
+                                                     "\"; \"jobticket models\" lists all");
+    }
+    std::string text;
+    if (options.table) {
+        text = makeTable(models);
+    } else {
+        text = models.size() == 1 ? describe(models.front()) : listModels(models);
+    }
+    writeFile(std::string(standardStream), text);
+    return ExitStatus::success;
+}
+
+} // namespace
+
+void addModelsCommand(CLI::App& program, Action& action) {
+    CLI::App* command =
+        program.add_subcommand("models", "List the printers that the library knows");
+    const auto options = std::make_shared<ModelsOptions>();
+    command->add_option("PATTERN", options->pattern,
+                        "A printer's number or name, to see all about it; or a part of the names "
+                        "of those to list");
+    command->add_flag("--table", options->table,
+                      "One line a printer with tabs between the columns, for other programs");
+    command->callback([options, &action] { action = [options] { return list(*options); }; });
+}
+
+} // namespace jobticket

@@ -1,0 +1,92 @@
+#include "PrinterOptions.h"
+
+#include <algorithm>
+
+#include <CLI/CLI.hpp>
+
+#include "ExitStatus.h"
+#include "Printers.h"
+#include "Text.h"
+
+namespace jobticket {
+
+namespace {
+
+[[noreturn]] void fail(const std::string& message) {
+    throw ProgramError(ExitStatus::usage, message);
+}
+
+Model chooseModel(const std::string& text) {
+    constexpr std::size_t mostListed = 6;
+    if (text.empty()) {
+        fail("which printer? --model takes its number or name; \"jobticket models\" lists all");
+    }
+    const std::vector<Model> models = findModels(text);
+    if (models.empty()) {
+        fail("--model: there is no printer " + inQuotes(text) + "; \"jobticket models\" lists all");
+    }
+    if (models.size() > 1) {
+        std::string names;
+        for (std::size_t index = 0; index < std::min(models.size(), mostListed); ++index) {
+            names += (names.empty() ? "" : ", ") + models[index].name;
+        }
+        fail("--model: " + inQuotes(text) + " may be " + names +
+             (models.size() > mostListed ? " and others" : ""));
+    }
+    return models.front();
+}
+
+std::uint32_t chooseLanguage(const Model& model, const std::string& text) {
+    if (text.empty()) {
+        return PrinterChoice().pdl; // every model has it
+    }
+    const auto means = [&text](const Language& language) {
+        return language.name == text || std::to_string(language.number) == text;
+    };
+    const auto driver = std::ranges::find_if(
+        model.drivers, [&](const Driver& candidate) { return means(candidate.language); });
+    if (driver != model.drivers.end()) {
+        return driver->language.number;
+    }
+    if (std::ranges::any_of(getLanguages(), means)) {
+        fail("--pdl: " + model.name + " has no " + text + "; it has " + listLanguages(model));
+    }
+    fail("--pdl: " + inQuotes(text) + " is none of ps (1), pcl (2), color-pcl (3)");
+}
+
+std::uint32_t chooseForm(const std::string& text) {
+    if (text.empty() || text == "model" || text == "3") {
+        return ZENT_INSTRUCTIONS_BY_MODEL;
+    }
+    if (text == "xml" || text == "1") {
+        return ZENT_INSTRUCTIONS_XML;
+    }
+    if (text == "stream" || text == "2") {
+        return ZENT_INSTRUCTIONS_STREAM;
+    }
+    fail("--form: " + inQuotes(text) + " is none of xml (1), stream (2), model (3)");
+}
+
+} // namespace
+
+void addModelOptions(CLI::App& command, PrinterOptions& options) {
+    command.add_option("-m,--model", options.model,
+                       "The printer, by number or name; \"jobticket models\" lists all");
+    command.add_option("-p,--pdl", options.language,
+                       "The page description language: ps (1), pcl (2) or color-pcl (3); without "
+                       "it, pcl");
+}
+
+void addPrinterOptions(CLI::App& command, PrinterOptions& options) {
+    addModelOptions(command, options);
+    command.add_option("--form", options.form,
+                       "The form of printing instructions: xml (1), stream (2), or what the model "
+                       "takes (3), which is the default");
+}
+
+PrinterChoice choosePrinter(const PrinterOptions& options) {
+    const Model model = chooseModel(options.model);
+    return {model.number, chooseLanguage(model, options.language), chooseForm(options.form)};
+}
+
+} // namespace jobticket

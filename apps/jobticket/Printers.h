@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace jobticket {
+
+/// A page description language.
+struct Language {
+    std::uint32_t number;  // as the calls take it
+    std::string_view name; // on the command line
+    std::string_view displayName;
+};
+
+/// All languages, by number.
+const std::vector<Language>& getLanguages();
+
+/// A way of driving a model: the name of its driver for one language.
+struct Driver {
+    Language language;
+    std::string name;
+};
+
+/// A printer model as the tables have it.
+struct Model {
+    std::uint32_t number;
+    std::string name;
+    std::uint32_t family;
+    bool takesXml; // its instructions are the XML document, else the stream of comment lines
+    std::vector<Driver> drivers; // by language
+};
+
+/// All models, by number.
+std::vector<Model> getModels();
+
+/// The models of that number or name; without one, those with the text in their name or in the name
+/// of a driver.
+std::vector<Model> findModels(const std::string& text);
+
+/// "pcl, ps": the languages of a model.
+std::string listLanguages(const Model& model);
+
+} // namespace jobticket
