@@ -45,7 +45,12 @@ std::map<std::int32_t, std::string> readAllStrings() {
 }
 
 TEST(StringTableTest, TextsFitForUsers) {
-    for (const auto& [id, text] : readAllStrings()) {
+    for (auto [id, text] : readAllStrings()) {
+        if (id == 7500 || id == 7501) { // notes behind a name, such as " (library)"
+            ASSERT_TRUE(text.starts_with(" (") && text.ends_with(')')) << text;
+            text[2] = static_cast<char>(std::toupper(static_cast<unsigned char>(text[2])));
+            text = text.substr(2, text.size() - 3);
+        }
         ASSERT_FALSE(text.empty()) << id;
         EXPECT_LE(text.size(), 255U) << id;
         EXPECT_EQ(text.find_first_of("\"\\\t%"), std::string::npos) << text;
