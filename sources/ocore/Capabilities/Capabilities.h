@@ -12,6 +12,8 @@
 
 namespace zent {
 
+class StockList;
+
 /// What is known of one printer: a list of capabilities, filled once from a capability document and
 /// the printer tables, never changed after that, and read through narrow, typed queries.
 ///
@@ -54,6 +56,8 @@ public:
     /// default is a choice, and "SIZE_OTHER" last, always.
     std::vector<StockSize> getStockSizeValues(bool hasCapability = false) const;
     SizeLimits getStockSizeLimits() const;
+    /// The stocks that the printer reports; none if it reports none.
+    std::unique_ptr<StockList> getPrinterStocks() const;
 
     /// These are true unless the list says otherwise.
     bool allowsEmbeddedSpaces(const _FI& feature) const;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "ocore/Capabilities/Capabilities.h"
+#include "ocore/Stock/StockList.h"
 #include "ocore/Trace.h"
 
 namespace zent {
@@ -98,6 +99,13 @@ SizeLimits Capabilities::getStockSizeLimits() const {
     getFeatureCapabilities(_FI(feature::xDimension), limits.lowestWidth, limits.highestWidth);
     getFeatureCapabilities(_FI(feature::yDimension), limits.lowestHeight, limits.highestHeight);
     return limits;
+}
+
+std::unique_ptr<StockList> Capabilities::getPrinterStocks() const {
+    const AttrNodeList* database = nullptr;
+    m_settings.getAttrNodeList()->OrdoAttrToList(&database, AttrID(u"media-col-database"));
+    return database == nullptr ? std::make_unique<StockList>()
+                               : StockList::createFromList(*database, StockType::printer);
 }
 
 } // namespace zent
