@@ -15,12 +15,13 @@ void AnlDealer::setFromAttrNodeList(const AttrNodeList& source) {
 }
 
 void AnlDealer::setBuffer(const ByteBuffer& buffer) {
+    ByteBuffer taken = buffer; // first, since it may fail
     noteNewBuffer(buffer);
-    if (&buffer != &m_buffer) {
-        m_buffer = buffer;
-    }
+    m_buffer.swap(taken);
 }
 
 void AnlDealer::noteNewBuffer(const ByteBuffer& /*buffer*/) {}
+
+void AnlDealer::completeBuffer(ByteBuffer& /*buffer*/) const {}
 
 } // namespace zent

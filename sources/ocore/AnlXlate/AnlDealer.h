@@ -15,15 +15,15 @@ public:
     virtual bool isEqual(const AnlDealer& other) const = 0;
 
     std::unique_ptr<AttrNodeList> toNewAttrNodeList();
-    void toAttrNodeList(AttrNodeList* target) { anlFromBuffer(m_buffer, target); }
-    void setFromAttrNodeList(const AttrNodeList& source);
+    virtual void toAttrNodeList(AttrNodeList* target) { anlFromBuffer(getBytes(), target); }
+    virtual void setFromAttrNodeList(const AttrNodeList& source);
 
     void setBuffer(const ByteBuffer& buffer);
-    ByteBuffer getBuffer() const { return m_buffer; }
-    std::size_t size() const { return m_buffer.size(); }
+    ByteBuffer getBuffer() const { return getBytes(); }
+    std::size_t size() const { return getBytes().size(); }
 
     /// Compares the bytes.
-    bool operator==(const AnlDealer& other) const { return m_buffer == other.m_buffer; }
+    bool operator==(const AnlDealer& other) const { return getBytes() == other.getBytes(); }
 
 protected:
     AnlDealer() = default;
@@ -32,9 +32,16 @@ protected:
 
     /// Called just before the buffer is replaced.
     virtual void noteNewBuffer(const ByteBuffer& buffer);
+    /// Called before the bytes are looked at: a dealer that puts off making them makes them here.
+    virtual void completeBuffer(ByteBuffer& buffer) const;
+
+    const ByteBuffer& getBytes() const {
+        completeBuffer(m_buffer);
+        return m_buffer;
+    }
 
 private:
-    ByteBuffer m_buffer;
+    mutable ByteBuffer m_buffer;
 };
 
 } // namespace zent

@@ -1,5 +1,7 @@
 #include "ocore/Compress/PersistentSettings.h"
 
+#include <utility>
+
 #include "ocore/AnlXlate/OrdoTranslator.h"
 #include "ocore/AnlXlate/SmallOrdoTranslator.h"
 #include "ocore/Compress/CompressedBuffer.h"
@@ -68,11 +70,11 @@ ByteBuffer toSmallDocument(const ByteBuffer& document) {
 
 } // namespace
 
-PersistentSettings::PersistentSettings() { setBuffer(compose(defaultParts())); }
+PersistentSettings::PersistentSettings() : m_parts(defaultParts()), m_isComposed(false) {}
 
 PersistentSettings::PersistentSettings(const ByteBuffer& state, bool trusted) {
     if (!trusted) {
-        setBuffer(compose(defaultParts()));
+        *this = PersistentSettings();
     }
     importPersistentSettingsState(state, trusted);
 }
@@ -98,7 +100,10 @@ ByteBuffer PersistentSettings::compose(const Parts& parts) {
 }
 
 PersistentSettings::Parts PersistentSettings::unpack(const ByteBuffer& state) {
-    const ByteBuffer content = expand(getBlock(state));
+    return split(expand(getBlock(state)));
+}
+
+PersistentSettings::Parts PersistentSettings::split(const ByteBuffer& content) {
     if (content.size() < StateData::size) {
         Raise<FormatException>()("PersistentSettings::getComponentsFromCompressedDataBuffer: The "
                                  "ByteBuffer data is not big enough (%ld bytes) to contain the "
@@ -135,7 +140,7 @@ ByteBuffer PersistentSettings::upgradeFromFullPayload(const ByteBuffer& state) {
     return compose(parts);
 }
 
-void PersistentSettings::validateCompressedData(const ByteBuffer& block) {
+ByteBuffer PersistentSettings::validateCompressedData(const ByteBuffer& block) {
     const CompressedBuffer compressed(block);
     ByteBuffer expanded;
     compressed.getOriginalData(expanded);
@@ -145,6 +150,7 @@ void PersistentSettings::validateCompressedData(const ByteBuffer& block) {
                                  "size (%ld).\r\n",
                                  expanded.size(), compressed.getOriginalSize());
     }
+    return expanded;
 }
 
 bool PersistentSettings::importPersistentSettingsState(const ByteBuffer& state, bool trusted) {
@@ -156,38 +162,58 @@ bool PersistentSettings::importPersistentSettingsState(const ByteBuffer& state, 
             "have header structure of the most recent version. The header information doesn't "
             "exist or doesn't match.\r\n");
     }
-    if (!trusted) {
-        validateCompressedData(block);
-        const Parts parts = unpack(recent);
-        if (parts.data.getStructureSize() != StateData::size) {
-            Raise<FormatException>()(
-                "PersistentSettings::importPersistentSettingsState(): Import request ignored. "
-                "Don't have a data structure of the most recent version. The data structure in the "
-                "compressed block doesn't exist or doesn't match.\r\n");
-        }
-        if (!parts.payload.isEmpty()) {
-            AttrNodeList scratch;
-            SmallOrdoTranslator().anlFromBuffer(parts.payload, &scratch);
-        }
+    if (trusted) {
+        setBuffer(recent);
+        return true;
     }
+    Parts parts = split(validateCompressedData(block));
+    if (parts.data.getStructureSize() != StateData::size) {
+        Raise<FormatException>()(
+            "PersistentSettings::importPersistentSettingsState(): Import request ignored. "
+            "Don't have a data structure of the most recent version. The data structure in the "
+            "compressed block doesn't exist or doesn't match.\r\n");
+    }
+    AttrNodeList list;
+    parse(parts.payload, &list);
     setBuffer(recent);
+    m_parts = std::move(parts);
+    m_parsedList = std::move(list);
     return true;
 }
 
-void PersistentSettings::anlFromBuffer(const ByteBuffer& source, AttrNodeList* target) {
-    const Parts parts = unpack(upgrade(source));
-    if (parts.payload.isEmpty()) {
+void PersistentSettings::parse(const ByteBuffer& payload, AttrNodeList* target) {
+    if (payload.isEmpty()) {
         target->removeAllNodes();
     } else {
-        SmallOrdoTranslator().anlFromBuffer(parts.payload, target);
+        SmallOrdoTranslator().anlFromBuffer(payload, target);
     }
 }
 
+void PersistentSettings::anlFromBuffer(const ByteBuffer& source, AttrNodeList* target) {
+    parse(unpack(upgrade(source)).payload, target);
+}
+
 void PersistentSettings::anlToBuffer(const AttrNodeList& source, ByteBuffer* target) {
-    Parts parts = unpack(getBuffer());
-    parts.payload.clear();
+    Parts parts{getParts().data, {}};
     SmallOrdoTranslator().anlToBuffer(source, &parts.payload);
     target->append(compose(parts));
+}
+
+void PersistentSettings::toAttrNodeList(AttrNodeList* target) {
+    if (m_parsedList && target->getNumberOfNodes() == 0) {
+        *target = std::move(*m_parsedList);
+        m_parsedList.reset();
+    } else {
+        parse(getParts().payload, target);
+    }
+}
+
+void PersistentSettings::setFromAttrNodeList(const AttrNodeList& source) {
+    getParts();
+    ByteBuffer payload;
+    SmallOrdoTranslator().anlToBuffer(source, &payload);
+    changeParts().payload.swap(payload);
+    m_parsedList.reset();
 }
 
 void PersistentSettings::anlFromFile(const CXString& /*fileName*/, AttrNodeList* /*target*/) {}
@@ -199,30 +225,45 @@ std::unique_ptr<AnlDealer> PersistentSettings::clone() const {
 }
 
 bool PersistentSettings::isEqual(const AnlDealer& other) const {
-    return dynamic_cast<const PersistentSettings*>(&other) != nullptr &&
-           getBuffer() == other.getBuffer();
+    return dynamic_cast<const PersistentSettings*>(&other) != nullptr && *this == other;
 }
 
-void PersistentSettings::validate() const { unpack(upgrade(getBuffer())); }
+void PersistentSettings::validate() const { unpack(upgrade(getBytes())); }
 
-std::uint8_t PersistentSettings::getStateTag() const {
-    return unpack(getBuffer()).data.getStateTagByte();
+void PersistentSettings::noteNewBuffer(const ByteBuffer& /*buffer*/) {
+    m_parts.reset();
+    m_isComposed = true;
+    m_parsedList.reset();
 }
 
-void PersistentSettings::setStateTag(std::uint8_t tag) {
-    Parts parts = unpack(getBuffer());
-    parts.data.setStateTagByte(tag);
-    setBuffer(compose(parts));
+void PersistentSettings::completeBuffer(ByteBuffer& buffer) const {
+    if (!m_isComposed) {
+        buffer = compose(*m_parts);
+        m_isComposed = true;
+    }
 }
 
-UserContext PersistentSettings::getUserContext() const {
-    return unpack(getBuffer()).data.getUserContext();
+const PersistentSettings::Parts& PersistentSettings::getParts() const {
+    if (!m_parts) {
+        m_parts = unpack(upgrade(getBytes()));
+    }
+    return *m_parts;
 }
+
+PersistentSettings::Parts& PersistentSettings::changeParts() {
+    getParts();
+    m_isComposed = false;
+    return *m_parts;
+}
+
+std::uint8_t PersistentSettings::getStateTag() const { return getParts().data.getStateTagByte(); }
+
+void PersistentSettings::setStateTag(std::uint8_t tag) { changeParts().data.setStateTagByte(tag); }
+
+UserContext PersistentSettings::getUserContext() const { return getParts().data.getUserContext(); }
 
 void PersistentSettings::setUserContext(const UserContext& context) {
-    Parts parts = unpack(getBuffer());
-    parts.data.setUserContext(context);
-    setBuffer(compose(parts));
+    changeParts().data.setUserContext(context);
 }
 
 } // namespace zent

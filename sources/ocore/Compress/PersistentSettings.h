@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 #include "ocore/AnlXlate/AnlDealer.h"
 #include "ocore/Compress/StateData.h"
@@ -11,6 +12,11 @@ namespace zent {
 /// A job's complete settings as one opaque state blob: a header with the version, and a compressed
 /// block that holds the user context (StateData) and the settings as a small ordo document. Blobs
 /// of two older forms are upgraded when they are read.
+///
+/// The content stays beside the blob once it was expanded, and a blob whose content changed is
+/// composed when somebody asks for its bytes: deflating costs more than all the rest, and what
+/// changes the ticket is mostly followed by what changes the user. So even reading is a change of
+/// state, and an object is for one thread at a time.
 ///
 /// Faults raise MissingOrBadPersistentSettingsFormatException, or what expanding and parsing raise.
 class PersistentSettings : public AnlDealer {
@@ -27,6 +33,8 @@ public:
     void anlToFile(const AttrNodeList& source, const CXString& fileName) override;
     std::unique_ptr<AnlDealer> clone() const override;
     bool isEqual(const AnlDealer& other) const override;
+    void toAttrNodeList(AttrNodeList* target) override;
+    void setFromAttrNodeList(const AttrNodeList& source) override;
     /// Upgrades and unpacks a copy of the bytes; any fault raises.
     virtual void validate() const;
 
@@ -39,19 +47,32 @@ public:
     UserContext getUserContext() const;
     void setUserContext(const UserContext& context);
 
+protected:
+    void noteNewBuffer(const ByteBuffer& buffer) override;
+    void completeBuffer(ByteBuffer& buffer) const override;
+
 private:
-    /// A blob in its parts.
+    /// The content of a blob.
     struct Parts {
         StateData data;
-        ByteBuffer payload;
+        ByteBuffer payload; // a small ordo document, or nothing
     };
+    const Parts& getParts() const;
+    Parts& changeParts();
+
     static Parts defaultParts();
     static Parts unpack(const ByteBuffer& state);
+    static Parts split(const ByteBuffer& content);
+    static void parse(const ByteBuffer& payload, AttrNodeList* target);
     static ByteBuffer compose(const Parts& parts);
     static ByteBuffer upgrade(const ByteBuffer& state);
     static ByteBuffer upgradeFromDocument(const ByteBuffer& state);
     static ByteBuffer upgradeFromFullPayload(const ByteBuffer& state);
-    static void validateCompressedData(const ByteBuffer& block);
+    static ByteBuffer validateCompressedData(const ByteBuffer& block);
+
+    mutable std::optional<Parts> m_parts;     // where the bytes were expanded
+    mutable bool m_isComposed = true;         // the bytes are those of the parts
+    std::optional<AttrNodeList> m_parsedList; // of an import, for who asks next
 };
 
 } // namespace zent
