@@ -57,9 +57,9 @@ bool AttrNodeList::isNodeAt(const AttrID& id, std::uint32_t position) const {
 }
 
 std::uint32_t AttrNodeList::findPosition(const AttrID& id, std::uint32_t instance) const {
-    const std::u16string_view name = id.getText().view();
+    const CXString& name = id.getText();
     for (std::uint32_t i = 0; i < m_nodes.size(); ++i) {
-        if (m_nodes[i]->getName().view() == name && instance-- == 0) {
+        if (m_nodes[i]->getName() == name && instance-- == 0) {
             return i;
         }
     }

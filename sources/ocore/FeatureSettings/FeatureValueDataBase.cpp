@@ -2,7 +2,7 @@
 
 #include <map>
 #include <memory>
-#include <utility>
+#include <vector>
 
 #include "ocore/Exceptions.h"
 #include "ocore/FeatureSettings/FeatureDataBase.h"
@@ -13,18 +13,21 @@ namespace zent {
 
 namespace {
 
-using FeatureAndText = std::pair<FeatureEnum, std::u16string_view>;
-
 /// The texts that the keys refer to belong to the rows, which never move.
 struct ValueStore {
+    using ByText = std::map<std::u16string_view, const FeatureValueInfo*>;
+
     std::map<std::int32_t, FeatureValueInfo> byNumber;
-    std::map<FeatureAndText, const FeatureValueInfo*> byText;
-    std::map<std::u16string_view, const FeatureValueInfo*> byAbbreviation;
+    std::vector<ByText> byText; // for each feature its own, of a few values mostly
+    ByText byAbbreviation;
 
     void add(const FeatureValueInfo& added) {
         const FeatureValueInfo& row = byNumber.emplace(added.m_value, added).first->second;
         for (const FeatureEnum feature : row.m_features) {
-            byText.emplace(FeatureAndText(feature, row.m_text.view()), &row);
+            if (feature >= byText.size()) {
+                byText.resize(feature + 1);
+            }
+            byText[feature].emplace(row.m_text.view(), &row);
         }
         if (!row.m_abbreviation.isEmpty()) {
             byAbbreviation.emplace(row.m_abbreviation.view(), &row);
@@ -99,8 +102,12 @@ const FeatureValueInfo* findByNumber(std::int32_t value) {
 
 const FeatureValueInfo* findByText(FeatureEnum feature, const CXString& text) {
     const LockedStore store;
-    const auto found = store->byText.find(FeatureAndText(feature, text.view()));
-    return found == store->byText.end() ? nullptr : found->second;
+    if (feature >= store->byText.size()) {
+        return nullptr;
+    }
+    const ValueStore::ByText& values = store->byText[feature];
+    const auto found = values.find(text.view());
+    return found == values.end() ? nullptr : found->second;
 }
 
 const FeatureValueInfo* findByAbbreviation(const CXString& abbreviation) {
