@@ -3,6 +3,7 @@
 #include <new>
 
 #include "ocore/OrdoParse/OCapDomDoc.h"
+#include "ocore/OrdoParse/OMediaPrefDomDoc.h"
 #include "ocore/OrdoParse/OrdoDomDoc.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
 #include "ocore/OrdoParse/SOrdoDomDoc.h"
@@ -62,10 +63,13 @@ std::unique_ptr<TarvoDomDoc> TarvoXmlDataStream::createDomDocument() const {
     case XmlDataType::ocap:
         document.reset(new (std::nothrow) OCapDomDoc(getStreamName(), findDtdName() != nullptr));
         break;
+    case XmlDataType::mediaPreference:
+        document.reset(new (std::nothrow)
+                           OMediaPrefDomDoc(getStreamName(), findDtdName() != nullptr));
+        break;
     case XmlDataType::smallOrdo:
         document.reset(new (std::nothrow) SOrdoDomDoc(getStreamName(), findDtdName() != nullptr));
         break;
-    case XmlDataType::mediaPreference: // only the forms that exist can be made
     case XmlDataType::notSpecified:
     default:
         raiseOrdoParse(ordoParseCode::noDataType,
