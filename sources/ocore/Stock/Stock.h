@@ -60,6 +60,7 @@ public:
     std::uint32_t getLogicalID() const { return m_logicalID; }
     /// Draws an id that no stock has had.
     void assignNewLogicalID();
+    void removeLogicalID() { setLogicalID(0); }
     void copyLogicalID(const Stock& other) { setLogicalID(other.m_logicalID); }
     /// 0 if there is none.
     static std::uint32_t getLogicalIDFromSettings(const FeatureSettings& settings);

@@ -1,0 +1,162 @@
+#include "ocore/Stock/MediaPreferences.h"
+
+#include <map>
+#include <string_view>
+#include <utility>
+
+#include "ocore/AnlXlate/OmpTranslator.h"
+#include "ocore/Attributes/AttrNames.h"
+#include "ocore/Attributes/AttrValueFactory.h"
+#include "ocore/OrdoParse/OrdoParseException.h"
+#include "ocore/Trace.h"
+#include "platform/Files.h"
+#include "platform/System.h"
+
+namespace zent {
+
+namespace {
+
+constexpr const char16_t* currentFile = u"omedpref.omp";
+constexpr const char16_t* olderFile = u"omedpr35.omp";
+
+constexpr const char16_t* userStocksAttribute = u"media-user-defined";
+constexpr const char16_t* userFavoritesAttribute = u"media-favorites-user-defined";
+constexpr const char16_t* printerFavoritesAttribute = u"media-favorites-printer";
+
+void addFavorite(AttrNodeList& favorites, const CXString& key, AVTE type) {
+    favorites.addNode(
+        AttrNode(attrNames::value(), AttrValueFactory::createSimpleAttrValue(type, key), false));
+}
+
+/// Older files are taken over like this: whatever their favourites describe, it is the first stock
+/// that becomes one.
+void markFirst(const AttrNodeList& favorites, StockList& stocks, StockType kind) {
+    // Where there is no stock, nothing is kept either: that took a key of the number 0, and the
+    // numbers of values begin at 1.
+    const auto described = StockList::createFromList(favorites, kind);
+    if (described->getCount() != 0 && stocks.getCount() != 0) {
+        stocks.getStockAt(0).setFavorite(true);
+    }
+}
+
+} // namespace
+
+MediaPreferences::MediaPreferences(const CXString& folder) : m_folder(folder) {
+    // A file that is there but can't be read fails the reading. Taken for missing, it would be lost
+    // by the next save().
+    if (platform::getFileStamp(pathOf(currentFile)).exists) {
+        m_path = pathOf(currentFile);
+    } else if (platform::getFileStamp(pathOf(olderFile)).exists) {
+        m_path = pathOf(olderFile);
+        m_isOldFile = true;
+    }
+    if (!m_path.isEmpty()) {
+        m_list = std::make_unique<AttrNodeList>();
+        OmpTranslator().anlFromFile(m_path, m_list.get());
+    }
+}
+
+CXString MediaPreferences::pathOf(const char16_t* fileName) const {
+    return m_folder + platform::pathSeparator + fileName;
+}
+
+std::unique_ptr<StockList> MediaPreferences::getUserStocks() {
+    if (m_list == nullptr) {
+        return StockList::createDefaultLibrary();
+    }
+    const AttrNodeList* described = nullptr;
+    auto stocks = std::as_const(*m_list).OrdoAttrToList(&described, AttrID(userStocksAttribute))
+                      ? StockList::createFromList(*described, StockType::user)
+                      : std::make_unique<StockList>();
+    applyFavorites(userFavoritesAttribute, *stocks, StockType::user);
+    return stocks;
+}
+
+void MediaPreferences::applyPrinterFavorites(StockList& printerStocks) {
+    m_foreignFavorites.clear();
+    if (m_list != nullptr) {
+        applyFavorites(printerFavoritesAttribute, printerStocks, StockType::printer);
+    }
+}
+
+void MediaPreferences::applyFavorites(const char16_t* attribute, StockList& stocks,
+                                      StockType kind) {
+    const AttrNodeList* favorites = nullptr;
+    if (!std::as_const(*m_list).OrdoAttrToList(&favorites, AttrID(attribute))) {
+        return;
+    }
+    if (m_isOldFile) {
+        markFirst(*favorites, stocks, kind);
+    } else {
+        markNamed(*favorites, stocks);
+    }
+}
+
+void MediaPreferences::markNamed(const AttrNodeList& favorites, StockList& stocks) {
+    std::map<std::u16string_view, Stock*> stockOfKey; // the first one of each key
+    for (std::uint32_t i = 0; i < stocks.getCount(); ++i) {
+        Stock& stock = stocks.getStockAt(i);
+        stockOfKey.emplace(stock.getKey().getText().view(), &stock); // a text that never goes
+    }
+    for (std::uint32_t i = 0; i < favorites.getNumberOfNodes(); ++i) {
+        const AttrNode& favorite = favorites.getNodeAt(i);
+        const AttrValue& value = favorite.getAttrValue();
+        if (favorite.getAttrID() != attrNames::value() || !value.isPrimitiveString()) {
+            continue; // no key
+        }
+        const CXString key = value.getIppValue();
+        if (const auto found = stockOfKey.find(key.view()); found != stockOfKey.end()) {
+            found->second->setFavorite(true);
+        } else {
+            m_foreignFavorites.push_back({key, value.getAttrValueType()});
+        }
+    }
+}
+
+AttrNodeList MediaPreferences::listOf(const StockList& stocks) const {
+    AttrNodeList list;
+    AttrNodeList& userStocks = *list.addSetOf(AttrID(userStocksAttribute));
+    AttrNodeList& userFavorites = *list.addSetOf(AttrID(userFavoritesAttribute));
+    AttrNodeList& printerFavorites = *list.addSetOf(AttrID(printerFavoritesAttribute));
+    for (std::uint32_t i = 0; i < stocks.getCount(); ++i) {
+        const Stock& stock = stocks.getStockAt(i);
+        const FeatureValue key = stock.getKey();
+        if (stock.getKind() == StockType::user) {
+            *userStocks.addCollection(attrNames::value()) = stock.getAttrNodeList();
+        }
+        if (stock.isFavorite() && stock.getKind() == StockType::user) {
+            addFavorite(userFavorites, key.getText(), key.getType());
+        } else if (stock.isFavorite() && stock.getKind() == StockType::printer) {
+            addFavorite(printerFavorites, key.getText(), key.getType());
+        }
+    }
+    for (const ForeignFavorite& favorite : m_foreignFavorites) {
+        addFavorite(printerFavorites, favorite.key, favorite.type);
+    }
+    return list;
+}
+
+void MediaPreferences::save(const StockList& stocks) {
+    AttrNodeList list = listOf(stocks);
+    const CXString path = pathOf(currentFile);
+    write(list, path);
+    m_list = std::make_unique<AttrNodeList>(std::move(list));
+    m_path = path;
+    m_isOldFile = false;
+}
+
+/// Writes a file beside, which takes the place of the old one only when it is complete.
+void MediaPreferences::write(const AttrNodeList& list, const CXString& path) {
+    const CXString beside = path + u".new";
+    OmpTranslator().anlToFile(list, beside);
+    if (!platform::replaceFile(beside, path)) {
+        trace::systemErrorText(platform::getLastError(), traceLevel::xmlLayer);
+        platform::deleteFile(beside);
+        raiseOrdoParse(ordoParseCode::openForWritingFailed,
+                       "MediaPreferences::save(): Failed to put the new file into the place of "
+                       "%s.\r\n",
+                       path);
+    }
+}
+
+} // namespace zent

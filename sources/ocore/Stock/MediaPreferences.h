@@ -1,0 +1,56 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "ocore/Attributes/AttrNodeList.h"
+#include "ocore/Stock/StockList.h"
+#include "ocore/User.h"
+
+namespace zent {
+
+/// The file of a user's media library: the user's stocks, and by their keys the favourites among
+/// them and among the stocks of printers.
+///
+/// The file is "omedpref.omp" in the user's profile directory. Where there is none, its predecessor
+/// "omedpr35.omp" is read; it is never written. Failures of the XML layer reach the caller.
+class MediaPreferences {
+public:
+    /// Reads the file of a folder, if there is one.
+    explicit MediaPreferences(const CXString& folder = User::getProfileDirectoryPath());
+
+    /// The file that was read, or written since; empty if there is none.
+    const CXString& getPath() const { return m_path; }
+    bool isOldFile() const { return m_isOldFile; }
+
+    /// The user's stocks, with their favourites marked. Without a file the default library.
+    std::unique_ptr<StockList> getUserStocks();
+    /// Marks the favourites among a printer's stocks. What names none of them is kept for the next
+    /// save(), so that the favourites of other printers survive. Called after getUserStocks(),
+    /// since the favourites to keep are those of printers alone.
+    void applyPrinterFavorites(StockList& printerStocks);
+    /// Writes the user's stocks and the favourites, those of the printer included, in the current
+    /// form. A failure leaves the file as it was.
+    void save(const StockList& stocks);
+
+private:
+    /// A favourite that names no stock at hand.
+    struct ForeignFavorite {
+        CXString key;
+        AVTE type;
+    };
+
+    CXString pathOf(const char16_t* fileName) const;
+    void applyFavorites(const char16_t* attribute, StockList& stocks, StockType kind);
+    void markNamed(const AttrNodeList& favorites, StockList& stocks);
+    AttrNodeList listOf(const StockList& stocks) const;
+    static void write(const AttrNodeList& list, const CXString& path);
+
+    CXString m_folder;
+    CXString m_path;
+    bool m_isOldFile = false;
+    std::unique_ptr<AttrNodeList> m_list; // null if there was no file
+    std::vector<ForeignFavorite> m_foreignFavorites;
+};
+
+} // namespace zent

@@ -1,0 +1,242 @@
+#include "ocore/Stock/StockInformation.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "ocore/Attributes/IppList.h"
+#include "ocore/Exceptions.h"
+#include "ocore/Trace.h"
+
+namespace zent {
+
+StockInformation::StockInformation(Printer& printer, MediaPreferences preferences)
+    : m_printer(printer), m_preferences(std::move(preferences)) {
+    const auto userStocks = m_preferences.getUserStocks();
+    const auto printerStocks = printer.getCapabilities().getPrinterStocks();
+    m_preferences.applyPrinterFavorites(*printerStocks);
+    for (std::uint32_t i = 0; i < printerStocks->getCount(); ++i) {
+        insert(m_printerStocks, printerStocks->getStockAt(i));
+    }
+    addUserStocks(*userStocks);
+}
+
+// Stocks
+
+void StockInformation::addUserStocks(const StockList& stocks) {
+    for (std::uint32_t i = 0; i < stocks.getCount(); ++i) {
+        insert(m_stocks, stocks.getStockAt(i));
+    }
+    // Only now, so that no stock gets a number that is the name of one behind it.
+    for (std::uint32_t i = 0; i < m_stocks.getCount(); ++i) {
+        nameStock(m_stocks.getStockAt(i));
+    }
+}
+
+/// Ids are drawn in rising order, so that theirs is the order of the walk.
+Stock* StockInformation::insert(StockList& list, const Stock& stock) {
+    Stock* const entry = list.addStock(stock);
+    entry->assignNewLogicalID();
+    m_index.add(*entry);
+    return entry;
+}
+
+/// The lowest number that is no stock's key yet.
+void StockInformation::nameStock(Stock& stock) {
+    if (stock.hasKey()) {
+        return;
+    }
+    FeatureValue key;
+    for (bool isFound = false; !isFound; ++m_lowestNumber) {
+        key = FeatureValue::fromText(_FI(feature::media), CXString::Format(u"%u", m_lowestNumber));
+        isFound = !m_index.hasKey(key) && m_generatedKeys.insert(key.getValue()).second;
+    }
+    m_index.remove(stock);
+    stock.setKey(key);
+    m_index.add(stock);
+}
+
+void StockInformation::releaseKey(FeatureValue key) {
+    m_generatedKeys.erase(key.getValue());
+    m_lowestNumber = 1; // the key may have been a number
+}
+
+/// Takes a stock that is about to go out of all that is known of it.
+void StockInformation::forget(const Stock& stock) {
+    m_usage.erase(&stock);
+    m_index.remove(stock);
+    releaseKey(stock.getKey());
+}
+
+const Stock* StockInformation::addStock(const Stock& stock) {
+    Stock* const entry = insert(m_stocks, stock);
+    nameStock(*entry);
+    return entry;
+}
+
+void StockInformation::replaceStock(const Stock& stock) {
+    Stock* const entry = m_index.findBestMatch(stock);
+    if (entry == nullptr || entry == &stock) {
+        return;
+    }
+    Stock replacement(stock);
+    replacement.copyLogicalID(*entry);
+    m_index.remove(*entry);
+    if (entry->getKey() != stock.getKey()) {
+        releaseKey(entry->getKey());
+    }
+    *entry = std::move(replacement);
+    m_index.add(*entry);
+    if (isInUse(*entry)) {
+        refreshUsage();
+    }
+}
+
+void StockInformation::removeStock(const Stock& stock) {
+    Stock* const entry = m_index.findBestMatch(stock);
+    if (entry == nullptr || !m_stocks.contains(entry)) {
+        return;
+    }
+    if (entry->getKind() == StockType::user && isInUse(*entry)) {
+        entry->setKind(StockType::transient);
+        return;
+    }
+    forget(*entry);
+    m_stocks.removeStock(entry);
+}
+
+void StockInformation::setFavorite(const Stock& stock, bool favorite) {
+    if (Stock* const entry = m_index.findBestMatch(stock)) {
+        entry->setFavorite(favorite);
+    }
+}
+
+const Stock* StockInformation::findStock(const Stock& stock) const {
+    const Stock* const entry = findBestMatch(stock); // by its id, of one of these the stock itself
+    return entry == nullptr ? &stock : entry;
+}
+
+bool StockInformation::hasKey(FeatureValue key, bool ofAnyKind, StockType kind) const {
+    return ofAnyKind ? m_index.hasKey(key) : m_index.hasKey(key, kind);
+}
+
+void StockInformation::save() {
+    StockList all(m_printerStocks);
+    all.addAll(m_stocks);
+    m_preferences.save(all);
+}
+
+// Usage
+
+void StockInformation::setSettings(FeatureSettings* settings) {
+    m_settings = settings;
+    refreshUsage();
+    m_stocks.removeStocksIf([&](const Stock& stock) {
+        const bool isForgotten = stock.getKind() == StockType::transient && !isInUse(stock);
+        if (isForgotten) {
+            forget(stock);
+        }
+        return isForgotten;
+    });
+}
+
+void StockInformation::refreshUsage() {
+    m_usage.clear();
+    if (m_settings != nullptr) {
+        refreshUsage(*m_settings->getAttrNodeList(), TJTF_ANY);
+    }
+}
+
+void StockInformation::refreshUsage(AttrNodeList& level, FeatureEnum feature) {
+    try {
+        FeatureSettings view(&level);
+        recordUse(view, feature);
+    } catch (const TarvoException& exception) {
+        trace::output(CXString::Format(u"The media of one level of the ticket are left alone: %s",
+                                       exception.getMessage()));
+    }
+    for (std::uint32_t i = 0; i < level.getNumberOfNodes(); ++i) {
+        AttrNode& node = level.getNodeAt(i);
+        if (node.getAttrValue().isList()) {
+            refreshUsage(static_cast<IppList&>(node.getAttrValue()).getAttrNodeList(),
+                         _FI::isFeatureName(node.getName()) ? _FI(node.getName()).getFeature()
+                                                            : feature);
+        }
+    }
+}
+
+void StockInformation::recordUse(FeatureSettings& level, FeatureEnum feature) {
+    const _FI mediaKey(feature::mediaKey);
+    const auto asked = Stock::createFromSettings(level, StockType::transient);
+    if (asked == nullptr) {
+        return;
+    }
+    const Stock* const stock = findOrAdd(*asked);
+    const bool isNamed = level.isSpecified(mediaKey);
+    stock->applyTo(level);
+    // A description that came with a name keeps one: it is all that tells papers apart that are
+    // alike otherwise, and what a stock lays over a ticket doesn't hold it.
+    if (isNamed && stock->getSource() == StockSource::description) {
+        level.setFeatureValue(mediaKey, stock->hasKey() ? stock->getKey() : asked->getKey());
+    }
+
+    Usage& usage = m_usage[stock];
+    ++usage.count;
+    if (std::ranges::find(usage.features, feature) == usage.features.end()) {
+        usage.features.push_back(feature);
+    }
+}
+
+const Stock* StockInformation::findOrAdd(Stock& asked) {
+    const Stock* found = findBestMatch(asked);
+    if (found == nullptr && asked.getLogicalID() != 0) {
+        // The id is of another StockInformation, which had this ticket before.
+        asked.removeLogicalID();
+        found = findBestMatch(asked);
+    }
+    return found == nullptr ? addStock(asked) : found;
+}
+
+const StockInformation::Usage* StockInformation::findUsage(const Stock& stock) const {
+    const auto found = m_usage.find(findStock(stock));
+    return found == m_usage.end() ? nullptr : &found->second;
+}
+
+std::uint32_t StockInformation::getUseCount(const Stock& stock) const {
+    const Usage* const usage = findUsage(stock);
+    return usage == nullptr ? 0 : usage->count;
+}
+
+std::vector<FeatureEnum> StockInformation::getUsingFeatures(const Stock& stock) const {
+    const Usage* const usage = findUsage(stock);
+    return usage == nullptr ? std::vector<FeatureEnum>() : usage->features;
+}
+
+// The walk
+
+void StockInformation::resetStocksByType(std::optional<StockType> kind) {
+    m_walked = 0;
+    m_walkedKind = kind;
+}
+
+const Stock* StockInformation::findNextInWalk() const {
+    const Stock* stock = m_index.findNext(m_walked);
+    while (stock != nullptr && m_walkedKind && stock->getKind() != *m_walkedKind) {
+        stock = m_index.findNext(stock->getLogicalID());
+    }
+    return stock;
+}
+
+bool StockInformation::hasMoreStocksByType() const { return findNextInWalk() != nullptr; }
+
+const Stock* StockInformation::getNextStockByType() {
+    const Stock* const stock = findNextInWalk();
+    if (stock == nullptr) {
+        Raise<NodeAccessOutOfBoundsException>()(
+            "StockInformation::getNextStockByType(): No more Stocks to get. Caller failed to test "
+            "with hasMoreStocksByType() first!\r\n");
+    }
+    m_walked = stock->getLogicalID();
+    return stock;
+}
+
+} // namespace zent

@@ -1,0 +1,146 @@
+#include "ocore/Stock/MediaPreferences.h"
+
+#include <gtest/gtest.h>
+
+#include "PrintText.h"
+#include "expected/ExpectedTable.h"
+#include "resources/UseResourceLibrary.h"
+#include "support/ListText.h"
+#include "support/OrdoDocument.h"
+#include "support/ScratchFolder.h"
+
+namespace zent::test {
+namespace {
+
+const char* const current = "omedpref.omp";
+const char* const older = "omedpr35.omp";
+
+std::string libraryOf(std::string_view content) {
+    return "<omediapref>" + std::string(content) + "</omediapref>";
+}
+
+StockList stocksOf(std::string_view described, StockType kind) {
+    return *StockList::createFromList(listOf(described), kind);
+}
+
+/// "plain* Ours" for two stocks, the first of them a favourite.
+std::string keysOf(const StockList& stocks) {
+    std::string keys;
+    for (std::uint32_t i = 0; i < stocks.getCount(); ++i) {
+        const Stock& stock = stocks.getStockAt(i);
+        keys += (i == 0 ? "" : " ") + stock.getKey().getText().toNarrow() +
+                (stock.isFavorite() ? "*" : "");
+    }
+    return keys;
+}
+
+class MediaPreferencesTest : public testing::Test {
+protected:
+    MediaPreferencesTest() { useResourceLibrary(); }
+    MediaPreferences preferences() const { return MediaPreferences(folderName()); }
+    CXString folderName() const {
+        return CXString(std::filesystem::path(m_folder.path()).make_preferred().string().c_str());
+    }
+
+    ScratchFolder m_folder;
+};
+
+TEST_F(MediaPreferencesTest, WithoutAFileTheDefaultLibraryServes) {
+    MediaPreferences first = preferences();
+    EXPECT_EQ(first.getPath(), u"");
+    const auto stocks = first.getUserStocks();
+    EXPECT_EQ(stocks->getCount(), 10U);
+    first.save(*stocks);
+    EXPECT_EQ(first.getPath(), m_folder.file(current));
+
+    MediaPreferences second = preferences();
+    EXPECT_EQ(second.getUserStocks()->getCount(), 10U);
+    second.save(StockList());
+    EXPECT_NE(m_folder.read(current).find("<media-user-defined syntax=\"1setOf\"/>"),
+              std::string::npos);
+    EXPECT_EQ(preferences().getUserStocks()->getCount(), 0U) << "an empty library is one";
+}
+
+TEST_F(MediaPreferencesTest, LibrariesAreWrittenAsTheyWereRead) {
+    const std::string golden = readTestFile("golden/media/library.omp");
+    m_folder.write(current, golden);
+    MediaPreferences preferences = this->preferences();
+    StockList all = *preferences.getUserStocks();
+    EXPECT_EQ(keysOf(all), "Letters & more plain*");
+    StockList printers = stocksOf(
+        "value{media-key=iso-a4-white} value{media-key=bond} value{media-key=name:Bond~90}",
+        StockType::printer);
+    printers.getStockAt(2).setKeyFromText(u"Bond 90");
+    preferences.applyPrinterFavorites(printers);
+    EXPECT_EQ(keysOf(printers), "iso-a4-white* bond Bond 90*");
+
+    // The user's own stand where they stood; the printer's in the order of its stocks.
+    StockList ordered = stocksOf("value{media-key=name:Other}", StockType::transient);
+    ordered.getStockAt(0).setFavorite(true);
+    ordered.addAll(all);
+    ordered.addStock(printers.getStockAt(2));
+    ordered.addStock(printers.getStockAt(0));
+    ordered.addStock(printers.getStockAt(1));
+    preferences.save(ordered);
+    EXPECT_EQ(m_folder.read(current), golden);
+    EXPECT_FALSE(std::filesystem::exists(m_folder.path() / "omedpref.omp.new"));
+}
+
+TEST_F(MediaPreferencesTest, OlderFilesAreTakenOver) {
+    m_folder.write(older, libraryOf("<media-user-defined syntax='1setOf'>"
+                                    "<value syntax='collection'><media-key syntax='keyword'>plain"
+                                    "</media-key></value><value syntax='collection'><media-key "
+                                    "syntax='keyword'>bond</media-key></value>"
+                                    "</media-user-defined>"
+                                    "<media-favorites-user-defined syntax='1setOf'>"
+                                    "<value syntax='collection'><media-key syntax='keyword'>bond"
+                                    "</media-key></value></media-favorites-user-defined>"));
+    const std::string before = m_folder.read(older);
+    MediaPreferences preferences = this->preferences();
+    EXPECT_TRUE(preferences.isOldFile());
+    const auto stocks = preferences.getUserStocks();
+    EXPECT_EQ(keysOf(*stocks), "plain* bond") << "the first one, whatever the favourite describes";
+    preferences.save(*stocks);
+    EXPECT_FALSE(preferences.isOldFile());
+    EXPECT_EQ(m_folder.read(older), before);
+    EXPECT_EQ(keysOf(*this->preferences().getUserStocks()), "plain* bond");
+    EXPECT_FALSE(this->preferences().isOldFile());
+}
+
+TEST_F(MediaPreferencesTest, FavoritesThatAreNoKeysArePassedOver) {
+    m_folder.write(current,
+                   libraryOf("<media-favorites-printer syntax='1setOf'>"
+                             "<value syntax='collection'><a syntax='keyword'>b</a></value>"
+                             "<value syntax='strange'>c</value><other syntax='keyword'>d</other>"
+                             "<value syntax='keyword'>e</value></media-favorites-printer>"));
+    MediaPreferences preferences = this->preferences();
+    StockList none;
+    preferences.applyPrinterFavorites(none);
+    preferences.save(none);
+    const std::string saved = m_folder.read(current);
+    EXPECT_NE(saved.find("<media-favorites-printer syntax=\"1setOf\">\r\n\t<value "
+                         "syntax=\"keyword\">e</value>\r\n</media-favorites-printer>"),
+              std::string::npos)
+        << saved;
+}
+
+TEST_F(MediaPreferencesTest, FailuresLoseNothing) {
+    m_folder.write(current, "<omediapref>");
+    EXPECT_EQ(ordoFailure([&] { preferences(); }).substr(0, 2), "2:");
+    m_folder.write(current, libraryOf(""));
+    MediaPreferences preferences = this->preferences();
+    // The place of the file beside is taken, then that of the file.
+    std::filesystem::create_directory(m_folder.path() / "omedpref.omp.new");
+    EXPECT_EQ(ordoFailure([&] { preferences.save(StockList()); }).substr(0, 3), "17:");
+    EXPECT_EQ(m_folder.read(current), libraryOf(""));
+    std::filesystem::remove(m_folder.path() / "omedpref.omp.new");
+    std::filesystem::remove(m_folder.path() / current);
+    std::filesystem::create_directory(m_folder.path() / current);
+    EXPECT_EQ(ordoFailure([&] { preferences.save(StockList()); }).substr(0, 3), "17:");
+    EXPECT_FALSE(std::filesystem::exists(m_folder.path() / "omedpref.omp.new"));
+    EXPECT_EQ(ordoFailure([&] { this->preferences(); }).substr(0, 3), "15:")
+        << "there, but not to be read";
+}
+
+} // namespace
+} // namespace zent::test

@@ -1,0 +1,195 @@
+#include "ocore/Stock/StockInformation.h"
+
+#include <gtest/gtest.h>
+
+#include "PrintText.h"
+#include "ocore/Attributes/IppList.h"
+#include "ocore/Printer/NonDriverBasedPrinter.h"
+#include "resources/UseResourceLibrary.h"
+#include "support/ListText.h"
+#include "support/Raised.h"
+#include "support/ScratchFolder.h"
+
+namespace zent::test {
+namespace {
+
+std::unique_ptr<Stock> stockOf(std::string_view ticket, StockType kind = StockType::user) {
+    return Stock::createFromSettings(FeatureSettings(listOf(ticket)), kind);
+}
+
+/// A ticket's text without the ids, which differ from run to run.
+std::string textOf(const FeatureSettings& ticket) {
+    std::string text = textOfList(*ticket.getAttrNodeList());
+    const std::string id = "!private-stock-logical-id=";
+    for (auto at = text.find(id); at != std::string::npos; at = text.find(id)) {
+        const auto end = text.find_first_not_of("0123456789", at + id.size());
+        text.erase(at, end == std::string::npos ? end : end - at).insert(at, "!");
+    }
+    return text;
+}
+
+class StockInformationTest : public testing::Test {
+protected:
+    StockInformationTest() { useResourceLibrary(); }
+
+    /// "1 2 Ours" for the stocks of a kind.
+    std::string keysOf(StockType kind) {
+        std::string keys;
+        m_stocks.resetStocksByType(kind);
+        while (m_stocks.hasMoreStocksByType()) {
+            keys += (keys.empty() ? "" : " ") +
+                    m_stocks.getNextStockByType()->getKey().getText().toNarrow();
+        }
+        return keys;
+    }
+    CXString folderName() const {
+        return CXString(std::filesystem::path(m_folder.path()).make_preferred().string().c_str());
+    }
+
+    ScratchFolder m_folder;
+    NonDriverBasedPrinter m_printer{6, 2, 1, u"", true};
+    StockInformation m_stocks{m_printer, MediaPreferences(folderName())};
+};
+
+TEST_F(StockInformationTest, NumbersNameStocksAndFillGaps) {
+    EXPECT_EQ(keysOf(StockType::user), "1 2 3 4 5 6 7 8 9 10");
+    EXPECT_NE(keysOf(StockType::printer), "");
+    EXPECT_EQ(keysOf(StockType::transient), "");
+    const FeatureValue three(feature::media, u"3");
+    EXPECT_TRUE(m_stocks.hasKey(three, false, StockType::user));
+    EXPECT_FALSE(m_stocks.hasKey(three, false, StockType::printer));
+    EXPECT_TRUE(m_stocks.hasKey(three, true, StockType::printer));
+
+    m_stocks.resetStocksByType(StockType::user);
+    m_stocks.getNextStockByType();
+    m_stocks.removeStock(*m_stocks.getNextStockByType());
+    EXPECT_EQ(m_stocks.getNextStockByType()->getKey(), three) << "the walk goes on";
+    m_stocks.addStock(*stockOf("media=name:11"));
+    m_stocks.addStock(*stockOf("media-col{media-color=red}"));
+    m_stocks.addStock(*stockOf("media-col{media-color=blue}"));
+    EXPECT_EQ(keysOf(StockType::user), "1 3 4 5 6 7 8 9 10 11 2 12");
+    EXPECT_EQ(raised<NodeAccessOutOfBoundsException>([&] { m_stocks.getNextStockByType(); }),
+              "StockInformation::getNextStockByType(): No more Stocks to get. Caller failed to "
+              "test with hasMoreStocksByType() first!\r\n");
+}
+
+TEST_F(StockInformationTest, TicketsAndStocksAreKeptInStep) {
+    const Stock* const ours =
+        m_stocks.addStock(*stockOf("media-col{media-color=red media-key=name:Ours}"));
+    FeatureSettings ticket(listOf(
+        "media-col{media-color=red} copies=2 cover-front{media=name:Ours} "
+        "page-overrides[value{media-col{media-key=name:Ours media-color=red}} "
+        "value{media-col{media-key=name:Theirs media-color=red}} value{media=nobody-knows}]"));
+    m_stocks.setSettings(&ticket);
+    EXPECT_EQ(textOf(ticket),
+              "copies=2 cover-front{media=name:Ours !} "
+              "page-overrides[value{media-col{media-color=red media-key=name:Ours} !} "
+              "value{media-col{media-color=red media-key=name:Theirs} !} "
+              "value{media=nobody-knows}] media-col{media-color=red} !");
+    EXPECT_EQ(keysOf(StockType::transient), "Ours Theirs");
+    EXPECT_EQ(m_stocks.getUseCount(*ours), 2U);
+    EXPECT_EQ(m_stocks.getUsingFeatures(*ours),
+              (std::vector<FeatureEnum>{TJTF_ANY, feature::pageOverrides}));
+    EXPECT_EQ(m_stocks.getUsingFeatures(*stockOf("media=name:Ours")),
+              (std::vector<FeatureEnum>{feature::coverFront}));
+
+    // A change of the stock reaches the ticket, though it has become another one by description.
+    Stock changed(*ours);
+    changed.getSettings().setFeatureValue(_FI(feature::mediaColor),
+                                          FeatureValue(value::mediaWhite));
+    changed.setKeyFromText(u"New");
+    m_stocks.replaceStock(changed);
+    EXPECT_EQ(textOf(ticket),
+              "copies=2 cover-front{media=name:Ours !} "
+              "page-overrides[value{media-col{media-color=white media-key=name:New} !} "
+              "value{media-col{media-color=red media-key=name:Theirs} !} "
+              "value{media=nobody-knows}] media-col{media-color=white} !");
+    EXPECT_EQ(m_stocks.getUseCount(*ours), 2U);
+
+    m_stocks.removeStock(*ours);
+    EXPECT_EQ(ours->getKind(), StockType::transient) << "in use";
+    FeatureSettings other(listOf("media=name:Else"));
+    m_stocks.setSettings(&other);
+    EXPECT_EQ(keysOf(StockType::transient), "Else");
+    EXPECT_EQ(keysOf(StockType::user), "1 2 3 4 5 6 7 8 9 10");
+    m_stocks.setSettings(nullptr);
+    EXPECT_EQ(keysOf(StockType::transient), "");
+}
+
+TEST_F(StockInformationTest, FindsTheBestMatchAsAComparisonWithEachWould) {
+    for (const char* added : {"media-col{media-color=red media-key=name:A}", "media=name:A",
+                              "media-col{media-color=red media-key=name:B}", "media=name:B",
+                              "media-col{media-color=red media-key=name:B}"}) {
+        m_stocks.addStock(*stockOf(added));
+    }
+    // One that is known by its description alone.
+    Stock nameless(*m_stocks.addStock(*stockOf("media-col{media-color=blue}")));
+    nameless.setKey(FeatureValue());
+    m_stocks.replaceStock(nameless);
+    m_stocks.resetStocksByType();
+    std::vector<const Stock*> all;
+    while (m_stocks.hasMoreStocksByType()) {
+        all.push_back(m_stocks.getNextStockByType());
+    }
+    std::vector<Stock> asked{*all.back(), *all.front()};
+    for (const char* ticket :
+         {"media-col{media-color=red}", "media-col{media-color=red media-key=name:B}",
+          "media-col{media-color=red media-key=name:C}", "media=name:B", "media=name:C",
+          "media-col{media-color=blue media-key=name:A}", "media-col{media-color=blue}",
+          "media-col{unknown=1}", "media=name:A !private-stock-logical-id=-1"}) {
+        asked.push_back(*stockOf(ticket));
+    }
+    for (const Stock& stock : asked) {
+        const Stock* best = nullptr;
+        for (const Stock* const candidate : all) {
+            const StockMatch least = best == nullptr ? StockMatch::none : best->match(stock);
+            best = candidate->match(stock) > least ? candidate : best;
+        }
+        EXPECT_EQ(m_stocks.findBestMatch(stock), best)
+            << textOfList(*stock.getSettings().getAttrNodeList());
+        EXPECT_EQ(m_stocks.findStock(stock), best == nullptr ? &stock : best);
+    }
+}
+
+TEST_F(StockInformationTest, AnIdOfAnotherSessionIsNoStock) {
+    FeatureSettings ticket(listOf("media-col{media-color=red}"));
+    m_stocks.addStock(*stockOf("media-col{media-color=red}"));
+    m_stocks.setSettings(&ticket);
+    m_stocks.save();
+    StockInformation next(m_printer, MediaPreferences(folderName()));
+    next.setSettings(&ticket);
+    next.resetStocksByType(StockType::transient);
+    EXPECT_FALSE(next.hasMoreStocksByType()) << "found by its description";
+}
+
+TEST_F(StockInformationTest, FavoritesOfThePrinterAreSaved) {
+    m_stocks.resetStocksByType(StockType::printer);
+    const Stock* const stock = m_stocks.getNextStockByType();
+    EXPECT_FALSE(stock->isFavorite());
+    m_stocks.setFavorite(*stock, true);
+    m_stocks.removeStock(*stock); // stays
+    m_stocks.save();
+    StockInformation next(m_printer, MediaPreferences(folderName()));
+    next.resetStocksByType(StockType::printer);
+    EXPECT_TRUE(next.getNextStockByType()->isFavorite());
+    EXPECT_FALSE(next.getNextStockByType()->isFavorite());
+}
+
+TEST_F(StockInformationTest, ThousandsOfPapersTakeNoSquareOfTime) {
+    FeatureSettings ticket;
+    AttrNodeList& overrides = *ticket.getAttrNodeList()->addSetOf(AttrID(u"page-overrides"));
+    for (std::int32_t i = 0; i < 10000; ++i) {
+        FeatureSettings member(overrides.addCollection(AttrID(u"value")));
+        member.setLong(_FI(feature::mediaWeightMetric), i);
+    }
+    m_stocks.setSettings(&ticket);
+    m_stocks.setSettings(&ticket);
+    m_stocks.resetStocksByType(StockType::transient);
+    const Stock* const first = m_stocks.getNextStockByType();
+    EXPECT_EQ(first->getKey().getText(), u"11");
+    EXPECT_EQ(m_stocks.getUseCount(*first), 1U);
+    EXPECT_TRUE(m_stocks.hasKey(FeatureValue(feature::media, u"10010"), true, StockType::user));
+}
+
+} // namespace
+} // namespace zent::test
