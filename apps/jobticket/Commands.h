@@ -19,7 +19,9 @@ void addShowCommand(CLI::App& program, Action& action);
 void addSetCommand(CLI::App& program, Action& action);
 void addUnsetCommand(CLI::App& program, Action& action);
 void addDiffCommand(CLI::App& program, Action& action);
+void addStateCommand(CLI::App& program, Action& action);
 void addFeaturesCommand(CLI::App& program, Action& action);
 void addModelsCommand(CLI::App& program, Action& action);
+void addPreferencesCommand(CLI::App& program, Action& action);
 
 } // namespace jobticket

@@ -88,21 +88,11 @@ void hintAtMisspelling(const Assignment& assignment) {
     }
 }
 
-void importTicket(Session& session, const std::string& name) {
-    const std::string document = readFile(name);
-    try {
-        session.importTicket(document, nameForMessages(name));
-    } catch (const LibraryError&) {
-        readDocument(document, name); // fails as well, and says where in the document
-        throw;
-    }
-}
-
 /// Reads a ticket, edits it, writes it. Nothing is written unless all went well.
 template <typename Edit>
 ExitStatus editTicket(const EditOptions& options, const Edit& edit) {
     Session session;
-    importTicket(session, options.input);
+    importDocumentFile(session, options.input);
     Ticket ticket = session.getTicket();
     edit(ticket);
     writeFile(options.output, session.exportTicket());

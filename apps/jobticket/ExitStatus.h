@@ -12,8 +12,8 @@ enum class ExitStatus : int {
     differences = 1,    // the tickets that were compared differ
     usage = 2,          // the command line makes no sense
     unreadable = 3,     // a file can't be read
-    invalidTicket = 4,  // what was read is no ticket
-    badValue = 5,       // a feature or value that the tables don't know
+    invalidTicket = 4,  // what was read is no ticket or state blob
+    badValue = 5,       // a feature, printer or value that the tables don't know
     unwritable = 6,     // the result can't be written
     libraryFailure = 7, // anything else that the library reports
 };

@@ -27,9 +27,9 @@ constexpr std::array<ResultText, 32> resultTexts = {{
     {"ZENT_ERR_UNKNOWN_FEATURE", "there is no such feature, or no such value of it"},
     {"ZENT_ERR_ATTRIBUTE_TYPE", "what the ticket holds there is of another type"},
     {"ZENT_ERR_XML_PARSE", "the document isn't well-formed, or isn't a valid ticket"},
-    {"ZENT_ERR_COMPRESSION", "the compressed part of the state is damaged"},
+    {"ZENT_ERR_COMPRESSION", "the compressed part of the state blob is damaged"},
     {"ZENT_ERR_ATTRIBUTE_ID", "the name of an attribute is empty"},
-    {"ZENT_ERR_STATE_FORMAT", "the state has a wrong header"},
+    {"ZENT_ERR_STATE_FORMAT", "it is no state blob, or one of a version that isn't known"},
     {"ZENT_ERR_OUT_OF_MEMORY", "memory ran out"},
     {"ZENT_ERR_RESOURCE", "zenres27.dll lacks a resource"},
     {"ZENT_ERR_CAPABILITY_DATA", "the printer's capabilities lack an entry"},
@@ -55,10 +55,13 @@ ResultText textOf(ZentResult result) {
 ExitStatus statusOf(ZentResult result) {
     switch (result) {
     case ZENT_ERR_UNKNOWN_FEATURE:
+    case ZENT_ERR_PREFERENCE_TYPE:
         return ExitStatus::badValue;
     case ZENT_ERR_ATTRIBUTE_TYPE:
     case ZENT_ERR_XML_PARSE:
     case ZENT_ERR_XML_OTHER:
+    case ZENT_ERR_COMPRESSION:
+    case ZENT_ERR_STATE_FORMAT:
         return ExitStatus::invalidTicket;
     default:
         return ExitStatus::libraryFailure;

@@ -3,7 +3,7 @@
 #include <limits>
 #include <utility>
 
-#include "LibraryError.h"
+#include "Fetch.h"
 #include "Text.h"
 
 namespace jobticket {
@@ -44,6 +44,14 @@ struct Setter {
     }
 };
 
+/// The size as the calls take it.
+std::uint32_t sizeOf(std::string_view bytes, const char* call, const std::string& subject) {
+    if (bytes.size() > std::numeric_limits<std::uint32_t>::max()) {
+        throw LibraryError(ZENT_ERR_XML_OTHER, call, subject);
+    }
+    return static_cast<std::uint32_t>(bytes.size());
+}
+
 } // namespace
 
 Session::Session(const PrinterChoice& printer, const PreferenceSet& preferences) {
@@ -56,25 +64,30 @@ Session::Session(const PrinterChoice& printer, const PreferenceSet& preferences)
 
 Session::~Session() { fnCloseSession(&m_handle); }
 
-void Session::importTicket(std::string_view document, const std::string& name) {
-    if (document.size() > std::numeric_limits<std::uint32_t>::max()) {
-        throw LibraryError(ZENT_ERR_XML_OTHER, "fnImportJobTicket", name);
-    }
+void Session::import(std::string_view bytes, std::uint32_t format, const std::string& name) {
     ZentBool problems = 0;
     ZentBool applied = 0;
-    check(fnImportJobTicket(m_handle, document.data(), static_cast<std::uint32_t>(document.size()),
-                            ZENT_FORMAT_XML, ZENT_APPLY_SILENT_KEEP, nullptr, nullptr, &problems,
-                            &applied),
+    check(fnImportJobTicket(m_handle, bytes.data(), sizeOf(bytes, "fnImportJobTicket", name),
+                            format, ZENT_APPLY_SILENT_KEEP, nullptr, nullptr, &problems, &applied),
           "fnImportJobTicket", name);
+    if (applied == 0) {
+        throw ProgramError(ExitStatus::libraryFailure,
+                           name + ": the ticket isn't taken, since the printer can't do all of it");
+    }
 }
 
-std::string Session::exportTicket() {
-    std::uint32_t size = 0;
-    check(fnExportJobTicket(m_handle, nullptr, &size, ZENT_FORMAT_XML), "fnExportJobTicket");
-    std::string document(size, '\0');
-    check(fnExportJobTicket(m_handle, document.data(), &size, ZENT_FORMAT_XML),
-          "fnExportJobTicket");
-    return document;
+std::string Session::exportAs(std::uint32_t format) {
+    return fetch<std::string>("fnExportJobTicket", "", [&](void* buffer, std::uint32_t* size) {
+        return fnExportJobTicket(m_handle, buffer, size, format);
+    });
+}
+
+std::string Session::renewState(std::string_view blob, const std::string& name) {
+    constexpr const char* call = "fnUpdateUserContextInformation";
+    const std::uint32_t blobSize = sizeOf(blob, call, name);
+    return fetch<std::string>(call, name, [&](void* buffer, std::uint32_t* size) {
+        return fnUpdateUserContextInformation(m_handle, blob.data(), blobSize, buffer, size);
+    });
 }
 
 Ticket Session::getTicket() {

@@ -38,13 +38,27 @@ public:
 
     ZentSessionType getHandle() const { return m_handle; }
 
-    /// Reads a ticket document in place of the ticket that the session holds. Nothing is repaired.
-    void importTicket(std::string_view document, const std::string& name);
-    std::string exportTicket();
+    /// Reads a ticket in place of the one that the session holds; nothing is repaired. `name` is
+    /// for messages.
+    void importTicket(std::string_view document, const std::string& name) {
+        import(document, ZENT_FORMAT_XML, name);
+    }
+    std::string exportTicket() { return exportAs(ZENT_FORMAT_XML); }
+    /// The same with a state blob.
+    void importState(std::string_view blob, const std::string& name) {
+        import(blob, ZENT_FORMAT_STATE, name);
+    }
+    std::string exportState() { return exportAs(ZENT_FORMAT_STATE); }
+    /// A state blob anew, with the present user's name and preferences in it.
+    std::string renewState(std::string_view blob, const std::string& name);
+
     /// The ticket that the session holds.
     Ticket getTicket();
 
 private:
+    void import(std::string_view bytes, std::uint32_t format, const std::string& name);
+    std::string exportAs(std::uint32_t format);
+
     ZentSessionType m_handle = nullptr;
 };
 

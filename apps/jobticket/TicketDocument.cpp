@@ -4,6 +4,7 @@
 
 #include "ExitStatus.h"
 #include "LibraryError.h"
+#include "Session.h"
 #include "Text.h"
 #include "TicketFile.h"
 #include "ocore/AnlXlate/OrdoTranslator.h"
@@ -68,6 +69,16 @@ zent::AttrNodeList readDocument(std::string_view document, const std::string& na
 
 zent::AttrNodeList readDocumentFile(const std::string& name) {
     return readDocument(readFile(name), name);
+}
+
+void importDocumentFile(Session& session, const std::string& name) {
+    const std::string document = readFile(name);
+    try {
+        session.importTicket(document, nameForMessages(name));
+    } catch (const LibraryError&) {
+        readDocument(document, name); // fails as well, and says where in the document
+        throw;
+    }
 }
 
 } // namespace jobticket

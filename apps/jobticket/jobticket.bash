@@ -22,8 +22,14 @@ _jobticket_options() {
     set) echo --help --output ;;
     unset) echo --help --output --all ;;
     features | models) echo --help --table ;;
-    diff) echo --help ;;
-    *) echo --help --version new show set unset diff features models ;;
+    diff | "state show") echo --help ;;
+    state) echo --help pack unpack show renew ;;
+    "state unpack") echo --help --output ;;
+    state\ *) echo --help --output --model --pdl --set --generic ;;
+    preferences) echo --help list get set ;;
+    "preferences list") echo --help --model --pdl --set --generic ;;
+    preferences\ *) echo --help --type --model --pdl --set --generic ;;
+    *) echo --help --version new show set unset diff state features models preferences ;;
     esac
 }
 
@@ -33,6 +39,8 @@ _jobticket_option_values() {
     -m | --model) "$1" models --table | cut -f 1 ;;
     -p | --pdl) echo ps pcl color-pcl ;;
     --form) echo xml stream model ;;
+    --type) echo bool number text data ;;
+    --set) ;;
     *) return 1 ;;
     esac
 }
@@ -42,18 +50,25 @@ _jobticket() {
     local -i arguments=0
     COMPREPLY=()
     for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
-        if [[ $word != -* && $before != @(-o|--output|-m|--model|-p|--pdl|--form) ]]; then
-            if [[ -z $command ]]; then command=$word; else arguments+=1; fi
+        if [[ $word != -* && $before != @(-o|--output|-m|--model|-p|--pdl|--form|--type|--set) ]]; then
+            case $command in
+            "") command=$word ;;
+            state | preferences) command+=" $word" ;;
+            *) arguments+=1 ;;
+            esac
         fi
         before=$word
     done
     if values=$(_jobticket_option_values "$program" "$previous"); then
         mapfile -t COMPREPLY < <(compgen -W "$values" -- "$current")
-    elif [[ -z $command || $current == -* ]]; then
+    elif [[ $command == @(|state|preferences) || $current == -* ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$(_jobticket_options "$command")" -- "$current")
     elif [[ $command == features ]]; then
         _jobticket_assignments "$program"
         COMPREPLY=("${COMPREPLY[@]%%[=.[]*}")
+    elif [[ $command == "preferences "@(get|set) && arguments -eq 0 ]]; then
+        values=$("$program" preferences list | cut -d " " -f 1)
+        mapfile -t COMPREPLY < <(compgen -W "$values" -- "$current")
     elif [[ $command == @(set|unset) && $previous != @(-o|--output) && arguments -gt 0 ]]; then
         _jobticket_assignments "$program"
         if [[ $command == unset ]]; then

@@ -1,7 +1,8 @@
-// jobticket: reads, edits and compares job tickets on the command line.
+// jobticket: makes, reads, edits and compares job tickets on the command line.
 
 #include <algorithm>
 #include <iostream>
+#include <span>
 
 #include <CLI/CLI.hpp>
 
@@ -17,29 +18,38 @@ namespace jobticket {
 namespace {
 
 constexpr const char* aboutStatus = R"(Exit status:
-  0  success                       4  the file is no valid ticket
-  1  diff: the tickets differ      5  a feature or value that isn't known
+  0  success                       4  what was read is no valid ticket or state blob
+  1  diff: the tickets differ      5  a feature, printer or value that isn't known
   2  wrong use of the command      6  the result can't be written
   3  a file can't be read          7  any other failure of the library
 )";
 
-/// CLI11 would only say that a command is missing.
-void checkCommand(const CLI::App& program, const std::vector<std::string>& arguments) {
-    if (arguments.empty() || arguments.front().starts_with('-')) {
-        return;
-    }
+std::vector<std::string> namesOf(const CLI::App& program) {
     std::vector<std::string> names;
     for (const CLI::App* command : program.get_subcommands(nullptr)) {
         names.push_back(command->get_name());
+    }
+    return names;
+}
+
+/// CLI11 would only say that a command is missing. `before` is the command that has commands of its
+/// own, with a blank behind it.
+void checkCommand(const CLI::App& program, std::span<const std::string> arguments,
+                  const std::string& before = {}) {
+    const std::vector<std::string> names = namesOf(program);
+    if (names.empty() || arguments.empty() || arguments.front().starts_with('-')) {
+        return;
     }
     const std::string& name = arguments.front();
     if (std::find(names.begin(), names.end(), name) == names.end()) {
         const std::string nearest = findNearest(name, names);
         throw ProgramError(ExitStatus::usage,
-                           "there is no command \"" + name + "\"; " +
-                               (nearest.empty() ? "\"jobticket --help\" lists all"
-                                                : "did you mean \"" + nearest + "\"?"));
+                           "there is no command " + inQuotes(before + name) + "; " +
+                               (nearest.empty()
+                                    ? "\"jobticket " + before + "--help\" lists all"
+                                    : "did you mean " + inQuotes(before + nearest) + "?"));
     }
+    checkCommand(*program.get_subcommand(name), arguments.subspan(1), before + name + " ");
 }
 
 /// Reads the command line. What CLI11 has to say (help, wrong use) it prints itself; then there is
@@ -55,7 +65,8 @@ ExitStatus parse(CLI::App& program, std::vector<std::string> arguments) {
 }
 
 ExitStatus run(const std::vector<std::string>& arguments) {
-    CLI::App program("Reads, edits and compares job tickets for production printers.", "jobticket");
+    CLI::App program("Makes, reads, edits and compares job tickets for production printers.",
+                     "jobticket");
     program.set_version_flag("--version", "jobticket " ZENT_VERSION);
     program.require_subcommand(1);
     // The commands take this over: on every system "/a" is a file.
@@ -68,8 +79,10 @@ ExitStatus run(const std::vector<std::string>& arguments) {
     addSetCommand(program, action);
     addUnsetCommand(program, action);
     addDiffCommand(program, action);
+    addStateCommand(program, action);
     addFeaturesCommand(program, action);
     addModelsCommand(program, action);
+    addPreferencesCommand(program, action);
     checkCommand(program, arguments);
     const ExitStatus status = parse(program, arguments);
     return action ? action() : status;

@@ -7,17 +7,25 @@ import re
 import shlex
 import shutil
 import stat
+import struct
 import subprocess
 import sys
 import tempfile
 import unittest
+import unittest.mock
+import zlib
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 EXAMPLES = sorted((ROOT / "examples").glob("*.xml"))
 REPORT = ROOT / "examples" / "report.xml"
 COMPLETION = ROOT / "apps" / "jobticket" / "jobticket.bash"
 MANUAL = ROOT / "apps" / "jobticket" / "jobticket.1"
-COMMANDS = ["new", "show", "set", "unset", "diff", "features", "models"]
+COMMANDS = ["new", "show", "set", "unset", "diff", "state", "state pack", "state unpack", "state show",
+            "state renew", "features", "models", "preferences", "preferences list",
+            "preferences get", "preferences set"]
+
+# Of no user's preferences, so that all have their defaults.
+UNTOUCHED_SET = "jobticket test, never written"
 
 OK, DIFFERENT, USAGE, UNREADABLE, INVALID, BAD_VALUE, UNWRITABLE, LIBRARY = range(8)
 
@@ -265,6 +273,75 @@ class Printers(InFolder):
             self.assertLessEqual(more.items(), raw(run("new", *printer)).items() - common.items())
 
 
+class StateBlobs(InFolder):
+    def test_a_ticket_passes_through_a_blob(self):
+        for ticket in some(EXAMPLES):
+            with self.subTest(ticket.name):
+                blob = run("state", "pack", ticket)
+                self.assertEqual(run("state", "unpack", "-", data=blob), ticket.read_bytes())
+
+    def test_show_and_renew(self):
+        def show(blob):
+            lines = run("state", "show", "-", data=blob).decode().splitlines()
+            return dict(re.split(r"\s{2,}", line) for line in lines)
+        blob = (ROOT / "tests" / "golden" / "state" / "report.blob").read_bytes()
+        expected = {"Size": "215 bytes", "Version": "0x03080001", "Ticket in it": "243 bytes",
+                    "State tag": "1", "Logon name": "me", "Job named as document": "yes",
+                    "Logon name is sender": "no", "Logon name is recipient": "yes"}
+        self.assertEqual(show(blob), expected)
+        renewed = run("state", "renew", "-", "--set", UNTOUCHED_SET, data=blob)
+        user = raw(run("new", "-m", "1"))["requesting-user-name"]
+        self.assertEqual(show(renewed), expected | {
+            "Size": f"{len(renewed)} bytes", "Logon name": user, "Logon name is sender": "yes"})
+        self.assertEqual(run("state", "unpack", "-", data=renewed),
+                         run("state", "unpack", "-", data=blob))
+
+    def test_reads_the_oldest_form(self):
+        ticket = REPORT.read_bytes()
+        blob = (struct.pack("<IIH", 10, 0x03070001, 7) + zlib.compress(ticket) +
+                struct.pack(">I", len(ticket)) + b"COMP")
+        self.assertEqual(run("state", "unpack", "-", data=blob), ticket)
+        listed = run("state", "show", "-", data=blob).decode()
+        self.assertRegex(listed, r"0x03070001\n.*bytes\nState tag +7\nLogon name +\(none")
+
+
+class Preferences(InFolder):
+    def test_stores_and_lists(self):
+        self.enterContext(unittest.mock.patch.dict(os.environ, XDG_CONFIG_HOME=str(self.folder)))
+        mine = ["--set", f"jobticket test {os.getpid()}"]
+        for name, value, kind in [
+            ("JOB_NAME_PREFERENCE", "false", None),
+            ("TOOL_BAR_PREFERENCE", "-2", None),
+            ("IMAGE_SHIFT_UNIT_PREFERENCE", "inches", None),
+            ("words", "grün 1", None),
+            ("switch", "true", "bool"),
+            ("bytes", "00ff7f", "data"),
+            ("nothing", "", "data"),
+        ]:
+            of_type = ["--type", kind] if kind else []
+            run("preferences", "set", name, value, *mine, *of_type)
+            self.assertEqual(run("preferences", "get", name, *mine, *of_type).decode(), value + "\n")
+        listed = run("preferences", "list", *mine).decode().splitlines()
+        rows = {line.split()[0]: line.split()[1:] for line in listed}
+        self.assertEqual(len(rows), 10)
+        self.assertEqual(rows["JOB_NAME_PREFERENCE"], ["bool", "false"])
+        self.assertEqual(rows["TOOL_BAR_PREFERENCE"], ["number", "-2"])
+        self.assertEqual(rows["IMAGE_SHIFT_UNIT_PREFERENCE"], ["unit", "inches"])
+        self.assertEqual(rows["ACCOUNT_REQUIRED_PREFERENCE"], ["bool", "false", "(default)"])
+        blob = run("state", "pack", REPORT, *mine)
+        self.assertRegex(run("state", "show", "-", data=blob), rb"document +no\n")
+
+    def test_each_printer_has_a_set(self):
+        if is_windows:
+            self.skipTest("would leave traces in the registry")
+        self.enterContext(unittest.mock.patch.dict(os.environ, XDG_CONFIG_HOME=str(self.folder)))
+        run("preferences", "set", "mine", "a", "-m", "1", "-p", "ps")
+        self.assertEqual(run("preferences", "get", "mine", "--set", "Tarvo Lumaset 510 PS3 C3"),
+                         b"a\n")
+        for other in ([], ["-m", "1"], ["-m", "1", "-p", "ps", "--generic"]):
+            run("preferences", "get", "mine", *other, status=BAD_VALUE)
+
+
 class Failures(InFolder):
     def test_each_kind_has_its_status(self):
         report = REPORT.read_bytes()
@@ -278,6 +355,7 @@ class Failures(InFolder):
             (["edit", REPORT], b"", USAGE, "edit"),
             (["shaw", REPORT], b"", USAGE, 'did you mean "show"'),
             (["show"], b"", USAGE, "TICKET"),
+            (["state", "shaw"], b"", USAGE, 'did you mean "state show"'),
             (["show", REPORT, REPORT], b"", USAGE, ""),
             (["set", REPORT, "copies"], b"", USAGE, "FEATURE=VALUE"),
             (["show", self.folder / "none.xml"], b"", UNREADABLE, "none.xml"),
@@ -323,6 +401,15 @@ class Failures(InFolder):
             (["set", REPORT, "page-overrides[1].sides=one-sided"], b"", BAD_VALUE, "[0]"),
             (["set", REPORT, "pages=1-2"], b"", BAD_VALUE, "page-overrides[0]"),
             (["set", "-", "form-name=a"], wrong_type, INVALID, "form-name"),
+            (["state", "pack", "-"], b"no XML", INVALID, "line 1, column 1"),
+            (["state", "unpack", "-"], report, INVALID, "no state blob"),
+            (["state", "show", "-"], report, INVALID, "no state blob"),
+            (["state", "show", "-"], struct.pack("<II", 8, 0x03080001), INVALID, "damaged"),
+            (["preferences", "set", "x", "0g", "--type", "data"], b"", BAD_VALUE, "hexadecimal"),
+            (["preferences", "set", "x", "yes", "--type", "bool"], b"", BAD_VALUE, "true or false"),
+            (["preferences", "get", "x", "--type", "unit"], b"", USAGE, "bool, number, text, data"),
+            (["preferences", "set", "JOB_NAME_PREFERENCE", "x", "--type", "text"], b"", BAD_VALUE,
+             "another type"),
         ]
         for arguments, data, status, expected in some(rows):
             with self.subTest(arguments):
@@ -414,9 +501,11 @@ class Documents(InFolder):
         general = run("--help").decode()
         manual = MANUAL.read_text(encoding="utf-8").replace("\\-", "-")
         for command in COMMANDS:
-            self.assertRegex(general, rf"(?m)^  {command} ")
+            *group, name = command.split()
+            listing = run(*group, "--help").decode() if group else general
+            self.assertRegex(listing, rf"(?m)^  {name} ")
             self.assertIn(f"jobticket {command}", manual)
-            own = run(command, "--help").decode()
+            own = run(*command.split(), "--help").decode()
             for option in set(re.findall(r"--[a-z]+", own)) - {"--complete"}:
                 self.assertIn(option, manual)
         self.assertRegex(run("--version").decode(), r"^jobticket \d+\.\d+\s*$")
@@ -483,6 +572,9 @@ class Completion(InFolder):
             ("jobticket set ticket.xml pages", ["pages-per-subset="]),
             ("jobticket set ticket.xml nonsense.", []),
             ("jobticket unset ticket.xml cop", ["copies"]),
+            ("jobticket state s", ["show"]),
+            ("jobticket state pack ", ["ticket.xml"]),
+            ("jobticket preferences get TOOL", ["TOOL_BAR_PREFERENCE"]),
             ("jobticket new -m 5", ["5", "50", "51"]),
             ("jobticket new -m 5 --pdl ", ["ps", "pcl", "color-pcl"]),
             ("jobticket features cover-f", ["cover-front"]),

@@ -1,0 +1,202 @@
+#include "Preferences.h"
+
+#include <array>
+#include <charconv>
+#include <string_view>
+#include <utility>
+
+#include "Fetch.h"
+#include "Text.h"
+#include "ocore/User.h"
+#include "ocore/UserPreferences.h"
+
+namespace jobticket {
+
+namespace {
+
+// By the types' numbers, from 1 on.
+constexpr std::array<const char*, 5> typeNames = {"bool", "number", "text", "unit", "data"};
+
+constexpr std::int32_t inches = 1;
+constexpr std::int32_t metric = 2;
+
+std::string writeBool(bool value) { return value ? "true" : "false"; }
+
+std::string writeUnit(std::int32_t unit) {
+    return unit == inches ? "inches" : unit == metric ? "metric" : std::to_string(unit);
+}
+
+std::string writeData(std::string_view bytes) {
+    constexpr std::string_view digits = "0123456789abcdef";
+    std::string text;
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        text += digits[byte >> 4U];
+        text += digits[byte & 0xFU];
+    }
+    return text;
+}
+
+[[noreturn]] void fail(const std::string& name, const std::string& value,
+                       const std::string& wanted) {
+    throw ProgramError(ExitStatus::badValue,
+                       toPrintable(fromUtf8(name)) + ": " + inQuotes(value) + " isn't " + wanted);
+}
+
+bool readBool(const std::string& name, const std::string& value) {
+    const bool isTrue = value == "true" || value == "1";
+    if (!isTrue && value != "false" && value != "0") {
+        fail(name, value, "true or false");
+    }
+    return isTrue;
+}
+
+std::optional<std::int32_t> tryNumber(std::string_view text, int base) {
+    std::int32_t number = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, number, base);
+    return error == std::errc() && stop == end ? std::optional(number) : std::nullopt;
+}
+
+std::int32_t readNumber(const std::string& name, const std::string& value,
+                        const char* wanted = "a number of 32 bits") {
+    const std::optional<std::int32_t> number = tryNumber(value, 10);
+    if (!number) {
+        fail(name, value, wanted);
+    }
+    return *number;
+}
+
+std::int32_t readUnit(const std::string& name, const std::string& value) {
+    if (value == "inches" || value == "metric") {
+        return value == "inches" ? inches : metric;
+    }
+    return readNumber(name, value, "inches or metric");
+}
+
+std::string readData(const std::string& name, const std::string& value) {
+    std::string bytes;
+    for (std::size_t at = 0; at < value.size(); at += 2) {
+        const std::string_view digits = std::string_view(value).substr(at, 2);
+        const auto byte = tryNumber(digits, 16);
+        if (digits.size() < 2 || digits.front() == '-' || !byte) {
+            fail(name, value, "a row of bytes, of two hexadecimal digits each");
+        }
+        bytes += static_cast<char>(*byte);
+    }
+    return bytes;
+}
+
+std::string writeDefault(const zent::PreferenceInfo& info) {
+    switch (static_cast<PreferenceType>(info.dataType)) {
+    case PreferenceType::boolean:
+        return writeBool(info.value.getAsBoolValue());
+    case PreferenceType::unit: // follows from the user's locale
+        return writeUnit(zent::User::usesInches() ? inches : metric);
+    case PreferenceType::number:
+        return std::to_string(info.value.getAsLongValue());
+    default:
+        return toUtf8(info.value.getAsString());
+    }
+}
+
+} // namespace
+
+std::string toText(PreferenceType type) { return typeNames[static_cast<std::size_t>(type) - 1]; }
+
+PreferenceType parsePreferenceType(const std::string& text) {
+    for (const PreferenceType type : {PreferenceType::boolean, PreferenceType::number,
+                                      PreferenceType::text, PreferenceType::data}) {
+        if (toText(type) == text) {
+            return type;
+        }
+    }
+    throw ProgramError(ExitStatus::usage,
+                       "--type: " + inQuotes(text) + " is none of bool, number, text, data");
+}
+
+std::vector<WellKnownPreference> getWellKnownPreferences() {
+    const zent::UserPreferences preferences{zent::CXString()};
+    std::vector<WellKnownPreference> result;
+    for (const zent::PreferenceInfo& info : preferences.getWellKnownPreferences()) {
+        result.push_back(
+            {toUtf8(info.name), static_cast<PreferenceType>(info.dataType), writeDefault(info)});
+    }
+    return result;
+}
+
+/// `otherwise` chooses one of two defaults for where nothing is stored.
+std::string Preferences::read(const std::string& name, PreferenceType type, bool otherwise) const {
+    const ZentText nameText = toZent(fromUtf8(name));
+    const ZentChar* key = nameText.c_str();
+    switch (type) {
+    case PreferenceType::boolean: {
+        ZentBool value = 0;
+        check(fnGetPreferenceBoolValue(m_session, key, &value, otherwise ? 1 : 0),
+              "fnGetPreferenceBoolValue", name);
+        return writeBool(value != 0);
+    }
+    case PreferenceType::number:
+    case PreferenceType::unit: {
+        std::int32_t value = 0;
+        check(fnGetPreferenceNumberValue(m_session, key, &value, otherwise ? 1 : 0),
+              "fnGetPreferenceNumberValue", name);
+        return type == PreferenceType::unit ? writeUnit(value) : std::to_string(value);
+    }
+    case PreferenceType::text: {
+        const ZentText text(1, otherwise ? ZentChar('1') : ZentChar('0'));
+        return toUtf8(fromZent(fetch<ZentText>("fnGetPreferenceStringValue", name,
+                                               [&](ZentChar* buffer, std::uint32_t* size) {
+                                                   return fnGetPreferenceStringValue(
+                                                       m_session, key, buffer, size, text.c_str());
+                                               })
+                                   .c_str()));
+    }
+    case PreferenceType::data:
+        break;
+    }
+    const char byte = otherwise ? 1 : 0;
+    return writeData(fetch<std::string>(
+        "fnGetPreferenceDataValue", name, [&](void* buffer, std::uint32_t* size) {
+            return fnGetPreferenceDataValue(m_session, key, buffer, size, &byte, 1);
+        }));
+}
+
+std::optional<std::string> Preferences::find(const std::string& name, PreferenceType type) const {
+    // What is stored comes out whatever the default.
+    std::string value = read(name, type, false);
+    return value == read(name, type, true) ? std::optional(std::move(value)) : std::nullopt;
+}
+
+void Preferences::store(const std::string& name, PreferenceType type,
+                        const std::string& value) const {
+    const ZentText nameText = toZent(fromUtf8(name));
+    const ZentChar* key = nameText.c_str();
+    switch (type) {
+    case PreferenceType::boolean:
+        check(fnSetPreferenceBoolValue(m_session, key, readBool(name, value) ? 1 : 0),
+              "fnSetPreferenceBoolValue", name);
+        break;
+    case PreferenceType::number:
+        check(fnSetPreferenceNumberValue(m_session, key, readNumber(name, value)),
+              "fnSetPreferenceNumberValue", name);
+        break;
+    case PreferenceType::unit:
+        check(fnSetPreferenceNumberValue(m_session, key, readUnit(name, value)),
+              "fnSetPreferenceNumberValue", name);
+        break;
+    case PreferenceType::text:
+        check(fnSetPreferenceStringValue(m_session, key, toZent(fromUtf8(value)).c_str()),
+              "fnSetPreferenceStringValue", name);
+        break;
+    case PreferenceType::data: {
+        const std::string bytes = readData(name, value);
+        check(fnSetPreferenceDataValue(m_session, key, bytes.data(),
+                                       static_cast<std::uint32_t>(bytes.size())),
+              "fnSetPreferenceDataValue", name);
+        break;
+    }
+    }
+}
+
+} // namespace jobticket
