@@ -9,7 +9,6 @@
 #include "ocore/OrdoParse/DOMTreeErrorReporter.h"
 #include "ocore/OrdoParse/DtdFolder.h"
 #include "ocore/OrdoParse/ParserMemory.h"
-#include "ocore/OrdoParse/XmlDocument.h"
 #include "platform/Files.h"
 #include "platform/Lock.h"
 
@@ -120,16 +119,6 @@ std::shared_ptr<const CompiledDtd> CompiledDtd::compile(const CXString& path) {
     completeDeclarations(*static_cast<const xercesc::DTDGrammar*>(grammar));
     dtd->m_grammars->lockPool();
     return dtd;
-}
-
-std::shared_ptr<const XmlDocument> CompiledDtd::getSkeleton() const {
-    const platform::LockHold hold(slot().lock);
-    return m_skeleton;
-}
-
-void CompiledDtd::keepSkeleton(std::shared_ptr<const XmlDocument> skeleton) const {
-    const platform::LockHold hold(slot().lock);
-    m_skeleton = std::move(skeleton);
 }
 
 } // namespace zent

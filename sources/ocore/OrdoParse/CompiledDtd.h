@@ -6,10 +6,9 @@
 
 #include "ocore/ByteBuffer.h"
 #include "ocore/CXString.h"
+#include "ocore/OrdoParse/KeptSkeletons.h"
 
 namespace zent {
-
-class XmlDocument;
 
 /// A document type definition that was read and compiled, to be used by many parses, on any number
 /// of threads at once. Reading it anew costs sixteen times what parsing a short ticket does.
@@ -31,10 +30,8 @@ public:
     /// Locked, and holding all that a parser would otherwise add to it while it reads a document.
     xercesc::XMLGrammarPool& getGrammars() const { return *m_grammars; }
 
-    /// The empty document that writing starts from, once it has passed validation; null before. It
-    /// stays valid as long as the definition does.
-    std::shared_ptr<const XmlDocument> getSkeleton() const;
-    void keepSkeleton(std::shared_ptr<const XmlDocument> skeleton) const;
+    /// Skeletons that have passed validation. They stay valid as long as the definition does.
+    KeptSkeletons& getSkeletons() const { return m_skeletons; }
 
 private:
     CompiledDtd(const CXString& path, std::unique_ptr<ByteBuffer> bytes);
@@ -43,7 +40,7 @@ private:
     CXString m_path;
     std::unique_ptr<ByteBuffer> m_bytes;
     std::unique_ptr<xercesc::XMLGrammarPoolImpl> m_grammars;
-    mutable std::shared_ptr<const XmlDocument> m_skeleton;
+    mutable KeptSkeletons m_skeletons;
 };
 
 } // namespace zent

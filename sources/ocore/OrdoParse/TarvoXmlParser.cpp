@@ -12,6 +12,7 @@
 
 #include "ocore/OrdoParse/CompiledDtd.h"
 #include "ocore/OrdoParse/DtdFolder.h"
+#include "ocore/OrdoParse/KeptSkeletons.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
 #include "ocore/OrdoParse/ParserMemory.h"
 #include "ocore/OrdoParse/XmlLimits.h"
@@ -58,16 +59,19 @@ CXString writingEncoding(const XmlDocument& document) {
 void TarvoXmlParser::parse(std::span<const std::byte> bytes) { parse(bytes, findDtd()); }
 
 void TarvoXmlParser::parseSkeleton(std::string_view skeleton) {
+    static KeptSkeletons withoutValidation;
     const auto dtd = findDtd();
-    if (const auto parsed = dtd ? dtd->getSkeleton() : nullptr) {
+    // Where a definition can't be compiled, the parser has to read it anew with each document.
+    KeptSkeletons* const kept = dtd          ? &dtd->getSkeletons()
+                                : m_validate ? nullptr
+                                             : &withoutValidation;
+    if (const auto parsed = kept != nullptr ? kept->find(skeleton) : nullptr) {
         m_document.emplace().appendCopy(*parsed);
         return;
     }
     parse(std::as_bytes(std::span(skeleton)), dtd);
-    if (dtd) {
-        const auto parsed = std::make_shared<XmlDocument>();
-        parsed->appendCopy(*m_document);
-        dtd->keepSkeleton(parsed);
+    if (kept != nullptr) {
+        kept->keep(skeleton, *m_document);
     }
 }
 

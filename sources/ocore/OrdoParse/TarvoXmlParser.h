@@ -27,8 +27,8 @@ public:
 
     /// Code 1 if the parser library fails, code 2 if it finds an error, fatal or not.
     void parse(std::span<const std::byte> bytes);
-    /// Parses a literal of the program. What it gave is taken from memory as long as the document
-    /// type definition is as it was.
+    /// Parses a literal of the program. What it gave is taken from memory from then on, as long as
+    /// the document type definition, if there is one, is as it was.
     void parseSkeleton(std::string_view skeleton);
     /// The document of the last parse; empty before.
     XmlDocument& getDocument();
