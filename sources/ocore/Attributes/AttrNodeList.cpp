@@ -5,22 +5,13 @@
 
 #include "ocore/Attributes/AttrNames.h"
 #include "ocore/Attributes/AttrValueFactory.h"
+#include "ocore/Attributes/EmbeddedList.h"
 #include "ocore/Attributes/IppBoolean.h"
-#include "ocore/Attributes/IppList.h"
 #include "ocore/Attributes/PrimitiveInteger.h"
 #include "ocore/Attributes/PrimitiveString.h"
 #include "ocore/Exceptions.h"
 
 namespace zent {
-
-namespace {
-
-AttrNodeList* embeddedList(AttrNode& node) {
-    AttrValue& value = node.getAttrValue();
-    return value.isList() ? &static_cast<IppList&>(value).getAttrNodeList() : nullptr;
-}
-
-} // namespace
 
 AttrNodeList::AttrNodeList(const AttrNodeList& other) {
     m_nodes.reserve(other.m_nodes.size());
@@ -208,17 +199,20 @@ void AttrNodeList::merge(const AttrNodeList& other, bool asSet) {
 }
 
 void AttrNodeList::removeEmptyLists() {
-    for (std::uint32_t i = 0; i < m_nodes.size();) {
-        AttrNodeList* const list = embeddedList(*m_nodes[i]);
+    // One pass that closes the gaps: a repaired ticket may have a great many.
+    std::size_t kept = 0;
+    for (auto& node : m_nodes) {
+        AttrNodeList* const list = embeddedList(*node);
         if (list != nullptr) {
             list->removeEmptyLists();
         }
-        if (list != nullptr && list->m_nodes.empty()) {
-            removeAt(i);
-        } else {
-            ++i;
+        if (list == nullptr || !list->m_nodes.empty()) {
+            std::swap(m_nodes[kept++], node);
+        } else if (m_cursor == kept + 1) {
+            m_cursor = kept;
         }
     }
+    m_nodes.resize(kept);
 }
 
 void AttrNodeList::removeNodeEverywhere(const AttrNode& node) {
