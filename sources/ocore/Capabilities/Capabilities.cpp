@@ -43,6 +43,7 @@ void Capabilities::finishConstruction() {
     m_collectionFeatures = {_FI(feature::coverFront),      _FI(feature::coverBack),
                             _FI(feature::pageOverrides),   _FI(feature::insertSheet),
                             _FI(feature::separatorSheets), _FI(feature::pclPaperSourceCol)};
+    m_index = std::make_unique<CapabilityIndex>(*m_settings.getAttrNodeList());
 }
 
 void Capabilities::removeFeature(const _FI& feature) {

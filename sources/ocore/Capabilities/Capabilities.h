@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "ocore/AnlXlate/AjtPrinterTraits.h"
+#include "ocore/Capabilities/CapabilityIndex.h"
 #include "ocore/Capabilities/FactoryCapabilities.h"
 #include "ocore/FeatureSettings/CapabilityIdentifier.h"
 #include "ocore/FeatureSettings/FeatureSettings.h"
@@ -12,6 +13,8 @@
 
 namespace zent {
 
+class SettingsProblemList;
+class SettingsProblemReporter;
 class StockList;
 
 /// What is known of one printer: a list of capabilities, filled once from a capability document and
@@ -72,6 +75,21 @@ public:
 
     AjtPrinterTraits getAjtPrinterTraits() const;
 
+    /// Finds what the printer can't do of a ticket, or of a part of one such as a stock. True if
+    /// there is nothing. The settings aren't changed; the problems point into them.
+    bool validate(Settings& settings, SettingsProblemList& problems) const;
+    /// Validates a ticket and, if the reporter agrees, repairs it by the printer's default
+    /// settings. `hadProblems` tells what was found. False if the user refused the repair: the
+    /// ticket, as it came, isn't to be used then. Where nobody is asked, nobody refuses.
+    bool applyCapabilitiesToJobTicket(Settings& ticket, const Settings& defaults, bool& hadProblems,
+                                      const SettingsProblemReporter& reporter) const;
+    /// The same without a report; `policy` is what the reporter answers.
+    bool applyCapabilitiesToJobTicket(Settings& ticket, const Settings& defaults, bool& hadProblems,
+                                      std::uint32_t policy) const;
+
+    /// The capability list by attributes.
+    const CapabilityIndex& getIndex() const { return *m_index; }
+
 private:
     void finishConstruction();
     void removeFeature(const _FI& feature);
@@ -87,6 +105,7 @@ private:
     FactoryCapabilities m_source;
     Settings m_settings;
     std::vector<_FI> m_collectionFeatures;
+    std::unique_ptr<const CapabilityIndex> m_index; // into the settings
 };
 
 } // namespace zent

@@ -1,0 +1,68 @@
+#include "ocore/Capabilities/CapabilityIndex.h"
+
+#include "ocore/FeatureSettings/CapabilityDataBase.h"
+#include "ocore/FeatureSettings/FeatureIdentifier.h"
+
+namespace zent {
+
+namespace {
+
+constexpr std::u16string_view supportedSuffix = u"-supported";
+
+// The lists of the printer as a whole are named like the capabilities of attributes.
+const CXString jobAttributes(u"job-creation-attributes");
+const CXString userDefinedAttributes(u"user-defined-values");
+
+} // namespace
+
+CapabilityIndex::CapabilityIndex(const AttrNodeList& capabilities) {
+    addFeatures();
+    addSupportedValues(capabilities);
+    mark(jobAttributes, &AttributeCapabilities::isJobAttribute);
+    mark(userDefinedAttributes, &AttributeCapabilities::isUserDefined);
+}
+
+void CapabilityIndex::addFeatures() {
+    const CapabilityDataBase table;
+    for (FeatureEnum number = TJTF_ANY + 1; _FI::isFeature(number); ++number) {
+        AttributeCapabilities& attribute = m_attributes[_FI(number).getName().view()];
+        attribute.feature = number;
+        for (const CapabilityInfo& row : table.getRows(number)) {
+            if (row.m_class == capabilityClass::extension) {
+                attribute.extensions.emplace_back(number, row.m_type);
+            }
+            attribute.hasValueSet |= row.m_type == CAPTYPE_SUPPORTED_VALUES;
+        }
+    }
+}
+
+void CapabilityIndex::addSupportedValues(const AttrNodeList& capabilities) {
+    for (std::uint32_t i = 0; i < capabilities.getNumberOfNodes(); ++i) {
+        const AttrNode& node = capabilities.getNodeAt(i);
+        std::u16string_view name = node.getName().view();
+        if (!name.ends_with(supportedSuffix)) {
+            continue;
+        }
+        name.remove_suffix(supportedSuffix.size());
+        AttributeCapabilities& attribute = m_attributes[name];
+        if (!attribute.supported) { // of several the first counts
+            attribute.supported.emplace(node.getAttrValue());
+        }
+    }
+}
+
+void CapabilityIndex::mark(const CXString& list, bool AttributeCapabilities::*flag) {
+    if (const auto& names = getAttribute(list).supported) {
+        for (const std::u16string_view name : names->getKeywords()) {
+            m_attributes[name].*flag = true;
+        }
+    }
+}
+
+const AttributeCapabilities& CapabilityIndex::getAttribute(const CXString& name) const {
+    static const AttributeCapabilities unknown;
+    const auto found = m_attributes.find(name.view());
+    return found == m_attributes.end() ? unknown : found->second;
+}
+
+} // namespace zent

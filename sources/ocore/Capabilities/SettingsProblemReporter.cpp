@@ -1,0 +1,56 @@
+#include "ocore/Capabilities/SettingsProblemReporter.h"
+
+#include "ocore/ResourceLibrary.h"
+#include "ocore/UserMessage.h"
+
+namespace zent {
+
+namespace {
+
+namespace text {
+constexpr std::uint32_t notice = 11541;
+constexpr std::uint32_t question = 11553;
+} // namespace text
+
+} // namespace
+
+SettingsProblemReporter::SettingsProblemReporter(std::uint32_t policy)
+    : m_isReporting(false), m_mode(policy), m_policy(policy) {}
+
+SettingsProblemReporter::SettingsProblemReporter(platform::WindowHandle owner,
+                                                 const CXString& title, bool offersChoice,
+                                                 std::uint32_t mode, std::uint32_t policy)
+    : m_isReporting(true), m_mode(mode), m_title(title), m_owner(owner),
+      m_offersChoice(offersChoice), m_policy(policy) {}
+
+bool SettingsProblemReporter::isChoiceOffered() const {
+    return m_offersChoice || m_mode != reportMode::silentKeep;
+}
+
+RepairWording SettingsProblemReporter::getWording() const {
+    if (m_policy != problemPolicy::repair) {
+        return RepairWording::none;
+    }
+    return isChoiceOffered() ? RepairWording::offered : RepairWording::made;
+}
+
+std::uint32_t SettingsProblemReporter::report(const SettingsProblemList& problems,
+                                              const Settings& defaults) const {
+    if (problems.isEmpty() || !m_isReporting) {
+        return m_policy;
+    }
+    const RepairReport report(problems, defaults);
+    return ask(report.getText(getWording())) == messageAnswer::cancel ? problemPolicy::keep
+                                                                      : m_policy;
+}
+
+std::int32_t SettingsProblemReporter::ask(const CXString& text) const {
+    const bool isChoice = isChoiceOffered();
+    const CXString label = ResourceLibrary().getString(isChoice ? text::question : text::notice);
+    const UserMessage message(m_owner, m_title, label + u"\r\n\r\n" + text,
+                              isChoice ? messageStyle::okCancel : 0,
+                              UserMessage::Severity::warning);
+    return message.show();
+}
+
+} // namespace zent

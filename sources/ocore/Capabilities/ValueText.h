@@ -1,0 +1,13 @@
+#pragma once
+
+#include "ocore/Attributes/AttrValue.h"
+
+namespace zent {
+
+/// A value of an attribute in a line of text: the values of a list in order, apart by blanks, a
+/// range as "(1-5)", a resolution as "(600 x 600, 3)", two dimensions as "(21000 x 29700)".
+CXString makeValueText(const CXString& attribute, const AttrValue& value);
+/// The same for users: values that have a name are told by it.
+CXString makeValueDisplay(const CXString& attribute, const AttrValue& value);
+
+} // namespace zent

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string_view>
+
+#include "ocore/AnlXlate/OcapTranslator.h"
+#include "ocore/Capabilities/Capabilities.h"
+#include "support/ListText.h"
+
+namespace zent::test {
+
+/// A capability document made of a list's text.
+class ListSource : public CapabilitySource {
+public:
+    explicit ListSource(std::string_view capabilities) : m_list(listOf(capabilities)) {}
+    void getDocument(ByteBuffer& document) const override {
+        OcapTranslator().anlToBuffer(m_list, &document);
+    }
+
+private:
+    AttrNodeList m_list;
+};
+
+/// The capabilities of a colour printer that says this of itself, and of its tables what they add.
+inline Capabilities capabilitiesOf(std::string_view list) {
+    return {PrinterModel(43, pageLanguage::postScript), 1, ListSource(list)};
+}
+
+} // namespace zent::test
