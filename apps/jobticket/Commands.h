@@ -22,6 +22,7 @@ void addDiffCommand(CLI::App& program, Action& action);
 void addStateCommand(CLI::App& program, Action& action);
 void addFeaturesCommand(CLI::App& program, Action& action);
 void addModelsCommand(CLI::App& program, Action& action);
+void addCapabilitiesCommand(CLI::App& program, Action& action);
 void addPreferencesCommand(CLI::App& program, Action& action);
 
 } // namespace jobticket

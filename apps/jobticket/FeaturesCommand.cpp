@@ -20,11 +20,6 @@ struct FeaturesOptions {
 
 using Row = std::vector<std::string>;
 
-struct NamedValue {
-    std::string name;
-    std::string displayName;
-};
-
 std::vector<Feature> findFeatures(const std::string& pattern) {
     if (Feature::exists(pattern)) {
         return {Feature::named(pattern)};
@@ -57,20 +52,6 @@ std::string locationOf(const Feature& feature) {
     return feature.standsInTicket() ? feature.getLocation() : "page-level features only";
 }
 
-/// What is known by name, and its name for people.
-std::vector<NamedValue> namedValuesOf(const Feature& feature) {
-    std::vector<NamedValue> values;
-    for (const zent::FeatureValue& value : feature.getValues()) {
-        values.push_back({toUtf8(value.getText()), toPrintable(value.getDisplayString())});
-    }
-    if (feature.getKind() == ValueKind::size) {
-        for (const zent::StockSize& size : getNamedSizes()) {
-            values.push_back({toUtf8(size.getSizeName()), toPrintable(size.getDisplayName())});
-        }
-    }
-    return values;
-}
-
 std::string describe(const Feature& feature) {
     std::vector<Row> rows = {{"Feature", feature.getName()},
                              {"Name", feature.getDisplayName()},
@@ -85,7 +66,7 @@ std::string describe(const Feature& feature) {
                            : "")});
     std::string text = layOut(rows);
     rows.clear();
-    for (const NamedValue& value : namedValuesOf(feature)) {
+    for (const NamedValue& value : getNamedValues(feature)) {
         rows.push_back({"  " + value.name, value.displayName});
     }
     return text + (rows.empty() ? "" : "Values\n" + layOut(rows));
@@ -99,7 +80,7 @@ std::string makeTable(const std::vector<Feature>& features) {
         text += std::to_string(feature.getNumber()) + '\t' + feature.getName() + '\t' +
                 feature.describeKind() + '\t' + (feature.takesSeveral() ? "set" : "single") + '\t' +
                 locationOf(feature) + '\t' + feature.getDisplayName();
-        for (const NamedValue& value : namedValuesOf(feature)) {
+        for (const NamedValue& value : getNamedValues(feature)) {
             text += '\t' + value.name + '=' + value.displayName;
         }
         text += '\n';

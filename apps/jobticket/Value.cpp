@@ -255,6 +255,34 @@ std::vector<zent::StockSize> getNamedSizes() {
     return sizes;
 }
 
+NamedValue toNamedValue(const zent::FeatureValue& value) {
+    return {toUtf8(value.getText()), toPrintable(value.getDisplayString())};
+}
+
+NamedValue toNamedValue(const zent::StockSize& size) {
+    return {toUtf8(size.getSizeName()), toPrintable(size.getDisplayName())};
+}
+
+NamedValue toNamedValue(const DotDensity& density) {
+    const std::string across = std::to_string(density.crossFeed);
+    const std::string along = std::to_string(density.feed);
+    const std::string unit = density.units == dotsPerCentimetre ? "dpcm" : "dpi";
+    return {across + "x" + along + unit, across + " x " + along + " " + unit};
+}
+
+std::vector<NamedValue> getNamedValues(const Feature& feature) {
+    std::vector<NamedValue> values;
+    for (const zent::FeatureValue& value : feature.getValues()) {
+        values.push_back(toNamedValue(value));
+    }
+    if (feature.getKind() == ValueKind::size) {
+        for (const zent::StockSize& size : getNamedSizes()) {
+            values.push_back(toNamedValue(size));
+        }
+    }
+    return values;
+}
+
 std::string findMisspeltValue(const Feature& feature, const Value& value) {
     const auto* text = std::get_if<std::u16string>(&value);
     if (text == nullptr || feature.getKind() != ValueKind::keyword ||

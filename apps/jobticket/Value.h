@@ -42,6 +42,18 @@ std::vector<Value> parseValues(const Feature& feature, std::string_view text);
 /// The media sizes that have a name.
 std::vector<zent::StockSize> getNamedSizes();
 
+/// A value as the command line takes it, and its name for people.
+struct NamedValue {
+    std::string name;
+    std::string displayName;
+};
+
+NamedValue toNamedValue(const zent::FeatureValue& value);
+NamedValue toNamedValue(const zent::StockSize& size);
+NamedValue toNamedValue(const DotDensity& density);
+/// All that is known by name, whatever the printer.
+std::vector<NamedValue> getNamedValues(const Feature& feature);
+
 /// A known value that is meant, maybe, by one that the feature takes as the user's own; else empty.
 std::string findMisspeltValue(const Feature& feature, const Value& value);
 

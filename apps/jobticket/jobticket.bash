@@ -22,6 +22,7 @@ _jobticket_options() {
     set) echo --help --output ;;
     unset) echo --help --output --all ;;
     features | models) echo --help --table ;;
+    capabilities) echo --help --table --model --pdl --form ;;
     diff | "state show") echo --help ;;
     state) echo --help pack unpack show renew ;;
     "state unpack") echo --help --output ;;
@@ -29,7 +30,7 @@ _jobticket_options() {
     preferences) echo --help list get set ;;
     "preferences list") echo --help --model --pdl --set --generic ;;
     preferences\ *) echo --help --type --model --pdl --set --generic ;;
-    *) echo --help --version new show set unset diff state features models preferences ;;
+    *) echo --help --version new show set unset diff state features models capabilities preferences ;;
     esac
 }
 
@@ -63,7 +64,7 @@ _jobticket() {
         mapfile -t COMPREPLY < <(compgen -W "$values" -- "$current")
     elif [[ $command == @(|state|preferences) || $current == -* ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$(_jobticket_options "$command")" -- "$current")
-    elif [[ $command == features ]]; then
+    elif [[ $command == @(features|capabilities) ]]; then
         _jobticket_assignments "$program"
         COMPREPLY=("${COMPREPLY[@]%%[=.[]*}")
     elif [[ $command == "preferences "@(get|set) && arguments -eq 0 ]]; then

@@ -82,6 +82,7 @@ ExitStatus run(const std::vector<std::string>& arguments) {
     addStateCommand(program, action);
     addFeaturesCommand(program, action);
     addModelsCommand(program, action);
+    addCapabilitiesCommand(program, action);
     addPreferencesCommand(program, action);
     checkCommand(program, arguments);
     const ExitStatus status = parse(program, arguments);

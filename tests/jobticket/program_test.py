@@ -20,8 +20,8 @@ EXAMPLES = sorted((ROOT / "examples").glob("*.xml"))
 REPORT = ROOT / "examples" / "report.xml"
 COMPLETION = ROOT / "apps" / "jobticket" / "jobticket.bash"
 MANUAL = ROOT / "apps" / "jobticket" / "jobticket.1"
-COMMANDS = ["new", "show", "set", "unset", "diff", "state", "state pack", "state unpack", "state show",
-            "state renew", "features", "models", "preferences", "preferences list",
+COMMANDS = ["new", "show", "set", "unset", "diff", "state", "state pack", "state unpack",
+            "state show", "state renew", "features", "models", "capabilities", "preferences", "preferences list",
             "preferences get", "preferences set"]
 
 # Of no user's preferences, so that all have their defaults.
@@ -273,6 +273,39 @@ class Printers(InFolder):
             self.assertLessEqual(more.items(), raw(run("new", *printer)).items() - common.items())
 
 
+    def test_capabilities(self):
+        rows = [
+            # printer, feature, what its row of the table holds besides the names
+            (["-m", "1"], "copies", {"unset=yes", "own=no", "range=1-9999"}),
+            (["-m", "lumaset 540"], "job-name", {"unset=no", "length=0-40", "characters=no !"}),
+            (["-m", "16"], "media-hole-count", {"range=0-0", "range=3-3"}),
+            (["-m", "16"], "media-size", {"own=yes", "value=SIZE_A4"}),
+            (["-m", "43"], "form-cycle-type", {"value=auto-cycle"}),
+            (["-m", "43"], "printer-resolution", {"value=1200x600dpi"}),
+            (["-m", "43"], "x-side1-image-shift", {"range=-5000-5000", "precision=1"}),
+            (["-m", "43"], "page-overrides", {"member=pages", "member=media-col"}),
+            (["-m", "43"], "insert-count", {"range=1-250"}),
+        ]
+        for printer, feature, expected in some(rows):
+            with self.subTest(feature):
+                table = run("capabilities", *printer, feature, "--table").decode().splitlines()
+                self.assertEqual(len(table), 1)
+                self.assertLessEqual(expected, set(table[0].split("\t")[2:]))
+        listing = run("capabilities", "-m", "43", "-p", "ps").decode()
+        self.assertRegex(listing, r"\nInstructions +XML document\n")
+        self.assertRegex(listing, r"\nopi-image-insertion +OPI image insertion\n +insert +Insert ")
+        self.assertRegex(listing, r"\nx-dimension +Media width +25\.4 to 571\.5 mm\n")
+        self.assertNotIn("pcl-paper-source-col", listing)
+
+    def test_each_printer_has_capabilities(self):
+        for row in some(run("models", "--table").decode().splitlines()):
+            model, *_, driver = row.split("\t")
+            with self.subTest(model):
+                listed = run("capabilities", "-m", model, "-p", driver.split("=")[0], "--table")
+                self.assertTrue(listed.startswith(b"copies\tCopies\t"))
+                self.assertGreater(listed.count(b"\n"), 30)
+
+
 class StateBlobs(InFolder):
     def test_a_ticket_passes_through_a_blob(self):
         for ticket in some(EXAMPLES):
@@ -320,7 +353,8 @@ class Preferences(InFolder):
         ]:
             of_type = ["--type", kind] if kind else []
             run("preferences", "set", name, value, *mine, *of_type)
-            self.assertEqual(run("preferences", "get", name, *mine, *of_type).decode(), value + "\n")
+            written = run("preferences", "get", name, *mine, *of_type).decode()
+            self.assertEqual(written, value + "\n")
         listed = run("preferences", "list", *mine).decode().splitlines()
         rows = {line.split()[0]: line.split()[1:] for line in listed}
         self.assertEqual(len(rows), 10)
@@ -369,6 +403,7 @@ class Failures(InFolder):
             (["unset", REPORT, "media-colour"], b"", BAD_VALUE, 'did you mean "media-color"'),
             (["features", "zzz"], b"", BAD_VALUE, "zzz"),
             (["models", "zzz"], b"", BAD_VALUE, "zzz"),
+            (["capabilities", "zzz", "-m", "1"], b"", BAD_VALUE, "Tarvo Lumaset 510"),
             (["new"], b"", USAGE, "which printer"),
             (["new", "--model", "52"], b"", USAGE, '"52"'),
             (["new", "--model", "lumaset 61"], b"", USAGE, "may be Tarvo Lumaset 610, Tarvo"),

@@ -1,0 +1,187 @@
+#include <algorithm>
+
+#include <CLI/CLI.hpp>
+
+#include "Commands.h"
+#include "Listing.h"
+#include "Offers.h"
+#include "PrinterOptions.h"
+#include "Text.h"
+#include "TicketFile.h"
+
+namespace jobticket {
+
+namespace {
+
+struct CapabilitiesOptions {
+    PrinterOptions printer;
+    std::string pattern;
+    bool table = false;
+};
+
+using Row = std::vector<std::string>;
+
+std::string yesOrNo(bool flag) { return flag ? "yes" : "no"; }
+
+std::string describe(const Range& range, const Unit& unit) {
+    if (range.lower == range.upper) {
+        return withUnit(range.lower, unit);
+    }
+    const std::string lower = withUnit(range.lower, unit);
+    return lower.substr(0, lower.find(' ')) + " to " + withUnit(range.upper, unit);
+}
+
+std::string describe(const Range& length) {
+    return (length.lower > 0 ? std::to_string(length.lower) + " to " : "up to ") +
+           std::to_string(length.upper) + " characters";
+}
+
+void addPart(std::string& text, const std::string& part) {
+    text += (text.empty() || part.empty() ? "" : "; ") + part;
+}
+
+std::string describeOwnValues(const Offer& offer) {
+    switch (offer.feature.getKind()) {
+    case ValueKind::keyword:
+        return offer.takesOwnValues ? "own names" : "";
+    case ValueKind::size:
+        return offer.takesOwnValues ? "own sizes" : "";
+    default:
+        return "";
+    }
+}
+
+/// All that is to say of an offer but its values and members.
+std::string summarize(const Offer& offer) {
+    std::string text;
+    for (const Range& range : offer.ranges) {
+        text += (text.empty() ? "" : ", ") + describe(range, offer.feature.getUnit());
+    }
+    addPart(text, offer.step ? "precision " + std::to_string(*offer.step) : "");
+    addPart(text, describeOwnValues(offer));
+    addPart(text, offer.length ? describe(*offer.length) : "");
+    addPart(text, offer.characters);
+    return text;
+}
+
+std::string listPrinter(const Offers& offers) {
+    return layOut({
+        {"Printer", offers.printer + ", " + offers.language},
+        {"Instructions", offers.form == ZENT_INSTRUCTIONS_XML ? "XML document" : "comment lines"},
+        {"Front and back cover apart", yesOrNo(offers.hasSeparateCovers)},
+        {"Several media in an insert", yesOrNo(offers.insertsMultipleMedia)},
+        {"TIFF when printing and saving", yesOrNo(offers.savesTiffWhenPrinting)},
+    });
+}
+
+/// A collection that groups features of the ticket itself; these are listed by themselves.
+bool isGroup(const Feature& feature) {
+    return feature.getKind() == ValueKind::collection && !feature.isPageLevel();
+}
+
+/// Whether a collection among the features has it as its member.
+bool isInGroupOf(const std::vector<Feature>& features, const Feature& member) {
+    return std::ranges::any_of(features, [&](const Feature& group) {
+        return !(group == member) && isGroup(group) && member.isMemberOf(group);
+    });
+}
+
+std::string listFeatures(const std::vector<Offer>& features) {
+    std::vector<Row> rows;
+    for (const Offer& offer : features) {
+        if (isGroup(offer.feature) && features.size() > 1) {
+            continue;
+        }
+        rows.push_back({offer.feature.getName(), offer.feature.getDisplayName(), summarize(offer)});
+        for (const NamedValue& value : offer.values) {
+            rows.push_back({"  " + value.name, value.displayName});
+        }
+        for (const Feature& member : offer.members) {
+            if (isInGroupOf(offer.members, member)) {
+                continue;
+            }
+            rows.push_back({"  " + member.getName(), member.getDisplayName()});
+        }
+    }
+    return layOut(rows);
+}
+
+/// One line a feature with tabs between the columns: name, name for people, and what there is to
+/// say as key=value.
+std::string makeTable(const std::vector<Offer>& features) {
+    std::string text;
+    for (const Offer& offer : features) {
+        text += offer.feature.getName() + '\t' + offer.feature.getDisplayName();
+        const auto add = [&text](const char* key, const std::string& value) {
+            text.append("\t").append(key).append("=").append(value);
+        };
+        const auto textOf = [](const Range& range) {
+            return std::to_string(range.lower) + '-' + std::to_string(range.upper);
+        };
+        add("unset", yesOrNo(offer.mayBeUnset));
+        add("own", yesOrNo(offer.takesOwnValues));
+        for (const Range& range : offer.ranges) {
+            add("range", textOf(range));
+        }
+        if (offer.step) {
+            add("precision", std::to_string(*offer.step));
+        }
+        if (offer.length) {
+            add("length", textOf(*offer.length));
+        }
+        if (!offer.characters.empty()) {
+            add("characters", offer.characters);
+        }
+        for (const NamedValue& value : offer.values) {
+            add("value", value.name);
+        }
+        for (const Feature& member : offer.members) {
+            add("member", member.getName());
+        }
+        text += '\n';
+    }
+    return text;
+}
+
+/// Leaves only the feature of that name, or those with the text in a name.
+void keepMatching(std::vector<Offer>& features, const std::string& pattern) {
+    const auto isNamed = [&](const Offer& offer) { return offer.feature.getName() == pattern; };
+    const bool isName = std::ranges::any_of(features, isNamed);
+    std::erase_if(features, [&](const Offer& offer) {
+        return isName ? !isNamed(offer)
+                      : !containsIgnoringCase(offer.feature.getName(), pattern) &&
+                            !containsIgnoringCase(offer.feature.getDisplayName(), pattern);
+    });
+}
+
+ExitStatus list(const CapabilitiesOptions& options) {
+    Offers offers = getOffers(choosePrinter(options.printer));
+    keepMatching(offers.features, options.pattern);
+    if (offers.features.empty()) {
+        throw ProgramError(ExitStatus::badValue,
+                           offers.printer + " has no feature " + inQuotes(options.pattern));
+    }
+    std::string text = listFeatures(offers.features);
+    if (options.table) {
+        text = makeTable(offers.features);
+    } else if (options.pattern.empty()) {
+        text = listPrinter(offers) + "\n" + text;
+    }
+    writeFile(std::string(standardStream), text);
+    return ExitStatus::success;
+}
+
+} // namespace
+
+void addCapabilitiesCommand(CLI::App& program, Action& action) {
+    CLI::App* command = program.add_subcommand("capabilities", "List what a printer offers");
+    const auto options = std::make_shared<CapabilitiesOptions>();
+    command->add_option("PATTERN", options->pattern,
+                        "A feature, or a part of the names of those to list");
+    addPrinterOptions(*command, options->printer);
+    command->add_flag("--table", options->table,
+                      "One line a feature with tabs between the columns, for other programs");
+    command->callback([options, &action] { action = [options] { return list(*options); }; });
+}
+
+} // namespace jobticket

@@ -1,0 +1,197 @@
+#include "Offers.h"
+
+#include <algorithm>
+
+#include "Printers.h"
+#include "Text.h"
+#include "ocore/Printer/NonDriverBasedPrinter.h"
+
+namespace jobticket {
+
+namespace {
+
+using zent::_CI;
+using zent::Capabilities;
+
+/// Reads a printer's capabilities for one feature.
+class OfferReader {
+public:
+    OfferReader(const Capabilities& capabilities, const Feature& feature)
+        : m_capabilities(capabilities), m_feature(feature) {}
+
+    Offer read() const {
+        const bool mayBeUnset = m_capabilities.isPrinterDefaultAvailable(m_feature.getId(), true);
+        const bool isText = m_feature.getKind() == ValueKind::text;
+        const bool takesOwnValues = isText || m_capabilities.isUserDefinable(m_feature.getId());
+        return {m_feature,
+                mayBeUnset,
+                readValues(),
+                takesOwnValues,
+                isText ? std::vector<Range>() : readRanges(),
+                readNumber(zent::CAPTYPE_PRECISION),
+                takesOwnValues ? readLength() : std::nullopt,
+                describeCharacters(),
+                readMembers()};
+    }
+
+private:
+    bool has(std::uint32_t type) const { return _CI::hasCapability(m_feature.getNumber(), type); }
+    _CI capability(std::uint32_t type) const { return {m_feature.getNumber(), type}; }
+    const zent::Settings& settings() const { return m_capabilities.getSettings(); }
+
+    std::optional<std::int32_t> readNumber(std::uint32_t type) const {
+        std::int32_t number = 0;
+        const bool isThere = has(type) && settings().getLong(capability(type), &number);
+        return isThere ? std::optional(number) : std::nullopt;
+    }
+
+    std::vector<Range> readRanges() const {
+        std::vector<Range> ranges;
+        if (has(zent::CAPTYPE_INT_RANGE)) {
+            const _CI range = capability(zent::CAPTYPE_INT_RANGE);
+            const std::uint32_t count = range.isInSetOf() ? settings().getInstanceCount(range) : 1;
+            Range bounds{};
+            for (std::uint32_t index = 0; index < count; ++index) {
+                if (settings().getRange(range, &bounds.lower, &bounds.upper, index)) {
+                    ranges.push_back(bounds);
+                }
+            }
+        }
+        return ranges;
+    }
+
+    std::optional<Range> readLength() const {
+        const std::vector<Range> ranges = readRanges(); // of a text's length, for want of numbers
+        if (!ranges.empty()) {
+            return ranges.front();
+        }
+        const auto longest = readNumber(zent::CAPTYPE_INT_UPPER_LIMIT);
+        return longest ? std::optional(Range{0, *longest}) : std::nullopt;
+    }
+
+    std::string describeCharacters() const {
+        const auto restriction = readNumber(zent::CAPTYPE_CHAR_RESTRICTION);
+        if (m_feature.getNumber() == zent::feature::jobName) {
+            return restriction == 2 ? "no !" : "";
+        }
+        if (restriction == 2) {
+            return "digits, capital letters, blanks and #+-/*";
+        }
+        if (restriction == 3) {
+            return R"(no control characters, quotation marks or \?{}[]<>*|:;/,)";
+        }
+        return m_capabilities.allowsEmbeddedSpaces(m_feature.getId()) ? "" : "no blanks";
+    }
+
+    std::vector<NamedValue> readValues() const {
+        switch (m_feature.getKind()) {
+        case ValueKind::resolution:
+            return readResolutions();
+        case ValueKind::size:
+            return readSizes();
+        case ValueKind::collection:
+            return {};
+        default:
+            return has(zent::CAPTYPE_SUPPORTED_VALUES) ? readKnownValues() : readKeywords();
+        }
+    }
+
+    std::vector<NamedValue> readKnownValues() const {
+        std::vector<NamedValue> values;
+        for (const zent::FeatureValue& value :
+             m_capabilities.getFeatureCapabilities(m_feature.getId(), false)) {
+            if (value != zent::FeatureValue()) {
+                values.push_back(toNamedValue(value));
+            }
+        }
+        return values;
+    }
+
+    /// The values of form-cycle-type stand where collections have their members.
+    std::vector<NamedValue> readKeywords() const {
+        std::vector<NamedValue> values;
+        if (has(zent::CAPTYPE_SUPPORTED_FEATURES)) {
+            const _CI set = capability(zent::CAPTYPE_SUPPORTED_FEATURES);
+            zent::CXString keyword;
+            for (std::uint32_t index = 0; settings().getString(set, &keyword, index); ++index) {
+                if (zent::FeatureValue::isKnownValue(m_feature.getNumber(), keyword)) {
+                    values.push_back(
+                        toNamedValue(zent::FeatureValue(m_feature.getNumber(), keyword)));
+                }
+            }
+        }
+        return values;
+    }
+
+    std::vector<NamedValue> readResolutions() const {
+        std::vector<NamedValue> values;
+        for (const zent::Resolution& resolution : m_capabilities.getResolutionValues()) {
+            if (!resolution.isUnspecified()) {
+                values.push_back(
+                    toNamedValue(DotDensity{resolution.getCrossFeed(),
+                                            resolution.getFeedDirection(), resolution.getUnits()}));
+            }
+        }
+        return values;
+    }
+
+    std::vector<NamedValue> readSizes() const {
+        std::vector<NamedValue> values;
+        for (const zent::StockSize& size :
+             zent::StockSize::getSizesWithin(m_capabilities.getStockSizeLimits())) {
+            values.push_back(toNamedValue(size));
+        }
+        return values;
+    }
+
+    std::vector<Feature> readMembers() const {
+        std::vector<Feature> members;
+        if (m_feature.getKind() == ValueKind::collection && has(zent::CAPTYPE_SUPPORTED_FEATURES)) {
+            for (const zent::_FI& member : m_capabilities.getMemberFeatures(m_feature.getId())) {
+                members.emplace_back(member.getFeature());
+            }
+        }
+        return members;
+    }
+
+    const Capabilities& m_capabilities;
+    const Feature& m_feature;
+};
+
+/// A feature that stands in page-level features only is offered by these.
+bool isOffered(const Capabilities& capabilities, const Feature& feature) {
+    const std::vector<zent::_FI>& holders = capabilities.getCollectionFeatures();
+    return capabilities.isFeatureSupported(feature.getId()) ||
+           std::ranges::any_of(holders, [&](const zent::_FI& holder) {
+               return capabilities.isFeatureSupported(holder) &&
+                      capabilities.isMemberOf(holder, feature.getId());
+           });
+}
+
+std::string displayNameOf(std::uint32_t language) {
+    const auto& all = getLanguages();
+    return std::string(std::ranges::find(all, language, &Language::number)->displayName);
+}
+
+} // namespace
+
+Offers getOffers(const PrinterChoice& choice) {
+    zent::NonDriverBasedPrinter printer(choice.model, choice.pdl, choice.form, zent::CXString(),
+                                        true);
+    const Capabilities& capabilities = printer.getCapabilities();
+    Offers offers;
+    offers.printer = toPrintable(printer.getDisplayName());
+    offers.language = displayNameOf(choice.pdl);
+    offers.form = printer.getInstructionForm();
+    offers.hasSeparateCovers = capabilities.isSeparateCoversCapable();
+    offers.insertsMultipleMedia = capabilities.isInsertMultipleMediaCapable();
+    offers.savesTiffWhenPrinting = capabilities.isTiffPrintSaveCapable();
+    for (const Feature& feature : Feature::all()) {
+        if (isOffered(capabilities, feature)) {
+            offers.features.push_back(OfferReader(capabilities, feature).read());
+        }
+    }
+    return offers;
+}
+
+} // namespace jobticket

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Feature.h"
+#include "Session.h"
+#include "Value.h"
+
+namespace jobticket {
+
+/// What a printer offers of one feature. What doesn't apply is empty.
+struct Offer {
+    Feature feature;
+    bool mayBeUnset = false;          // the choice may be left to the printer
+    std::vector<NamedValue> values;   // with known names
+    bool takesOwnValues = false;      // and texts of the user's own
+    std::vector<Range> ranges;        // of numbers
+    std::optional<std::int32_t> step; // of these
+    std::optional<Range> length;      // of a text, in characters
+    std::string characters;           // of a text, where not all are allowed
+    std::vector<Feature> members;     // of a collection
+};
+
+/// What a printer offers.
+struct Offers {
+    std::string printer;
+    std::string language;
+    std::uint32_t form = 0;         // a ZentInstructionForm, never ZENT_INSTRUCTIONS_BY_MODEL
+    bool hasSeparateCovers = false; // front and back cover may differ
+    bool insertsMultipleMedia = false;
+    bool savesTiffWhenPrinting = false;
+    std::vector<Offer> features; // by number; the others the printer doesn't have
+};
+
+Offers getOffers(const PrinterChoice& choice);
+
+} // namespace jobticket
