@@ -2,6 +2,7 @@
 #include <optional>
 #include <utility>
 
+#include "ZENT_API/ApplyCapabilities.h"
 #include "ZENT_API/Arguments.h"
 #include "ZENT_API/CallFrame.h"
 #include "ocore/AnlXlate/OrdoTranslator.h"
@@ -27,19 +28,6 @@ std::optional<FeatureSettings> readTicket(const ByteBuffer& data, uint32_t forma
     }
 }
 
-/// Brings a ticket into the form that is checked against the printer. As yet there is no printer,
-/// so there are no problems, and every ticket can be used.
-ZentResult apply(FeatureSettings& ticket, uint32_t mode, ZentBool& problems, bool& usable) {
-    ticket.normalizePageOverrides();
-    ticket.normalizeImageShift();
-    if (mode < ZENT_APPLY_SILENT_REPAIR || mode > ZENT_APPLY_REPORT_CHOICE) {
-        return ZENT_ERR_APPLY_MODE;
-    }
-    problems = 0;
-    usable = true;
-    return ZENT_OK;
-}
-
 void generateXml(ZENTSession& session, ByteBuffer& target) {
     OrdoTranslator().anlToBuffer(*session.settings().getAttrNodeList(), &target);
 }
@@ -55,8 +43,8 @@ void generateState(ZENTSession& session, ByteBuffer& target) {
 extern "C" {
 
 ZentResult ZENT_CALL fnImportJobTicket(ZentSessionType session, const void* data, uint32_t length,
-                                       uint32_t format, uint32_t mode, ZentWindow /*owner*/,
-                                       const ZentChar* /*title*/, ZentBool* problems,
+                                       uint32_t format, uint32_t mode, ZentWindow owner,
+                                       const ZentChar* title, ZentBool* problems,
                                        ZentBool* applied) {
     return inSession(session, u"ZENT::fnImportJobTicket()", [&](ZENTSession& opened) -> ZentResult {
         PersistentSettings state = opened.copyState();
@@ -67,7 +55,8 @@ ZentResult ZENT_CALL fnImportJobTicket(ZentSessionType session, const void* data
         ZentBool& hasProblems = required(problems);
         ZentBool& isApplied = required(applied);
         bool usable = false;
-        const ZentResult result = apply(*ticket, mode, hasProblems, usable);
+        const ZentResult result =
+            applyCapabilities(opened, *ticket, {mode, owner, title}, hasProblems, usable);
         isApplied = result == ZENT_OK && usable;
         if (isApplied != 0) {
             opened.replaceTicket(std::move(*ticket), state);
@@ -102,6 +91,25 @@ ZentResult ZENT_CALL fnUpdateUserContextInformation(ZentSessionType session, con
                          PersistentSettings state(bytesOf(blob, blobLength), true);
                          opened.updateUserContext(state);
                          return handOutBytes(state.getBuffer(), buffer, bytes);
+                     });
+}
+
+// The name in the report differs from the call's; support staff know it by that.
+ZentResult ZENT_CALL fnApplyPrinterCapabilitiesToSettings(ZentSessionType session, uint32_t mode,
+                                                          ZentWindow owner, const ZentChar* title,
+                                                          ZentBool* problems, ZentBool* usable) {
+    return inSession(session, u"ZENT::fnApplyPrinterCapabilitiesToSettingsSilently()",
+                     [&](ZENTSession& opened) -> ZentResult {
+                         ZentBool& hasProblems = required(problems);
+                         ZentBool& isUsable = required(usable);
+                         bool mayBeUsed = false;
+                         const ZentResult result =
+                             applyCapabilities(opened, opened.settings(), {mode, owner, title},
+                                               hasProblems, mayBeUsed);
+                         if (result == ZENT_OK) {
+                             isUsable = mayBeUsed;
+                         }
+                         return result;
                      });
 }
 

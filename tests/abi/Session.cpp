@@ -48,10 +48,10 @@ void Session::import(std::string_view data, std::uint32_t format) const {
     ZentBool problems = 2;
     ZentBool applied = 2;
     EXPECT_EQ(fnImportJobTicket(m_handle, data.data(), static_cast<std::uint32_t>(data.size()),
-                                format, ZENT_APPLY_SILENT_REPAIR, nullptr, nullptr, &problems,
+                                format, ZENT_APPLY_SILENT_KEEP, nullptr, nullptr, &problems,
                                 &applied),
               ZENT_OK);
-    EXPECT_EQ(problems, 0);
+    EXPECT_LE(problems, 1);
     EXPECT_EQ(applied, 1);
 }
 

@@ -27,6 +27,7 @@ public:
     /// Results are checked on the way: each failure is a test's.
     TarvoJtSettingsType newSettings() const;
     void release(TarvoJtSettingsType settings) const;
+    /// What the printer lacks is kept.
     void import(std::string_view data, std::uint32_t format = ZENT_FORMAT_XML) const;
     std::uint32_t exportSize(std::uint32_t format = ZENT_FORMAT_XML) const;
     std::string exported(std::uint32_t format = ZENT_FORMAT_XML) const;
