@@ -20,9 +20,10 @@ private:
     AttrNodeList m_list;
 };
 
-/// The capabilities of a colour printer that says this of itself, and of its tables what they add.
-inline Capabilities capabilitiesOf(std::string_view list) {
-    return {PrinterModel(43, pageLanguage::postScript), 1, ListSource(list)};
+/// The capabilities of a printer that says this of itself, and of its tables what they add; unless
+/// told otherwise of a colour printer.
+inline Capabilities capabilitiesOf(std::string_view list, std::uint32_t model = 43) {
+    return {PrinterModel(model, pageLanguage::postScript), 1, ListSource(list)};
 }
 
 } // namespace zent::test
