@@ -6,11 +6,12 @@
 
 #include "platform/PeResourceReader.h"
 
+using zent::platform::Bytes;
 using zent::platform::PeResourceReader;
 
 namespace {
 
-void requireInside(PeResourceReader::Bytes file, PeResourceReader::Bytes found) {
+void requireInside(Bytes file, Bytes found) {
     if (found.empty()) {
         return;
     }
@@ -23,7 +24,7 @@ void requireInside(PeResourceReader::Bytes file, PeResourceReader::Bytes found) 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const PeResourceReader::Bytes file = std::as_bytes(std::span(data, size));
+    const Bytes file = std::as_bytes(std::span(data, size));
     const auto reader = PeResourceReader::open(file);
     if (!reader) {
         return 0;
@@ -38,11 +39,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             if (found && !isListed) {
                 std::abort();
             }
-            requireInside(file, found.value_or(PeResourceReader::Bytes()));
+            requireInside(file, found.value_or(Bytes()));
         }
     }
     for (const std::uint32_t id : {1U, 100U, 101U}) {
-        requireInside(file, reader->findIcon(id).value_or(PeResourceReader::Bytes()));
+        requireInside(file, reader->findIcon(id).value_or(Bytes()));
     }
     return 0;
 }

@@ -6,34 +6,6 @@ namespace zent::platform {
 
 namespace {
 
-using Bytes = PeResourceReader::Bytes;
-
-std::optional<Bytes> slice(Bytes bytes, std::uint64_t offset, std::uint64_t length) {
-    if (offset > bytes.size() || length > bytes.size() - offset) {
-        return std::nullopt;
-    }
-    return bytes.subspan(static_cast<std::size_t>(offset), static_cast<std::size_t>(length));
-}
-
-template <typename T>
-std::optional<T> readNumber(Bytes bytes, std::uint64_t offset) {
-    const auto part = slice(bytes, offset, sizeof(T));
-    if (!part) {
-        return std::nullopt;
-    }
-    std::uint64_t value = 0;
-    for (std::size_t i = sizeof(T); i-- > 0;) {
-        value = value << 8 | std::to_integer<std::uint64_t>((*part)[i]);
-    }
-    return static_cast<T>(value);
-}
-std::optional<std::uint16_t> read16(Bytes bytes, std::uint64_t offset) {
-    return readNumber<std::uint16_t>(bytes, offset);
-}
-std::optional<std::uint32_t> read32(Bytes bytes, std::uint64_t offset) {
-    return readNumber<std::uint32_t>(bytes, offset);
-}
-
 /// Where the headers put what is needed of them.
 struct Headers {
     std::uint64_t sectionTable;

@@ -1,11 +1,10 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <vector>
 
+#include "platform/BoundedBytes.h"
 #include "platform/ResourceType.h"
 
 namespace zent::platform {
@@ -18,8 +17,6 @@ namespace zent::platform {
 /// bytes; they must outlive it and what it returns.
 class PeResourceReader {
 public:
-    using Bytes = std::span<const std::byte>;
-
     /// Nothing if the bytes are not a PE file with a resource directory.
     static std::optional<PeResourceReader> open(Bytes file);
 

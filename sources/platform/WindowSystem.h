@@ -44,10 +44,10 @@ constexpr std::int32_t listViewActivated = -3; // double click
 struct Notification {
     std::uint16_t item = 0;
     std::int32_t code = 0;
-    std::int32_t row = -1;   // list views: the row
-    std::int32_t column = 0; // list views
-    std::int32_t position = 0;
-    std::int32_t delta = 0; // spins: 1 down, -1 up, or more
+    std::int32_t row = -1;     // list views: the row
+    std::int32_t column = 0;   // list views
+    std::int32_t position = 0; // spins: before the step
+    std::int32_t delta = 0;    // spins: 1 down, -1 up, or more
 };
 
 /// An owner-drawn button that wants drawing, for event::drawItem. It is valid during the event.
@@ -99,7 +99,8 @@ using CharacterFilter = std::function<bool(std::u16string_view text, std::int32_
 /// setNumber on edit items, which raise notification::editChanged whenever the text changes, and
 /// for send(), which is what it says. event::destroy comes last, when the items still stand.
 ///
-/// Text crosses the port as plain UTF-16, since an adapter may be a library of its own.
+/// Text crosses the port as plain UTF-16, since an adapter may be a library of its own. Lines in it
+/// end with CR LF, in edit items of several lines too.
 ///
 /// An operation on an item that the dialog doesn't have, or on one of another kind, does nothing,
 /// and gives an empty, zero or false answer: pages leave out what they don't show.
@@ -107,7 +108,8 @@ class WindowSystem {
 public:
     /// The window system at hand, or null where there is none (no display, no adapter). It is
     /// looked for at the first need and then stays. An adapter makes its own application object if
-    /// the host process has none, and shares it if it has.
+    /// the host process has none, and shares it if it has. A toolkit that is bound to one thread is
+    /// there for that thread alone; on others this is null.
     static WindowSystem* find();
 
     virtual ~WindowSystem() = default;
@@ -118,13 +120,14 @@ public:
 
     /// Runs a dialog from template bytes (DLGTEMPLATE and its items) modally on its owner, which
     /// may be null, until endDialog; gives the value that ended it, -1 if it couldn't be made, 0 if
-    /// the user closed it by the window system's own means while the procedure didn't end it (a
-    /// close is sent as a command of the item 2 first). `resources` is where bitmaps and icons that
-    /// the template names lie; it lives as long as the dialog.
+    /// the user closed it by the window system's own means, or by the Escape key, while the
+    /// procedure didn't end it (a close is sent as a command of the item 2 first). `resources` is
+    /// where bitmaps and icons that the template names lie; it lives as long as the dialog.
     virtual std::intptr_t runModal(std::span<const std::byte> dialogTemplate,
                                    const ResourceModule& resources, WindowHandle owner,
                                    DialogProcedure& procedure) = 0;
-    /// The same without a loop: shown, and destroyed by destroyDialog; null if it couldn't be made.
+    /// The same without a loop: shown, and destroyed by destroyDialog, by a close, or with its
+    /// owner; null if it couldn't be made.
     virtual WindowHandle createModeless(std::span<const std::byte> dialogTemplate,
                                         const ResourceModule& resources, WindowHandle owner,
                                         DialogProcedure& procedure) = 0;
@@ -138,6 +141,8 @@ public:
     virtual void reportChanged(WindowHandle dialog) = 0;
 
     virtual void setCaption(WindowHandle dialog, std::u16string_view text) = 0;
+    /// Of any window of the application, not only a dialog.
+    virtual std::u16string getCaption(WindowHandle window) = 0;
     virtual bool isVisible(WindowHandle dialog) = 0;
     /// Of a dialog on the screen, its frame included, and the inner area, from (0, 0).
     virtual Rectangle getWindowRectangle(WindowHandle dialog) = 0;
@@ -153,8 +158,10 @@ public:
     /// An item as it stands in the dialog, in the order of the template.
     struct Item {
         std::uint16_t id = 0;
-        Rectangle place;             // in the dialog's inner area
-        bool isMarkedButton = false; // a group box, check box or radio button, no plain button
+        Rectangle place; // in the dialog's inner area
+        /// A button whose style has one of its three lowest bits set: a group box, check box or
+        /// radio button, also a default or an owner-drawn button, but no plain one.
+        bool isMarkedButton = false;
     };
     virtual std::vector<Item> getItems(WindowHandle dialog) = 0;
     virtual bool hasItem(WindowHandle dialog, std::uint16_t item) = 0;
@@ -176,7 +183,8 @@ public:
     /// A decimal number as the text; -1 as unsigned is 4294967295.
     virtual void setNumber(WindowHandle dialog, std::uint16_t item, std::int32_t number,
                            bool isSigned) = 0;
-    /// The number that the text is, 0 if it is none or too large.
+    /// The number that the text begins with, behind blanks; 0 if it is none or too large. "-" is
+    /// part of it only if signed.
     virtual std::int32_t getNumber(WindowHandle dialog, std::uint16_t item, bool isSigned) = 0;
     virtual void setTextLimit(WindowHandle dialog, std::uint16_t item, std::uint32_t units) = 0;
     /// Asked for each character that is typed or pasted; what it refuses is dropped in silence.
@@ -232,12 +240,16 @@ public:
     virtual std::uintptr_t getRowValue(WindowHandle dialog, std::uint16_t item,
                                        std::int32_t row) = 0;
     virtual std::vector<std::int32_t> getSelectedRows(WindowHandle dialog, std::uint16_t item) = 0;
+    /// Selects this row alone; -1 for none.
     virtual void selectRow(WindowHandle dialog, std::uint16_t item, std::int32_t row) = 0;
     virtual void setRowChecked(WindowHandle dialog, std::uint16_t item, std::int32_t row,
                                bool isChecked) = 0;
     virtual bool isRowChecked(WindowHandle dialog, std::uint16_t item, std::int32_t row) = 0;
 
-    // ---- Sliders and spins ---------------------------------------------------------------------
+    // ---- Sliders, scroll bars and spins --------------------------------------------------------
+
+    // A step moves a spin's position too, within its range, unless the message result of its
+    // notification::spinStep is not 0. The text of its buddy follows if its style says so.
 
     virtual void setRange(WindowHandle dialog, std::uint16_t item, std::int32_t lower,
                           std::int32_t upper) = 0;
