@@ -36,8 +36,8 @@ struct PreferenceResult {
 };
 
 /// The user's own store of typed values, each under the path of a key (parts separated by
-/// backslashes) and a name. Nothing is kept between calls, and processes may read and write at the
-/// same time: each value is written as a whole or not at all.
+/// backslashes) and a name. Processes may read and write at the same time: each value is written as
+/// a whole or not at all, and each reading finds what was written last.
 ///
 /// Windows: the registry below HKEY_CURRENT_USER; keys and names compare without regard to case.
 /// Elsewhere: an SQLite database in the user's configuration folder, one row a value; keys and

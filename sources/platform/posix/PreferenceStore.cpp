@@ -7,6 +7,7 @@
 #include <sqlite3.h>
 #include <sys/stat.h>
 
+#include "platform/posix/PreferenceSnapshot.h"
 #include "platform/posix/UserFolders.h"
 
 namespace zent::platform {
@@ -66,15 +67,26 @@ public:
     ByteBuffer getBytes(int column) {
         // In this order: the second asks for the size of what the first has made.
         const void* data = sqlite3_column_blob(m_statement.get(), column);
+        requireMemory(data);
         const int size = sqlite3_column_bytes(m_statement.get(), column);
+        return {data, static_cast<std::size_t>(size)};
+    }
+    std::u16string getText(int column) {
+        const void* data = sqlite3_column_text16(m_statement.get(), column);
+        requireMemory(data);
+        const int size = sqlite3_column_bytes16(m_statement.get(), column);
+        const auto* units = static_cast<const char16_t*>(data);
+        return {units, units + static_cast<std::size_t>(size) / sizeof(char16_t)};
+    }
+
+private:
+    void requireMemory(const void* data) {
         if (data == nullptr &&
             sqlite3_errcode(sqlite3_db_handle(m_statement.get())) == SQLITE_NOMEM) {
             throw StoreError{SQLITE_NOMEM};
         }
-        return {data, static_cast<std::size_t>(size)};
     }
 
-private:
     struct Finalizer {
         void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
     };
@@ -144,12 +156,45 @@ constexpr std::string_view createTable = "CREATE TABLE IF NOT EXISTS preference 
                                          "bytes BLOB NOT NULL, "
                                          "PRIMARY KEY (key, name)) STRICT";
 
-bool find(const std::string& path, const CXString& key, const CXString& name,
+/// Takes all values of a small database; null if they aren't to be kept.
+std::shared_ptr<const PreferenceSnapshot> readAll(Connection& database, const FileState& state) {
+    // A write-ahead log takes what is written without a trace in the file itself.
+    Statement mode = database.prepare("PRAGMA journal_mode");
+    if (!state.isSettled() || !mode.step() || mode.getText(0) == u"wal") {
+        return nullptr;
+    }
+    const auto snapshot = std::make_shared<PreferenceSnapshot>(state);
+    Statement select = database.prepare("SELECT key, name, type, bytes FROM preference");
+    while (select.step()) {
+        if (!snapshot->add(select.getText(0), select.getText(1),
+                           {select.getNumber(2), select.getBytes(3)})) {
+            return nullptr;
+        }
+    }
+    return snapshot;
+}
+
+bool take(const PreferenceSnapshot& snapshot, const CXString& key, const CXString& name,
           StoredPreference& value) {
+    const StoredPreference* const found = snapshot.find(key, name);
+    if (found != nullptr) {
+        value = *found;
+    }
+    return found != nullptr;
+}
+
+/// Looks into the database. The state is one that its file was in before the call, if that could be
+/// told.
+bool find(const std::string& path, const std::optional<FileState>& state, const CXString& key,
+          const CXString& name, StoredPreference& value) {
     Connection database(path);
     database.run("BEGIN"); // one lock for all that follows
     if (!hasTable(database)) {
         return false;
+    }
+    if (const auto snapshot = state ? readAll(database, *state) : nullptr) {
+        PreferenceSnapshot::keep(snapshot);
+        return take(*snapshot, key, name, value);
     }
     Statement select =
         database.prepare("SELECT type, bytes FROM preference WHERE key = ? AND name = ?");
@@ -184,12 +229,15 @@ PreferenceResult failed(PreferenceStatus status, const StoreError& error) {
 PreferenceResult readPreference(const CXString& key, const CXString& name,
                                 StoredPreference& value) {
     const std::string path = getPath();
-    if (path.empty() || isMissing(path)) {
+    const auto state = findFileState(path);
+    if (path.empty() || (!state && isMissing(path))) {
         return {PreferenceStatus::noKey, SQLITE_CANTOPEN};
     }
     try {
         // Keys are nothing by themselves here, so that none is missing.
-        const bool found = find(path, key, name, value);
+        const auto kept = state ? PreferenceSnapshot::findKept(*state) : nullptr;
+        const bool found =
+            kept ? take(*kept, key, name, value) : find(path, state, key, name, value);
         return {found ? PreferenceStatus::done : PreferenceStatus::noValue, SQLITE_OK};
     } catch (const StoreError& error) {
         return failed(PreferenceStatus::valueFailed, error);
@@ -199,6 +247,7 @@ PreferenceResult readPreference(const CXString& key, const CXString& name,
 PreferenceResult writePreference(const CXString& key, const CXString& name, std::uint32_t type,
                                  const ByteBuffer& bytes) {
     PreferenceStatus failure = PreferenceStatus::keyFailed;
+    PreferenceSnapshot::keep(nullptr);
     try {
         Connection database = openForWriting(getPath());
         failure = PreferenceStatus::valueFailed;

@@ -2,6 +2,7 @@
 // can't be used, and that processes don't get into each other's way.
 
 #include <array>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -102,6 +103,41 @@ TEST_F(PreferenceDatabaseTest, TakesAnEmptyFileForNewStore) {
     EXPECT_EQ(read(u"name", 1), -1);
     EXPECT_EQ(contentOf(m_file), "");
     EXPECT_EQ(write(u"name", ByteBuffer::fromBool(true)), PreferenceStatus::done);
+    EXPECT_EQ(read(u"name", 1), 1);
+}
+
+TEST_F(PreferenceDatabaseTest, ReadsAnewWhatAnotherProcessHasChanged) {
+    const auto valueOf = [](int number) { return ByteBuffer::fromBool(number != 0); };
+    // Only a file that has been as it is for some time is remembered.
+    const auto makeOld = [&] {
+        fs::last_write_time(m_file, fs::file_time_type::clock::now() - std::chrono::seconds(10));
+    };
+    ASSERT_EQ(write(u"name", valueOf(0)), PreferenceStatus::done);
+    for (const int number : {1, 0, 1}) {
+        makeOld();
+        EXPECT_EQ(read(u"name", 1), number == 1 ? 0 : 1);
+        EXPECT_EQ(read(u"other", 1), -1);
+        EXPECT_TRUE(hasSucceeded(
+            inChild([&] { return write(u"name", valueOf(number)) == PreferenceStatus::done; })));
+        EXPECT_EQ(read(u"name", 1), number);
+        EXPECT_EQ(read(u"name", 1), number);
+    }
+    makeOld();
+    EXPECT_EQ(read(u"name", 1), 1);
+    fs::rename(m_file, m_folder / "aside");
+    EXPECT_EQ(read(u"name", 1), -1);
+    ASSERT_EQ(write(u"name", valueOf(0)), PreferenceStatus::done);
+    makeOld();
+    EXPECT_EQ(read(u"name", 1), 0);
+    fs::rename(m_folder / "aside", m_file);
+    EXPECT_EQ(read(u"name", 1), 1);
+
+    // Too much to be remembered.
+    ByteBuffer large;
+    large.resize(100'000);
+    ASSERT_EQ(write(u"large", large), PreferenceStatus::done);
+    makeOld();
+    EXPECT_EQ(read(u"large", large.size()), 0);
     EXPECT_EQ(read(u"name", 1), 1);
 }
 
