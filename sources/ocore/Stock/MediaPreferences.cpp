@@ -23,6 +23,20 @@ constexpr const char16_t* userStocksAttribute = u"media-user-defined";
 constexpr const char16_t* userFavoritesAttribute = u"media-favorites-user-defined";
 constexpr const char16_t* printerFavoritesAttribute = u"media-favorites-printer";
 
+/// A file beside another one, gone at the end unless it has taken its place.
+class FileBeside {
+public:
+    explicit FileBeside(const CXString& path) : m_path(path + u".new") {}
+    ~FileBeside() { platform::deleteFile(m_path); }
+    FileBeside(const FileBeside&) = delete;
+    FileBeside& operator=(const FileBeside&) = delete;
+
+    const CXString& getPath() const { return m_path; }
+
+private:
+    CXString m_path;
+};
+
 void addFavorite(AttrNodeList& favorites, const CXString& key, AVTE type) {
     favorites.addNode(
         AttrNode(attrNames::value(), AttrValueFactory::createSimpleAttrValue(type, key), false));
@@ -147,11 +161,10 @@ void MediaPreferences::save(const StockList& stocks) {
 
 /// Writes a file beside, which takes the place of the old one only when it is complete.
 void MediaPreferences::write(const AttrNodeList& list, const CXString& path) {
-    const CXString beside = path + u".new";
-    OmpTranslator().anlToFile(list, beside);
-    if (!platform::replaceFile(beside, path)) {
+    const FileBeside beside(path);
+    OmpTranslator().anlToFile(list, beside.getPath());
+    if (!platform::replaceFile(beside.getPath(), path)) {
         trace::systemErrorText(platform::getLastError(), traceLevel::xmlLayer);
-        platform::deleteFile(beside);
         raiseOrdoParse(ordoParseCode::openForWritingFailed,
                        "MediaPreferences::save(): Failed to put the new file into the place of "
                        "%s.\r\n",

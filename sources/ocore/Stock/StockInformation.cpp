@@ -9,6 +9,16 @@
 
 namespace zent {
 
+namespace {
+
+/// Rewriting a level that contradicts itself would lose a part of it.
+bool asksTwice(const AttrNodeList& level) {
+    return level.countNodes(_FI(feature::media).getAttrID()) > 1 ||
+           level.countNodes(_FI(feature::mediaCol).getAttrID()) > 1;
+}
+
+} // namespace
+
 StockInformation::StockInformation(Printer& printer, MediaPreferences preferences)
     : m_printer(printer), m_preferences(std::move(preferences)) {
     const auto userStocks = m_preferences.getUserStocks();
@@ -166,6 +176,9 @@ void StockInformation::refreshUsage(AttrNodeList& level, FeatureEnum feature) {
 
 void StockInformation::recordUse(FeatureSettings& level, FeatureEnum feature) {
     const _FI mediaKey(feature::mediaKey);
+    if (asksTwice(*level.getAttrNodeList())) {
+        return;
+    }
     const auto asked = Stock::createFromSettings(level, StockType::transient);
     if (asked == nullptr) {
         return;

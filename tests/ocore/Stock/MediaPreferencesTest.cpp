@@ -129,6 +129,10 @@ TEST_F(MediaPreferencesTest, FailuresLoseNothing) {
     EXPECT_EQ(ordoFailure([&] { preferences(); }).substr(0, 2), "2:");
     m_folder.write(current, libraryOf(""));
     MediaPreferences preferences = this->preferences();
+    // A name that no document can hold.
+    StockList unwritable = stocksOf("value{media-color=red 1=2}", StockType::user);
+    EXPECT_EQ(ordoFailure([&] { preferences.save(unwritable); }).substr(0, 2), "6:");
+    EXPECT_EQ(m_folder.read(current), libraryOf(""));
     // The place of the file beside is taken, then that of the file.
     std::filesystem::create_directory(m_folder.path() / "omedpref.omp.new");
     EXPECT_EQ(ordoFailure([&] { preferences.save(StockList()); }).substr(0, 3), "17:");
