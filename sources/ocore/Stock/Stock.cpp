@@ -6,7 +6,10 @@
 
 #include "ocore/Attributes/IppList.h"
 #include "ocore/Attributes/PrimitiveInteger.h"
+#include "ocore/Capabilities/SettingsProblemFixer.h"
+#include "ocore/Capabilities/SettingsProblemReporter.h"
 #include "ocore/Exceptions.h"
+#include "ocore/Printer/Printer.h"
 #include "ocore/ResourceLibrary.h"
 
 namespace zent {
@@ -35,6 +38,7 @@ constexpr FeatureEnum descriptionFeatures[] = {
     110, // media-grain
 };
 
+constexpr std::uint32_t problemTitle = 7350;
 constexpr std::uint32_t userSuffix = 7500;
 constexpr std::uint32_t printerSuffix = 7501;
 
@@ -241,6 +245,24 @@ bool Stock::isSameDescription(const Stock& other) const {
     return std::ranges::all_of(descriptionFeatures, [&](FeatureEnum feature) {
         return m_settings.isSameFeature(_FI(feature), other.m_settings);
     });
+}
+
+bool Stock::validate(Printer& printer, bool mayDecline, platform::WindowHandle parent) {
+    SettingsProblemList problems;
+    if (printer.getCapabilities().validate(m_settings, problems)) {
+        return true;
+    }
+    // The one mode in which it is for the caller to say whether there is a choice.
+    const SettingsProblemReporter reporter(parent, ResourceLibrary().getString(problemTitle),
+                                           mayDecline, reportMode::silentKeep,
+                                           problemPolicy::repair);
+    const FeatureSettings& defaults = printer.getDefaults().getSettings();
+    if (reporter.report(problems, defaults) != problemPolicy::repair) {
+        return false;
+    }
+    SettingsProblemFixer(defaults).fix(problems);
+    m_kind = StockType::transient;
+    return true;
 }
 
 std::u16string Stock::getDescriptionText() const {

@@ -7,8 +7,11 @@
 #include "ocore/FeatureSettings/FeatureSettings.h"
 #include "ocore/Stock/StockMatch.h"
 #include "ocore/Stock/StockType.h"
+#include "platform/System.h"
 
 namespace zent {
+
+class Printer;
 
 /// One kind of paper as a named thing. A ticket carries media by name ("media") or by description
 /// ("media-col"); a stock is either of the two.
@@ -79,6 +82,11 @@ public:
     /// A text that is the same for stocks of the same description and for no others, by which many
     /// of them can be kept in order.
     std::u16string getDescriptionText() const;
+
+    /// Tells the user what the printer can't do of the stock, if there is anything, and repairs it
+    /// by the printer's default settings; it is the ticket's own then. False if the user declines,
+    /// which only `mayDecline` offers: the stock is left as it was.
+    bool validate(Printer& printer, bool mayDecline, platform::WindowHandle parent);
 
     /// A hook for diagnosis.
     virtual void dump() const { m_settings.dump(); }

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "PrintText.h"
+#include "ocore/BoxCapture.h"
+#include "ocore/Printer/NonDriverBasedPrinter.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/ListText.h"
 #include "support/Raised.h"
@@ -144,6 +146,40 @@ TEST(StockTest, TellsUsersWhoseItIs) {
     EXPECT_EQ(stockTypeToString(StockType::user), u"User");
     EXPECT_EQ(matchToString(StockMatch::nextBest), u"next best");
     EXPECT_EQ(matchToString(static_cast<StockMatch>(-1)), u"no match");
+}
+
+TEST(StockTest, IsRepairedUnlessTheUserDeclines) {
+    useResourceLibrary();
+    NonDriverBasedPrinter printer(6, 2, 1, u"", true);
+    const char* const heavy = "media-col{media-color=white media-weight-metric=5000}";
+    const char* const repaired = "media-col{media-color=white}"; // the defaults have no weight
+    const struct {
+        const char* ticket;
+        bool mayDecline;
+        std::int32_t button;
+        std::size_t boxes;
+        bool isValid;
+        StockType kind;
+        const char* settings;
+    } rows[] = {
+        {"media-col{media-color=white}", true, messageAnswer::cancel, 0, true, StockType::user,
+         "media-col{media-color=white}"},
+        {heavy, true, messageAnswer::ok, 1, true, StockType::transient, repaired},
+        {heavy, true, messageAnswer::cancel, 1, false, StockType::user, heavy},
+        {heavy, false, messageAnswer::ok, 1, true, StockType::transient, repaired},
+    };
+    for (const auto& row : rows) {
+        const BoxCapture boxes(row.button);
+        const auto stock = stockOf(row.ticket, StockType::user);
+        EXPECT_EQ(stock->validate(printer, row.mayDecline, nullptr), row.isValid);
+        EXPECT_EQ(stock->getKind(), row.kind);
+        EXPECT_EQ(settingsOf(*stock), row.settings);
+        ASSERT_EQ(boxes.shown().size(), row.boxes);
+        for (const ShownBox& box : boxes.shown()) {
+            EXPECT_EQ(box.title, resourceText(7350));
+            EXPECT_EQ((box.flags & messageStyle::okCancel) != 0, row.mayDecline);
+        }
+    }
 }
 
 TEST(StockListTest, KeepsOrderAndItsCursor) {
