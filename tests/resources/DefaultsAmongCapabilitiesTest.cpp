@@ -1,5 +1,5 @@
 #include <algorithm>
-#include <string>
+#include <set>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -7,6 +7,8 @@
 #include "ocore/Capabilities/Capabilities.h"
 #include "ocore/Printer/PrinterDefaults.h"
 #include "resources/UseResourceLibrary.h"
+#include "support/ListText.h"
+#include "support/Rows.h"
 
 namespace zent::test {
 namespace {
@@ -19,30 +21,66 @@ bool isIn(FeatureEnum feature, std::initializer_list<FeatureEnum> features) {
     return std::ranges::find(features, feature) != features.end();
 }
 
-/// Checks one feature of a ticket against all that a printer says of it.
-void expectOffered(const Capabilities& capabilities, const FeatureSettings& ticket,
-                   const _FI& feature) {
-    const FeatureEnum number = feature.getFeature();
-    // The dimensions are a matter of the media size, which has no members of its own to tell.
-    const bool isDimension = isIn(number, {feature::xDimension, feature::yDimension});
-    EXPECT_TRUE(capabilities.isFeatureSupported(isDimension ? _FI(feature::mediaSize) : feature));
-    if (_CI::hasCapability(number, CAPTYPE_SUPPORTED_VALUES)) {
-        const std::vector<FeatureValue> values =
-            capabilities.getFeatureCapabilities(feature, false);
-        EXPECT_EQ(std::ranges::count(values, ticket.getFeatureValue(feature)), 1);
-    }
-    if (_CI::hasCapability(number, CAPTYPE_INT_UPPER_LIMIT) && feature.hasAVTE(AVTE_NAME)) {
+/// Checks each feature of a ticket against all that a printer says of it; gives the features that
+/// are no collections.
+std::vector<FeatureEnum> expectOffered(const Capabilities& capabilities,
+                                       const FeatureSettings& ticket) {
+    std::vector<FeatureEnum> found;
+    for (FeatureEnum number = 2; number <= lastFeature; ++number) {
+        const _FI feature(number);
+        if (!ticket.isSpecified(feature) ||
+            isIn(number, {feature::mediaCol, feature::mediaSize, jobSaveDisposition})) {
+            continue;
+        }
+        SCOPED_TRACE(feature.getName().toNarrow());
+        found.push_back(number);
+        // The dimensions are a matter of the media size, which has no members of its own to tell.
+        const bool isDimension = isIn(number, {feature::xDimension, feature::yDimension});
+        EXPECT_TRUE(
+            capabilities.isFeatureSupported(isDimension ? _FI(feature::mediaSize) : feature));
+        if (_CI::hasCapability(number, CAPTYPE_SUPPORTED_VALUES)) {
+            const auto values = capabilities.getFeatureCapabilities(feature, false);
+            EXPECT_EQ(std::ranges::count(values, ticket.getFeatureValue(feature)), 1);
+        }
         CXString text;
-        ASSERT_TRUE(ticket.getString(feature, &text));
-        EXPECT_LE(text.view().size(), capabilities.getUpperLimit(feature));
-    }
-    if (_CI::hasCapability(number, CAPTYPE_INT_RANGE) && !isDimension) {
+        if (_CI::hasCapability(number, CAPTYPE_INT_UPPER_LIMIT) && feature.hasAVTE(AVTE_NAME) &&
+            ticket.getString(feature, &text)) {
+            EXPECT_LE(text.view().size(), capabilities.getUpperLimit(feature));
+        }
         std::int32_t value = 0;
-        std::int32_t lower = 0;
-        std::int32_t upper = 0;
-        ASSERT_TRUE(ticket.getLong(feature, &value));
-        capabilities.getFeatureCapabilities(feature, lower, upper);
-        EXPECT_TRUE(value >= lower && value <= upper) << value;
+        if (_CI::hasCapability(number, CAPTYPE_INT_RANGE) && !isDimension &&
+            ticket.getLong(feature, &value)) {
+            std::int32_t lower = 0;
+            std::int32_t upper = 0;
+            capabilities.getFeatureCapabilities(feature, lower, upper);
+            EXPECT_TRUE(value >= lower && value <= upper) << value;
+        }
+    }
+    return found;
+}
+
+bool fits(const Capabilities& capabilities, const StockSize& size) {
+    const SizeLimits limits = capabilities.getStockSizeLimits();
+    return limits.contains(size.getShortEdge(), size.getLongEdge()) ||
+           limits.contains(size.getLongEdge(), size.getShortEdge());
+}
+
+/// Checks the stocks that a printer has against what it takes.
+void expectOwnStocks(const Capabilities& capabilities) {
+    const AttrNodeList* stocks = nullptr;
+    ASSERT_TRUE(std::as_const(*capabilities.getSettings().getAttrNodeList())
+                    .OrdoAttrToList(&stocks, AttrID(u"media-col-database")));
+    EXPECT_GE(stocks->getNumberOfNodes(), 4U);
+    std::set<FeatureValue> keys;
+    for (std::uint32_t i = 0; i < stocks->getNumberOfNodes(); ++i) {
+        AttrNodeList list;
+        list.addNode(stocks->getNodeAt(i))->setAttrID(AttrID(u"media-col"));
+        SCOPED_TRACE(textOfList(list));
+        const FeatureSettings stock(list);
+        expectOffered(capabilities, stock);
+        EXPECT_TRUE(fits(capabilities, stock.getStockSize()));
+        EXPECT_TRUE(stock.isSpecified(_FI(feature::mediaKey)) &&
+                    keys.insert(stock.getFeatureValue(_FI(feature::mediaKey))).second);
     }
 }
 
@@ -84,26 +122,12 @@ TEST(DefaultsAmongCapabilitiesTest, EachPrinterOffersItsDefaults) {
                                             << driver.pdl << ", form " << form);
             const Capabilities capabilities(model, form);
             const PrinterDefaults defaults(model, form);
-            const FeatureSettings& ticket = defaults.getSettings();
-            std::vector<FeatureEnum> found;
-            for (FeatureEnum number = 2; number <= lastFeature; ++number) {
-                const _FI feature(number);
-                if (!ticket.isSpecified(feature) ||
-                    isIn(number, {feature::mediaCol, feature::mediaSize, jobSaveDisposition})) {
-                    continue;
-                }
-                SCOPED_TRACE(feature.getName().toNarrow());
-                found.push_back(number);
-                expectOffered(capabilities, ticket, feature);
-            }
-            EXPECT_EQ(found, expectedDefaults(family, form, driver.pdl));
-            // Whatever the user's locale: the sizes that it may choose, as a ticket holds them.
-            for (const std::uint32_t code : {2U, 8U}) { // Letter, A4
-                const StockSize size(code);
-                EXPECT_TRUE(capabilities.getStockSizeLimits().contains(size.getShortEdge(),
-                                                                       size.getLongEdge()))
-                    << code;
-            }
+            EXPECT_EQ(expectOffered(capabilities, defaults.getSettings()),
+                      expectedDefaults(family, form, driver.pdl));
+            // Whatever the user's locale: the sizes that it may choose.
+            EXPECT_TRUE(fits(capabilities, StockSize(2))); // Letter
+            EXPECT_TRUE(fits(capabilities, StockSize(8))); // A4
+            expectOwnStocks(capabilities);
         }
     }
 }
@@ -111,36 +135,21 @@ TEST(DefaultsAmongCapabilitiesTest, EachPrinterOffersItsDefaults) {
 // The language decides over what the family's document offers.
 TEST(DefaultsAmongCapabilitiesTest, LanguagesTakeAwayWhatTheyCannotSay) {
     useResourceLibrary();
-    struct Row {
-        std::uint32_t model;
-        std::uint32_t pdl;
-        bool highlight;
-        bool opi;
-        bool pclSources;
-    };
-    const Row rows[] = {
-        {48, pageLanguage::postScript, true, false, false},    // highlight colour
-        {48, pageLanguage::monochromePcl, false, false, true}, //
-        {43, pageLanguage::postScript, false, true, false},    // process colour
-        {43, pageLanguage::monochromePcl, false, false, true}, //
-        {43, pageLanguage::colorPcl, false, false, true},      //
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(testing::Message() << "model " << row.model << ", language " << row.pdl);
-        const Capabilities capabilities(PrinterModel(row.model, row.pdl), 1);
-        struct Offer {
-            FeatureEnum number;
-            FeatureEnum container;
-            bool offered;
-        };
-        const Offer offers[] = {
-            {feature::highlightColorant, TJTF_ANY, row.highlight},
-            {colorHsvHue, feature::highlightMapColorCustomCol, row.highlight},
-            {feature::opiImageInsertion, TJTF_ANY, row.opi},
-            {feature::opiImageInsertion, feature::pageOverrides, row.opi},
-            {feature::paperSourceNumber, feature::pclPaperSourceCol, row.pclSources},
-        };
-        for (const auto& [number, container, offered] : offers) {
+    for (const auto& [model, language, highlight, opi, pclSources] :
+         Rows<std::uint32_t, std::uint32_t, bool, bool, bool>{
+             {48, pageLanguage::postScript, true, false, false}, // highlight colour
+             {48, pageLanguage::monochromePcl, false, false, true},
+             {43, pageLanguage::postScript, false, true, false}, // process colour
+             {43, pageLanguage::monochromePcl, false, false, true},
+             {43, pageLanguage::colorPcl, false, false, true}}) {
+        SCOPED_TRACE(testing::Message() << "model " << model << ", language " << language);
+        const Capabilities capabilities(PrinterModel(model, language), 1);
+        for (const auto& [number, container, offered] : Rows<FeatureEnum, FeatureEnum, bool>{
+                 {feature::highlightColorant, TJTF_ANY, highlight},
+                 {colorHsvHue, feature::highlightMapColorCustomCol, highlight},
+                 {feature::opiImageInsertion, TJTF_ANY, opi},
+                 {feature::opiImageInsertion, feature::pageOverrides, opi},
+                 {feature::paperSourceNumber, feature::pclPaperSourceCol, pclSources}}) {
             const _FI feature(number);
             SCOPED_TRACE(feature.getName().toNarrow());
             EXPECT_EQ(container == TJTF_ANY ? capabilities.isFeatureSupported(feature)
