@@ -5,6 +5,8 @@
 #include <sstream>
 #include <stdexcept>
 
+#include <gtest/gtest.h>
+
 namespace zent::test {
 namespace {
 
@@ -53,12 +55,17 @@ std::u16string ExpectedRow::wide(const std::string& column) const {
     return {narrow.begin(), narrow.end()};
 }
 
-std::vector<std::int32_t> ExpectedRow::numbers(const std::string& column) const {
-    std::vector<std::int32_t> result;
-    for (const std::string& word : split(text(column))) {
-        result.push_back(std::stoi(word));
+ExpectedRow::Cell::Cell(const char* name, const std::vector<std::uint32_t>& numbers)
+    : column(name) {
+    for (const std::uint32_t number : numbers) {
+        content += (content.empty() ? "" : " ") + std::to_string(number);
     }
-    return result;
+}
+
+void ExpectedRow::expect(std::initializer_list<Cell> cells) const {
+    for (const Cell& cell : cells) {
+        EXPECT_EQ(cell.content, text(cell.column)) << cell.column;
+    }
 }
 
 std::vector<ExpectedRow> readExpectedTable(const std::string& name) {

@@ -3,7 +3,10 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <type_traits>
 #include <vector>
+
+#include "ocore/CXString.h"
 
 namespace zent::test {
 
@@ -23,8 +26,20 @@ public:
     /// The cell as 16-bit text; all tables are ASCII.
     std::u16string wide(const std::string& column) const;
     std::int32_t number(const std::string& column) const { return std::stoi(text(column)); }
-    /// The numbers of a cell that holds a list, in order.
-    std::vector<std::int32_t> numbers(const std::string& column) const;
+
+    /// What the library has for a cell.
+    struct Cell {
+        Cell(const char* name, const CXString& text) : column(name), content(text.toNarrow()) {}
+        Cell(const char* name, std::string text) : column(name), content(std::move(text)) {}
+        template <typename Number>
+        requires std::is_arithmetic_v<Number> Cell(const char* name, Number number)
+            : Cell(name, std::to_string(number)) {}
+        Cell(const char* name, const std::vector<std::uint32_t>& numbers);
+
+        std::string column;
+        std::string content;
+    };
+    void expect(std::initializer_list<Cell> cells) const;
 
 private:
     std::map<std::string, std::string> m_cells;

@@ -4,80 +4,60 @@
 #include "ocore/FeatureSettings/FeatureIdentifier.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/Raised.h"
+#include "support/Rows.h"
 
 namespace zent::test {
 namespace {
 
 TEST(FeatureIdentifierTest, QueriesGoToTheTable) {
-    struct Row {
-        const char16_t* id;
-        const char16_t* leaf;
-        FeatureEnum number;
-        bool inSet;
-        bool userDefinable;
-        const char16_t* preferredSyntax;
-        FeatureEnum parent; // 0 for none
-    };
-    const Row rows[] = {
-        {u"copies", u"copies", 2, false, false, u"integer", 0},
-        {u"sides", u"sides", 4, false, false, u"keyword", 0},
-        {u"imposition-template", u"imposition-template", 5, false, true, u"name", 0},
-        {u"page-ranges", u"value", 6, true, false, u"rangeOfInteger", 0},
-        // In a collection that is a member of a set.
-        {u"save-location", u"save-location", 10, false, true, u"uri", 126},
-        {u"x-dimension", u"x-dimension", 99, false, false, u"integer", 113},
-        {u"media-size", u"media-size", 113, false, false, u"collection", 133},
-        {u"save-info", u"value", 126, true, false, u"collection", 125},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(CXString(row.id).toNarrow());
-        const _FI feature{CXString(row.id)};
-        EXPECT_EQ(feature.getFeature(), row.number);
-        EXPECT_EQ(feature.getName(), row.id);
-        EXPECT_EQ(feature.getIDAsAttrID().getText(), row.id);
-        EXPECT_EQ(feature.getAttrID().getText(), row.leaf);
-        EXPECT_EQ(feature.isInSetOf(), row.inSet);
-        EXPECT_EQ(feature.isUserDefinable(), row.userDefinable);
-        EXPECT_EQ(feature.getPreferredSyntax(), row.preferredSyntax);
-        EXPECT_EQ(feature.getPreferredAVTE(), syntaxToAVTE(row.preferredSyntax));
+    const Rows<const char16_t*, const char16_t*, FeatureEnum, bool, bool, const char16_t*,
+               FeatureEnum>
+        rows{
+            // The parent is 0 for none.
+            {u"sides", u"sides", 4, false, false, u"keyword", 0},
+            {u"imposition-template", u"imposition-template", 5, false, true, u"name", 0},
+            {u"page-ranges", u"value", 6, true, false, u"rangeOfInteger", 0},
+            // In a collection that is a member of a set.
+            {u"save-location", u"save-location", 10, false, true, u"uri", 126},
+            {u"x-dimension", u"x-dimension", 99, false, false, u"integer", 113},
+            {u"save-info", u"value", 126, true, false, u"collection", 125},
+        };
+    for (const auto& [id, leaf, number, inSet, userDefinable, syntax, expectedParent] : rows) {
+        SCOPED_TRACE(number);
+        const _FI feature{CXString(id)};
+        EXPECT_EQ(feature.getFeature(), number);
+        EXPECT_EQ(feature.getIDAsAttrID().getText(), id);
+        EXPECT_EQ(feature.getAttrID().getText(), leaf);
+        EXPECT_EQ(feature.isInSetOf(), inSet);
+        EXPECT_EQ(feature.isUserDefinable(), userDefinable);
+        EXPECT_EQ(feature.getPreferredSyntax(), syntax);
         FeatureEnum parent = 0;
-        EXPECT_EQ(feature.getParentFeature(&parent), row.parent != 0);
-        EXPECT_EQ(parent, row.parent);
+        EXPECT_EQ(feature.getParentFeature(&parent), expectedParent != 0);
+        EXPECT_EQ(parent, expectedParent);
         EXPECT_TRUE(_FI::createFromAbbreviation(feature.getAbbreviation()).isEqual(feature));
-        EXPECT_TRUE(feature.clone()->isEqual(_FI(row.number)));
-        EXPECT_FALSE(feature.isEqual(_FI(row.number + 1)));
+        EXPECT_FALSE(feature.isEqual(_FI(number + 1)));
     }
     useResourceLibrary();
     EXPECT_EQ(_FI(feature::copies).getDisplayString(), ResourceLibrary().getString(5220));
+    EXPECT_TRUE(_FI(97).isRelated(104));
+    EXPECT_FALSE(_FI(97).isRelated(97));
 }
 
 TEST(FeatureIdentifierTest, UnknownFeaturesAreRefused) {
-    const auto unknownId = [](const char* id) {
-        return "FeatureDataBase::getFeatureInfo( UniqueID ) could not find requested ID '" +
-               std::string(id) + "'\r\n";
-    };
-    const auto unknownNumber = [](const char* number) {
-        return "FeatureDataBase::getFeatureInfo( FeatureEnum ) could not find requested "
-               "FeatureEnum " +
-               std::string(number) + "\r\n";
-    };
     using Unknown = UnknownFeatureRequestException;
-    EXPECT_EQ(raised<Unknown>([] { _FI{CXString(u"value")}; }), unknownId("value"));
-    EXPECT_EQ(raised<Unknown>([] { _FI{AttrID(u"Copies")}; }), unknownId("Copies"));
+    EXPECT_EQ(
+        raised<Unknown>([] { _FI{CXString(u"value")}; }),
+        "FeatureDataBase::getFeatureInfo( UniqueID ) could not find requested ID 'value'\r\n");
     EXPECT_THROW(_FI{CXString()}, InvalidAttributeIdException);
     EXPECT_EQ(raised<Unknown>([] { _FI::createFromAbbreviation(u"aA"); }),
               "FeatureDataBase::getFeatureInfoByAbbreviation() could not find requested ID "
               "'aA'\r\n");
     // Numbers aren't checked before they are used.
-    EXPECT_EQ(raised<Unknown>([] { _FI(TJTF_ANY).getName(); }), unknownNumber("1"));
-    EXPECT_EQ(raised<Unknown>([] { _FI(138).getAttrID(); }), unknownNumber("138"));
-    EXPECT_TRUE(_FI::isFeature(137));
-    EXPECT_FALSE(_FI::isFeature(TJTF_ANY));
-    EXPECT_TRUE(_FI::isFeatureName(CXString(u"pages")));
+    EXPECT_EQ(raised<Unknown>([] { _FI(138).getAttrID(); }),
+              "FeatureDataBase::getFeatureInfo( FeatureEnum ) could not find requested FeatureEnum "
+              "138\r\n");
+    EXPECT_TRUE(_FI::isFeature(137) && !_FI::isFeature(138) && !_FI::isFeature(TJTF_ANY));
     EXPECT_FALSE(_FI::isFeatureName(CXString()));
-    // "a" is sides and "A" is copies.
-    EXPECT_EQ(_FI::createFromAbbreviation(u"a").getFeature(), feature::sides);
-    EXPECT_EQ(_FI::createFromAbbreviation(u"A").getFeature(), feature::copies);
     EXPECT_FALSE(_FI::isFeatureAbbreviation(u"AT"));
 }
 
@@ -85,19 +65,15 @@ TEST(SyntaxListTest, TakesTheSecondAndThirdOnlyIfGiven) {
     const SyntaxList::Entry keyword{u"keyword", AVTE_KEYWORD};
     const SyntaxList::Entry name{u"name", AVTE_NAME};
     const SyntaxList::Entry none{u"", AVTE_NULL};
-    const SyntaxList::Entry unknown{u"octets", AVTE_NULL};
-    struct Row {
-        SyntaxList list;
-        std::uint32_t count = 0;
-    };
-    const Row rows[] = {{{keyword, none, none}, 1},    {{keyword, name, none}, 2},
-                        {{keyword, name, name}, 3},    {{keyword, none, name}, 1},
-                        {{keyword, unknown, name}, 1}, {{keyword, name, unknown}, 2}};
-    for (const Row& row : rows) {
-        EXPECT_EQ(row.list.getSyntaxCount(), row.count) << &row - rows;
-        EXPECT_EQ(row.list.isMultiple(), row.count > 1) << &row - rows;
-        EXPECT_EQ(row.list.hasAVTE(AVTE_NAME), row.count > 1) << &row - rows;
-        EXPECT_EQ(row.list.hasSyntax(u"name"), row.count > 1) << &row - rows;
+    const Rows<SyntaxList, std::uint32_t> rows{{{keyword, none, none}, 1},
+                                               {{keyword, name, none}, 2},
+                                               {{keyword, name, name}, 3},
+                                               {{keyword, none, name}, 1}};
+    for (const auto& [list, count] : rows) {
+        EXPECT_EQ(list.getSyntaxCount(), count);
+        EXPECT_EQ(list.isMultiple(), count > 1);
+        EXPECT_EQ(list.hasAVTE(AVTE_NAME), count > 1);
+        EXPECT_EQ(list.hasSyntax(u"name"), count > 1);
     }
 }
 

@@ -1,38 +1,42 @@
+#include <algorithm>
+#include <map>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "PrintText.h"
 #include "expected/ExpectedTable.h"
+#include "ocore/FeatureSettings/CapabilityDataBase.h"
+#include "ocore/FeatureSettings/CapabilityIdentifier.h"
 #include "ocore/FeatureSettings/FeatureDataBase.h"
 #include "ocore/FeatureSettings/FeatureIdentifier.h"
 #include "ocore/FeatureSettings/FeatureValueDataBase.h"
 #include "ocore/FeatureSettings/StockSize.h"
 #include "resources/UseResourceLibrary.h"
+#include "support/Raised.h"
+#include "support/Rows.h"
 
 namespace zent::test {
 namespace {
 
 constexpr FeatureEnum lastFeature = 137;
-constexpr std::int32_t lastValue = 552;
+constexpr std::uint32_t lastType = 12;
 
-/// An attribute's place as the table writes it: "save-info:s (names) / value".
-std::string locationOf(const NestedAttrID& id) {
+/// An attribute's place as the tables write it: "media-size-supported:c / value:c / x-dimension" or
+/// "save-info:s (names) / value". The leaf is left out, unless it is asked for, if it is the name.
+std::string locationOf(const NestedAttrID& id, bool endsInLeaf) {
     std::string location;
-    bool named = false;
     for (std::uint32_t i = id.getDepth(); i-- > 0;) { // outermost first
-        const CXString& syntax = id.getParentSyntax(i);
+        const bool isSet = id.getParentSyntax(i) == syntax::setOf;
+        EXPECT_TRUE(isSet || id.getParentSyntax(i) == syntax::collection);
         location += location.empty() ? "" : " / ";
-        location += id.getParentName(i).toNarrow();
-        location += syntax == syntax::setOf        ? ":s"
-                    : syntax == syntax::collection ? ":c"
-                                                   : ":" + syntax.toNarrow();
-        if (id.isNamingParent(i)) {
-            location += " (names)";
-            named = true;
-        }
+        location += id.getParentName(i).toNarrow() + (isSet ? ":s" : ":c");
+        location += id.isNamingParent(i) ? " (names)" : "";
+        endsInLeaf = endsInLeaf || id.isNamingParent(i);
     }
-    return named ? location + " / " + id.getAttrID().getText().toNarrow() : location;
+    return endsInLeaf && !id.isSimple() ? location + " / " + id.getAttrID().getText().toNarrow()
+                                        : location;
 }
 
 std::string joined(const SyntaxList& syntaxes) {
@@ -43,27 +47,22 @@ std::string joined(const SyntaxList& syntaxes) {
     return text;
 }
 
-std::vector<std::int32_t> signedNumbers(const std::vector<FeatureEnum>& numbers) {
-    return {numbers.begin(), numbers.end()};
-}
-
 TEST(FeatureTablesTest, FeaturesAreThoseOfTheTable) {
     const FeatureDataBase features;
     const std::vector<ExpectedRow> rows = readExpectedTable("features.tsv");
-    ASSERT_EQ(rows.size(), 136U);
+    ASSERT_EQ(rows.size(), lastFeature - 1);
     for (const ExpectedRow& row : rows) {
         SCOPED_TRACE(row.text("uniqueId"));
-        const auto number = static_cast<FeatureEnum>(row.number("enum"));
-        ASSERT_TRUE(features.hasFeature(number));
-        const FeatureInfo& info = features.getFeatureInfo(number);
-        EXPECT_EQ(info.m_feature, number);
-        EXPECT_EQ(info.m_nestedID.getName().toNarrow(), row.text("uniqueId"));
-        EXPECT_EQ(locationOf(info.m_nestedID), row.text("location"));
-        EXPECT_EQ(info.m_abbreviation.toNarrow(), row.text("abbreviation"));
-        EXPECT_EQ(joined(info.m_syntaxes), row.text("syntaxes"));
-        EXPECT_EQ(info.m_supportClass, static_cast<std::uint32_t>(row.number("supportClass")));
-        EXPECT_EQ(info.m_displayStringID, static_cast<std::uint32_t>(row.number("stringId")));
-        EXPECT_EQ(signedNumbers(info.m_related), row.numbers("related"));
+        const FeatureInfo& info =
+            features.getFeatureInfo(static_cast<FeatureEnum>(row.number("enum")));
+        row.expect({{"enum", info.m_feature},
+                    {"uniqueId", info.m_nestedID.getName()},
+                    {"location", locationOf(info.m_nestedID, false)},
+                    {"abbreviation", info.m_abbreviation},
+                    {"syntaxes", joined(info.m_syntaxes)},
+                    {"supportClass", info.m_supportClass},
+                    {"stringId", info.m_displayStringID},
+                    {"related", info.m_related}});
         // Each name finds the same row.
         EXPECT_EQ(&features.getFeatureInfo(CXString(row.wide("uniqueId"))), &info);
         EXPECT_EQ(&features.getFeatureInfoByAbbreviation(CXString(row.wide("abbreviation"))),
@@ -78,66 +77,28 @@ TEST(FeatureTablesTest, FeaturesAreThoseOfTheTable) {
     EXPECT_FALSE(features.hasAbbreviation(u"C"));
 }
 
-TEST(FeatureTablesTest, RelationsBetweenFeaturesAreMutual) {
-    for (FeatureEnum number = 2; number <= lastFeature; ++number) {
-        const FeatureInfo& info = FeatureDataBase().getFeatureInfo(number);
-        for (const FeatureEnum related : info.m_related) {
-            EXPECT_NE(related, number);
-            EXPECT_TRUE(_FI(related).isRelated(number)) << number << " and " << related;
-            // All of a group know each other.
-            EXPECT_EQ(_FI(related).getRelatedCount(), info.m_related.size()) << number;
-        }
-    }
-}
-
-TEST(FeatureTablesTest, ParentsOfFeaturesAreFeatures) {
-    const FeatureDataBase features;
-    for (FeatureEnum number = 2; number <= lastFeature; ++number) {
-        const _FI feature(number);
-        const NestedAttrID& id = feature.getNestedAttrID();
-        for (std::uint32_t i = 0; i < id.getDepth(); ++i) {
-            const CXString& parent = id.getParentName(i);
-            EXPECT_TRUE(parent == u"value" || features.hasUniqueID(parent))
-                << feature.getName().toNarrow() << " in " << parent.toNarrow();
-        }
-        FeatureEnum parent = 0;
-        if (feature.getParentFeature(&parent)) {
-            // The parent lies where the feature's own path says: its path begins that one.
-            const std::string place = locationOf(id);
-            const std::string parentPlace = locationOf(_FI(parent).getNestedAttrID());
-            const std::string begin = parentPlace.substr(0, parentPlace.find(" (names)"));
-            EXPECT_TRUE(place.starts_with(begin)) << place << " does not begin with " << begin;
-            EXPECT_NE(parent, number);
-        }
-    }
-}
-
 TEST(FeatureTablesTest, ValuesAreThoseOfTheTable) {
     const FeatureValueDataBase values;
     const std::vector<ExpectedRow> rows = readExpectedTable("values.tsv");
     ASSERT_EQ(rows.size(), 551U);
     for (const ExpectedRow& row : rows) {
         SCOPED_TRACE(row.text("number") + " " + row.text("text"));
-        const std::int32_t number = row.number("number");
-        ASSERT_TRUE(values.hasValue(number));
-        const FeatureValueInfo& info = values.getFeatureValueInfo(number);
-        EXPECT_EQ(info.m_value, number);
-        EXPECT_EQ(signedNumbers(info.m_features), row.numbers("features"));
-        EXPECT_EQ(info.m_text.toNarrow(), row.text("text"));
-        EXPECT_EQ(info.m_abbreviation.toNarrow(), row.text("abbreviation"));
-        EXPECT_EQ(info.m_displayStringID, static_cast<std::uint32_t>(row.number("stringId")));
-        EXPECT_EQ(info.m_imageID, static_cast<std::uint32_t>(row.number("imageId")));
-        EXPECT_EQ(info.m_syntax.toNarrow(), row.text("syntax"));
+        const FeatureValueInfo& info = values.getFeatureValueInfo(row.number("number"));
+        row.expect({{"number", info.m_value},
+                    {"features", info.m_features},
+                    {"text", info.m_text},
+                    {"abbreviation", info.m_abbreviation},
+                    {"stringId", info.m_displayStringID},
+                    {"imageId", info.m_imageID},
+                    {"syntax", info.m_syntax}});
         EXPECT_EQ(info.m_type, syntaxToAVTE(info.m_syntax));
         // Each key finds the same row: so no text stands twice for a feature, and no abbreviation
         // twice at all.
         for (const FeatureEnum feature : info.m_features) {
             EXPECT_EQ(&values.getFeatureValueInfo(feature, info.m_text), &info) << feature;
         }
-        if (info.m_abbreviation.isEmpty()) {
-            continue;
-        }
-        EXPECT_EQ(&values.getFeatureValueInfoByAbbreviation(info.m_abbreviation), &info);
+        EXPECT_TRUE(info.m_abbreviation.isEmpty() ||
+                    &values.getFeatureValueInfoByAbbreviation(info.m_abbreviation) == &info);
     }
     for (const std::int32_t number : {-1, 0, 172}) {
         EXPECT_FALSE(values.hasValue(number)) << number;
@@ -147,47 +108,94 @@ TEST(FeatureTablesTest, ValuesAreThoseOfTheTable) {
     EXPECT_FALSE(values.hasFeatureValue(feature::sides, u"collated")); // of another feature
 }
 
-TEST(FeatureTablesTest, OnlyRelatedFeaturesShareValues) {
-    const FeatureValueDataBase values;
-    for (std::int32_t number = 2; number <= lastValue; ++number) {
-        if (!values.hasValue(number)) {
-            continue;
-        }
-        const std::vector<FeatureEnum>& features = values.getFeatureValueInfo(number).m_features;
-        for (const FeatureEnum other : features) {
-            EXPECT_TRUE(other == features.front() || _FI(features.front()).isRelated(other))
-                << "value " << number << ", feature " << other;
+TEST(FeatureTablesTest, SizesAreThoseOfTheTable) {
+    useResourceLibrary();
+    const std::vector<ExpectedRow> rows = readExpectedTable("sizes.tsv");
+    ASSERT_EQ(rows.size(), 15U);
+    for (const ExpectedRow& row : rows) {
+        const StockSize size(static_cast<std::uint32_t>(row.number("code")));
+        row.expect({{"code", size.getSize()},
+                    {"name", size.getSizeName()},
+                    {"width", size.getWidth()},
+                    {"height", size.getHeight()}});
+        EXPECT_EQ(size.getDisplayName(),
+                  ResourceLibrary().getString(static_cast<std::uint32_t>(row.number("stringId"))));
+        if (size.getWidth() > 0) { // either way round finds the row
+            EXPECT_EQ(StockSize(size.getWidth(), size.getHeight()).getSize(), size.getSize());
+            EXPECT_EQ(StockSize(size.getHeight(), size.getWidth()).getSize(), size.getSize());
         }
     }
 }
 
-TEST(FeatureTablesTest, SizesAreThoseOfTheTable) {
-    useResourceLibrary();
-    const ResourceLibrary resources;
-    const std::vector<ExpectedRow> rows = readExpectedTable("sizes.tsv");
-    ASSERT_EQ(rows.size(), 15U);
+TEST(FeatureTablesTest, CapabilitiesAreThoseOfTheTable) {
+    const CapabilityDataBase capabilities;
+    std::map<FeatureEnum, std::vector<std::uint32_t>> types;
+    std::map<FeatureEnum, std::vector<std::uint32_t>> extensions;
+    const std::vector<ExpectedRow> rows = readExpectedTable("capabilities.tsv");
+    ASSERT_EQ(rows.size(), 178U);
     for (const ExpectedRow& row : rows) {
-        SCOPED_TRACE(row.text("name"));
-        const auto code = static_cast<std::uint32_t>(row.number("code"));
-        const std::int32_t width = row.number("width");
-        const std::int32_t height = row.number("height");
-        const StockSize size(code);
-        EXPECT_EQ(size.getSize(), code);
-        EXPECT_EQ(size.getSizeName().toNarrow(), row.text("name"));
-        EXPECT_EQ(size.getWidth(), width);
-        EXPECT_EQ(size.getHeight(), height);
-        EXPECT_EQ(size.getDisplayName(),
-                  resources.getString(static_cast<std::uint32_t>(row.number("stringId"))));
-        if (width <= 0) {
-            continue;
+        const auto feature = static_cast<FeatureEnum>(row.number("feature"));
+        const auto type = static_cast<std::uint32_t>(row.number("type"));
+        SCOPED_TRACE(row.text("feature") + " " + row.text("attribute"));
+        const CapabilityInfo& info = capabilities.getCapabilityInfo(feature, type);
+        row.expect({{"feature", info.m_feature},
+                    {"type", info.m_type},
+                    {"attribute", info.m_nestedID.getName()},
+                    {"location", locationOf(info.m_nestedID, true)},
+                    {"syntaxes", joined(info.m_syntaxes)}});
+        const bool isExtension = row.text("class") == "PRIVATE";
+        EXPECT_EQ(info.m_class,
+                  isExtension ? capabilityClass::extension : capabilityClass::standard);
+        types[feature].push_back(type);
+        if (isExtension) {
+            extensions[feature].push_back(type);
         }
-        // Either way round finds the row, in the table's own orientation.
-        for (const StockSize& found : {StockSize(width, height), StockSize(height, width)}) {
-            EXPECT_EQ(found.getSize(), code);
-            EXPECT_EQ(found.getWidth(), width);
-            EXPECT_EQ(found.getHeight(), height);
+        // The handle of the row answers from it.
+        const _CI capability(feature, type);
+        EXPECT_EQ(&capability.getNestedAttrID(), &info.m_nestedID);
+        EXPECT_EQ(capability.getClass(), info.m_class);
+        EXPECT_EQ(capability.isInSetOf(), row.text("location").ends_with(":s (names) / value"));
+    }
+    for (FeatureEnum feature = 0; feature <= lastFeature + 1; ++feature) {
+        SCOPED_TRACE(feature);
+        EXPECT_EQ(_CI::getCapabilityTypes(feature), types[feature]); // in the order of their types
+        EXPECT_EQ(_CI::getCapabilityTypes(feature, capabilityClass::extension),
+                  extensions[feature]);
+        EXPECT_EQ(capabilities.getCapabilityInfoList(feature).size(), types[feature].size());
+        for (std::uint32_t type = 0; type <= lastType + 1; ++type) {
+            const bool isThere = std::ranges::count(types[feature], type) == 1;
+            EXPECT_EQ(capabilities.hasCapability(feature, type), isThere) << type;
         }
     }
+}
+
+TEST(FeatureTablesTest, CapabilitiesAreEqualByFeatureAndType) {
+    const _CI account(feature::jobAccountID, CAPTYPE_CHAR_RESTRICTION);
+    const _CI data(feature::jobAccountingData, CAPTYPE_CHAR_RESTRICTION);
+    EXPECT_EQ(account.getName(), data.getName()); // one attribute serves three features
+    EXPECT_FALSE(account.isEqual(data));
+    EXPECT_FALSE(account.isEqual(_CI(feature::jobAccountID, CAPTYPE_INT_RANGE)));
+    EXPECT_TRUE(account.isEqual(*account.clone()));
+    // A feature and a capability are never the same.
+    EXPECT_FALSE(account.isEqual(_FI(feature::jobAccountID)));
+    EXPECT_FALSE(_FI(feature::jobAccountID).isEqual(account));
+}
+
+TEST(FeatureTablesTest, CapabilitiesThatAreNotThereAreNamed) {
+    for (const auto& [feature, type, ending] : Rows<FeatureEnum, std::uint32_t, const char*>{
+             {feature::copies, 4, "'4' for feature '2' (copies).\r\n"},
+             {lastFeature + 1, 1, "'1' for feature '138' (<unknown>!).\r\n"},
+             {TJTF_ANY, 1, "'1' for feature '1' (<unknown>!).\r\n"}}) {
+        const _CI capability(feature, type);
+        EXPECT_EQ(raised<UnknownFeatureRequestException>([&] { capability.getName(); }),
+                  std::string("CapabilityDataBase::getCapabilityInfo( Feature, Capability type ) "
+                              "could not find requested capability type ") +
+                      ending);
+    }
+    EXPECT_EQ(getCapabilityTypeText(CAPTYPE_INT_RANGE), u"[Integer Range]");
+    EXPECT_EQ(getCapabilityTypeText(lastType), u"[Print & Save is TIFF-Capable]");
+    EXPECT_EQ(getCapabilityTypeText(0), u"[UNKNOWN!]");
+    EXPECT_EQ(getCapabilityTypeText(lastType + 1), u"[UNKNOWN!]");
 }
 
 } // namespace
