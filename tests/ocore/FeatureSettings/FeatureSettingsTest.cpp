@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "PrintText.h"
+#include "ocore/Exceptions.h"
 #include "ocore/FeatureSettings/FeatureSettings.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/ListText.h"
