@@ -53,7 +53,7 @@ CXString SettingsProblem::getProblemFeatureName() const {
 }
 
 CXString SettingsProblem::getFeatureName(const char16_t* location) const {
-    const CXString name = getAttributeName();
+    CXString name = getAttributeName();
     if (_FI::isFeatureName(name)) {
         return _FI(name).getDisplayString();
     }

@@ -67,15 +67,17 @@ bool SettingsValidator::validateLevel(const WalkLevel& level) {
         if (node.isPrivate()) {
             continue;
         }
-        const WalkNode place{level, node, i, level.isSet ? *level.name : node.getName(),
-                             level.isSet ? *level.attribute : m_index.getAttribute(node.getName())};
+        const CXString& name = level.isSet() ? *level.setName : node.getName();
+        const AttributeCapabilities& attribute =
+            level.setAttribute != nullptr ? *level.setAttribute : m_index.getAttribute(name);
+        const WalkNode place{level, node, i, name, attribute};
         isValid = validateNode(place) && isValid;
     }
     return isValid;
 }
 
 bool SettingsValidator::hasRequiredMember(const WalkLevel& level) {
-    if (level.isSet || level.requiredMember == TJTF_ANY) {
+    if (level.isSet() || level.requiredMember == TJTF_ANY) {
         return true;
     }
     const _FI member(level.requiredMember);
@@ -87,15 +89,17 @@ bool SettingsValidator::hasRequiredMember(const WalkLevel& level) {
 
 bool SettingsValidator::validateNode(const WalkNode& place) {
     const AttrValue& value = place.node.getAttrValue();
+    AttrNodeList* const list = embeddedList(place.node);
+    const bool isOpenCollection = value.isCollection() && !isMediaSize(place);
     const bool isValid = validateAgainstPrivateCapabilities(place);
-    if (value.isCollection() && !isMediaSize(place) && place.attribute.isUserDefined) {
+    if (isOpenCollection && place.attribute.isUserDefined) {
         return isValid; // the user's own
     }
-    if (value.isList() && !place.level.isSet && !isAttributeSupported(place)) {
+    if (list != nullptr && !place.level.isSet() && !isAttributeSupported(place)) {
         return addProblem<UnsupportedAttribute>(place);
     }
-    if (value.is1setOf() || (value.isCollection() && !isMediaSize(place))) {
-        return validateLevel(enter(place)) && isValid;
+    if (list != nullptr && (value.is1setOf() || isOpenCollection)) {
+        return validateLevel(enter(place, *list)) && isValid;
     }
     return validateLeaf(place) && isValid;
 }
@@ -134,14 +138,14 @@ bool SettingsValidator::isAttributeSupported(const WalkNode& place) {
 }
 
 bool SettingsValidator::validateAgainstPrivateCapabilities(const WalkNode& place) {
-    if (place.attribute.extensions.empty() || place.level.isSet) {
+    if (place.attribute.extensions.empty() || place.level.isSet()) {
         return true;
     }
     // Of a feature that lives in a set the first member is read.
     AttrNodeList* const members = embeddedList(place.node);
     if (_FI(place.attribute.feature).isInSetOf() && members != nullptr &&
         members->isNodeAt(attrNames::value(), 0)) {
-        const WalkLevel level = enter(place);
+        const WalkLevel level = enter(place, *members);
         return validateAgainstPrivateCapabilities(
             place, {level, members->getNodeAt(0), 0, place.name, place.attribute});
     }
@@ -158,19 +162,19 @@ bool SettingsValidator::validateAgainstPrivateCapabilities(const WalkNode& place
     return isValid;
 }
 
-WalkLevel SettingsValidator::enter(const WalkNode& place) const {
+WalkLevel SettingsValidator::enter(const WalkNode& place, AttrNodeList& list) const {
     const FeatureEnum feature = place.attribute.feature;
     const bool isParent = std::ranges::any_of(
         m_capabilities.getCollectionFeatures(),
         [feature](const _FI& collection) { return collection.getFeature() == feature; });
-    return {.list = *embeddedList(place.node),
+    const bool isSet = place.node.getAttrValue().is1setOf();
+    return {.list = list,
             .enclosing = &place.level,
             .holder = &place.node,
             .holderPosition = place.position,
             .holderCapabilities = &m_index.getAttribute(place.node.getName()),
-            .name = &place.name,
-            .attribute = &place.attribute,
-            .isSet = place.node.getAttrValue().is1setOf(),
+            .setName = isSet ? &place.name : nullptr,
+            .setAttribute = isSet ? &place.attribute : nullptr,
             .parentFeature = isParent ? feature : place.level.parentFeature,
             .requiredMember = getRequiredMember(feature)};
 }

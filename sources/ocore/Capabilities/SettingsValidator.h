@@ -28,7 +28,7 @@ private:
     bool validateAgainstPrivateCapabilities(const WalkNode& place);
     bool validateAgainstPrivateCapabilities(const WalkNode& place, const WalkNode& value);
     /// The list that a node holds.
-    WalkLevel enter(const WalkNode& place) const;
+    WalkLevel enter(const WalkNode& place, AttrNodeList& list) const;
     /// False, for the caller to return.
     template <typename Problem>
     bool addProblem(const WalkNode& place);

@@ -17,12 +17,14 @@ struct WalkLevel {
     AttrNode* holder = nullptr;           // the node that holds the list
     std::uint32_t holderPosition = 0;
     const AttributeCapabilities* holderCapabilities = nullptr; // by the holder's own name
-    // What the holder is known as. Members of a set, which are called just "value", go by this too.
-    const CXString* name = nullptr;
-    const AttributeCapabilities* attribute = nullptr;
-    bool isSet = false;
+    // What a set is known as, and so its members, which are called just "value"; null for all other
+    // lists.
+    const CXString* setName = nullptr;
+    const AttributeCapabilities* setAttribute = nullptr;
     FeatureEnum parentFeature = TJTF_ANY;  // the collection feature that the list belongs to
     FeatureEnum requiredMember = TJTF_ANY; // what the list makes no sense without
+
+    bool isSet() const { return setName != nullptr; }
 };
 
 /// A node of such a list.

@@ -34,7 +34,7 @@ public:
 
 private:
     CXString writeSingle(const CXString& attribute, const AttrValue& value) const {
-        const CXString text = value.getIppValue();
+        CXString text = value.getIppValue();
         if (!m_isForUsers || !_FI::isFeatureName(attribute)) {
             return text;
         }
