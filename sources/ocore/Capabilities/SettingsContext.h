@@ -25,7 +25,6 @@ public:
     SettingsContext(AttrNodeList& list, std::vector<Step> steps, const AttrID& leaf,
                     const CXString& attribute);
 
-    AttrNodeList& getRoot() const { return m_steps.empty() ? *m_list : *m_steps.front().list; }
     AttrNodeList& getList() const { return *m_list; }
     const std::vector<Step>& getSteps() const { return m_steps; }
     /// The current node; null for something that is missing at the top of the ticket.

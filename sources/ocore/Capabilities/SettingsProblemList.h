@@ -29,7 +29,6 @@ public:
     void addProblem(std::unique_ptr<SettingsProblem> problem);
     bool isEmpty() const { return m_problems.empty(); }
     std::size_t getCount() const { return m_problems.size(); }
-    SettingsProblem& getProblem(std::size_t index) { return *m_problems[index]; }
     const SettingsProblem& getProblem(std::size_t index) const { return *m_problems[index]; }
 
     void resetCursor() { m_cursor = 0; }

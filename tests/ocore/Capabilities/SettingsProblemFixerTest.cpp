@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "ocore/Attributes/EmbeddedList.h"
+#include "ocore/Capabilities/FailedEmbeddedSpacesCapability.h"
+#include "ocore/Capabilities/FailedRangeCapability.h"
 #include "ocore/Capabilities/MissingFeatureProblem.h"
 #include "ocore/Capabilities/UnsupportedAttribute.h"
 #include "ocore/Capabilities/UnsupportedValue.h"
@@ -130,6 +132,23 @@ TEST_F(SettingsProblemFixerTest, ProblemsInWhatHasGoneArePassedOver) {
         SettingsContext(ticket, {outer}, AttrID(pageOverrides), pageOverrides)));
     SettingsProblemFixer(Settings(listOf(defaults))).fix(problems);
     EXPECT_EQ(textOfList(ticket), "copies=3");
+}
+
+TEST_F(SettingsProblemFixerTest, ProblemsAreEqualByKindPlaceAndLimits) {
+    AttrNodeList ticket = listOf("job-name=name:a job-name=name:a");
+    const CXString name(u"job-name");
+    const auto at = [&](std::uint32_t position) {
+        return SettingsContext(ticket, {{&ticket, &ticket.getNodeAt(position), position, false}},
+                               AttrID(name), name);
+    };
+    const _CI limit(feature::jobName, CAPTYPE_INT_UPPER_LIMIT);
+    const FailedRangeCapability problem(at(0), limit, 0, 9);
+    EXPECT_TRUE(problem.isEqual(*problem.clone()));
+    EXPECT_FALSE(problem.isEqual(FailedRangeCapability(at(0), limit, 0, 8)));
+    EXPECT_FALSE(problem.isEqual(FailedRangeCapability(at(1), limit, 0, 9)));
+    EXPECT_FALSE(problem.isEqual(FailedEmbeddedSpacesCapability(at(0), limit)));
+    EXPECT_FALSE(UnsupportedValue(at(0)).isEqual(UnsupportedAttribute(at(0))));
+    EXPECT_TRUE(UnsupportedValue(at(0)).isEqual(UnsupportedValue(at(0))));
 }
 
 TEST_F(SettingsProblemFixerTest, AListEndsWithAnException) {
