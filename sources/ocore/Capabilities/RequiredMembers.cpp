@@ -4,6 +4,13 @@ namespace zent {
 
 namespace {
 
+constexpr FeatureEnum formSaveDisposition = 11;
+constexpr FeatureEnum separatorSheetsType = 87;
+constexpr FeatureEnum jobSaveDisposition = 125;
+constexpr FeatureEnum formSave = 127;
+constexpr FeatureEnum formsCol = 129;
+constexpr FeatureEnum finishingsCol = 132;
+
 struct RequiredMember {
     FeatureEnum collection;
     FeatureEnum member;
@@ -12,11 +19,11 @@ struct RequiredMember {
 // Each of these collections is about one choice, and whatever else it holds only adds to that
 // choice: how a job is saved, for instance, says nothing unless it is said that the job is saved.
 constexpr RequiredMember requiredMembers[] = {
-    {125, feature::saveDisposition},   // job-save-disposition
-    {127, 11},                         // form-save: form-save-disposition
-    {129, feature::formName},          // each member of forms-col
-    {feature::separatorSheets, 87},    // separator-sheets-type
-    {132, feature::finishingTemplate}, // finishings-col
+    {jobSaveDisposition, feature::saveDisposition},
+    {formSave, formSaveDisposition},
+    {formsCol, feature::formName}, // each member of the set
+    {feature::separatorSheets, separatorSheetsType},
+    {finishingsCol, feature::finishingTemplate},
 };
 
 } // namespace
