@@ -71,6 +71,10 @@ test:
 	@$(call configure,sanitize)
 	@$(call build,sanitize)
 	@$(call test,sanitize)
+	$(call say,Linux under ThreadSanitizer)
+	@$(call configure,threads)
+	@$(call build,threads)
+	@$(call test,threads) -R ThreadsTest
 	$(call say,Windows x86)
 	@$(call configure,windows-x86) -DZENT_TESTS=ON
 	@$(call build,windows-x86)

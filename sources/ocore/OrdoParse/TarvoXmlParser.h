@@ -25,6 +25,10 @@ public:
     TarvoXmlParser(const CXString& streamName, bool validate)
         : m_streamName(streamName), m_validate(validate) {}
 
+    // Not those of the parser library, which fail in a way of their own.
+    static void* operator new(std::size_t size) { return ::operator new(size); }
+    static void operator delete(void* memory) { ::operator delete(memory); }
+
     /// Code 1 if the parser library fails, code 2 if it finds an error, fatal or not.
     void parse(std::span<const std::byte> bytes);
     /// Parses a literal of the program. What it gave is taken from memory from then on, as long as

@@ -1,0 +1,24 @@
+#include "support/TestFile.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+namespace zent::test {
+
+std::string readTestFile(const std::string& path) {
+    const char* folder = std::getenv("ZENT_TEST_DATA");
+    if (folder == nullptr) {
+        throw std::runtime_error("ZENT_TEST_DATA does not name the folder of the tests");
+    }
+    std::ifstream file(std::string(folder) + "/" + path, std::ios::binary);
+    if (!file) {
+        throw std::runtime_error("can't read " + path);
+    }
+    std::ostringstream content;
+    content << file.rdbuf();
+    return content.str();
+}
+
+} // namespace zent::test
