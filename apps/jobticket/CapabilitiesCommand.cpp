@@ -57,7 +57,9 @@ std::string summarize(const Offer& offer) {
     for (const Range& range : offer.ranges) {
         text += (text.empty() ? "" : ", ") + describe(range, offer.feature.getUnit());
     }
-    addPart(text, offer.step ? "precision " + std::to_string(*offer.step) : "");
+    if (offer.step.value_or(1) != 1) {
+        text += " in steps of " + withUnit(*offer.step, offer.feature.getUnit());
+    }
     addPart(text, describeOwnValues(offer));
     addPart(text, offer.length ? describe(*offer.length) : "");
     addPart(text, offer.characters);
@@ -124,7 +126,7 @@ std::string makeTable(const std::vector<Offer>& features) {
             add("range", textOf(range));
         }
         if (offer.step) {
-            add("precision", std::to_string(*offer.step));
+            add("step", std::to_string(*offer.step));
         }
         if (offer.length) {
             add("length", textOf(*offer.length));

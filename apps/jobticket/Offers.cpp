@@ -1,6 +1,7 @@
 #include "Offers.h"
 
 #include <algorithm>
+#include <set>
 
 #include "Printers.h"
 #include "Text.h"
@@ -12,6 +13,18 @@ namespace {
 
 using zent::_CI;
 using zent::Capabilities;
+
+/// What a collection may hold on the printer.
+std::vector<Feature> readMembers(const Capabilities& capabilities, const Feature& collection) {
+    std::vector<Feature> members;
+    if (collection.getKind() == ValueKind::collection &&
+        _CI::hasCapability(collection.getNumber(), zent::CAPTYPE_SUPPORTED_FEATURES)) {
+        for (const zent::_FI& member : capabilities.getMemberFeatures(collection.getId())) {
+            members.emplace_back(member.getFeature());
+        }
+    }
+    return members;
+}
 
 /// Reads a printer's capabilities for one feature.
 class OfferReader {
@@ -31,7 +44,7 @@ public:
                 readNumber(zent::CAPTYPE_PRECISION),
                 takesOwnValues ? readLength() : std::nullopt,
                 describeCharacters(),
-                readMembers()};
+                readMembers(m_capabilities, m_feature)};
     }
 
 private:
@@ -144,28 +157,34 @@ private:
         return values;
     }
 
-    std::vector<Feature> readMembers() const {
-        std::vector<Feature> members;
-        if (m_feature.getKind() == ValueKind::collection && has(zent::CAPTYPE_SUPPORTED_FEATURES)) {
-            for (const zent::_FI& member : m_capabilities.getMemberFeatures(m_feature.getId())) {
-                members.emplace_back(member.getFeature());
-            }
-        }
-        return members;
-    }
-
     const Capabilities& m_capabilities;
-    const Feature& m_feature;
+    Feature m_feature;
 };
 
-/// A feature that stands in page-level features only is offered by these.
-bool isOffered(const Capabilities& capabilities, const Feature& feature) {
-    const std::vector<zent::_FI>& holders = capabilities.getCollectionFeatures();
-    return capabilities.isFeatureSupported(feature.getId()) ||
-           std::ranges::any_of(holders, [&](const zent::_FI& holder) {
-               return capabilities.isFeatureSupported(holder) &&
-                      capabilities.isMemberOf(holder, feature.getId());
-           });
+/// The features that the printer has, by number: in tickets, and in the collections that it has.
+std::set<zent::FeatureEnum> findOffered(const Capabilities& capabilities) {
+    std::vector<Feature> found;
+    std::set<zent::FeatureEnum> offered;
+    const auto add = [&](const Feature& feature) {
+        if (offered.insert(feature.getNumber()).second) {
+            found.push_back(feature);
+        }
+    };
+    for (const Feature& feature : Feature::all()) {
+        if (capabilities.isFeatureSupported(feature.getId())) {
+            add(feature);
+        }
+    }
+    for (std::size_t index = 0; index < found.size(); ++index) { // grows on the way
+        if (found[index].getKind() == ValueKind::size) { // its members aren't told: it has both
+            add(Feature(zent::feature::xDimension));
+            add(Feature(zent::feature::yDimension));
+        }
+        for (const Feature& member : readMembers(capabilities, found[index])) {
+            add(member);
+        }
+    }
+    return offered;
 }
 
 std::string displayNameOf(std::uint32_t language) {
@@ -186,10 +205,8 @@ Offers getOffers(const PrinterChoice& choice) {
     offers.hasSeparateCovers = capabilities.isSeparateCoversCapable();
     offers.insertsMultipleMedia = capabilities.isInsertMultipleMediaCapable();
     offers.savesTiffWhenPrinting = capabilities.isTiffPrintSaveCapable();
-    for (const Feature& feature : Feature::all()) {
-        if (isOffered(capabilities, feature)) {
-            offers.features.push_back(OfferReader(capabilities, feature).read());
-        }
+    for (const zent::FeatureEnum number : findOffered(capabilities)) {
+        offers.features.push_back(OfferReader(capabilities, Feature(number)).read());
     }
     return offers;
 }

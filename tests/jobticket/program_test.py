@@ -282,9 +282,10 @@ class Printers(InFolder):
             (["-m", "16"], "media-size", {"own=yes", "value=SIZE_A4"}),
             (["-m", "43"], "form-cycle-type", {"value=auto-cycle"}),
             (["-m", "43"], "printer-resolution", {"value=1200x600dpi"}),
-            (["-m", "43"], "x-side1-image-shift", {"range=-5000-5000", "precision=1"}),
+            (["-m", "43"], "x-side1-image-shift", {"range=-5000-5000", "step=1"}),
             (["-m", "43"], "page-overrides", {"member=pages", "member=media-col"}),
             (["-m", "43"], "insert-count", {"range=1-250"}),
+            (["-m", "48", "-p", "ps"], "color-srgb-red", {"range=0-255"}),
         ]
         for printer, feature, expected in some(rows):
             with self.subTest(feature):
