@@ -39,7 +39,8 @@ int main(int argc, char** argv) {
     TarvoJtSettingsType ticket = NULL;
 
     /* Printer model 1, monochrome PCL; failures are not shown in a message box. */
-    CHECK(fnOpenSession, ZENT_INTERFACE_VERSION, 1, 2, ZENT_INSTRUCTIONS_XML, 1, NULL, 1, &session);
+    CHECK(fnOpenSession, ZENT_INTERFACE_VERSION, 1, ZENT_PDL_MONOCHROME_PCL, ZENT_INSTRUCTIONS_XML,
+          1, NULL, 1, &session);
     CHECK(fnGetTarvoJtSettingsFromSession, session, &ticket);
 
     CHECK(fnSetStringValue, session, ticket, TEXT16("job-name"), TEXT16("Quarterly report"), 0);

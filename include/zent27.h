@@ -132,14 +132,13 @@ enum ZentTicketFormat {
     ZENT_FORMAT_STATE = 2 /* the binary state blob */
 };
 
-/* How a ticket is checked against the printer: silently or with a report dialog, and by which
- * policy the report offers and applies repairs. */
+/* How a ticket is checked against the printer, and what becomes of one with problems. */
 enum ZentApplyMode {
-    ZENT_APPLY_SILENT_REPAIR = 1,
-    ZENT_APPLY_SILENT_KEEP = 2,
-    ZENT_APPLY_REPORT_REPAIR = 3,
-    ZENT_APPLY_REPORT_KEEP = 4,
-    ZENT_APPLY_REPORT_CHOICE = 5
+    ZENT_APPLY_SILENT_REPAIR = 1, /* repaired */
+    ZENT_APPLY_SILENT_KEEP = 2,   /* usable as it is */
+    ZENT_APPLY_REPORT_REPAIR = 3, /* repaired, unless the user cancels the report */
+    ZENT_APPLY_REPORT_KEEP = 4,   /* reported; stays as it is, and isn't usable */
+    ZENT_APPLY_REPORT_CHOICE = 5  /* as ZENT_APPLY_REPORT_REPAIR */
 };
 
 /* Dialogs of fnInvokeTarvoJobTicketDialog. */
@@ -150,25 +149,38 @@ enum ZentDialogKind {
     ZENT_DIALOG_JOB_NOTES = 4
 };
 
+/* Page description languages, for fnOpenSession. */
+enum ZentPageLanguage {
+    ZENT_PDL_POSTSCRIPT = 1,
+    ZENT_PDL_MONOCHROME_PCL = 2, /* every model has it */
+    ZENT_PDL_COLOR_PCL = 3
+};
+
 /* Forms of printing instructions, for fnOpenSession. */
 enum ZentInstructionForm {
-    ZENT_INSTRUCTIONS_XML = 1,    /* the ordo document */
-    ZENT_INSTRUCTIONS_STREAM = 2, /* comment lines in front of the print data */
-    ZENT_INSTRUCTIONS_BY_MODEL = 3
+    ZENT_INSTRUCTIONS_XML = 1,     /* the ordo document */
+    ZENT_INSTRUCTIONS_STREAM = 2,  /* comment lines in front of the print data */
+    ZENT_INSTRUCTIONS_BY_MODEL = 3 /* what the model takes */
 };
 
 /* ---------------------------------------------------------------------------------------------
  * Sessions
  */
 
-/* Opens a session for a printer.
+/* Opens a session for a printer. Its ticket holds the printer's defaults.
  *   version                ZENT_INTERFACE_VERSION; anything else gives ZENT_ERR_VERSION at once
- *   model, pdl             the printer model and page description language, by number
- *   instructionForm        a ZentInstructionForm
+ *   model                  the printer model, 1 to 51; docs/printers.md lists them. Any other
+ *                          gives ZENT_ERR_INTERNAL_INDEX
+ *   pdl                    a ZentPageLanguage. One that the model doesn't have is noticed only with
+ *                          the preferences of the printer's driver: ZENT_ERR_INTERNAL_INDEX
+ *   instructionForm        a ZentInstructionForm; any other number counts as the stream
  *   silent                 not 0: no failure is shown to the user
- *   preferencesName        the name of the preference set; null or empty for the default one
- *   useGenericPreferences  not 0: fall back on the preferences that all printers share
+ *   preferencesName        the name of the preference set; with null or an empty name the next
+ *                          argument decides
+ *   useGenericPreferences  not 0: the set that all printers share; 0: that of the printer's driver
  *   session                receives the handle; untouched on failure
+ * ZENT_ERR_RESOURCE_LIBRARY says that zenres27.dll isn't in the library's directory, and
+ * ZENT_ERR_REGISTRY that the user's preferences can't be read.
  */
 ZENT_API ZentResult ZENT_CALL fnOpenSession(uint32_t version, uint32_t model, uint32_t pdl,
                                             uint32_t instructionForm, ZentBool silent,
@@ -320,7 +332,8 @@ ZENT_API ZentResult ZENT_CALL fnRemovePageLevelFeatureFromTarvoJtSettings(
 /* Replaces the session's ticket by one that is read from data.
  *   format    a ZentTicketFormat, else ZENT_ERR_TICKET_FORMAT
  *   mode      a ZentApplyMode, else ZENT_ERR_APPLY_MODE
- *   owner, title  for the report dialog of the modes 3 to 5; an empty title gives the default one
+ *   owner, title  for the report of the modes 3 to 5, in which title mustn't be null; an empty one
+ *             gives the default title
  *   problems  receives 1 if the ticket asked for what the printer lacks
  *   applied   receives 1 if the session now holds the ticket
  * On failure the session keeps what it held.
@@ -336,7 +349,8 @@ ZENT_API ZentResult ZENT_CALL fnExportJobTicket(ZentSessionType session, void* b
                                                 uint32_t* size, uint32_t format);
 
 /* Gives a state blob anew with the present user's name and preferences in it. The session's own
- * ticket isn't touched. */
+ * ticket isn't touched. The blob is trusted: its ticket is copied unread, and it must be of the
+ * present form, else ZENT_ERR_STATE_FORMAT. */
 ZENT_API ZentResult ZENT_CALL fnUpdateUserContextInformation(ZentSessionType session,
                                                              const void* blob, uint32_t blobLength,
                                                              void* buffer, uint32_t* size);
@@ -346,7 +360,12 @@ ZENT_API ZentResult ZENT_CALL fnUpdateUserContextInformation(ZentSessionType ses
 ZENT_API ZentResult ZENT_CALL fnGetPrintInstructions(ZentSessionType session, void* buffer,
                                                      uint32_t* size, const char* documentName);
 
-/* Checks the session's ticket against the printer and repairs it, by a ZentApplyMode. */
+/* Checks the session's ticket against the printer and repairs it.
+ *   mode      a ZentApplyMode, else ZENT_ERR_APPLY_MODE
+ *   owner, title  as for fnImportJobTicket
+ *   problems  receives 1 if the ticket asked for what the printer lacks
+ *   usable    receives 0 if the user refuses the repair, or the mode does
+ */
 ZENT_API ZentResult ZENT_CALL fnApplyPrinterCapabilitiesToSettings(ZentSessionType session,
                                                                    uint32_t mode, ZentWindow owner,
                                                                    const ZentChar* title,
@@ -359,8 +378,18 @@ ZENT_API ZentResult ZENT_CALL fnInvokeTarvoJobTicketDialog(ZentSessionType sessi
                                                            ZentWindow owner, uint32_t reserved);
 
 /* ---------------------------------------------------------------------------------------------
- * Preferences of the user, by name. A well-known preference that is of another type gives
- * ZENT_ERR_PREFERENCE_TYPE. Getters give the default where nothing is stored.
+ * Preferences of the user, by name, in the set that the session was opened with. Getters give the
+ * default where nothing is stored. A store that fails gives ZENT_ERR_REGISTRY.
+ *
+ * The library knows these names, and goes by the value behind each where nothing is stored; to ask
+ * for one as another type gives ZENT_ERR_PREFERENCE_TYPE. docs/preferences.md tells what they mean.
+ *   Boolean   JOB_NAME_PREFERENCE 1, ACCOUNT_REQUIRED_PREFERENCE 0, ACCT_NUMBER_IN_JT_PREFERENCE 0,
+ *             USE_LOGON_NAME_PREFERENCE 1, USE_LOGON_NAME_PREFERENCE_RECIPIENT 1,
+ *             GENERIC_JT_PREFERENCE 1
+ *   number    TOOL_BAR_PREFERENCE 1; CUSTOM_PAPER_SIZE_PREFERENCE, IMAGE_SHIFT_UNIT_PREFERENCE:
+ *             1 inches, 2 metric, by the user's locale
+ *   text      PREFERRED_JOB_TICKET, empty
+ * Any other name is the application's own, of any type.
  */
 
 ZENT_API ZentResult ZENT_CALL fnGetPreferenceBoolValue(ZentSessionType session,
@@ -369,7 +398,7 @@ ZENT_API ZentResult ZENT_CALL fnGetPreferenceBoolValue(ZentSessionType session,
 ZENT_API ZentResult ZENT_CALL fnGetPreferenceNumberValue(ZentSessionType session,
                                                          const ZentChar* name, int32_t* value,
                                                          int32_t defaultValue);
-/* size counts ZentChar units, with the terminator; defaultValue may be null. */
+/* size counts ZentChar units, with the terminator; a null defaultValue gives an empty text. */
 ZENT_API ZentResult ZENT_CALL fnGetPreferenceStringValue(ZentSessionType session,
                                                          const ZentChar* name, ZentChar* buffer,
                                                          uint32_t* size,

@@ -15,7 +15,7 @@ class Ticket;
 /// The printer that a session is for. Every model has monochrome PCL.
 struct PrinterChoice {
     std::uint32_t model = 1;
-    std::uint32_t pdl = 2;
+    std::uint32_t pdl = ZENT_PDL_MONOCHROME_PCL;
     std::uint32_t form = ZENT_INSTRUCTIONS_BY_MODEL; // of printing instructions
 };
 
