@@ -13,6 +13,8 @@ struct ShownBox {
     CXString body;
     CXString title;
     std::uint32_t flags;
+
+    bool operator==(const ShownBox&) const = default;
 };
 
 /// Takes the place of the user, as long as it lives: keeps each box and answers with one button.

@@ -5,20 +5,12 @@
 #include <gtest/gtest.h>
 
 #include "PrintText.h"
-#include "ocore/Exceptions.h"
+#include "support/Raised.h"
 
 namespace zent {
 namespace {
 
 ByteBuffer bytes(const std::string& content) { return {content.data(), content.size()}; }
-
-TEST(ByteBuffer, IsMadeFromValues) {
-    EXPECT_EQ(ByteBuffer::fromBool(true), bytes("\x01"));
-    EXPECT_EQ(ByteBuffer::fromBool(false), bytes(std::string(1, '\0')));
-    EXPECT_EQ(ByteBuffer::fromLong(-2), bytes("\xFE\xFF\xFF\xFF"));
-    EXPECT_EQ(ByteBuffer::fromLong(0x01020304), bytes("\x04\x03\x02\x01"));
-    EXPECT_EQ(ByteBuffer::fromString(u"A\u20AC"), bytes(std::string("A\0\xAC\x20", 4)));
-}
 
 TEST(ByteBuffer, NeverFilledHasNoData) {
     ByteBuffer filled = bytes("x");
@@ -28,7 +20,6 @@ TEST(ByteBuffer, NeverFilledHasNoData) {
     for (const ByteBuffer& buffer :
          {ByteBuffer(), ByteBuffer(nullptr, 0), ByteBuffer::fromString(u""), filled, assigned}) {
         EXPECT_TRUE(buffer.isEmpty());
-        EXPECT_EQ(buffer.size(), 0U);
         EXPECT_EQ(buffer.data(), nullptr);
     }
 }
@@ -51,41 +42,29 @@ TEST(ByteBuffer, TakesPartsOfItself) {
         buffer.append(buffer);
     }
     EXPECT_EQ(buffer.size(), 96U);
-    EXPECT_EQ(ByteBuffer(buffer.data() + 93, 3), bytes("abc"));
     buffer.append(buffer.data() + 95, 1);
     buffer.assign(buffer.data() + 94, 3);
     EXPECT_EQ(buffer, bytes("bcc"));
 }
 
-TEST(ByteBuffer, ReadsValues) {
-    EXPECT_EQ(bytes("\x04\x03\x02\x81").getAsLongValue(), -0x7EFDFCFC);
-    EXPECT_EQ(bytes(std::string("\x01\0\0\0\xFF", 5)).getAsLongValue(), 1);
+TEST(ByteBuffer, HoldsValues) {
+    EXPECT_EQ(ByteBuffer::fromBool(true), bytes("\x01"));
+    EXPECT_EQ(ByteBuffer::fromLong(-2), bytes("\xFE\xFF\xFF\xFF"));
+    EXPECT_EQ(ByteBuffer::fromString(u"A\u20AC"), bytes(std::string("A\0\xAC\x20", 4)));
+    EXPECT_EQ(bytes("\x04\x03\x02\x81z").getAsLongValue(), -0x7EFDFCFC);
     EXPECT_TRUE(bytes("\x80").getAsBoolValue());
     EXPECT_FALSE(bytes(std::string("\0\x01", 2)).getAsBoolValue());
     EXPECT_EQ(bytes(std::string("a\0b\0c", 5)).getAsString(), u"ab");
-    EXPECT_TRUE(bytes("a").getAsString().isEmpty());
     EXPECT_TRUE(ByteBuffer().getAsString().isEmpty());
-}
-
-TEST(ByteBuffer, RefusesValuesItHasTooFewBytesFor) {
-    try {
-        bytes("abc").getAsLongValue();
-        FAIL();
-    } catch (const NotEnoughBytesForDesiredDataTypeException& exception) {
-        EXPECT_EQ(exception.getMessage(),
-                  u"ByteBuffer::getAsLongValue(): Cannot convert to the desired data type because "
-                  u"the size of the source buffer is too small (3 bytes)! It needs to be at least "
-                  u"4 bytes.\r\n");
-    }
-    try {
-        ByteBuffer().getAsBoolValue();
-        FAIL();
-    } catch (const NotEnoughBytesForDesiredDataTypeException& exception) {
-        EXPECT_EQ(exception.getMessage(),
-                  u"ByteBuffer::getAsBoolValue(): Cannot convert to the desired data type because "
-                  u"the size of the source buffer is too small (0 bytes)! It needs to be at least "
-                  u"1 bytes.\r\n");
-    }
+    using TooFew = NotEnoughBytesForDesiredDataTypeException;
+    EXPECT_EQ(test::raised<TooFew>([] { bytes("abc").getAsLongValue(); }),
+              "ByteBuffer::getAsLongValue(): Cannot convert to the desired data type because the "
+              "size of the source buffer is too small (3 bytes)! It needs to be at least 4 "
+              "bytes.\r\n");
+    EXPECT_EQ(test::raised<TooFew>([] { ByteBuffer().getAsBoolValue(); }),
+              "ByteBuffer::getAsBoolValue(): Cannot convert to the desired data type because the "
+              "size of the source buffer is too small (0 bytes)! It needs to be at least 1 "
+              "bytes.\r\n");
 }
 
 } // namespace

@@ -1,28 +1,20 @@
 #include "ocore/CXString.h"
 
-#include <iomanip>
-#include <ostream>
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
+#include "PrintText.h"
 #include "ocore/FormatFakeModule.h"
+#include "support/Rows.h"
 
 namespace zent {
-
-static void PrintTo(const CXString& text, std::ostream* out) {
-    *out << std::quoted(text.toNarrow());
-}
-
 namespace {
 
-const CXString madeBeforeMain(u"made while statics initialise");
+using test::Rows;
 
-const CXString& empty() {
-    static const CXString text;
-    return text;
-}
+const CXString madeBeforeMain(u"made while statics initialise");
+const CXString empty;
 
 TEST(CXString, IsEmptyFromNothing) {
     EXPECT_EQ(madeBeforeMain.length(), 29);
@@ -35,13 +27,11 @@ TEST(CXString, IsEmptyFromNothing) {
     released.releaseBuffer();
     CXString assigned(u"text");
     assigned = noNarrow;
-    for (const CXString& text :
-         {CXString(noWide), CXString(noNarrow), CXString(u""), CXString(""), CXString(noNarrow, 5),
-          CXString(std::u16string_view()), cleared, released, assigned, CXString(u"abc").mid(3)}) {
+    for (const CXString& text : {CXString(noWide), CXString(noNarrow), CXString(u""), CXString(""),
+                                 CXString(noNarrow, 5), CXString(std::u16string_view()), cleared,
+                                 released, assigned, CXString(u"abc").mid(3), empty + empty}) {
         EXPECT_TRUE(text.isEmpty());
-        EXPECT_EQ(text.c_str(), empty().c_str()) << "must share the empty block";
-        EXPECT_EQ(*text.c_str(), u'\0');
-        EXPECT_EQ(text, u"");
+        EXPECT_EQ(text.c_str(), empty.c_str()) << "must share the empty block";
         EXPECT_EQ(text, noWide);
     }
 }
@@ -49,20 +39,16 @@ TEST(CXString, IsEmptyFromNothing) {
 TEST(CXString, SharesUntilChanged) {
     CXString a(u"duplex");
     const CXString b = a;
-    EXPECT_EQ(a.c_str(), b.c_str());
     CXString c;
     c = b;
+    EXPECT_EQ(a.c_str(), b.c_str());
     EXPECT_EQ(c.c_str(), b.c_str());
     a += u'!';
-    EXPECT_EQ(a, u"duplex!");
-    EXPECT_EQ(b, u"duplex");
     c.getBuffer(6)[0] = u'D';
     c.releaseBuffer();
-    EXPECT_EQ(c, u"Duplex");
-    EXPECT_EQ(b, u"duplex");
-    const char16_t* const block = c.c_str();
+    EXPECT_EQ(a + b + c, u"duplex!duplexDuplex");
     const CXString moved = std::move(c);
-    EXPECT_EQ(moved.c_str(), block);
+    EXPECT_EQ(moved, u"Duplex");
     EXPECT_TRUE(c.isEmpty()); // NOLINT(bugprone-use-after-move): moved-from strings are empty
 }
 
@@ -73,35 +59,28 @@ TEST(CXString, CopiesALockedString) {
     CXString assigned;
     assigned = locked;
     buffer[5] = u'2';
-    EXPECT_EQ(locked, u"tray 2");
-    EXPECT_EQ(copied, u"tray 1");
-    EXPECT_EQ(assigned, u"tray 1");
+    EXPECT_EQ(locked + copied + assigned, u"tray 2tray 1tray 1");
     locked = assigned; // goes into the locked buffer
     EXPECT_EQ(locked.c_str(), buffer);
-    EXPECT_NE(assigned.c_str(), buffer);
     locked.unlockBuffer();
-    const CXString shared = locked;
-    EXPECT_EQ(shared.c_str(), buffer);
+    EXPECT_EQ(CXString(locked).c_str(), buffer);
 
     CXString lockedEmpty;
     lockedEmpty.lockBuffer();
-    EXPECT_NE(lockedEmpty.c_str(), empty().c_str());
-    EXPECT_EQ(CXString(lockedEmpty).c_str(), empty().c_str());
+    EXPECT_NE(lockedEmpty.c_str(), empty.c_str());
+    EXPECT_EQ(CXString(lockedEmpty).c_str(), empty.c_str());
     lockedEmpty.unlockBuffer();
-    EXPECT_EQ(lockedEmpty.c_str(), empty().c_str());
+    EXPECT_EQ(lockedEmpty.c_str(), empty.c_str());
 }
 
 TEST(CXString, TakesPartsOfItself) {
     CXString text(u"abcdef");
     text = text.view().substr(2);
-    EXPECT_EQ(text, u"cdef");
     text += text;
-    EXPECT_EQ(text, u"cdefcdef");
     text += text.c_str() + 6;
     EXPECT_EQ(text, u"cdefcdefef");
     const CXString keep = text;
     text = text.view().substr(8);
-    EXPECT_EQ(text, u"ef");
     text = *&text;
     EXPECT_EQ(text, u"ef");
     while (text.length() < 3000) {
@@ -115,82 +94,52 @@ TEST(CXString, GrowsByAppendingUnitByUnit) {
     CXString text;
     std::u16string expected;
     for (int i = 0; i < 3000; ++i) {
-        const auto unit = static_cast<char16_t>(u'!' + i % 90);
-        text += unit;
-        expected += unit;
+        expected += static_cast<char16_t>(u'!' + i % 90);
+        text += expected.back();
     }
     EXPECT_EQ(text, std::u16string_view(expected));
     EXPECT_EQ(text.c_str()[3000], u'\0');
 }
 
-TEST(CXString, Concatenates) {
-    const CXString a(u"a");
-    const CXString nothing;
-    EXPECT_EQ(a + CXString(u"b"), u"ab");
-    EXPECT_EQ(a + u"b", u"ab");
-    EXPECT_EQ(u"b" + a, u"ba");
-    EXPECT_EQ(a + u'b', u"ab");
-    EXPECT_EQ(u'b' + a, u"ba");
-    EXPECT_EQ(a + static_cast<const char16_t*>(nullptr), u"a");
-    EXPECT_EQ((nothing + nothing).c_str(), nothing.c_str());
-}
-
 TEST(CXString, ComparesUnitByUnit) {
     EXPECT_NE(CXString(std::u16string_view(u"a\0b", 3)), CXString(std::u16string_view(u"a\0c", 3)));
-    EXPECT_NE(CXString(u"abc"), CXString(u"abd"));
     EXPECT_NE(CXString(u"abc"), CXString(u"ABC"));
     EXPECT_NE(CXString(u"abc"), u"abcd");
     EXPECT_LT(CXString(u"ab"), CXString(u"abc"));
-    EXPECT_LT(CXString(u"Z"), CXString(u"a"));
-    EXPECT_LT(CXString(u"a"), CXString(u"\u00E4"));
     EXPECT_GT(CXString(u"\uFF21"), CXString(u"\U0001F600")); // by unit, not by character
 }
 
 TEST(CXString, GivesParts) {
     const CXString text(u"page-overrides");
-    struct {
-        CXString part;
-        const char16_t* expected;
-    } const rows[]{
-        {text.left(4), u"page"},
-        {text.left(0), u""},
-        {text.left(-1), u""},
-        {text.left(99), u"page-overrides"},
-        {text.right(9), u"overrides"},
-        {text.right(0), u""},
-        {text.right(-1), u""},
-        {text.right(99), u"page-overrides"},
-        {text.mid(5, 4), u"over"},
-        {text.mid(-3, 4), u"page"},
-        {text.mid(9, 99), u"rides"},
-        {text.mid(14, 1), u""},
-        {text.mid(99, 1), u""},
-        {text.mid(5), u"overrides"},
-        {text.mid(2, INT32_MAX), u"ge-overrides"},
-        {text.mid(2, -1), u""},
-        {text.mid(INT32_MIN), u"page-overrides"},
-    };
-    for (const auto& row : rows) {
-        EXPECT_EQ(row.part, row.expected);
+    const CXString& all = text;
+    const Rows<CXString, CXString> rows{{text.left(4), u"page"},
+                                        {text.left(-1), u""},
+                                        {text.left(99), all},
+                                        {text.right(9), u"overrides"},
+                                        {text.right(-1), u""},
+                                        {text.right(99), all},
+                                        {text.mid(5, 4), u"over"},
+                                        {text.mid(-3, 4), u"page"},
+                                        {text.mid(9, 99), u"rides"},
+                                        {text.mid(99, 1), u""},
+                                        {text.mid(2, INT32_MAX), u"ge-overrides"},
+                                        {text.mid(2, -1), u""},
+                                        {text.mid(INT32_MIN), all}};
+    for (const auto& [part, expected] : rows) {
+        EXPECT_EQ(part, expected);
     }
-    EXPECT_EQ(text.left(99).c_str(), text.c_str()) << "the whole is shared";
 }
 
 TEST(CXString, FindsPositions) {
     const CXString text(u"a4-a4-a3");
-    EXPECT_EQ(text.find(u'a'), 0);
     EXPECT_EQ(text.find(u'a', 1), 3);
     EXPECT_EQ(text.find(u'a', -7), 0);
-    EXPECT_EQ(text.find(u'a', 7), -1);
     EXPECT_EQ(text.find(u'a', 8), -1);
-    EXPECT_EQ(text.find(u'x'), -1);
-    EXPECT_EQ(text.find(u"a3"), 6);
     EXPECT_EQ(text.find(u"a4", 1), 3);
     EXPECT_EQ(text.find(u"a4", 4), -1);
     EXPECT_EQ(text.find(u"", 8), 8);
     EXPECT_EQ(text.find(u"", 9), -1) << "a start beyond the length finds nothing";
     EXPECT_EQ(text.findLast(u'a'), 6);
-    EXPECT_EQ(text.findLast(u'x'), -1);
     EXPECT_EQ(CXString().findLast(u'x'), -1);
 }
 
@@ -200,45 +149,33 @@ TEST(CXString, Trims) {
     text.trim();
     EXPECT_EQ(text, u"a b");
     EXPECT_EQ(keep.length(), 10);
-    CXString blank(u" \t ");
-    blank.trimRight();
-    EXPECT_TRUE(blank.isEmpty());
     CXString zeros(u"00700");
     zeros.trimLeft(u'0');
     EXPECT_EQ(zeros, u"700");
-    zeros.trimRight(u'0');
-    EXPECT_EQ(zeros, u"7");
-    CXString quoted(u"'\"x\"");
-    quoted.trimLeft(u"\"'");
-    quoted.trimRight(u"\"'");
-    EXPECT_EQ(quoted, u"x");
+    zeros.trimRight(u"07");
+    EXPECT_TRUE(zeros.isEmpty());
 }
 
 TEST(CXString, GivesItsBufferForWriting) {
     CXString text(u"abc");
-    char16_t* buffer = text.getBuffer(5);
-    EXPECT_EQ(std::u16string_view(buffer), u"abc");
-    std::u16string_view(u"12345").copy(buffer, 5);
+    EXPECT_EQ(std::u16string_view(text.getBuffer(5)), u"abc");
+    std::u16string_view(u"12345").copy(text.getBuffer(5), 5);
     text.releaseBuffer(5);
     EXPECT_EQ(text, u"12345");
-    buffer = text.getBuffer(0);
-    buffer[2] = u'\0';
+    text.getBuffer(0)[2] = u'\0';
     text.releaseBuffer();
     EXPECT_EQ(text, u"12");
-    buffer = text.getBuffer(600);
-    std::fill_n(buffer, 600, u'x');
+    std::fill_n(text.getBuffer(600), 600, u'x');
     text.releaseBuffer(INT32_MAX);
     EXPECT_GE(text.length(), 600);
     EXPECT_LE(text.length(), 1024) << "no further than the buffer";
 }
 
 TEST(CXString, ConvertsNarrowText) {
-    CXString text("plain");
-    EXPECT_EQ(text, u"plain");
+    CXString text("plain text", 5);
     EXPECT_EQ(text.toNarrow(), "plain");
     text = "";
     EXPECT_TRUE(text.isEmpty());
-    EXPECT_EQ(CXString("plain text", 5), u"plain");
     // Every ANSI code page shows ASCII; what else it shows is the platform's affair.
     EXPECT_EQ(CXString(CXString(u"a\u00B7b").toNarrow().c_str()).length(), 3);
 }
@@ -256,23 +193,16 @@ TEST(CXString, LoadsStringsOfAnyLength) {
 }
 
 TEST(CXString, ReplacesAll) {
-    struct {
-        const char16_t* source;
-        const char16_t* search;
-        const char16_t* replacement;
-        const char16_t* expected;
-    } const rows[]{
+    const Rows<const char16_t*, const char16_t*, const char16_t*, const char16_t*> rows{
         {u"a,b,,c", u",", u"; ", u"a; b; ; c"},
         {u"aaaa", u"aa", u"b", u"bb"},
         {u"aabb", u"ab", u"", u"ab"},
         {u"abc", u"x", u"y", u"abc"},
         {u"abc", u"", u"y", u"abc"},
-        {u"abc", u"b", u"abc", u"abc"},
         {u"a&b", u"&", u"&amp;", u"a&b"},
-        {u"xx", u"xx", u"", u""},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(replaceAll(CXString(row.source), row.search, row.replacement), row.expected);
+    for (const auto& [source, search, replacement, expected] : rows) {
+        EXPECT_EQ(replaceAll(CXString(source), search, replacement), expected);
     }
 }
 

@@ -1,15 +1,15 @@
 #include "ocore/Registry.h"
 
-#include <optional>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include "PrintText.h"
 #include "ocore/Exceptions.h"
+#include "support/Rows.h"
 #include "support/ScratchPreferences.h"
 
-namespace zent {
+namespace zent::test {
 namespace {
 
 constexpr const char16_t* key = u"a\\key";
@@ -17,90 +17,69 @@ constexpr const char16_t* name = u"name";
 
 class RegistryTest : public testing::Test {
 protected:
-    const test::ScratchPreferences m_scratch;
+    const ScratchPreferences m_scratch;
     const Registry m_registry{};
 
-    std::uint32_t storedType() const {
+    std::string stored() const {
         platform::StoredPreference value;
         EXPECT_EQ(platform::readPreference(key, name, value).status,
                   platform::PreferenceStatus::done);
-        return value.type;
-    }
-    ByteBuffer storedBytes() const {
-        ByteBuffer value;
-        EXPECT_TRUE(m_registry.getValue(key, name, value));
-        return value;
+        const auto* const bytes = reinterpret_cast<const char*>(value.bytes.data());
+        return std::to_string(value.type) + ':' + std::string(bytes, value.bytes.size());
     }
 };
 
 TEST_F(RegistryTest, WritesEachTypeInItsForm) {
     m_registry.setBoolValue(key, name, true);
-    EXPECT_EQ(storedType(), registryType::binary);
-    EXPECT_EQ(storedBytes(), ByteBuffer("\x01", 1));
+    EXPECT_EQ(stored(), "3:\x01");
     m_registry.setLongValue(key, name, -2);
-    EXPECT_EQ(storedType(), registryType::number);
-    EXPECT_EQ(storedBytes(), ByteBuffer("\xFE\xFF\xFF\xFF", 4));
+    EXPECT_EQ(stored(), "4:\xFE\xFF\xFF\xFF");
     m_registry.setStringValue(key, name, u"a\u20AC");
-    EXPECT_EQ(storedType(), registryType::text);
-    EXPECT_EQ(storedBytes(), ByteBuffer("a\0\xAC\x20", 4));
+    EXPECT_EQ(stored(), std::string("1:a\0\xAC\x20", 6));
     m_registry.setDataValue(key, name, ByteBuffer("\0x", 2));
-    EXPECT_EQ(storedType(), registryType::binary);
-    EXPECT_EQ(storedBytes(), ByteBuffer("\0x", 2));
+    EXPECT_EQ(stored(), std::string("3:\0x", 4));
 }
 
 TEST_F(RegistryTest, ReadsWithDefaults) {
     const ByteBuffer otherData("default", 7);
-    const auto expectDefaults = [&] {
-        EXPECT_TRUE(m_registry.getBoolValue(key, name, true));
-        EXPECT_FALSE(m_registry.getBoolValue(key, name, false));
-        EXPECT_EQ(m_registry.getLongValue(key, name, -5), -5);
-    };
     ByteBuffer value("before", 6);
     EXPECT_FALSE(m_registry.getValue(key, name, value));
     EXPECT_TRUE(value.isEmpty());
-    expectDefaults();
     EXPECT_EQ(m_registry.getStringValue(key, name, u"default"), u"default");
     EXPECT_EQ(m_registry.getDataValue(key, name, otherData), otherData);
-
-    // An empty value is a text or data, but neither a truth value nor a number.
-    m_registry.setDataValue(key, name, {});
-    EXPECT_TRUE(m_registry.getValue(key, name, value));
-    expectDefaults();
+    for (const bool isThere : {false, true}) { // an empty value is neither truth nor number
+        EXPECT_EQ(m_registry.getValue(key, name, value), isThere);
+        EXPECT_TRUE(m_registry.getBoolValue(key, name, true));
+        EXPECT_FALSE(m_registry.getBoolValue(key, name, false));
+        EXPECT_EQ(m_registry.getLongValue(key, name, -5), -5);
+        m_registry.setDataValue(key, name, {});
+    }
     EXPECT_EQ(m_registry.getStringValue(key, name, u"default"), u"");
     EXPECT_EQ(m_registry.getDataValue(key, name, otherData), ByteBuffer());
 }
 
 TEST_F(RegistryTest, ReadsBytesAsWhatIsAskedFor) {
-    const struct {
-        std::string content;
-        bool asBool;
-        std::optional<std::int32_t> asLong; // none: too short
-        const char16_t* asString;
-    } rows[] = {
-        {std::string("\0", 1), false, std::nullopt, u""},
-        {std::string("x\0\0", 3), true, std::nullopt, u"x"},
+    constexpr std::int32_t tooShort = -1;
+    const Rows<std::string, bool, std::int32_t, CXString> rows{
+        {std::string("\0", 1), false, tooShort, u""},
+        {std::string("x\0\0", 3), true, tooShort, u"x"},
         {std::string("\0\x01\0\0", 4), false, 256, u"\u0100"},
         {"abcde", true, 0x64636261, u"\u6261\u6463"},
         {std::string("o\0k\0\0\0\0\0", 8), true, 0x6B006F, u"ok"}, // with terminators
-        {std::string("o\0\0\0k\0", 6), true, 0x6F, nullptr},       // one in the middle stays
+        {std::string("o\0\0\0k\0", 6), true, 0x6F, std::u16string_view(u"o\0k", 3)}, // not the end
     };
-    for (const auto& row : rows) {
-        m_registry.setDataValue(key, name, ByteBuffer(row.content.data(), row.content.size()));
-        EXPECT_EQ(m_registry.getBoolValue(key, name, !row.asBool), row.asBool);
-        if (row.asLong) {
-            EXPECT_EQ(m_registry.getLongValue(key, name, 0), *row.asLong);
-        } else {
+    for (const auto& [content, asBool, asLong, asString] : rows) {
+        m_registry.setDataValue(key, name, ByteBuffer(content.data(), content.size()));
+        EXPECT_EQ(m_registry.getBoolValue(key, name, !asBool), asBool);
+        if (asLong == tooShort) {
             EXPECT_THROW(m_registry.getLongValue(key, name, 0),
                          NotEnoughBytesForDesiredDataTypeException);
-        }
-        const CXString text = m_registry.getStringValue(key, name, u"default");
-        if (row.asString != nullptr) {
-            EXPECT_EQ(text, row.asString);
         } else {
-            EXPECT_EQ(text.length(), 3);
+            EXPECT_EQ(m_registry.getLongValue(key, name, 0), asLong);
         }
+        EXPECT_EQ(m_registry.getStringValue(key, name, u"default"), asString);
     }
 }
 
 } // namespace
-} // namespace zent
+} // namespace zent::test
