@@ -5,26 +5,20 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 #include <vector>
 
+#include "SameList.h"
 #include "ocore/AnlXlate/OrdoTranslator.h"
-#include "ocore/Attributes/IppList.h"
 #include "ocore/FeatureSettings/FeatureSettings.h"
 #include "zent27.h"
 
 namespace {
 
-using zent::AttrNode;
 using zent::AttrNodeList;
 using zent::AttrValue;
-using zent::CXString;
-
-void require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
+using zent::fuzz::listOf;
+using zent::fuzz::require;
+using zent::fuzz::requireSameList;
 
 /// One silent session for all inputs, so that what an input leaves behind meets the next one.
 class Session {
@@ -73,10 +67,6 @@ private:
     zent::FeatureSettings* m_settings = nullptr;
 };
 
-const AttrNodeList& listOf(const AttrValue& value) {
-    return static_cast<const zent::IppList&>(value).getAttrNodeList();
-}
-
 int depthOf(const AttrNodeList& list) {
     int deepest = 0;
     for (std::uint32_t i = 0; i < list.getNumberOfNodes(); ++i) {
@@ -84,56 +74,6 @@ int depthOf(const AttrNodeList& list) {
         deepest = std::max(deepest, value.isList() ? depthOf(listOf(value)) : 0);
     }
     return deepest + 1;
-}
-
-CXString trimmed(CXString text) {
-    text.trim();
-    return text;
-}
-
-/// A value without text and a list without members are written, but not read back.
-bool isReadBack(const AttrValue& value) {
-    return value.isList() ? listOf(value).getNumberOfNodes() != 0 : !value.getIppValue().isEmpty();
-}
-
-/// Texts keep their white space only as names and texts; a text that is nothing else is read as a
-/// list. A document of XML 1.1 can hold characters that can't be written; they become others.
-void requireSameText(const AttrValue& written, const AttrValue& read) {
-    const CXString text = written.getIppValue();
-    if (!written.isSpacePreserved() && trimmed(text).isEmpty()) {
-        require(read.isList() && listOf(read).getNumberOfNodes() == 0);
-        return;
-    }
-    require(read.getAttrValueType() == written.getAttrValueType());
-    require(read.getIppSyntax() == written.getIppSyntax());
-    for (const char16_t unit : text.view()) {
-        if (unit < u' ' || unit >= 0xFFFE) {
-            return;
-        }
-    }
-    require(written.isSpacePreserved() ? read.getIppValue() == text
-                                       : read.getIppValue() == trimmed(text));
-}
-
-void requireSameList(const AttrNodeList& written, const AttrNodeList& read) {
-    std::uint32_t place = 0;
-    for (std::uint32_t i = 0; i < written.getNumberOfNodes(); ++i) {
-        const AttrNode& node = written.getNodeAt(i);
-        const AttrValue& value = node.getAttrValue();
-        if (!isReadBack(value)) {
-            continue;
-        }
-        require(place < read.getNumberOfNodes());
-        const AttrNode& other = read.getNodeAt(place++);
-        require(other.getName() == node.getName());
-        if (value.isList()) {
-            require(other.getAttrValue().isList());
-            requireSameList(listOf(value), listOf(other.getAttrValue()));
-        } else {
-            requireSameText(value, other.getAttrValue());
-        }
-    }
-    require(place == read.getNumberOfNodes());
 }
 
 void requireNamedFailure(ZentResult result) {
