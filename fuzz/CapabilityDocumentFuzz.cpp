@@ -44,13 +44,14 @@ void openSessionOnce() {
     require(session != nullptr);
 }
 
-/// Runs a query that may raise: where data are missing, or of another type.
+/// Runs a query that may raise: where data are missing, of another type, or of no known value.
 template <typename Query>
 void ask(const Query& query) {
     try {
         query();
     } catch (const MissingCapabilityDataException&) {
     } catch (const AttributeTypeMismatchException&) {
+    } catch (const UnknownFeatureRequestException&) {
     }
 }
 
