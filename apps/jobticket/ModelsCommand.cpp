@@ -61,8 +61,9 @@ std::string makeTable(const std::vector<Model>& models) {
 ExitStatus list(const ModelsOptions& options) {
     const std::vector<Model> models = findModels(options.pattern);
     if (models.empty()) {
-        throw ProgramError(ExitStatus::badValue, "there is no printer \"" + options.pattern +
-                                                     "\"; \"jobticket models\" lists all");
+        throw ProgramError(ExitStatus::badValue, "there is no printer " +
+                                                     inQuotes(options.pattern) +
+                                                     R"(; "jobticket models" lists all)");
     }
     std::string text;
     if (options.table) {

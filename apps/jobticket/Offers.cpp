@@ -161,27 +161,26 @@ private:
     Feature m_feature;
 };
 
+/// Adds a feature, and what the printer lets it hold.
+void addOffered(std::set<zent::FeatureEnum>& offered, const Capabilities& capabilities,
+                const Feature& feature) {
+    if (!offered.insert(feature.getNumber()).second) {
+        return;
+    }
+    if (feature.getKind() == ValueKind::size) { // of its members nothing is told: it has both
+        offered.insert({zent::feature::xDimension, zent::feature::yDimension});
+    }
+    for (const Feature& member : readMembers(capabilities, feature)) {
+        addOffered(offered, capabilities, member);
+    }
+}
+
 /// The features that the printer has, by number: in tickets, and in the collections that it has.
 std::set<zent::FeatureEnum> findOffered(const Capabilities& capabilities) {
-    std::vector<Feature> found;
     std::set<zent::FeatureEnum> offered;
-    const auto add = [&](const Feature& feature) {
-        if (offered.insert(feature.getNumber()).second) {
-            found.push_back(feature);
-        }
-    };
     for (const Feature& feature : Feature::all()) {
         if (capabilities.isFeatureSupported(feature.getId())) {
-            add(feature);
-        }
-    }
-    for (std::size_t index = 0; index < found.size(); ++index) { // grows on the way
-        if (found[index].getKind() == ValueKind::size) { // its members aren't told: it has both
-            add(Feature(zent::feature::xDimension));
-            add(Feature(zent::feature::yDimension));
-        }
-        for (const Feature& member : readMembers(capabilities, found[index])) {
-            add(member);
+            addOffered(offered, capabilities, feature);
         }
     }
     return offered;

@@ -87,6 +87,30 @@ std::string readData(const std::string& name, const std::string& value) {
     return bytes;
 }
 
+ZentText toKey(const std::string& name) { return toZent(fromUtf8(name)); }
+
+// `otherwise` chooses one of two defaults for where nothing is stored.
+
+std::string readStoredText(ZentSessionType session, const std::string& name, bool otherwise) {
+    constexpr const char* call = "fnGetPreferenceStringValue";
+    const ZentText key = toKey(name);
+    const ZentText fallback(1, otherwise ? ZentChar('1') : ZentChar('0'));
+    auto text = fetch<ZentText>(call, name, [&](ZentChar* buffer, std::uint32_t* size) {
+        return fnGetPreferenceStringValue(session, key.c_str(), buffer, size, fallback.c_str());
+    });
+    text.pop_back(); // the terminator
+    return toUtf8(fromZent(text));
+}
+
+std::string readStoredData(ZentSessionType session, const std::string& name, bool otherwise) {
+    constexpr const char* call = "fnGetPreferenceDataValue";
+    const ZentText key = toKey(name);
+    const char fallback = otherwise ? 1 : 0;
+    return writeData(fetch<std::string>(call, name, [&](void* buffer, std::uint32_t* size) {
+        return fnGetPreferenceDataValue(session, key.c_str(), buffer, size, &fallback, 1);
+    }));
+}
+
 std::string writeDefault(const zent::PreferenceInfo& info) {
     switch (static_cast<PreferenceType>(info.dataType)) {
     case PreferenceType::boolean:
@@ -125,10 +149,9 @@ std::vector<WellKnownPreference> getWellKnownPreferences() {
     return result;
 }
 
-/// `otherwise` chooses one of two defaults for where nothing is stored.
 std::string Preferences::read(const std::string& name, PreferenceType type, bool otherwise) const {
-    const ZentText nameText = toZent(fromUtf8(name));
-    const ZentChar* key = nameText.c_str();
+    const ZentText keyText = toKey(name);
+    const ZentChar* key = keyText.c_str();
     switch (type) {
     case PreferenceType::boolean: {
         ZentBool value = 0;
@@ -143,23 +166,12 @@ std::string Preferences::read(const std::string& name, PreferenceType type, bool
               "fnGetPreferenceNumberValue", name);
         return type == PreferenceType::unit ? writeUnit(value) : std::to_string(value);
     }
-    case PreferenceType::text: {
-        const ZentText text(1, otherwise ? ZentChar('1') : ZentChar('0'));
-        return toUtf8(fromZent(fetch<ZentText>("fnGetPreferenceStringValue", name,
-                                               [&](ZentChar* buffer, std::uint32_t* size) {
-                                                   return fnGetPreferenceStringValue(
-                                                       m_session, key, buffer, size, text.c_str());
-                                               })
-                                   .c_str()));
-    }
+    case PreferenceType::text:
+        return readStoredText(m_session, name, otherwise);
     case PreferenceType::data:
         break;
     }
-    const char byte = otherwise ? 1 : 0;
-    return writeData(fetch<std::string>(
-        "fnGetPreferenceDataValue", name, [&](void* buffer, std::uint32_t* size) {
-            return fnGetPreferenceDataValue(m_session, key, buffer, size, &byte, 1);
-        }));
+    return readStoredData(m_session, name, otherwise);
 }
 
 std::optional<std::string> Preferences::find(const std::string& name, PreferenceType type) const {
@@ -170,8 +182,8 @@ std::optional<std::string> Preferences::find(const std::string& name, Preference
 
 void Preferences::store(const std::string& name, PreferenceType type,
                         const std::string& value) const {
-    const ZentText nameText = toZent(fromUtf8(name));
-    const ZentChar* key = nameText.c_str();
+    const ZentText keyText = toKey(name);
+    const ZentChar* key = keyText.c_str();
     switch (type) {
     case PreferenceType::boolean:
         check(fnSetPreferenceBoolValue(m_session, key, readBool(name, value) ? 1 : 0),
