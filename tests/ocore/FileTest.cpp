@@ -1,64 +1,42 @@
 #include "ocore/File.h"
 
-#include <filesystem>
-#include <fstream>
-#include <string>
-
 #include <gtest/gtest.h>
 
 #include "PrintText.h"
-#include "ocore/Exceptions.h"
+#include "support/Raised.h"
+#include "support/ScratchFolder.h"
 
-namespace zent {
+namespace zent::test {
 namespace {
 
-class FileTest : public testing::Test {
-protected:
-    const std::filesystem::path m_path = std::filesystem::path(testing::TempDir()) / "FileTest.bin";
-    const CXString m_name = CXString(m_path.string().c_str());
-
-    void write(const std::string& content) const {
-        std::ofstream(m_path, std::ios::binary) << content;
-    }
-    void TearDown() override { std::filesystem::remove(m_path); }
-};
-
-TEST_F(FileTest, ReadsWholeFiles) {
+TEST(FileTest, ReadsWholeFiles) {
+    const ScratchFolder folder;
     std::string large(300'000, 'x');
     for (std::size_t i = 0; i < large.size(); ++i) {
         large[i] = static_cast<char>(i * 7 % 251);
     }
     for (const std::string& content : {std::string("a\r\n\0\x1A", 5), std::string(), large}) {
-        write(content);
+        folder.write("file", content);
         ByteBuffer buffer("before", 6);
-        File::read(m_name, buffer);
+        File::read(folder.file("file"), buffer);
         EXPECT_EQ(buffer, ByteBuffer(content.data(), content.size()));
-        EXPECT_TRUE(File::exists(m_name));
+        EXPECT_TRUE(File::exists(folder.file("file")));
     }
 }
 
-TEST_F(FileTest, SaysWhatItCannotOpen) {
+TEST(FileTest, SaysWhatItCannotRead) {
+    const ScratchFolder folder;
     ByteBuffer buffer("before", 6);
-    for (const CXString& name : {m_name, CXString(), CXString(testing::TempDir().c_str())}) {
+    for (const CXString& name : {folder.file("none"), CXString(), folder.file("")}) {
         EXPECT_FALSE(File::exists(name)) << name.toNarrow();
-        try {
-            File::read(name, buffer);
-            ADD_FAILURE() << name.toNarrow();
-        } catch (const CreateFileForReadingException& exception) {
-            EXPECT_EQ(exception.getMessage(),
-                      u"File::read(): CreateFile() failed to open file " + name + u".\r\n");
-        }
+        EXPECT_EQ(raised<CreateFileForReadingException>([&] { File::read(name, buffer); }),
+                  "File::read(): CreateFile() failed to open file " + name.toNarrow() + ".\r\n");
     }
     EXPECT_EQ(buffer, ByteBuffer("before", 6));
-}
-
-TEST_F(FileTest, RefusesWhatIsTooLarge) {
-    write("x");
-    std::filesystem::resize_file(m_path, File::largestSize + 1);
-    ByteBuffer buffer;
-    EXPECT_THROW(File::read(m_name, buffer), ReadFileException);
-    EXPECT_TRUE(buffer.isEmpty());
+    folder.write("large", "x");
+    std::filesystem::resize_file(folder.path() / "large", File::largestSize + 1);
+    EXPECT_THROW(File::read(folder.file("large"), buffer), ReadFileException);
 }
 
 } // namespace
-} // namespace zent
+} // namespace zent::test

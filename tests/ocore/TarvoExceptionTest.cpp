@@ -8,8 +8,9 @@
 #include "PrintText.h"
 #include "ocore/Exceptions.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
+#include "support/Rows.h"
 
-namespace zent {
+namespace zent::test {
 namespace {
 
 template <typename E>
@@ -19,11 +20,7 @@ std::unique_ptr<TarvoException> make() {
 
 TEST(TarvoException, EachClassHasItsIdAndResultCode) {
     // clang-format off
-    const struct {
-        std::unique_ptr<TarvoException> (*make)();
-        const char* id;
-        ResultCode code;
-    } rows[] = {
+    const Rows<std::unique_ptr<TarvoException> (*)(), const char*, ResultCode> rows{
         {make<ResourceAcquisitionException>,                  "005:000", 19},
         {make<ExceededNumberOfDlgItems>,                      "007:000", 30},
         {make<UnknownCaseException>,                          "008:000", 29},
@@ -49,97 +46,73 @@ TEST(TarvoException, EachClassHasItsIdAndResultCode) {
         {make<PreferenceDataTypeMismatchException>,           "029:000", 10},
     };
     // clang-format on
-    for (const auto& row : rows) {
-        const auto exception = row.make();
-        EXPECT_EQ(exception->getErrorId().toNarrow(), row.id);
-        EXPECT_EQ(exception->getResultCode(), row.code) << row.id;
-        EXPECT_EQ(exception->getMessage(), u"message\r\n") << row.id;
+    for (const auto& [makeIt, id, code] : rows) {
+        const auto exception = makeIt();
+        EXPECT_EQ(exception->getErrorId().toNarrow(), id);
+        EXPECT_EQ(exception->getResultCode(), code) << id;
+        EXPECT_EQ(exception->getMessage(), u"message\r\n") << id;
         EXPECT_EQ(dynamic_cast<FileException*>(exception.get()) != nullptr,
-                  std::string(row.id).starts_with("022:"))
-            << row.id;
+                  std::string(id).starts_with("022:"));
     }
 }
 
 TEST(OrdoParseException, EachCodeHasItsNameAndResultCode) {
-    // clang-format off
-    const struct {
-        std::int16_t code;
-        const char16_t* name;
-        ResultCode result;
-    } rows[] = {
-        {0,  u"ILLEGAL_ORDOPARSE_EXCEPTION_CODE",          29},
-        {1,  u"XMLEXCEPTION_RAISED_DURING_PARSE",          14},
-        {2,  u"ERROR_REPORTED_DURING_PARSE",               14},
-        {3,  u"XMLEXCEPTION_RAISED_DURING_XML_GENERATION", 26},
-        {4,  u"HANDLEOUTPUT_METHOD_FAILED_IN_WRITECHARS",  26},
-        {5,  u"DOMEXCEPTION_DURING_NODE_CONVERSION",       25},
-        {6,  u"DOMEXCEPTION_DURING_NODE_CREATION",         26},
-        {7,  u"NO_CATEGORY_FOR_ORDO_ATTRIBUTE",            26},
-        {8,  u"NO_XML_SOURCE_BUFFER_SPECIFIED",            28},
-        {9,  u"NO_XML_OUTPUT_RECEIVER_SPECIFIED",          28},
-        {10, u"REQUIRED_DTD_NOT_SPECIFIED",                28},
-        {11, u"TYPE_OF_XML_DATA_NOT_SPECIFIED",            28},
-        {12, u"READFILE_FAILED",                           25},
-        {13, u"FAILED_ALLOCATION_OF_XML_FILE_BUFFER",      25},
-        {14, u"FAILED_GETFILESIZE_DURING_READ",            25},
-        {15, u"FAILED_CREATFILE_DURING_READ",              23},
-        {16, u"FILE_TO_READ_NOT_SPECIFIED",                23},
-        {17, u"FAILED_CREATFILE_DURING_WRITE",             24},
-        {18, u"FILE_TO_WRITE_NOT_SPECIFIED",               24},
-        {19, u"WRITEFILE_FAILED",                          26},
-        {20, u"ATTEMPT_TO_INIT_ZNXML_AFTER_TERMINATION",   28},
-        {21, u"MULTIPLE_TERMINATION_OF_ZNXML",             28},
-        {22, u"XMLEXCEPTION_DURING_ZNXML_INITIALIZATION",  28},
-        {23, u"NULL_DOMDOC_OBJECT_RETURNED",               28},
-        {24, u"", 28},
-        {32767, u"", 28},
-        {-1, u"", 28},
+    // By their codes.
+    const Rows<const char16_t*, ResultCode> rows{
+        {u"ILLEGAL_ORDOPARSE_EXCEPTION_CODE", 29},
+        {u"XMLEXCEPTION_RAISED_DURING_PARSE", 14},
+        {u"ERROR_REPORTED_DURING_PARSE", 14},
+        {u"XMLEXCEPTION_RAISED_DURING_XML_GENERATION", 26},
+        {u"HANDLEOUTPUT_METHOD_FAILED_IN_WRITECHARS", 26},
+        {u"DOMEXCEPTION_DURING_NODE_CONVERSION", 25},
+        {u"DOMEXCEPTION_DURING_NODE_CREATION", 26},
+        {u"NO_CATEGORY_FOR_ORDO_ATTRIBUTE", 26},
+        {u"NO_XML_SOURCE_BUFFER_SPECIFIED", 28},
+        {u"NO_XML_OUTPUT_RECEIVER_SPECIFIED", 28},
+        {u"REQUIRED_DTD_NOT_SPECIFIED", 28},
+        {u"TYPE_OF_XML_DATA_NOT_SPECIFIED", 28},
+        {u"READFILE_FAILED", 25},
+        {u"FAILED_ALLOCATION_OF_XML_FILE_BUFFER", 25},
+        {u"FAILED_GETFILESIZE_DURING_READ", 25},
+        {u"FAILED_CREATFILE_DURING_READ", 23},
+        {u"FILE_TO_READ_NOT_SPECIFIED", 23},
+        {u"FAILED_CREATFILE_DURING_WRITE", 24},
+        {u"FILE_TO_WRITE_NOT_SPECIFIED", 24},
+        {u"WRITEFILE_FAILED", 26},
+        {u"ATTEMPT_TO_INIT_ZNXML_AFTER_TERMINATION", 28},
+        {u"MULTIPLE_TERMINATION_OF_ZNXML", 28},
+        {u"XMLEXCEPTION_DURING_ZNXML_INITIALIZATION", 28},
+        {u"NULL_DOMDOC_OBJECT_RETURNED", 28},
+        {u"", 28},
     };
-    // clang-format on
-    for (const auto& row : rows) {
-        const OrdoParseException exception(row.code, u"");
-        EXPECT_EQ(exception.getErrorCode(), row.code);
-        EXPECT_EQ(exception.getCodeName(), row.name);
-        EXPECT_EQ(exception.getResultCode(), row.result) << row.code;
+    std::int16_t code = 0;
+    for (const auto& [name, result] : rows) {
+        const OrdoParseException exception(code, u"");
+        EXPECT_EQ(exception.getErrorCode(), code);
+        EXPECT_EQ(exception.getCodeName(), name);
+        EXPECT_EQ(exception.getResultCode(), result) << code;
+        ++code;
     }
-}
-
-TEST(OrdoParseException, IsRaisedWithItsCodePlaceAndLevel) {
-    try {
-        raiseOrdoParse(ordoParseCode::readFileFailed, "read %s, %ld bytes\r\n", u"a.xml", 7);
-    } catch (const OrdoParseException& exception) {
-        EXPECT_EQ(exception.getLocationLine(), __LINE__ - 2);
-        EXPECT_EQ(exception.getLocationFile(), u"TarvoExceptionTest.cpp");
-        EXPECT_EQ(exception.getTraceLevel(), 8192U);
-        EXPECT_EQ(exception.getMessage(), u"read a.xml, 7 bytes\r\n");
-        EXPECT_EQ(exception.getErrorId(), u"001:012");
-    }
+    EXPECT_EQ(OrdoParseException(-1, u"").getCodeName(), u"");
 }
 
 TEST(TarvoException, TakesTheNotedLocationOnce) {
-    setExceptionLocation(u"ZENTSession.cpp", 674);
+    setExceptionLocation(u"a.cpp", 674);
     setExceptionLevel(traceLevel::handleCheck);
-    const InvalidZentSessionException first(1, u"first");
+    const InvalidZentSessionException first(1, u"text");
     const InvalidZentSessionException second;
-    EXPECT_EQ(first.getLocationFile(), u"ZENTSession.cpp");
-    EXPECT_EQ(first.getLocationLine(), 674);
-    EXPECT_EQ(first.getTraceLevel(), 32768U);
+    setExceptionLocation(u"b.cpp", 2);
+    const InvalidZentSessionException copy(first); // NOLINT(performance-*): the copy is the point
+    for (const auto* exception : {&first, &copy}) {
+        EXPECT_EQ(exception->getLocationFile(), u"a.cpp");
+        EXPECT_EQ(exception->getLocationLine(), 674);
+        EXPECT_EQ(exception->getTraceLevel(), 32768U);
+        EXPECT_EQ(exception->getMessage(), u"text");
+    }
     EXPECT_TRUE(second.getLocationFile().isEmpty());
     EXPECT_EQ(second.getLocationLine(), 0);
     EXPECT_EQ(second.getTraceLevel(), 1024U);
-    EXPECT_TRUE(second.getMessage().isEmpty());
-}
-
-TEST(TarvoException, CopiesLeaveTheNotedLocationAlone) {
-    setExceptionLocation(u"a.cpp", 1);
-    const InvalidZentSessionException original(u"text");
-    setExceptionLocation(u"b.cpp", 2);
-    const InvalidZentSessionException copy(
-        original); // NOLINT(performance-*): the copy is the point
-    EXPECT_EQ(copy.getLocationFile(), u"a.cpp");
-    EXPECT_EQ(copy.getLocationLine(), 1);
-    EXPECT_EQ(copy.getMessage(), u"text");
-    EXPECT_EQ(InvalidZentSessionException().getLocationLine(), 2);
+    EXPECT_EQ(InvalidZentSessionException().getLocationLine(), 2); // copying left it alone
 }
 
 TEST(TarvoException, IsRaisedWithTheRaiseSitesPlace) {
@@ -151,20 +124,21 @@ TEST(TarvoException, IsRaisedWithTheRaiseSitesPlace) {
         EXPECT_EQ(exception.getTraceLevel(), 8192U);
         EXPECT_EQ(exception.getMessage(), u"value 'x' of 3\r\n");
     }
+    try {
+        raiseOrdoParse(ordoParseCode::readFileFailed, "read %s, %ld bytes\r\n", u"a.xml", 7);
+    } catch (const OrdoParseException& exception) {
+        EXPECT_EQ(exception.getLocationLine(), __LINE__ - 2);
+        EXPECT_EQ(exception.getTraceLevel(), 8192U);
+        EXPECT_EQ(exception.getMessage(), u"read a.xml, 7 bytes\r\n");
+        EXPECT_EQ(exception.getErrorId(), u"001:012");
+    }
 }
 
 TEST(TarvoException, ErrorNumberNamesIdAndLine) {
-    const struct {
-        std::int32_t line;
-        const char* number;
-    } rows[] = {{0, "025:000:0000"},
-                {5, "025:000:0005"},
-                {674, "025:000:0674"},
-                {9999, "025:000:9999"},
-                {12345, "025:000:12345"}};
-    for (const auto& row : rows) {
-        setExceptionLocation(u"a.cpp", row.line);
-        EXPECT_EQ(getErrorNumberText(InvalidZentSessionException()).toNarrow(), row.number);
+    for (const auto& [line, number] : Rows<std::int32_t, const char16_t*>{
+             {0, u"025:000:0000"}, {5, u"025:000:0005"}, {12345, u"025:000:12345"}}) {
+        setExceptionLocation(u"a.cpp", line);
+        EXPECT_EQ(getErrorNumberText(InvalidZentSessionException()), number);
     }
     setExceptionLocation(u"a.cpp", 200);
     EXPECT_EQ(getErrorNumberText(OrdoParseException(12, u"")), u"001:012:0200");
@@ -172,4 +146,4 @@ TEST(TarvoException, ErrorNumberNamesIdAndLine) {
 }
 
 } // namespace
-} // namespace zent
+} // namespace zent::test

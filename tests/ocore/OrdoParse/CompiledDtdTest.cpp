@@ -40,6 +40,10 @@ protected:
         return ordoFailure([] { readOrdo(ordoTicket("<copies syntax='integer'>1</copies>")); });
     }
 
+    static std::string write() {
+        return ordoFailure([] { writeOrdo({}); });
+    }
+
     const std::string m_fine = "nothing was raised";
     ScratchFolder m_folder;
 };
@@ -64,7 +68,7 @@ TEST_F(CompiledDtdTest, IsKeptAsLongAsTheFileIsTheSame) {
 
 TEST_F(CompiledDtdTest, WhatTheFileSaysNowCounts) {
     EXPECT_THAT(readCopies(), StartsWith("2: "));
-    EXPECT_THAT(ordoFailure([] { writeOrdo({}); }), StartsWith("2: ")) << "writing validates too";
+    EXPECT_THAT(write(), StartsWith("2: ")) << "writing validates too";
 
     writeDtd(copiesOnly);
     EXPECT_EQ(readCopies(), m_fine);
@@ -72,13 +76,13 @@ TEST_F(CompiledDtdTest, WhatTheFileSaysNowCounts) {
 
     writeDtd("<!ELEMENT ordo (other)><!ATTLIST ordo version CDATA #IMPLIED>\n");
     EXPECT_THAT(readCopies(), StartsWith("2: "));
-    EXPECT_THAT(ordoFailure([] { writeOrdo({}); }), StartsWith("2: "));
+    EXPECT_THAT(write(), StartsWith("2: "));
 
     writeDtd(copiesOnly);
     EXPECT_EQ(readCopies(), m_fine);
     std::filesystem::remove(m_folder.path() / "ordo-v02025.dtd");
     EXPECT_THAT(readCopies(), StartsWith("2: "));
-    EXPECT_THAT(ordoFailure([] { writeOrdo({}); }), StartsWith("2: "));
+    EXPECT_THAT(write(), StartsWith("2: "));
 }
 
 TEST_F(CompiledDtdTest, OneThatNeedsOtherFilesOrHasFaultsIsReadEachTime) {
@@ -96,7 +100,7 @@ TEST_F(CompiledDtdTest, OneThatNeedsOtherFilesOrHasFaultsIsReadEachTime) {
     writeDtd("nonsense");
     EXPECT_EQ(find(), nullptr);
     EXPECT_THAT(readCopies(), StartsWith("2: "));
-    EXPECT_THAT(ordoFailure([] { writeOrdo({}); }), StartsWith("2: "));
+    EXPECT_THAT(write(), StartsWith("2: "));
 }
 
 TEST_F(CompiledDtdTest, DocumentsMayNameAnotherOneInTheFolder) {

@@ -57,6 +57,11 @@ TEST_F(HostileXmlTest, DocumentsThatAreNoTicketsAreRefused) {
         ordoTicket("<copies>2</copies>"), // no syntax
         ordoTicket("<no-such-attribute syntax=\"integer\">2</no-such-attribute>"),
         ordoDocument("<copies syntax=\"integer\">2</copies>"), // in no category
+        ordoDocument("<job-template-attributes/><job-template-attributes/>"),
+        ordoTicket("<copies syntax='integer'><sides syntax='keyword'/></copies>"),
+        ordoTicket(
+            "<media-col syntax='collection'><copies syntax='integer'>2</copies></media-col>"),
+        ordoTicket("<job-name syntax='name' xml:space='keep'>a</job-name>"),
         ordoTicket("<copies syntax=\"integer\">&nothing;</copies>"),
         ordoTicket("<copies syntax=\"integer\">\x01</copies>"),
         ordoTicket("<copies syntax=\"integer\">\xFF</copies>"),
@@ -65,8 +70,7 @@ TEST_F(HostileXmlTest, DocumentsThatAreNoTicketsAreRefused) {
         "<?xml version=\"9.9\"?>" + good.substr(good.find("<!DOC")),
         "<!DOCTYPE ordo SYSTEM \"no-such.dtd\"><ordo/>",
         "<!DOCTYPE other SYSTEM \"ordo-v02025.dtd\"><ordo/>",
-        "<!DOCTYPE & SYSTEM \"ordo-v02025.dtd\"><ordo/>",
-    };
+        "<!DOCTYPE & SYSTEM \"ordo-v02025.dtd\"><ordo/>"};
     for (const std::string& document : rows) {
         EXPECT_THAT(failureOf(document),
                     AllOf(StartsWith("2: TarvoXmlParser::parse(): There was a problem with the "
@@ -91,12 +95,9 @@ TEST_F(HostileXmlTest, MessagesTellEveryErrorAndQuoteTheBeginningOnly) {
     EXPECT_THAT(failure, HasSubstr("Error at line 4, column"));
     EXPECT_THAT(failure, HasSubstr("\r\nXML is:\r\n\r\n<?xml version=\"1.0\""));
     EXPECT_LT(failure.size(), xmlLimits::quotedBytes + 4'000);
-}
-
-TEST_F(HostileXmlTest, ErrorsWithoutEndAreToldUpToABound) {
-    const std::string failure = failureOf(ordoTicket(repeated("<wrong/>", 100'000)));
-    EXPECT_THAT(failure, StartsWith("2: "));
-    EXPECT_LT(failure.size(), std::size_t{xmlLimits::reports} * 1'000);
+    const std::string endless = failureOf(ordoTicket(repeated("<wrong/>", 100'000)));
+    EXPECT_THAT(endless, StartsWith("2: "));
+    EXPECT_LT(endless.size(), std::size_t{xmlLimits::reports} * 1'000);
 }
 
 TEST_F(HostileXmlTest, EntitiesOfADocumentAreExpandedWithinBounds) {
@@ -191,8 +192,8 @@ protected:
 };
 
 TEST_F(ExternalEntityTest, FilesBesideTheDocumentTypeResolve) {
-    const std::string full = m_folder.file("dtd/beside.ent").toNarrow();
-    for (const std::string& name : {std::string("beside.ent"), full}) {
+    for (const std::string& name :
+         {std::string("beside.ent"), m_folder.file("dtd/beside.ent").toNarrow()}) {
         EXPECT_EQ(textOfList(readOrdo(including(name))), "job-name=name:beside") << name;
     }
 }
@@ -200,28 +201,26 @@ TEST_F(ExternalEntityTest, FilesBesideTheDocumentTypeResolve) {
 TEST_F(ExternalEntityTest, NothingElseDoes) {
     const std::string above = m_folder.file("above.ent").toNarrow();
     const std::string folder = m_folder.file("dtd/").toNarrow();
-    const std::string rows[] = {
-        "../above.ent",
-        "..\\above.ent",
-        folder + "../above.ent",
-        above,
-        "file://" + above,
-        "file:///" + above,
-        "http://127.0.0.1:1/x",
-        "ftp://127.0.0.1/x",
-        "./beside.ent",
-        "no-such.ent",
-        ".",
-        "..",
-        "",
-        "beside.ent?x",
-        "%2e%2e/above.ent",
-        "beside.ent/",
-        "//127.0.0.1/x",
-        "\\\\127.0.0.1\\x\\y.ent",
-        folder,
-        "ordo-v02025.dtd",
-    };
+    const std::string rows[] = {"../above.ent",
+                                "..\\above.ent",
+                                folder + "../above.ent",
+                                above,
+                                "file://" + above,
+                                "file:///" + above,
+                                "http://127.0.0.1:1/x",
+                                "ftp://127.0.0.1/x",
+                                "./beside.ent",
+                                "no-such.ent",
+                                ".",
+                                "..",
+                                "",
+                                "beside.ent?x",
+                                "%2e%2e/above.ent",
+                                "beside.ent/",
+                                "//127.0.0.1/x",
+                                "\\\\127.0.0.1\\x\\y.ent",
+                                folder,
+                                "ordo-v02025.dtd"};
     for (const std::string& name : rows) {
         EXPECT_THAT(failureOf(including(name)), StartsWith("2: ")) << name;
         EXPECT_THAT(failureOf("<!DOCTYPE ordo SYSTEM \"" + name + "\"><ordo/>") + name,

@@ -9,6 +9,7 @@
 #include "support/ListText.h"
 #include "support/OrdoDocument.h"
 #include "support/Raised.h"
+#include "support/Rows.h"
 
 namespace zent::test {
 namespace {
@@ -18,18 +19,17 @@ protected:
     OrdoReadTest() { useOrdoDtd(); }
 };
 
-struct Row {
-    const char* attributes;
-    const char* list;
-};
+/// The list in a document, or why there is none.
+std::string read(const std::string& document) {
+    std::string text;
+    const std::string failure = ordoFailure([&] { text = textOfList(readOrdo(document)); });
+    return failure == "nothing was raised" ? text : failure;
+}
 
 TEST_F(OrdoReadTest, ElementsBecomeNodes) {
-    const Row rows[] = {
-        {"", ""},
+    const Rows<const char*, const char*> rows{
         {"<copies syntax='integer'>2</copies><sides syntax='keyword'>one-sided</sides>",
          "copies=2 sides=one-sided"},
-        {"<copies syntax='integer'>2</copies><copies syntax='integer'>3</copies>",
-         "copies=2 copies=3"},
         {"<orientation-requested syntax='enum'>4</orientation-requested>"
          "<toner-saver syntax='boolean'>true</toner-saver>",
          "orientation-requested=enum:4 toner-saver=boolean:true"},
@@ -37,9 +37,6 @@ TEST_F(OrdoReadTest, ElementsBecomeNodes) {
          "<lower-bound syntax='integer'>1</lower-bound> <upper-bound syntax='integer'>5"
          "</upper-bound></value></page-ranges>",
          "page-ranges[value(lower-bound=1 upper-bound=5)]"},
-        {"<media-col syntax='collection'><media-size syntax='collection'>"
-         "<x-dimension syntax='integer'>21000</x-dimension></media-size></media-col>",
-         "media-col{media-size{x-dimension=21000}}"},
         // White space counts where it is marked, whatever the syntax.
         {"<sides syntax=' keyword '>\r\n\t one-sided\n</sides>", "sides=one-sided"},
         {"<sides syntax='keyword' xml:space='preserve'> a </sides>", "sides= a "},
@@ -60,33 +57,24 @@ TEST_F(OrdoReadTest, ElementsBecomeNodes) {
          "<copies syntax='integer'>1</copies>text</value></document-format>",
          "document-format[value{copies=1}]"},
         {"<copies syntax='integer'><!--3-->2</copies>", "copies=3"},
-        {"<copies syntax='integer'><?pi 4?>2</copies>", "copies=4"},
         {"<copies syntax='integer'>2<!--3-->4</copies>", "copies=2"},
         {"<job-name syntax='name'><![CDATA[<a> & b]]></job-name>", "job-name=name:<a> & b"},
         {"<job-name syntax='name'>a<![CDATA[b]]></job-name>", "job-name=name:a"},
         // References are part of the text around them.
         {"<job-name syntax='name'>a&amp;&lt;b&#x2B;&#10;c</job-name>", "job-name=name:a&<b+\nc"},
-        {"<copies syntax='&#105;nteger'>&#50;</copies>", "copies=2"},
         // What isn't known stays by its name and keyword.
         {"<copies syntax='dateTime'>now</copies>", "copies=dateTime:"},
         {"<toner-saver syntax='boolean'>TRUE</toner-saver><copies syntax='integer'>x"
          "</copies>",
          "toner-saver=boolean:false copies=0"},
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(ordoFailure([&] {
-                      EXPECT_EQ(textOfList(readOrdo(ordoTicket(row.attributes))), row.list);
-                  }),
-                  "nothing was raised")
-            << row.attributes;
+    for (const auto& [attributes, list] : rows) {
+        EXPECT_EQ(read(ordoTicket(attributes)), list) << attributes;
     }
-}
-
-TEST_F(OrdoReadTest, AnElementOfWhiteSpaceIsAListOfItsSyntax) {
+    // An element of white space is a list of its syntax, whatever that is.
     const AttrNodeList list = readOrdo(ordoTicket("<copies syntax='integer'> </copies>"));
-    const AttrValue& value = list.getNodeAt(0).getAttrValue();
-    EXPECT_TRUE(value.isList());
-    EXPECT_EQ(value.getIppSyntax(), u"integer");
+    EXPECT_TRUE(list.getNodeAt(0).getAttrValue().isList());
+    EXPECT_EQ(list.getNodeAt(0).getAttrValue().getIppSyntax(), u"integer");
 }
 
 TEST_F(OrdoReadTest, CategoriesAddNoLevel) {
@@ -94,8 +82,10 @@ TEST_F(OrdoReadTest, CategoriesAddNoLevel) {
                              "</job-template-attributes>\n"
                              "<ordo-operation-attributes><copies syntax='integer'>1</copies>"
                              "</ordo-operation-attributes>";
-    EXPECT_EQ(textOfList(readOrdo(ordoDocument(both))), "job-name=name:a copies=1");
-    EXPECT_EQ(textOfList(readOrdo(ordoDocument(""))), "");
+    EXPECT_EQ(read(ordoDocument(both)), "job-name=name:a copies=1");
+    for (const char* nothing : {"", "\r\n\t", "<ordo-operation-attributes/>"}) {
+        EXPECT_EQ(read(ordoDocument(nothing)), "");
+    }
 }
 
 /// The text of the first node.
@@ -141,25 +131,21 @@ TEST_F(OrdoReadTest, TheDocumentSaysItsEncoding) {
 
 TEST_F(OrdoReadTest, AddsToTheListAndLeavesItAloneOnAnError) {
     AttrNodeList list = listOf("sides=one-sided");
-    const std::string good = ordoTicket("<copies syntax='integer'>2</copies>");
-    const std::string bad = ordoTicket("<copies syntax='integer'>2</copies><nonsense/>");
-    OrdoTranslator().anlFromBuffer(ByteBuffer(good.data(), good.size()), &list);
-    EXPECT_THROW(OrdoTranslator().anlFromBuffer(ByteBuffer(bad.data(), bad.size()), &list),
-                 OrdoParseException);
-    EXPECT_EQ(textOfList(list), "sides=one-sided copies=2");
-}
-
-TEST_F(OrdoReadTest, ListsWithTextFailAsTheirValueDoes) {
-    AttrNodeList list;
-    const std::string ticket = ordoTicket("<copies syntax='integer'>2</copies>"
-                                          "<document-format syntax='collection'>a"
-                                          "</document-format><sides syntax='keyword'>x</sides>");
+    const auto add = [&](const char* attributes) {
+        const std::string ticket = ordoTicket(attributes);
+        OrdoTranslator().anlFromBuffer(ByteBuffer(ticket.data(), ticket.size()), &list);
+    };
+    EXPECT_THROW(add("<copies syntax='integer'>2</copies><nonsense/>"), OrdoParseException);
+    EXPECT_EQ(textOfList(list), "sides=one-sided");
+    // A list with text fails as its value does.
     EXPECT_EQ(raised<UnknownCaseException>([&] {
-                  OrdoTranslator().anlFromBuffer(ByteBuffer(ticket.data(), ticket.size()), &list);
+                  add("<copies syntax='integer'>2</copies>"
+                      "<document-format syntax='collection'>a</document-format>"
+                      "<sides syntax='keyword'>x</sides>");
               }),
               "AttrValueFactory::createSimpleAttrValue(AVTE): unhandled attribute value "
               "enumeration (10).\r\n");
-    EXPECT_EQ(textOfList(list), "copies=2") << "what came before stays";
+    EXPECT_EQ(textOfList(list), "sides=one-sided copies=2") << "what came before stays";
 }
 
 /// A form of no rules of its own, to see what all forms do.
@@ -172,8 +158,7 @@ protected:
 };
 
 TEST(TarvoDomDocTest, ElementsWithoutSyntaxAreSkippedWithAllTheyHold) {
-    const Row rows[] = {
-        {"<root><a>1</a></root>", ""},
+    const Rows<std::string_view, const char*> rows{
         {"<root x='1'><a y='2'><b syntax='integer'>1</b></a><c syntax='integer'>2</c></root>",
          "c=2"},
         {"<root>text<c syntax='integer'>2</c><!-- x --></root>", "c=2"},
@@ -181,12 +166,12 @@ TEST(TarvoDomDocTest, ElementsWithoutSyntaxAreSkippedWithAllTheyHold) {
         {"<!DOCTYPE root><root><c syntax='collection'><d>1</d><e syntax='keyword'>f</e></c></root>",
          "c{e=f}"},
     };
-    for (const Row& row : rows) {
+    for (const auto& [text, expected] : rows) {
         PlainDomDoc document;
-        document.parse(std::as_bytes(std::span(std::string_view(row.attributes))));
+        document.parse(std::as_bytes(std::span(text)));
         AttrNodeList list;
         document.toAttrNodeList(&list);
-        EXPECT_EQ(textOfList(list), row.list) << row.attributes;
+        EXPECT_EQ(textOfList(list), expected) << text;
     }
     AttrNodeList list;
     PlainDomDoc().toAttrNodeList(&list); // nothing was parsed

