@@ -41,10 +41,9 @@ void walk(AttrNodeList& list, FeatureEnum& current, const Coder& coder) {
 class Encoder {
 public:
     void renameNode(AttrNode& node, FeatureEnum& current) const {
-        if (m_features.hasUniqueID(node.getName())) {
-            const FeatureInfo& feature = m_features.getFeatureInfo(node.getName());
-            current = feature.m_feature;
-            node.setAttrID(AttrID(feature.m_abbreviation));
+        if (const FeatureInfo* const feature = m_features.findFeatureInfo(node.getName())) {
+            current = feature->m_feature;
+            node.setAttrID(AttrID(feature->m_abbreviation));
             return;
         }
         for (const auto& [name, code] : memberCodes) {
@@ -60,10 +59,10 @@ public:
         const CXString text = value.getIppValue();
         if (text.view().starts_with(mark) || m_values.hasAbbreviation(text)) {
             value.setIppValue(mark + text);
-        } else if (current != noFeature && m_values.hasFeatureValue(current, text)) {
-            const CXString& code = m_values.getFeatureValueInfo(current, text).m_abbreviation;
-            if (!code.isEmpty()) {
-                value.setIppValue(code);
+        } else if (current != noFeature) {
+            const FeatureValueInfo* const known = m_values.findFeatureValueInfo(current, text);
+            if (known != nullptr && !known->m_abbreviation.isEmpty()) {
+                value.setIppValue(known->m_abbreviation);
             }
         }
     }
@@ -76,10 +75,10 @@ private:
 class Decoder {
 public:
     void renameNode(AttrNode& node, FeatureEnum& current) const {
-        if (m_features.hasAbbreviation(node.getName())) {
-            const FeatureInfo& feature = m_features.getFeatureInfoByAbbreviation(node.getName());
-            current = feature.m_feature;
-            node.setAttrID(AttrID(feature.m_nestedID.getName()));
+        if (const FeatureInfo* const feature =
+                m_features.findFeatureInfoByAbbreviation(node.getName())) {
+            current = feature->m_feature;
+            node.setAttrID(AttrID(feature->m_nestedID.getName()));
             return;
         }
         for (const auto& [name, code] : memberCodes) {
@@ -104,8 +103,12 @@ public:
                 return;
             }
         }
-        if (current != noFeature && m_values.hasAbbreviation(text)) {
-            value.setIppValue(m_values.getFeatureValueInfoByAbbreviation(text).m_text);
+        if (current == noFeature) {
+            return;
+        }
+        if (const FeatureValueInfo* const known =
+                m_values.findFeatureValueInfoByAbbreviation(text)) {
+            value.setIppValue(known->m_text);
         }
     }
 

@@ -68,12 +68,21 @@ bool FeatureDataBase::hasFeature(FeatureEnum feature) const {
     return feature >= firstFeature && feature - firstFeature < store().byNumber.size();
 }
 
+const FeatureInfo* FeatureDataBase::findFeatureInfo(const CXString& uniqueID) const {
+    return findByText(store().byUniqueID, uniqueID);
+}
+
+const FeatureInfo*
+FeatureDataBase::findFeatureInfoByAbbreviation(const CXString& abbreviation) const {
+    return findByText(store().byAbbreviation, abbreviation);
+}
+
 bool FeatureDataBase::hasUniqueID(const CXString& uniqueID) const {
-    return findByText(store().byUniqueID, uniqueID) != nullptr;
+    return findFeatureInfo(uniqueID) != nullptr;
 }
 
 bool FeatureDataBase::hasAbbreviation(const CXString& abbreviation) const {
-    return findByText(store().byAbbreviation, abbreviation) != nullptr;
+    return findFeatureInfoByAbbreviation(abbreviation) != nullptr;
 }
 
 const FeatureInfo& FeatureDataBase::getFeatureInfo(FeatureEnum feature) const {
@@ -87,7 +96,7 @@ const FeatureInfo& FeatureDataBase::getFeatureInfo(FeatureEnum feature) const {
 
 const FeatureInfo& FeatureDataBase::getFeatureInfo(const CXString& uniqueID) const {
     const AttrID id(uniqueID); // empty text fails as an attribute name
-    const FeatureInfo* const info = findByText(store().byUniqueID, id.getText());
+    const FeatureInfo* const info = findFeatureInfo(id.getText());
     if (info == nullptr) {
         Raise<UnknownFeatureRequestException>()(
             "FeatureDataBase::getFeatureInfo( UniqueID ) could not find requested ID '%s'\r\n",
@@ -98,7 +107,7 @@ const FeatureInfo& FeatureDataBase::getFeatureInfo(const CXString& uniqueID) con
 
 const FeatureInfo&
 FeatureDataBase::getFeatureInfoByAbbreviation(const CXString& abbreviation) const {
-    const FeatureInfo* const info = findByText(store().byAbbreviation, abbreviation);
+    const FeatureInfo* const info = findFeatureInfoByAbbreviation(abbreviation);
     if (info == nullptr) {
         Raise<UnknownFeatureRequestException>()("FeatureDataBase::getFeatureInfoByAbbreviation() "
                                                 "could not find requested ID '%s'\r\n",

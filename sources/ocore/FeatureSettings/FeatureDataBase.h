@@ -9,7 +9,7 @@ namespace zent {
 /// lookups take no lock. Numbers, ids and abbreviations compare exactly.
 ///
 /// A lookup that fails raises UnknownFeatureRequestException; an empty id raises
-/// InvalidAttributeIdException. The "has" lookups never fail.
+/// InvalidAttributeIdException. The "find" and "has" lookups never fail.
 class FeatureDataBase {
 public:
     FeatureDataBase();
@@ -17,6 +17,10 @@ public:
     const FeatureInfo& getFeatureInfo(FeatureEnum feature) const;
     const FeatureInfo& getFeatureInfo(const CXString& uniqueID) const;
     const FeatureInfo& getFeatureInfoByAbbreviation(const CXString& abbreviation) const;
+
+    /// These give null if there is none.
+    const FeatureInfo* findFeatureInfo(const CXString& uniqueID) const;
+    const FeatureInfo* findFeatureInfoByAbbreviation(const CXString& abbreviation) const;
 
     bool hasFeature(FeatureEnum feature) const;
     bool hasUniqueID(const CXString& uniqueID) const;

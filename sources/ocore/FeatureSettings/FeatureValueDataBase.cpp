@@ -161,6 +161,16 @@ FeatureValueDataBase::getFeatureValueInfoByAbbreviation(const CXString& abbrevia
     return *info;
 }
 
+const FeatureValueInfo* FeatureValueDataBase::findFeatureValueInfo(FeatureEnum feature,
+                                                                   const CXString& text) const {
+    return findByText(feature, text);
+}
+
+const FeatureValueInfo*
+FeatureValueDataBase::findFeatureValueInfoByAbbreviation(const CXString& abbreviation) const {
+    return findByAbbreviation(abbreviation);
+}
+
 bool FeatureValueDataBase::hasValue(std::int32_t value) const {
     return findByNumber(value) != nullptr;
 }

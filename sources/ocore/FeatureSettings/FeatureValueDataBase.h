@@ -10,7 +10,8 @@ namespace zent {
 /// every lookup and addition holds the table's lock for the duration of the call. Rows are never
 /// moved or removed, and references stay valid.
 ///
-/// A lookup that fails raises UnknownFeatureRequestException; the "has" lookups never fail.
+/// A lookup that fails raises UnknownFeatureRequestException; the "find" and "has" lookups never
+/// fail.
 class FeatureValueDataBase {
 public:
     /// Run-time values last for the life of the library, so tickets from outside may bring only so
@@ -22,6 +23,10 @@ public:
     const FeatureValueInfo& getFeatureValueInfo(std::int32_t value) const;
     const FeatureValueInfo& getFeatureValueInfo(FeatureEnum feature, const CXString& text) const;
     const FeatureValueInfo& getFeatureValueInfoByAbbreviation(const CXString& abbreviation) const;
+
+    /// These give null if there is none.
+    const FeatureValueInfo* findFeatureValueInfo(FeatureEnum feature, const CXString& text) const;
+    const FeatureValueInfo* findFeatureValueInfoByAbbreviation(const CXString& abbreviation) const;
 
     bool hasValue(std::int32_t value) const;
     bool hasFeatureValue(FeatureEnum feature, const CXString& text) const;
