@@ -33,6 +33,9 @@ public:
 
     const ByteBuffer& getBytes() const { return m_bytes; }
 
+protected:
+    ByteBuffer& bytes() { return m_bytes; }
+
 private:
     std::uint32_t m_id = 0;
     std::uint32_t m_type = 0;

@@ -50,6 +50,7 @@ public:
     }
 
     void alignTo4() { m_offset = (m_offset + 3) & ~std::uint64_t{3}; }
+    std::size_t getOffset() const { return static_cast<std::size_t>(m_offset); }
 
 private:
     template <typename T>
@@ -72,7 +73,7 @@ bool isExtended(Bytes bytes) {
 
 DialogTemplate::Item takeItem(Cursor& cursor) {
     DialogTemplate::Item item;
-    cursor.alignTo4();
+    const std::size_t start = cursor.getOffset();
     item.style = cursor.take32();
     item.extendedStyle = cursor.take32();
     item.place = cursor.takePlace();
@@ -80,6 +81,8 @@ DialogTemplate::Item takeItem(Cursor& cursor) {
     item.windowClass = cursor.takeName();
     item.title = cursor.takeName();
     cursor.skipCreationData();
+    cursor.alignTo4();
+    item.size = cursor.getOffset() - start;
     return item;
 }
 
@@ -103,6 +106,8 @@ std::optional<DialogTemplate> DialogTemplate::read(Bytes bytes) {
         result.pointSize = cursor.take16();
         result.typeface = cursor.takeText();
     }
+    cursor.alignTo4();
+    result.headerSize = cursor.getOffset();
     for (std::uint16_t i = 0; i < count && !cursor.isPastEnd(); ++i) {
         result.items.push_back(takeItem(cursor));
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -31,6 +32,8 @@ struct DialogTemplate {
         std::uint16_t id = 0;
         Name windowClass;
         Name title;
+        /// In bytes, up to where the next item begins; the padding of the last one may be missing.
+        std::size_t size = 0;
     };
 
     std::uint32_t style = 0;
@@ -41,6 +44,7 @@ struct DialogTemplate {
     std::u16string title;
     std::uint16_t pointSize = 0; // 0 where the template names no font
     std::u16string typeface;
+    std::size_t headerSize = 0; // in bytes, up to where the first item begins
     std::vector<Item> items;
 
     /// Nothing if the bytes are in the extended form, or end before the template does.
