@@ -102,8 +102,9 @@ using CharacterFilter = std::function<bool(std::u16string_view text, std::int32_
 /// Text crosses the port as plain UTF-16, since an adapter may be a library of its own. Lines in it
 /// end with CR LF, in edit items of several lines too.
 ///
-/// An operation on an item that the dialog doesn't have, or on one of another kind, does nothing,
-/// and gives an empty, zero or false answer: pages leave out what they don't show.
+/// An operation on an item that the dialog doesn't have, or on one of another kind, or without a
+/// dialog (null) does nothing, and gives an empty, zero or false answer: pages leave out what they
+/// don't show.
 class WindowSystem {
 public:
     /// The window system at hand, or null where there is none (no display, no adapter). It is

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "ocore/CXString.h"
+#include "plugin_ui/MessageProcessorWithChildren.h"
+#include "plugin_ui/ObserverSubject.h"
+
+namespace zent {
+
+/// One logical control of a dialog, which may span several of its items (a label, a box and a
+/// spin): shows, hides, enables and disables them together, holds the value, and tells its
+/// observers when the user changes it.
+///
+/// Controls are made before there is a window. What is set then is kept, and shown when the dialog
+/// starts or the next time that something is set.
+class UIControl : public MessageProcessorWithChildren, public ObserverSubject {
+public:
+    virtual void setCaptionId(std::uint32_t /*stringId*/) {}
+    /// Makes the items show the value.
+    virtual void displayControl() {}
+    /// Looks at what the user has done; true if it was done to this control.
+    virtual bool processControlMessage(const DialogMessage& /*message*/,
+                                       std::intptr_t& /*result*/) {
+        return false;
+    }
+    /// Prepares the items when the dialog starts.
+    virtual void setControlCallBack() {}
+
+    bool onInitDialog(const DialogMessage& message, std::intptr_t& result) override;
+    bool onCommand(const DialogMessage& message, std::intptr_t& result) override;
+    bool onNotify(const DialogMessage& message, std::intptr_t& result) override;
+    bool onOtherMessage(const DialogMessage& message, std::intptr_t& result) override;
+    bool onShow(const DialogMessage& message, std::intptr_t& result) override;
+    bool onHide(const DialogMessage& message, std::intptr_t& result) override;
+    bool onEnable(const DialogMessage& message, std::intptr_t& result) override;
+    bool onDisable(const DialogMessage& message, std::intptr_t& result) override;
+    /// Disables until onUnlock(), which enables whatever was before.
+    bool onLock(const DialogMessage& message, std::intptr_t& result) override;
+    bool onUnlock(const DialogMessage& message, std::intptr_t& result) override;
+    bool onDestroy(const DialogMessage& message, std::intptr_t& result) override;
+
+    void enable() { deliver(UIM_ENABLE); }
+    void disable() { deliver(UIM_DISABLE); }
+    void setEnabled(bool isEnabled) { deliver(isEnabled ? UIM_ENABLE : UIM_DISABLE); }
+    bool isEnabled() const { return m_isEnabled; }
+    bool isLocked() const { return m_isLocked; }
+
+    void setToolTip(const CXString& text);
+    /// Whether commands that the control has handled go to its children too.
+    void setForwardCommands(bool forwards) { m_forwardCommands = forwards; }
+
+protected:
+    explicit UIControl(std::uint16_t item);
+
+    /// One more item that shows, hides, enables and disables with the control; 0 is none.
+    void addItem(std::uint16_t item);
+    const std::vector<std::uint16_t>& getItemIds() const { return m_itemIds; }
+    /// Null while there is no dialog.
+    platform::WindowHandle getWindow() const { return m_window; }
+    bool hasWindow() const { return m_window != nullptr; }
+
+private:
+    void deliver(std::uint32_t message);
+    void showItems(bool isShown);
+    void enableItems(bool isEnabled);
+
+    platform::WindowHandle m_window = nullptr;
+    std::vector<std::uint16_t> m_itemIds;
+    bool m_isEnabled = true;
+    bool m_isLocked = false;
+    bool m_forwardCommands = false;
+    std::uint16_t m_toolTipItem;
+    CXString m_toolTipText;
+};
+
+} // namespace zent

@@ -1,0 +1,49 @@
+#include "plugin_ui/Features/UIFeature.h"
+
+#include "plugin_ui/Controls/StaticUIControl.h"
+#include "plugin_ui/CurrentWindowSystem.h"
+
+namespace zent {
+
+bool UIFeature::onInitDialog(const DialogMessage& message, std::intptr_t& result) {
+    m_window = message.getWindow();
+    m_settings = message.getObject<FeatureSettings>();
+    const bool isHandled = processChildren(message, result);
+    initializeFeature();
+    return isHandled;
+}
+
+bool UIFeature::onSettingsChanged(const DialogMessage& message, std::intptr_t& result) {
+    updateFeatureWithNewSettings();
+    return processChildren(message, result);
+}
+
+bool UIFeature::onDestroy(const DialogMessage& message, std::intptr_t& result) {
+    const bool isHandled = processChildren(message, result);
+    m_window = nullptr;
+    return isHandled;
+}
+
+void UIFeature::setSettings(FeatureSettings* settings) {
+    m_settings = settings;
+    for (const auto& child : getChildren()) {
+        if (auto* const feature = dynamic_cast<UIFeature*>(child.get())) {
+            feature->setSettings(settings);
+        }
+    }
+}
+
+void UIFeature::addStaticControl(std::uint16_t item) { makeChild<StaticUIControl>(item); }
+
+void UIFeature::deliver(std::uint32_t message) {
+    std::intptr_t result = 0;
+    processMessage(DialogMessage(m_window, message), result);
+}
+
+void UIFeature::refreshSelf() { deliver(UIM_SETTINGS_CHANGED); }
+void UIFeature::refreshDialog() { DialogMessage(m_window, UIM_SETTINGS_CHANGED).resend(); }
+void UIFeature::enableSelf() { deliver(UIM_ENABLE); }
+void UIFeature::disableSelf() { deliver(UIM_DISABLE); }
+void UIFeature::reportChanged() { windowSystem().reportChanged(m_window); }
+
+} // namespace zent

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "ocore/FeatureSettings/FeatureSettings.h"
+#include "plugin_ui/ConfigurableUIComponent.h"
+#include "plugin_ui/ObserverSubject.h"
+
+namespace zent {
+
+/// Binds controls to a feature of the ticket. It keeps no value of its own: each change that the
+/// user makes is written at once to the dialog's working settings, and whether those survive is
+/// decided by the dialog.
+class UIFeature : public ConfigurableUIComponent, public Observer, public ObserverSubject {
+public:
+    using ConfigurableUIComponent::ConfigurableUIComponent;
+
+    /// The dialog's working settings; null before the dialog starts.
+    virtual FeatureSettings* getSettings() { return m_settings; }
+    /// Whether the printer has the feature. If not, this object goes before the dialog starts.
+    virtual bool isSupported() = 0;
+    /// Makes the controls show what the settings hold.
+    virtual void updateFeatureWithNewSettings() = 0;
+    /// Fills the controls with what the printer offers: once per start of the dialog, after the
+    /// children.
+    virtual void initializeFeature() {}
+    // handleSubjectUpdate(): reads the control of that identity and writes its value to the
+    // settings.
+
+    bool onInitDialog(const DialogMessage& message, std::intptr_t& result) override;
+    bool onSettingsChanged(const DialogMessage& message, std::intptr_t& result) override;
+    bool onDestroy(const DialogMessage& message, std::intptr_t& result) override;
+
+    /// Also for the children that are features.
+    void setSettings(FeatureSettings* settings);
+
+protected:
+    platform::WindowHandle getWindow() const { return m_window; }
+
+    /// A label that shows and hides with the feature.
+    void addStaticControl(std::uint16_t item);
+    /// Makes this feature, or each feature of the dialog, show the settings anew.
+    void refreshSelf();
+    void refreshDialog();
+    void enableSelf();
+    void disableSelf();
+    /// Tells whoever holds the dialog that the ticket has changed.
+    void reportChanged();
+
+private:
+    void deliver(std::uint32_t message);
+
+    platform::WindowHandle m_window = nullptr;
+    FeatureSettings* m_settings = nullptr;
+};
+
+} // namespace zent

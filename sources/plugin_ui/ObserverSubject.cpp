@@ -1,0 +1,23 @@
+#include "plugin_ui/ObserverSubject.h"
+
+#include <atomic>
+
+namespace zent {
+
+namespace {
+
+/// Subjects are made on the threads of all dialogs.
+std::atomic<std::uint32_t> subjectCount = 0;
+
+} // namespace
+
+ObserverSubject::ObserverSubject() : m_subjectId(static_cast<std::uint16_t>(++subjectCount)) {}
+
+// By index: an observer may attach another.
+void ObserverSubject::notifyObservers() {
+    for (std::size_t i = 0; i < m_observers.size(); ++i) {
+        m_observers[i]->handleSubjectUpdate(m_subjectId);
+    }
+}
+
+} // namespace zent

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <vector>
+
+#include "plugin_ui/Observer.h"
+
+namespace zent {
+
+/// Tells its observers that it has changed. They are never detached: each subject belongs to the
+/// dialog of its observers, or to the observer itself.
+class ObserverSubject {
+public:
+    ObserverSubject();
+    virtual ~ObserverSubject() = default;
+    ObserverSubject(const ObserverSubject&) = delete;
+    ObserverSubject& operator=(const ObserverSubject&) = delete;
+
+    void attach(Observer& observer) { m_observers.push_back(&observer); }
+    /// In the order of attaching.
+    void notifyObservers();
+
+    /// By which an observer tells its subjects apart. The numbers come again after 65,536 others.
+    std::uint16_t getSubjectId() const { return m_subjectId; }
+
+private:
+    std::vector<Observer*> m_observers;
+    std::uint16_t m_subjectId;
+};
+
+} // namespace zent

@@ -1,0 +1,200 @@
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "ocore/FeatureSettings/FeatureSettings.h"
+#include "plugin_ui/Features/UIFeature.h"
+#include "plugin_ui/MessageProcessorWithChildren.h"
+#include "plugin_ui/ObserverSubject.h"
+
+namespace zent::test {
+namespace {
+
+using Log = std::string;
+
+/// Writes down what reaches it, and answers as told.
+class Node : public MessageProcessorWithChildren {
+public:
+    Node(Log& log, std::string name, bool accepts = true)
+        : m_log(log), m_name(std::move(name)), m_accepts(accepts) {}
+    ~Node() override { note("gone"); }
+
+    bool validate(platform::WindowHandle /*window*/) override {
+        note("asked");
+        return m_accepts;
+    }
+    bool onCommand(const DialogMessage& message, std::intptr_t& result) override {
+        note("command");
+        return message.getItem() == 9 && m_name == "b" ? true : processChildren(message, result);
+    }
+    void setPrinterDefault(FeatureSettings& /*settings*/) override { note("default"); }
+    void setDefaultText(std::uint32_t id) override { note("text " + std::to_string(id)); }
+
+private:
+    void note(const std::string& what) { m_log += m_name + " " + what + "; "; }
+
+    Log& m_log;
+    std::string m_name;
+    bool m_accepts;
+};
+
+TEST(ComponentTreeTest, MessagesGoDepthFirstUntilOneIsHandled) {
+    Log log;
+    Node root(log, "root");
+    root.makeChild<Node>(log, "a").makeChild<Node>(log, "a1");
+    root.makeChild<Node>(log, "b");
+    root.makeChild<Node>(log, "c");
+    std::intptr_t result = 0;
+    EXPECT_FALSE(root.processMessage({nullptr, platform::event::command, 8}, result));
+    EXPECT_EQ(log, "root command; a command; a1 command; b command; c command; ");
+    log.clear();
+    EXPECT_TRUE(root.processMessage({nullptr, platform::event::command, 9}, result));
+    EXPECT_EQ(log, "root command; a command; a1 command; b command; ");
+}
+
+TEST(ComponentTreeTest, ChildrenGoInTheirOrder) {
+    Log log;
+    {
+        Node root(log, "root");
+        root.makeChild<Node>(log, "a");
+        root.makeChild<Node>(log, "b");
+    }
+    EXPECT_EQ(log, "root gone; a gone; b gone; ");
+}
+
+TEST(ComponentTreeTest, TheFirstRefusalEndsAValidation) {
+    struct Row {
+        bool secondAccepts;
+        const char* asked;
+        std::intptr_t result;
+    };
+    for (const Row& row : {Row{true, "a asked; b asked; c asked; root asked; ", 1},
+                           Row{false, "a asked; b asked; ", 2}}) {
+        for (const std::uint32_t message : {UIM_VALIDATE, UIM_VALIDATE_FOR_SAVE}) {
+            Log log;
+            Node root(log, "root");
+            root.makeChild<Node>(log, "a");
+            root.makeChild<Node>(log, "b", row.secondAccepts);
+            root.makeChild<Node>(log, "c");
+            std::intptr_t result = 0;
+            root.processMessage({nullptr, message}, result);
+            EXPECT_EQ(log, row.asked);
+            EXPECT_EQ(result, row.result);
+        }
+    }
+}
+
+/// Names the handler that a message reaches.
+class Handlers : public MessageProcessor {
+public:
+    std::string reached;
+
+#define ZENT_NOTE(handler)                                                                         \
+    bool handler(const DialogMessage& /*message*/, std::intptr_t& /*result*/) override {           \
+        reached = #handler;                                                                        \
+        return false;                                                                              \
+    }
+    ZENT_NOTE(onInitDialog)
+    ZENT_NOTE(onCommand)
+    ZENT_NOTE(onNotify)
+    ZENT_NOTE(onShow)
+    ZENT_NOTE(onHide)
+    ZENT_NOTE(onEnable)
+    ZENT_NOTE(onDisable)
+    ZENT_NOTE(onValidate)
+    ZENT_NOTE(onValidateForSave)
+    ZENT_NOTE(onSettingsChanged)
+    ZENT_NOTE(onOtherMessage)
+    ZENT_NOTE(onDestroy)
+    ZENT_NOTE(onFeatureAnnounce)
+    ZENT_NOTE(onLock)
+    ZENT_NOTE(onUnlock)
+#undef ZENT_NOTE
+};
+
+TEST(ComponentTreeTest, EachNumberHasItsHandler) {
+    const std::pair<std::uint32_t, const char*> rows[] = {
+        {2, "onDestroy"},
+        {43, "onOtherMessage"},
+        {78, "onNotify"},
+        {272, "onInitDialog"},
+        {273, "onCommand"},
+        {276, "onOtherMessage"},
+        {32768, "onOtherMessage"},
+        {32769, "onHide"},
+        {32770, "onShow"},
+        {32771, "onSettingsChanged"},
+        {32772, "onEnable"},
+        {32773, "onDisable"},
+        {32774, "onValidate"},
+        {32775, "onValidateForSave"},
+        {32776, "onFeatureAnnounce"},
+        {32777, "onLock"},
+        {32778, "onUnlock"},
+        {32779, "onOtherMessage"},
+    };
+    for (const auto& [number, handler] : rows) {
+        Handlers handlers;
+        std::intptr_t result = 0;
+        handlers.processMessage({nullptr, number}, result);
+        EXPECT_EQ(handlers.reached, handler) << number;
+    }
+}
+
+TEST(ComponentTreeTest, ComponentMessagesReachWhatIsRegistered) {
+    Log log;
+    Node elsewhere(log, "elsewhere"); // as a dialog that a button opens
+    Node root(log, "root");
+    Node& child = root.makeChild<Node>(log, "a");
+    child.addComponent(elsewhere);
+    FeatureSettings settings;
+    root.broadcastPrinterDefault(settings);
+    root.broadcastDefaultText(5604);
+    EXPECT_EQ(log, "a default; elsewhere default; a text 5604; elsewhere text 5604; ");
+    std::intptr_t result = 0;
+    log.clear();
+    root.sendComponentMessage({3, 0, nullptr}, result);
+    EXPECT_EQ(log, "");
+    EXPECT_EQ((UIComponentMessage{2, 5604, nullptr}.getDebugText()),
+              u"UIComponentMessage::UIMsgSetPrinterDefault (0x2), wParam = 5604 (0x15e4)");
+}
+
+class Feature : public UIFeature {
+public:
+    Feature(UIConfiguration& configuration, bool isThere)
+        : UIFeature(configuration), m_isThere(isThere) {}
+    bool isSupported() override { return m_isThere; }
+    void updateFeatureWithNewSettings() override {}
+    void handleSubjectUpdate(std::uint16_t /*subjectId*/) override {}
+
+private:
+    bool m_isThere;
+};
+
+TEST(ComponentTreeTest, ConfiguringTakesOutWhatThePrinterLacks) {
+    UIConfiguration configuration{.preferences = UserPreferences(u"")};
+    Log log;
+    ConfigurableUIComponent root(configuration);
+    Node& label = root.makeChild<Node>(log, "label");
+    EXPECT_FALSE(root.configure()); // what is no feature stays, and doesn't count
+    root.makeChild<Feature>(configuration, false);
+    Feature& kept = root.makeChild<Feature>(configuration, true);
+    root.makeChild<Feature>(configuration, false);
+    EXPECT_TRUE(root.configure());
+    EXPECT_EQ(root.getComponents(), (std::vector<UIComponent*>{&label, &kept}));
+    EXPECT_EQ(root.getChildren().size(), 2U);
+    root.setParentFeature(feature::pageOverrides);
+    EXPECT_EQ(kept.getParentFeature(), feature::pageOverrides);
+}
+
+TEST(ComponentTreeTest, SubjectsHaveNumbersOf16Bits) {
+    const std::uint16_t first = ObserverSubject().getSubjectId();
+    EXPECT_NE(ObserverSubject().getSubjectId(), first);
+    for (std::uint32_t i = 2; i < 65536; ++i) {
+        ObserverSubject();
+    }
+    EXPECT_EQ(ObserverSubject().getSubjectId(), first);
+}
+
+} // namespace
+} // namespace zent::test
