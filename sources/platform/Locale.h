@@ -4,9 +4,9 @@
 
 namespace zent::platform {
 
-// Both are asked for anew by each call, of the user's default locale. Windows: the locale of the
-// control panel. Elsewhere: what the environment says (LC_ALL, then LC_MEASUREMENT or LC_PAPER,
-// then LANG); the host's own locale isn't touched.
+// All are asked for anew by each call, of the user's default locale. Windows: the locale of the
+// control panel. Elsewhere: what the environment says (LC_ALL, then LC_MEASUREMENT, LC_PAPER
+// or LC_CTYPE, then LANG); the host's own locale isn't touched.
 
 /// The system of measurement: "0" metric, "1" US. Empty if the system can't tell.
 CXString getLocaleMeasurement();
@@ -14,5 +14,8 @@ CXString getLocaleMeasurement();
 /// The usual paper: "1" US letter, "5" US legal, "8" A3, "9" A4. Empty if the system can't tell;
 /// Windows may give other numbers, elsewhere other papers give an empty text.
 CXString getLocalePaperSize();
+
+/// Whether the user's language counts a UTF-16 unit among its letters and digits.
+bool isLetterOrDigit(char16_t unit);
 
 } // namespace zent::platform

@@ -7,6 +7,7 @@
 #include <type_traits>
 
 #include <langinfo.h>
+#include <wctype.h>
 
 namespace zent::platform {
 
@@ -70,6 +71,11 @@ CXString getLocalePaperSize() {
         }
     }
     return {};
+}
+
+bool isLetterOrDigit(char16_t unit) {
+    const UserLocale locale = openUserLocale(LC_CTYPE_MASK);
+    return (locale != nullptr ? iswalnum_l(unit, locale.get()) : iswalnum(unit)) != 0;
 }
 
 } // namespace zent::platform

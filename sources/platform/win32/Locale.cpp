@@ -1,5 +1,7 @@
 #include "platform/Locale.h"
 
+#include <cwctype>
+
 #include "platform/win32/WideText.h"
 
 namespace zent::platform {
@@ -20,5 +22,8 @@ CXString getLocaleText(LCTYPE type) {
 CXString getLocaleMeasurement() { return getLocaleText<2>(LOCALE_IMEASURE); }
 
 CXString getLocalePaperSize() { return getLocaleText<8>(LOCALE_IPAPERSIZE); }
+
+// The C library's classes are those of Unicode here, whatever the locale.
+bool isLetterOrDigit(char16_t unit) { return std::iswalnum(unit) != 0; }
 
 } // namespace zent::platform

@@ -1,0 +1,18 @@
+#include "plugin_ui/Controls/BitmapUIControl.h"
+
+#include "plugin_ui/CurrentWindowSystem.h"
+
+namespace zent {
+
+void BitmapUIControl::setBitmap(std::uint32_t bitmap) {
+    m_bitmap = bitmap;
+    displayControl();
+}
+
+void BitmapUIControl::displayControl() {
+    if (hasWindow()) {
+        windowSystem().setBitmap(getWindow(), getItemIds().front(), m_bitmap);
+    }
+}
+
+} // namespace zent

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "plugin_ui/Controls/UIControl.h"
+
+namespace zent {
+
+/// A picture, whose background stays out.
+class BitmapUIControl : public UIControl {
+public:
+    explicit BitmapUIControl(std::uint16_t item, std::uint32_t bitmap = 0)
+        : UIControl(item), m_bitmap(bitmap) {}
+
+    /// A bitmap resource, 0 for none.
+    void setBitmap(std::uint32_t bitmap);
+    std::uint32_t getBitmap() const { return m_bitmap; }
+
+    void displayControl() override;
+    void setControlCallBack() override { displayControl(); }
+
+private:
+    std::uint32_t m_bitmap;
+};
+
+} // namespace zent

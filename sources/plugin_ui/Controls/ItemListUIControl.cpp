@@ -1,0 +1,86 @@
+#include "plugin_ui/Controls/ItemListUIControl.h"
+
+#include <algorithm>
+
+#include "plugin_ui/CurrentWindowSystem.h"
+
+namespace zent {
+
+ItemListUIControl::ItemListUIControl(std::uint16_t item, std::uint16_t label) : UIControl(item) {
+    UIControl::addItem(label);
+}
+
+void ItemListUIControl::clear() {
+    m_list.clear();
+    if (hasWindow()) {
+        windowSystem().clearList(getWindow(), getItem());
+    }
+}
+
+void ItemListUIControl::addItem(const CXString& text, std::uint32_t value, std::int32_t position) {
+    const bool isInside = position > 0 && position < getItemCount();
+    m_list.insert(isInside ? m_list.begin() + position : m_list.end(), {text, value});
+    if (hasWindow()) {
+        windowSystem().addToList(getWindow(), getItem(), text, value, isInside ? position : -1);
+    }
+}
+
+std::int32_t ItemListUIControl::findValue(std::uint32_t value) const {
+    const auto found = std::ranges::find(m_list, value, &Entry::value);
+    return found == m_list.end() ? -1 : static_cast<std::int32_t>(found - m_list.begin());
+}
+
+void ItemListUIControl::setItemText(std::int32_t index, const CXString& text) {
+    m_list.at(static_cast<std::size_t>(index)).text = text;
+    if (hasWindow()) {
+        windowSystem().setListText(getWindow(), getItem(), index, text);
+        displayControl(); // a toolkit that puts a new item in the place has lost the choice
+    }
+}
+
+const CXString& ItemListUIControl::getItemText(std::int32_t index) const {
+    return m_list.at(static_cast<std::size_t>(index)).text;
+}
+
+void ItemListUIControl::sort() {
+    std::ranges::stable_sort(m_list, {}, &Entry::text);
+    if (hasWindow()) {
+        showEntries();
+        displayControl();
+    }
+}
+
+void ItemListUIControl::select(std::uint32_t value) {
+    m_selectedValue = value;
+    displayControl();
+}
+
+void ItemListUIControl::displayControl() {
+    if (hasWindow()) {
+        windowSystem().select(getWindow(), getItem(), findValue(m_selectedValue));
+    }
+}
+
+void ItemListUIControl::setControlCallBack() { showEntries(); }
+
+void ItemListUIControl::showEntries() {
+    platform::WindowSystem& system = windowSystem();
+    system.clearList(getWindow(), getItem());
+    for (const Entry& entry : m_list) {
+        system.addToList(getWindow(), getItem(), entry.text, entry.value, -1);
+    }
+}
+
+bool ItemListUIControl::takeSelection() {
+    const std::int32_t index = windowSystem().getSelected(getWindow(), getItem());
+    if (index < 0 || index >= getItemCount()) {
+        return false;
+    }
+    const Entry& chosen = m_list[static_cast<std::size_t>(index)];
+    const bool isOther = chosen.value != m_selectedValue;
+    m_selectedValue = chosen.value;
+    m_text = chosen.text;
+    return isOther;
+}
+
+} // namespace zent

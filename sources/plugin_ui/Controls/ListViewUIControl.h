@@ -1,0 +1,41 @@
+#pragma once
+
+#include "plugin_ui/Controls/UIControl.h"
+
+namespace zent {
+
+/// Rows with a text in each column. It stays usable while the dialog is locked, for the rows can be
+/// read. Rows live in the window: they are filled anew each time the dialog starts.
+class ListViewUIControl : public UIControl {
+public:
+    explicit ListViewUIControl(std::uint16_t item) : UIControl(item) {}
+
+    void setStyle(platform::WindowSystem::ListViewStyle style);
+    /// `width` in pixels.
+    void addColumn(const CXString& title, std::int32_t width);
+    /// Gives the row, or -1 while there is no dialog. `icon` is an icon resource, 0 for none.
+    std::int32_t addRow(const CXString& text, std::uint32_t value, std::uint32_t icon = 0);
+    void setCell(std::int32_t row, std::int32_t column, const CXString& text);
+    void removeRow(std::int32_t row);
+    void clear();
+
+    std::int32_t getRowCount() const;
+    std::uint32_t getRowValue(std::int32_t row) const;
+    std::vector<std::int32_t> getSelectedRows() const;
+    /// -1 selects none.
+    void selectRow(std::int32_t row);
+    bool isRowChecked(std::int32_t row) const;
+    void setRowChecked(std::int32_t row, bool isChecked);
+    /// Whether what the observers are being told of is a double click.
+    bool isActivation() const { return m_isActivation; }
+
+    bool processControlMessage(const DialogMessage& message, std::intptr_t& result) override;
+    bool onLock(const DialogMessage& message, std::intptr_t& result) override;
+
+private:
+    std::uint16_t getItem() const { return getItemIds().front(); }
+
+    bool m_isActivation = false;
+};
+
+} // namespace zent

@@ -1,0 +1,176 @@
+#include "plugin_ui/Controls/NumberBoxUIControl.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "ocore/Exceptions.h"
+#include "plugin_ui/Controls/CharacterFilter.h"
+#include "plugin_ui/CurrentWindowSystem.h"
+
+namespace zent {
+
+namespace {
+
+template <typename T>
+const T* addressOf(const std::optional<T>& value) {
+    return value ? &*value : nullptr;
+}
+
+} // namespace
+
+NumberBoxUIControl::NumberBoxUIControl(std::uint16_t edit, std::uint16_t spin,
+                                       std::initializer_list<std::uint16_t> labels)
+    : UIControl(edit), m_editId(edit), m_spinId(spin) {
+    addItem(spin);
+    for (const std::uint16_t label : labels) {
+        addItem(label);
+    }
+}
+
+void NumberBoxUIControl::setMaxLength(std::uint16_t length) {
+    m_maxLength = length;
+    if (hasWindow()) {
+        windowSystem().setTextLimit(getWindow(), m_editId, m_maxLength);
+    }
+}
+
+void NumberBoxUIControl::setBounds(std::int32_t lower, std::int32_t upper) {
+    m_integerBounds = {lower, upper};
+}
+
+void NumberBoxUIControl::setBounds(double lower, double upper) { m_decimalBounds = {lower, upper}; }
+
+std::int32_t NumberBoxUIControl::getInteger() const {
+    constexpr double lowest = std::numeric_limits<std::int32_t>::min();
+    constexpr double highest = std::numeric_limits<std::uint32_t>::max();
+    // By way of 64 bits: an unsigned number keeps its 32.
+    return static_cast<std::int32_t>(
+        static_cast<std::int64_t>(std::clamp(m_value, lowest, highest)));
+}
+
+void NumberBoxUIControl::setValue(double value) {
+    m_value = value;
+    m_isEmpty = false;
+    displayControl();
+}
+
+void NumberBoxUIControl::setEmpty() {
+    m_value = 0;
+    m_isEmpty = true;
+    displayControl();
+}
+
+void NumberBoxUIControl::displayControl() {
+    if (!hasWindow()) {
+        return;
+    }
+    platform::WindowSystem& system = windowSystem();
+    if (m_isEmpty) {
+        system.setText(getWindow(), m_editId, u"");
+        return;
+    }
+    switch (m_numberType) {
+    case NumberType::unsignedInteger:
+        system.setNumber(getWindow(), m_editId, getInteger(), false);
+        return;
+    case NumberType::decimal:
+        system.setText(getWindow(), m_editId, formatDecimal(m_value, m_decimals));
+        return;
+    case NumberType::signedInteger:
+        system.setNumber(getWindow(), m_editId, getInteger(), true);
+        return;
+    }
+    Raise<UnknownCaseException>{}(
+        "NumberBoxUIControl::displayControl() Unknown NumberBoxType.\r\n");
+}
+
+void NumberBoxUIControl::setControlCallBack() {
+    platform::WindowSystem& system = windowSystem();
+    if (!system.hasItem(getWindow(), m_editId)) {
+        Raise<UnknownCaseException>{}(
+            "NumberBoxUIControl::setControlCallBack() Unknown Resource ID.\r\n");
+    }
+    system.setTextLimit(getWindow(), m_editId, m_maxLength);
+    system.setCharacterFilter(
+        getWindow(), m_editId,
+        [this](std::u16string_view text, std::int32_t start, std::int32_t end, char16_t character) {
+            return acceptsNumberCharacter(m_numberType, {text, start, end, m_maxLength}, character);
+        });
+}
+
+bool NumberBoxUIControl::processControlMessage(const DialogMessage& message,
+                                               std::intptr_t& result) {
+    if (message.isCommand(m_editId, platform::notification::editChanged)) {
+        handleChange();
+        return true;
+    }
+    if (message.isCommand(m_editId, platform::notification::editLeft)) {
+        handleLeave();
+        return true;
+    }
+    if (m_spinId != 0 && message.getMessage() == platform::event::notify &&
+        message.getItem() == m_spinId) {
+        const auto& event = *message.getObject<const platform::Notification>();
+        if (event.code == platform::notification::spinStep) {
+            handleStep(event);
+            result = 1; // the spin keeps its own position, which nobody looks at
+            return true;
+        }
+    }
+    return false;
+}
+
+double NumberBoxUIControl::readNumber() const {
+    platform::WindowSystem& system = windowSystem();
+    switch (m_numberType) {
+    case NumberType::unsignedInteger:
+        return static_cast<std::uint32_t>(system.getNumber(getWindow(), m_editId, false));
+    case NumberType::decimal:
+        return parseDecimal(system.getText(getWindow(), m_editId));
+    case NumberType::signedInteger:
+        return system.getNumber(getWindow(), m_editId, true);
+    }
+    Raise<UnknownCaseException>{}(
+        "NumberBoxUIControl::displayControl() Unknown ANL value for disposition.\r\n");
+}
+
+void NumberBoxUIControl::storeValue(double value, bool isEmpty) {
+    if (value != m_value || isEmpty != m_isEmpty) {
+        m_value = value;
+        m_isEmpty = isEmpty;
+        notifyObservers();
+    }
+}
+
+void NumberBoxUIControl::handleChange() {
+    const bool isEmpty = windowSystem().getText(getWindow(), m_editId).empty();
+    storeValue(isEmpty ? 0 : readNumber(), isEmpty);
+}
+
+void NumberBoxUIControl::handleLeave() {
+    if (m_numberType != NumberType::signedInteger || !m_integerBounds || m_isEmpty ||
+        !m_clampOnLeave) {
+        return;
+    }
+    const auto [lower, upper] = *m_integerBounds;
+    const std::int32_t number = windowSystem().getNumber(getWindow(), m_editId, true);
+    if (number < lower || number > upper) {
+        setValue(number < lower ? lower : upper);
+        notifyObservers();
+    }
+}
+
+void NumberBoxUIControl::handleStep(const platform::Notification& step) {
+    platform::WindowSystem& system = windowSystem();
+    const double shown = parseDecimal(system.getText(getWindow(), m_editId));
+    if (m_numberType == NumberType::decimal) {
+        const double next = stepDecimal(shown, m_decimals, step.delta, addressOf(m_decimalBounds));
+        system.setText(getWindow(), m_editId, formatDecimal(next, m_decimals));
+    } else {
+        const std::int32_t next = stepInteger(shown, step.delta, addressOf(m_integerBounds));
+        system.setText(getWindow(), m_editId, CXString::Format(u"%d", next));
+    }
+    handleChange(); // which the text has brought about already if it has changed
+}
+
+} // namespace zent

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "ocore/CXString.h"
+
+namespace zent {
+
+/// What a number box takes and shows.
+enum class NumberType : std::int32_t { unsignedInteger = 1, decimal = 2, signedInteger = 3 };
+
+/// The length that the text of a number needs: its digits, and the sign of a negative one.
+std::uint16_t countDigits(std::int32_t number);
+
+/// The number that a text begins with, 0 if it is none; whatever the locale.
+double parseDecimal(std::u16string_view text);
+/// With two digits behind the point if so many are asked for, with one for any other number.
+CXString formatDecimal(double value, std::uint32_t decimals);
+
+/// Bounds of a number box, both included.
+template <typename Number>
+struct NumberBounds {
+    Number lower;
+    Number upper;
+};
+
+/// One step of a spin: a unit of the last decimal, against the sign of `delta`. What would leave
+/// the bounds stays as it is. Null: no bounds.
+double stepDecimal(double value, std::uint32_t decimals, std::int32_t delta,
+                   const NumberBounds<double>* bounds);
+/// The same by 1; what would leave the bounds, or 32 bits, becomes the bound.
+std::int32_t stepInteger(double value, std::int32_t delta,
+                         const NumberBounds<std::int32_t>* bounds);
+
+} // namespace zent

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "plugin_ui/Controls/UIControl.h"
+
+namespace zent {
+
+/// Any number of buttons, one of which is marked.
+class RadioButtonUIControl : public UIControl {
+public:
+    explicit RadioButtonUIControl(std::uint16_t firstButton) : UIControl(firstButton) {}
+
+    void addButton(std::uint16_t item) { addItem(item); }
+    /// The item that is marked, 0 for none.
+    std::uint16_t getCheckedId() const { return m_checkedId; }
+    void setCheckedId(std::uint16_t item);
+
+    void displayControl() override;
+    bool processControlMessage(const DialogMessage& message, std::intptr_t& result) override;
+
+private:
+    bool isClickOnButton(const DialogMessage& message) const;
+
+    std::uint16_t m_checkedId = 0;
+};
+
+} // namespace zent

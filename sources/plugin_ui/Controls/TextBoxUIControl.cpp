@@ -1,0 +1,62 @@
+#include "plugin_ui/Controls/TextBoxUIControl.h"
+
+#include "ocore/Exceptions.h"
+#include "plugin_ui/CurrentWindowSystem.h"
+
+namespace zent {
+
+TextBoxUIControl::TextBoxUIControl(std::uint16_t edit, std::initializer_list<std::uint16_t> labels,
+                                   std::uint32_t maximumLength, FilterMode mode)
+    : UIControl(edit), m_editId(edit), m_maxLength(maximumLength), m_filterMode(mode) {
+    for (const std::uint16_t label : labels) {
+        addItem(label);
+    }
+}
+
+void TextBoxUIControl::setText(const CXString& text) {
+    m_text = text;
+    displayControl();
+}
+
+void TextBoxUIControl::setMaxLength(std::uint32_t length) {
+    m_maxLength = length;
+    if (hasWindow()) {
+        windowSystem().setTextLimit(getWindow(), m_editId, m_maxLength);
+    }
+}
+
+void TextBoxUIControl::displayControl() {
+    if (hasWindow()) {
+        windowSystem().setText(getWindow(), m_editId, m_text);
+    }
+}
+
+void TextBoxUIControl::setControlCallBack() {
+    platform::WindowSystem& system = windowSystem();
+    if (!system.hasItem(getWindow(), m_editId)) {
+        Raise<UnknownCaseException>{}(
+            "TextBoxUIControl::setControlCallBack() Unknown Resource ID.\r\n");
+    }
+    system.setTextLimit(getWindow(), m_editId, m_maxLength);
+    system.setCharacterFilter(
+        getWindow(), m_editId,
+        [this](std::u16string_view text, std::int32_t start, std::int32_t end, char16_t character) {
+            return acceptsTextCharacter(m_filterMode, {text, start, end, m_maxLength}, character);
+        });
+    if (m_isTransparent) {
+        system.setTransparent(getWindow(), m_editId);
+    }
+}
+
+bool TextBoxUIControl::processControlMessage(const DialogMessage& message,
+                                             std::intptr_t& /*result*/) {
+    if (!message.isCommand(m_editId, platform::notification::editChanged)) {
+        return false;
+    }
+    const CXString shown(windowSystem().getText(getWindow(), m_editId));
+    m_text = shown.left(static_cast<std::int32_t>(m_maxLength));
+    notifyObservers();
+    return true;
+}
+
+} // namespace zent
