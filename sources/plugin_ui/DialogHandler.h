@@ -1,0 +1,45 @@
+#pragma once
+
+#include "ocore/FeatureSettings/FeatureSettings.h"
+#include "plugin_ui/ConfigurableUIComponent.h"
+
+namespace zent {
+
+/// The procedure behind every dialog: it turns each event into a DialogMessage, passes it down the
+/// tree whose root it is, and keeps exceptions in. What the tree edits is a working copy of the
+/// caller's settings.
+class DialogHandler : public ConfigurableUIComponent, public platform::DialogProcedure {
+public:
+    /// `bindStockInformation`: whether the working copy is what the stocks are counted in.
+    DialogHandler(UIConfiguration& configuration, FeatureEnum parentFeature,
+                  bool bindStockInformation)
+        : ConfigurableUIComponent(configuration, parentFeature),
+          m_bindStockInformation(bindStockInformation) {}
+
+    /// Exceptions of the library and the standard are shown to the user, and the event is over; any
+    /// other leaves only if the user wants to stop.
+    bool processEvent(platform::WindowHandle dialog, std::uint32_t message, std::uintptr_t wParam,
+                      std::intptr_t lParam, std::intptr_t& result) override;
+
+    /// The window is there, and the tree hasn't heard of it yet.
+    virtual void onDialogCreated(platform::WindowHandle /*window*/) {}
+    /// The tree is ready, and nothing is shown yet.
+    virtual void onDialogReady(platform::WindowHandle /*window*/) {}
+    /// Copies the working settings over the caller's.
+    virtual void commitSettings();
+
+    FeatureSettings& workingSettings() { return m_workingSettings; }
+
+protected:
+    /// Takes a fresh working copy. The target must outlive the dialog's run.
+    void setTarget(FeatureSettings& settings);
+
+private:
+    void startTree(platform::WindowHandle window, std::intptr_t& result);
+
+    FeatureSettings* m_targetSettings = nullptr;
+    FeatureSettings m_workingSettings;
+    bool m_bindStockInformation;
+};
+
+} // namespace zent
