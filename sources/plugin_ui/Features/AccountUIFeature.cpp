@@ -1,0 +1,33 @@
+#include "plugin_ui/Features/AccountUIFeature.h"
+
+#include "ocore/UserMessage.h"
+#include "plugin_ui/Features/JobTextRules.h"
+
+namespace zent {
+
+void AccountUIFeature::initializeFeature() {
+    std::int32_t lower = 0;
+    std::int32_t upper = 0;
+    getCapabilities().getFeatureCapabilities(getFeature(), lower, upper);
+    getTextBox().setMaxLength(static_cast<std::uint32_t>(upper));
+}
+
+bool AccountUIFeature::isRequired() const {
+    return getFeature().getFeature() == feature::jobAccountID &&
+           getPreferences().getAccountRequiredPreference();
+}
+
+bool AccountUIFeature::validate(platform::WindowHandle window) {
+    AccountRule rule;
+    std::int32_t upper = 0;
+    getCapabilities().getFeatureCapabilities(getFeature(), rule.minimumLength, upper);
+    rule.restriction = getCapabilities().getCharacterSetRestriction(getFeature());
+    rule.isRequired = isRequired();
+    const std::uint32_t fault = findFault(getTextBox().getText(), rule);
+    if (fault != jobText::nothing) {
+        UserMessage(window, jobText::accountTitle, fault, 0).show();
+    }
+    return fault == jobText::nothing;
+}
+
+} // namespace zent

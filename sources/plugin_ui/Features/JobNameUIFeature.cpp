@@ -1,0 +1,43 @@
+#include "plugin_ui/Features/JobNameUIFeature.h"
+
+#include "ocore/ResourceLibrary.h"
+#include "ocore/UserMessage.h"
+#include "plugin_ui/Features/JobTextRules.h"
+
+namespace zent {
+
+JobNameUIFeature::JobNameUIFeature(UIConfiguration& configuration, std::uint16_t extraItemId,
+                                   std::uint16_t labelId, std::uint16_t editId)
+    : TextEntryUIFeature(configuration, extraItemId, labelId, editId, feature::jobName) {}
+
+void JobNameUIFeature::updateFeatureWithNewSettings() {
+    if (getPreferences().getJobNamePreference()) {
+        getTextBox().disable();
+        return;
+    }
+    getTextBox().enable();
+    CXString name;
+    if (!getSettings()->getString(getFeature(), &name)) {
+        name = ResourceLibrary().getString(jobText::nameInitial);
+        getSettings()->setString(getFeature(), name);
+    }
+    getTextBox().setText(name);
+}
+
+bool JobNameUIFeature::validate(platform::WindowHandle window) {
+    if (getPreferences().getJobNamePreference()) {
+        return true;
+    }
+    const Capabilities& capabilities = getCapabilities();
+    const JobNameRule rule{
+        capabilities.getUpperLimit(getFeature()),
+        capabilities.getCharacterSetRestriction(getFeature()),
+        !capabilities.isPrinterDefaultAvailable(getFeature(), hasParentFeature())};
+    const std::uint32_t fault = findFault(getTextBox().getText(), rule);
+    if (fault != jobText::nothing) {
+        UserMessage(window, jobText::nameTitle, fault, 0).show();
+    }
+    return fault == jobText::nothing;
+}
+
+} // namespace zent

@@ -1,0 +1,54 @@
+#include "plugin_ui/Features/JobTextRules.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace zent {
+
+namespace {
+
+bool holds(std::u16string_view set, char16_t unit) {
+    return set.find(unit) != std::u16string_view::npos;
+}
+
+/// By the low seven bits, as the printers look at them; 8 is let through.
+bool isForbidden(char16_t unit) {
+    const auto low = static_cast<char16_t>(unit & 0x7F);
+    return low < 8 || (low >= 9 && low <= 31) || low == u'\\' || low == u'"' ||
+           holds(u"?{}[]<>*'|:;/,", unit);
+}
+
+bool isCapitalOrDigit(char16_t unit) {
+    return (unit >= u'0' && unit <= u'9') || (unit >= u'A' && unit <= u'Z') ||
+           holds(u"#+-/* ", unit);
+}
+
+} // namespace
+
+std::uint32_t findFault(const CXString& text, const AccountRule& rule) {
+    if (!text.isEmpty() && text.length() < rule.minimumLength) {
+        return jobText::accountTooShort;
+    }
+    if (rule.restriction == AccountRule::noMarks && std::ranges::any_of(text.view(), isForbidden)) {
+        return jobText::accountForbidden;
+    }
+    if (rule.restriction == AccountRule::capitalsAndDigits &&
+        !std::ranges::all_of(text.view(), isCapitalOrDigit)) {
+        return jobText::accountNotCapital;
+    }
+    return rule.isRequired && text.isEmpty() ? jobText::accountMissing : jobText::nothing;
+}
+
+std::uint32_t findFault(const CXString& text, const JobNameRule& rule) {
+    if (text.isEmpty()) {
+        return rule.isRequired ? jobText::nameMissing : jobText::nothing;
+    }
+    if (text.view().size() > rule.upperLimit) {
+        return jobText::nameTooLong;
+    }
+    const bool isForbidden =
+        rule.restriction == JobNameRule::noExclamationMark && text.find(u'!') >= 0;
+    return isForbidden ? jobText::nameForbidden : jobText::nothing;
+}
+
+} // namespace zent

@@ -1,0 +1,104 @@
+#include "plugin_ui/Features/NumberCheckBoxUIFeature.h"
+
+namespace zent {
+
+namespace {
+
+constexpr std::uint32_t rangeTextCapacity = 50;
+
+} // namespace
+
+NumberCheckBoxUIFeature::NumberCheckBoxUIFeature(UIConfiguration& configuration,
+                                                 FeatureEnum feature, std::uint16_t editSpinId,
+                                                 std::uint16_t rangeTextId, std::uint16_t numberId,
+                                                 std::uint16_t checkBoxId, NumberType numberType,
+                                                 std::int32_t initialValue, bool invertCheck,
+                                                 FeatureEnum parentFeature)
+    : UIFeature(configuration, parentFeature), m_feature(feature), m_initialValue(initialValue),
+      m_invertCheck(invertCheck), m_lastValue(initialValue) {
+    if (numberId != 0) {
+        m_numberBox = &makeChild<NumberBoxUIControl>(numberId, editSpinId);
+        m_numberBox->setNumberType(numberType);
+        m_numberBox->attach(*this);
+    }
+    if (rangeTextId != 0) {
+        m_rangeText = &makeChild<TextBoxUIControl>(
+            rangeTextId, std::initializer_list<std::uint16_t>{}, rangeTextCapacity);
+    }
+    if (checkBoxId != 0 &&
+        getCapabilities().isPrinterDefaultAvailable(m_feature, hasParentFeature())) {
+        m_checkBox = &makeChild<CheckBoxUIControl>(checkBoxId);
+        m_checkBox->attach(*this);
+    }
+}
+
+bool NumberCheckBoxUIFeature::isSupported() { return isFeatureSupported(m_feature); }
+
+void NumberCheckBoxUIFeature::initializeFeature() {
+    if (m_numberBox == nullptr) {
+        return;
+    }
+    getCapabilities().getFeatureCapabilities(m_feature, m_lowerBound, m_upperBound);
+    if (m_rangeText != nullptr) {
+        m_rangeText->setText(CXString::Format(u"(%d - %d)", m_lowerBound, m_upperBound));
+    }
+    m_numberBox->setNumberType(NumberType::signedInteger);
+    m_numberBox->setBounds(m_lowerBound, m_upperBound);
+    m_numberBox->setMaxLength(countDigits(m_upperBound));
+    m_numberBox->setValue(m_initialValue);
+}
+
+void NumberCheckBoxUIFeature::updateFeatureWithNewSettings() {
+    std::int32_t number = m_initialValue;
+    const bool isSet = getSettings()->getLong(m_feature, &number);
+    if (m_checkBox != nullptr) {
+        m_checkBox->setChecked(isSet != m_invertCheck);
+    }
+    if (m_numberBox != nullptr) {
+        m_numberBox->setValue(number);
+        if (isSet) {
+            m_numberBox->enable();
+        } else if (m_checkBox != nullptr) {
+            m_numberBox->disable();
+        }
+    }
+}
+
+bool NumberCheckBoxUIFeature::isCheckBox(std::uint16_t subjectId) const {
+    return m_checkBox != nullptr && subjectId == m_checkBox->getSubjectId();
+}
+
+void NumberCheckBoxUIFeature::handleSubjectUpdate(std::uint16_t subjectId) {
+    if (isCheckBox(subjectId)) {
+        handleCheckBox();
+    } else {
+        writeNumber();
+    }
+    if (m_numberBox != nullptr) {
+        m_lastValue = m_numberBox->getInteger();
+    }
+    notifyObservers();
+    reportChanged();
+}
+
+void NumberCheckBoxUIFeature::handleCheckBox() {
+    if (m_numberBox != nullptr) {
+        m_numberBox->setEnabled(isNumberWanted());
+    }
+    if (isNumberWanted()) {
+        writeNumber();
+    } else {
+        setPrinterDefault(*getSettings());
+    }
+}
+
+void NumberCheckBoxUIFeature::writeNumber() {
+    getSettings()->setLong(m_feature,
+                           m_numberBox != nullptr ? m_numberBox->getInteger() : m_initialValue);
+}
+
+void NumberCheckBoxUIFeature::setPrinterDefault(FeatureSettings& settings) {
+    settings.setFeatureValue(m_feature, FeatureValue());
+}
+
+} // namespace zent

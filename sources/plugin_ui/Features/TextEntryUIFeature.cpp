@@ -1,0 +1,50 @@
+#include "plugin_ui/Features/TextEntryUIFeature.h"
+
+namespace zent {
+
+namespace {
+
+constexpr std::uint32_t usualCapacity = 50;
+
+} // namespace
+
+TextEntryUIFeature::TextEntryUIFeature(UIConfiguration& configuration, std::uint16_t extraItemId,
+                                       std::uint16_t labelId, std::uint16_t editId,
+                                       FeatureEnum feature)
+    : UIFeature(configuration), m_feature(feature),
+      m_textBox(makeChild<TextBoxUIControl>(editId, std::initializer_list<std::uint16_t>{labelId},
+                                            usualCapacity)) {
+    m_textBox.attach(*this);
+    if (extraItemId != 0) {
+        addStaticControl(extraItemId);
+    }
+}
+
+bool TextEntryUIFeature::isSupported() { return isFeatureSupported(m_feature); }
+
+void TextEntryUIFeature::initializeFeature() {
+    m_textBox.setMaxLength(getCapabilities().getUpperLimit(m_feature));
+}
+
+void TextEntryUIFeature::updateFeatureWithNewSettings() { m_textBox.setText(readText()); }
+
+void TextEntryUIFeature::handleSubjectUpdate(std::uint16_t /*subjectId*/) {
+    writeText(m_textBox.getText());
+    reportChanged();
+}
+
+CXString TextEntryUIFeature::readText() {
+    CXString text;
+    getSettings()->getString(m_feature, &text);
+    return text;
+}
+
+void TextEntryUIFeature::writeText(const CXString& text) {
+    if (text.isEmpty()) {
+        getSettings()->setFeatureValue(m_feature, FeatureValue());
+    } else {
+        getSettings()->setString(m_feature, text);
+    }
+}
+
+} // namespace zent
