@@ -53,6 +53,11 @@ void ZENTSession::replaceTicket(FeatureSettings&& ticket, const PersistentSettin
     m_stateCurrent = false; // composing the blob waits until somebody wants it
 }
 
+void ZENTSession::noteDialogAccepted() {
+    m_stateCurrent = false;
+    updateUserContext(currentState());
+}
+
 void ZENTSession::noteSettingsChanged(const FeatureSettings& settings) {
     if (&settings == &m_settings) {
         m_stateCurrent = false;

@@ -46,6 +46,10 @@ public:
     /// served as it is.
     void replaceTicket(FeatureSettings&& ticket, const PersistentSettings& state);
 
+    /// The user has accepted what a dialog has made of the settings: the blob takes it over, and
+    /// the user's context with it. The caches stay here too.
+    void noteDialogAccepted();
+
     /// Every call that changes settings ends with this: if they are the session's own, what was
     /// generated from them is dropped.
     void noteSettingsChanged(const FeatureSettings& settings);

@@ -1,8 +1,8 @@
 #include "plugin_ui/DialogHandler.h"
 
+#include "ocore/CurrentWindowSystem.h"
 #include "ocore/ExceptionReport.h"
 #include "ocore/Stock/StockInformation.h"
-#include "plugin_ui/CurrentWindowSystem.h"
 
 namespace zent {
 

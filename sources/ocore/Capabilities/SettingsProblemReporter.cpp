@@ -1,6 +1,10 @@
 #include "ocore/Capabilities/SettingsProblemReporter.h"
 
+#include "ocore/Capabilities/PrinterLimitationsDialog.h"
+#include "ocore/CurrentWindowSystem.h"
 #include "ocore/ResourceLibrary.h"
+#include "ocore/TarvoException.h"
+#include "ocore/Trace.h"
 #include "ocore/UserMessage.h"
 
 namespace zent {
@@ -39,18 +43,30 @@ std::uint32_t SettingsProblemReporter::report(const SettingsProblemList& problem
     if (problems.isEmpty() || !m_isReporting) {
         return m_policy;
     }
-    const RepairReport report(problems, defaults);
-    return ask(report.getText(getWording())) == messageAnswer::cancel ? problemPolicy::keep
-                                                                      : m_policy;
+    const CXString text = RepairReport(problems, defaults).getText(getWording());
+    platform::WindowSystem* const system = findWindowSystem();
+    const bool isRefused =
+        system != nullptr ? isRefusedInDialog(*system, text) : isRefusedInBox(text);
+    return isRefused ? problemPolicy::keep : m_policy;
 }
 
-std::int32_t SettingsProblemReporter::ask(const CXString& text) const {
+bool SettingsProblemReporter::isRefusedInDialog(platform::WindowSystem& system,
+                                                const CXString& text) const {
+    const std::intptr_t answer =
+        PrinterLimitationsDialog(m_title, text, isChoiceOffered()).run(system, m_owner);
+    if (answer != PrinterLimitationsDialog::agreed && answer != PrinterLimitationsDialog::refused) {
+        trace::systemErrorText(platform::getLastError(), traceLevel::general);
+    }
+    return answer == PrinterLimitationsDialog::refused;
+}
+
+bool SettingsProblemReporter::isRefusedInBox(const CXString& text) const {
     const bool isChoice = isChoiceOffered();
     const CXString label = ResourceLibrary().getString(isChoice ? text::question : text::notice);
     const UserMessage message(m_owner, m_title, label + u"\r\n\r\n" + text,
                               isChoice ? messageStyle::okCancel : 0,
                               UserMessage::Severity::warning);
-    return message.show();
+    return message.show() == messageAnswer::cancel;
 }
 
 } // namespace zent

@@ -5,6 +5,10 @@
 #include "ocore/Capabilities/RepairReport.h"
 #include "platform/System.h"
 
+namespace zent::platform {
+class WindowSystem;
+}
+
 namespace zent {
 
 /// What becomes of a ticket with problems. The numbers are those of the interface.
@@ -45,8 +49,9 @@ protected:
 private:
     bool isChoiceOffered() const;
     RepairWording getWording() const;
-    /// Shows the text and gives the button that was pressed. A message box does for the dialog.
-    std::int32_t ask(const CXString& text) const;
+    bool isRefusedInDialog(platform::WindowSystem& system, const CXString& text) const;
+    /// Where no dialog can be shown.
+    bool isRefusedInBox(const CXString& text) const;
 
     bool m_isReporting;
     std::uint32_t m_mode;

@@ -1,8 +1,8 @@
 #include "plugin_ui/Controls/ItemListUIControl.h"
 
-#include <algorithm>
+#include "ocore/CurrentWindowSystem.h"
 
-#include "plugin_ui/CurrentWindowSystem.h"
+#include <algorithm>
 
 namespace zent {
 

@@ -1,6 +1,6 @@
 #include "plugin_ui/Controls/SliderUIControl.h"
 
-#include "plugin_ui/CurrentWindowSystem.h"
+#include "ocore/CurrentWindowSystem.h"
 
 namespace zent {
 

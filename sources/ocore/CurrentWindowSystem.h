@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/WindowSystem.h"
+
+namespace zent {
+
+/// The window system that dialogs are on: the platform's, unless a test has put another in place;
+/// null if there is none.
+platform::WindowSystem* findWindowSystem();
+/// The same for code that runs inside a dialog. Raises ResourceAcquisitionException without one.
+platform::WindowSystem& windowSystem();
+
+/// Puts a window system in the place of the platform's, or none (null), as long as it lives.
+class WindowSystemReplacement {
+public:
+    explicit WindowSystemReplacement(platform::WindowSystem* system);
+    ~WindowSystemReplacement();
+    WindowSystemReplacement(const WindowSystemReplacement&) = delete;
+    WindowSystemReplacement& operator=(const WindowSystemReplacement&) = delete;
+
+    platform::WindowSystem* getSystem() const { return m_system; }
+
+private:
+    platform::WindowSystem* m_system;
+    const WindowSystemReplacement* m_former;
+};
+
+} // namespace zent
