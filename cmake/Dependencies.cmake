@@ -18,6 +18,10 @@ else()
     find_package(ZLIB REQUIRED)
     find_package(XercesC 3.2 REQUIRED)
     find_package(SQLite3 3.37 REQUIRED) # STRICT tables
+    find_package(Qt6 REQUIRED COMPONENTS Widgets)
+    find_library(XCB xcb REQUIRED)
+    add_library(XCB::XCB UNKNOWN IMPORTED)
+    set_target_properties(XCB::XCB PROPERTIES IMPORTED_LOCATION ${XCB})
 endif()
 
 # CLI11 is headers only. They are the same for each target, but a cross-compiler must not see the

@@ -6,7 +6,7 @@ if(WIN32 OR NOT TARGET jobticket)
 endif()
 
 set(home ${CMAKE_INSTALL_LIBDIR}/zent27)
-install(TARGETS zent27 LIBRARY DESTINATION ${home})
+install(TARGETS zent27 zent27-qt LIBRARY DESTINATION ${home})
 install(TARGETS jobticket RUNTIME DESTINATION ${home})
 install(FILES ${ZENT_COMPANIONS} DESTINATION ${home})
 install(FILES include/zent27.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})

@@ -16,6 +16,7 @@
 #include <unistd.h>
 
 #include "platform/Files.h"
+#include "platform/WindowSystem.h"
 
 namespace zent::platform {
 
@@ -74,10 +75,7 @@ std::int32_t leadingNumber(std::string_view text) {
     return value;
 }
 
-} // namespace
-
-std::int32_t showMessageBox(WindowHandle /*owner*/, const CXString& body, const CXString& title,
-                            std::uint32_t flags) {
+std::int32_t printMessage(const CXString& body, const CXString& title, std::uint32_t flags) {
     constexpr std::int32_t answerOk = 1;
     const std::string rule(72, '-');
     std::string box = rule + '\n' + printable(title) + " (" + nameOfIcon(flags) + ")\n\n";
@@ -87,7 +85,21 @@ std::int32_t showMessageBox(WindowHandle /*owner*/, const CXString& body, const 
     return answerOk;
 }
 
-CXString getWindowCaption(WindowHandle /*window*/) { return {}; }
+} // namespace
+
+std::int32_t showMessageBox(WindowHandle owner, const CXString& body, const CXString& title,
+                            std::uint32_t flags) {
+    WindowSystem* const windowSystem = WindowSystem::find();
+    return windowSystem != nullptr ? windowSystem->showMessageBox(owner, body, title, flags)
+                                   : printMessage(body, title, flags);
+}
+
+CXString getWindowCaption(WindowHandle window) {
+    constexpr std::int32_t longestCaption = 255;
+    WindowSystem* const windowSystem = window != nullptr ? WindowSystem::find() : nullptr;
+    return windowSystem != nullptr ? CXString(windowSystem->getCaption(window)).left(longestCaption)
+                                   : CXString();
+}
 
 CXString getSystemErrorText(std::uint32_t error) {
     const char* text = strerrordesc_np(static_cast<int>(error));

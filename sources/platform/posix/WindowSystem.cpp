@@ -1,0 +1,44 @@
+#include "platform/WindowSystem.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <string>
+
+#include <dlfcn.h>
+
+#include "platform/Files.h"
+
+namespace zent::platform {
+
+namespace {
+
+using Adapter = WindowSystem* (*)();
+
+/// Whether somebody may be there to see a window.
+bool isDisplayNamed() {
+    const char* const variables[] = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+    return std::any_of(std::begin(variables), std::end(variables), [](const char* variable) {
+        const char* const value = std::getenv(variable);
+        return value != nullptr && *value != '\0';
+    });
+}
+
+/// The adapter's one call; null without the adapter, or what it needs. What is loaded stays.
+Adapter loadAdapter() {
+    if (!isDisplayNamed()) {
+        return nullptr;
+    }
+    const CXString path = getDriverDirectory(CXString()) + u"libzent27-qt.so";
+    void* const library = dlopen(path.toNarrow().c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
+    return library != nullptr ? reinterpret_cast<Adapter>(dlsym(library, "zentQtWindowSystem"))
+                              : nullptr;
+}
+
+} // namespace
+
+WindowSystem* WindowSystem::find() {
+    static const Adapter adapter = loadAdapter();
+    return adapter != nullptr ? adapter() : nullptr;
+}
+
+} // namespace zent::platform

@@ -1,0 +1,60 @@
+#include "platform/qt/Application.h"
+
+#include <clocale>
+#include <string>
+
+#include <QApplication>
+#include <QThread>
+
+#include "platform/qt/Display.h"
+
+namespace zent::platform::qt {
+
+namespace {
+
+/// The application object sets the process's locale to the user's. The host keeps its own, but for
+/// the classes of characters, which input methods go by.
+class LocaleKeeper {
+public:
+    LocaleKeeper() : m_locale(std::setlocale(LC_ALL, nullptr)) {}
+    ~LocaleKeeper() {
+        std::setlocale(LC_ALL, m_locale.c_str());
+        std::setlocale(LC_CTYPE, "");
+    }
+    LocaleKeeper(const LocaleKeeper&) = delete;
+    LocaleKeeper& operator=(const LocaleKeeper&) = delete;
+
+private:
+    std::string m_locale;
+};
+
+/// An application object of this library's own. It is never destroyed: the end of the process may
+/// come on any thread, and after Qt's own static objects are gone.
+const QApplication* makeOwnApplication() {
+    const auto platform = findPlatform();
+    if (!platform) {
+        return nullptr;
+    }
+    // Qt keeps references to its arguments.
+    static QByteArray name = *platform;
+    static char program[] = "zent27";
+    static char option[] = "-platform";
+    static char* arguments[] = {program, option, name.data(), nullptr};
+    static int count = 3;
+    const LocaleKeeper keeper;
+    auto* const application = new QApplication(count, arguments);
+    QApplication::setQuitOnLastWindowClosed(false);
+    return application;
+}
+
+} // namespace
+
+bool hasApplication() {
+    if (QCoreApplication::instance() == nullptr) {
+        [[maybe_unused]] static const QApplication* const own = makeOwnApplication();
+    }
+    const auto* const application = qobject_cast<QApplication*>(QCoreApplication::instance());
+    return application != nullptr && application->thread() == QThread::currentThread();
+}
+
+} // namespace zent::platform::qt

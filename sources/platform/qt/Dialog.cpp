@@ -1,0 +1,411 @@
+#include "platform/qt/Dialog.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QApplication>
+#include <QButtonGroup>
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+
+#include "platform/qt/ButtonItem.h"
+#include "platform/qt/Caption.h"
+#include "platform/qt/SpinItem.h"
+#include "platform/qt/StaticItem.h"
+#include "platform/qt/Text.h"
+
+namespace zent::platform::qt {
+
+namespace {
+
+constexpr std::uint16_t okItem = 1;
+constexpr std::uint16_t cancelItem = 2;
+
+constexpr QSize largestWindow(8191, 8191); // beyond any screen
+
+std::vector<Dialog*>& liveDialogs() {
+    static std::vector<Dialog*> dialogs;
+    return dialogs;
+}
+
+/// Whether the keyboard can reach an item.
+bool isTabStop(const std::unique_ptr<Item>& item) {
+    return item->hasStyle(itemStyle::tabStop) && !item->widget().isHidden() &&
+           item->widget().isEnabled();
+}
+
+/// What a dialog unit is measured by: the average of the letters, and the height of a line.
+QSizeF measureFont(const QFont& font) {
+    const QString letters = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
+    const QFontMetricsF metrics(font);
+    return {metrics.horizontalAdvance(letters) / static_cast<qreal>(letters.size()),
+            metrics.height()};
+}
+
+} // namespace
+
+/// A modal dialog's loop and what comes of it. It outlives the dialog, which may go with its owner.
+struct Dialog::Run {
+    Run() : outer(std::exchange(innermost, this)) {}
+    ~Run() { innermost = outer; }
+    Run(const Run&) = delete;
+    Run& operator=(const Run&) = delete;
+
+    /// Ends the innermost loop with the exception at hand, which mustn't pass through Qt.
+    static void fail() {
+        innermost->exception = std::current_exception();
+        innermost->loop.quit();
+    }
+
+    static Run* innermost;
+
+    Run* outer;
+    QEventLoop loop;
+    std::intptr_t value = 0;
+    std::exception_ptr exception;
+};
+
+Dialog::Run* Dialog::Run::innermost = nullptr;
+
+Dialog* Dialog::create(std::span<const std::byte> bytes, const ResourceModule& resources,
+                       QWidget* owner, DialogProcedure& procedure) {
+    const auto source = DialogTemplate::read(bytes);
+    if (!source) {
+        return nullptr;
+    }
+    std::unique_ptr<Dialog> dialog(new Dialog(*source, resources, owner, procedure));
+    return dialog->addItems(*source) ? dialog.release() : nullptr;
+}
+
+Dialog* Dialog::find(WindowHandle handle) {
+    const auto& dialogs = liveDialogs();
+    const auto found = std::find_if(dialogs.begin(), dialogs.end(),
+                                    [&](Dialog* dialog) { return dialog->handle() == handle; });
+    return found == dialogs.end() ? nullptr : *found;
+}
+
+Dialog::Dialog(const DialogTemplate& source, const ResourceModule& resources, QWidget* owner,
+               DialogProcedure& procedure)
+    : QDialog(owner), m_procedure(procedure), m_pictures(resources),
+      m_baseUnits(measureFont(font())) {
+    liveDialogs().push_back(this);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setWindowTitle(toTitle(toQt(source.title)));
+    setFixedSize(toPixels(source.place).size().boundedTo(largestWindow));
+    placeInTheMiddle();
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget* left) { noticeFocus(left); });
+}
+
+Dialog::~Dialog() {
+    try {
+        sendDestroy();
+    } catch (...) {
+        // There is nobody left to tell.
+    }
+    std::erase(liveDialogs(), this);
+    if (m_run != nullptr) {
+        m_run->loop.quit();
+    }
+    // The widgets go before the items that they tell of what happens to them.
+    qApp->disconnect(this);
+    qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
+}
+
+// ---- Creation ----------------------------------------------------------------------------------
+
+bool Dialog::addItems(const DialogTemplate& source) {
+    for (const DialogTemplate::Item& item : source.items) {
+        m_items.push_back(Item::make(*this, item, m_pictures));
+        if (m_items.back() == nullptr) {
+            return false;
+        }
+    }
+    groupRadioButtons();
+    connectNeighbours();
+    chooseDefault();
+    return true;
+}
+
+/// A group goes from an item of that style to the next one.
+void Dialog::groupRadioButtons() {
+    QButtonGroup* group = nullptr;
+    for (const auto& item : m_items) {
+        if (group == nullptr || item->hasStyle(itemStyle::group)) {
+            group = new QButtonGroup(this);
+        }
+        if (auto* const button = dynamic_cast<ButtonItem*>(item.get())) {
+            button->joinGroup(*group);
+        }
+    }
+}
+
+/// Labels name the item behind them, spins belong to the one before.
+void Dialog::connectNeighbours() {
+    for (std::size_t i = 0; i < m_items.size(); ++i) {
+        Item* const item = m_items[i].get();
+        Item* const next = i + 1 < m_items.size() ? m_items[i + 1].get() : nullptr;
+        if (auto* const label = dynamic_cast<StaticItem*>(item);
+            label != nullptr && next != nullptr) {
+            label->setBuddy(next->widget());
+        }
+        auto* const spin = dynamic_cast<SpinItem*>(item);
+        if (spin != nullptr && spin->wantsBuddy() && i > 0) {
+            spin->setBuddy(*m_items[i - 1]);
+        }
+    }
+}
+
+/// Without one in the template, Enter stands for the item that accepts.
+void Dialog::chooseDefault() {
+    ButtonItem* accepting = nullptr;
+    for (const auto& item : m_items) {
+        auto* const button = dynamic_cast<ButtonItem*>(item.get());
+        if (button != nullptr && button->isDefault()) {
+            return;
+        }
+        if (button != nullptr && button->id() == okItem) {
+            accepting = button;
+        }
+    }
+    if (accepting != nullptr) {
+        accepting->makeDefault();
+    }
+}
+
+// ---- From start to end -------------------------------------------------------------------------
+
+void Dialog::start() {
+    m_state = State::running;
+    send(event::initDialog, 0, 0);
+    if (m_state == State::running) {
+        focusFirst();
+        show();
+    }
+}
+
+std::intptr_t Dialog::runModal() {
+    setWindowModality(parentWidget() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
+    const QPointer<Dialog> self(this);
+    Run run;
+    m_run = &run;
+    const auto close = [&] {
+        if (self != nullptr) {
+            m_run = nullptr;
+            hide();
+            delete this;
+        }
+    };
+    try {
+        start();
+        if (self != nullptr && m_state == State::running && run.exception == nullptr) {
+            run.loop.exec(QEventLoop::DialogExec);
+        }
+        if (self != nullptr) {
+            sendDestroy();
+        }
+    } catch (...) {
+        close();
+        throw;
+    }
+    close();
+    if (run.exception != nullptr) {
+        std::rethrow_exception(run.exception);
+    }
+    return run.value;
+}
+
+void Dialog::startModeless() {
+    const QPointer<Dialog> self(this);
+    try {
+        start();
+    } catch (...) {
+        delete self.data();
+        throw;
+    }
+}
+
+void Dialog::end(std::intptr_t value) {
+    if (m_run != nullptr) {
+        m_run->value = value;
+        m_run->loop.quit();
+        m_state = State::ended;
+    }
+}
+
+void Dialog::destroy() {
+    if (m_run != nullptr) {
+        end(0);
+        return;
+    }
+    const std::vector<Dialog*> dialogs = liveDialogs();
+    for (Dialog* const dialog : dialogs) {
+        if (dialog->parentWidget() == this) {
+            dialog->destroy();
+        }
+    }
+    sendDestroy();
+    std::erase(liveDialogs(), this);
+    hide();
+    deleteLater();
+}
+
+void Dialog::sendDestroy() {
+    if (m_state == State::running || m_state == State::ended) {
+        m_state = State::gone;
+        send(event::destroy, 0, 0);
+    }
+}
+
+void Dialog::focusFirst() {
+    const auto first = std::find_if(m_items.begin(), m_items.end(), isTabStop);
+    if (focusWidget() == nullptr && first != m_items.end()) {
+        (*first)->widget().setFocus(Qt::TabFocusReason);
+    }
+}
+
+bool Dialog::focusBehind(const QWidget& widget) {
+    const auto own = std::find_if(m_items.begin(), m_items.end(),
+                                  [&](const auto& item) { return &item->widget() == &widget; });
+    const auto next = std::find_if(own, m_items.end(), isTabStop);
+    if (next != m_items.end()) {
+        (*next)->widget().setFocus(Qt::ShortcutFocusReason);
+    }
+    return true;
+}
+
+void Dialog::keyPressEvent(QKeyEvent* event) {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool hasDefault = std::any_of(m_items.begin(), m_items.end(), [](const auto& item) {
+        const auto* const button = dynamic_cast<const ButtonItem*>(item.get());
+        return button != nullptr && button->isDefault();
+    });
+    if (isEnter && !hasDefault) {
+        tellCommand(okItem, notification::clicked);
+    } else {
+        QDialog::keyPressEvent(event);
+    }
+}
+
+/// The user closes the dialog, or presses Escape.
+void Dialog::reject() {
+    const Item* const cancel = findItem(cancelItem);
+    if (cancel != nullptr && !cancel->widget().isEnabledTo(this)) {
+        return;
+    }
+    const QPointer<Dialog> self(this);
+    tellCommand(cancelItem, notification::clicked);
+    if (self == nullptr || m_state != State::running) {
+        return;
+    }
+    if (m_run != nullptr) {
+        end(0);
+    } else {
+        destroy();
+    }
+}
+
+// ---- What the user does ------------------------------------------------------------------------
+
+std::intptr_t Dialog::send(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam) {
+    std::intptr_t result = 0;
+    m_procedure.processEvent(handle(), message, wParam, lParam, result);
+    return result;
+}
+
+/// Called by Qt, which exceptions had better not pass through.
+std::intptr_t Dialog::deliver(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam) {
+    if (m_state != State::running) {
+        return 0;
+    }
+    try {
+        return send(message, wParam, lParam);
+    } catch (...) {
+        if (Run::innermost == nullptr) {
+            throw; // the loop is the application's
+        }
+        Run::fail();
+        return 0;
+    }
+}
+
+void Dialog::tellCommand(std::uint16_t item, std::uint32_t code) {
+    deliver(event::command, item | std::uintptr_t{code} << 16, 0);
+}
+
+std::intptr_t Dialog::tellNotification(const Notification& notification) {
+    return deliver(event::notify, notification.item,
+                   reinterpret_cast<std::intptr_t>(&notification));
+}
+
+void Dialog::tellScroll(std::uint16_t item, int position) {
+    deliver(event::horizontalScroll, std::uintptr_t{static_cast<std::uint16_t>(position)} << 16,
+            item);
+}
+
+void Dialog::tellDraw(const DrawRequest& request) {
+    deliver(event::drawItem, request.item, reinterpret_cast<std::intptr_t>(&request));
+}
+
+void Dialog::noticeFocus(const QWidget* left) {
+    if (m_state != State::running || left == nullptr) {
+        return;
+    }
+    const auto found = std::find_if(m_items.begin(), m_items.end(), [&](const auto& item) {
+        return &item->widget() == left || item->widget().isAncestorOf(left);
+    });
+    if (found != m_items.end()) {
+        (*found)->leaveFocus();
+    }
+}
+
+// ---- Items and places --------------------------------------------------------------------------
+
+Item* Dialog::findItem(std::uint16_t id) const {
+    const auto found = std::find_if(m_items.begin(), m_items.end(),
+                                    [&](const auto& item) { return item->id() == id; });
+    return found == m_items.end() ? nullptr : found->get();
+}
+
+void Dialog::removeItem(std::uint16_t id) {
+    const auto found = std::find_if(m_items.begin(), m_items.end(),
+                                    [&](const auto& item) { return item->id() == id; });
+    if (found != m_items.end()) {
+        (*found)->widget().hide();
+        (*found)->widget().setObjectName(QString());
+        m_removed.push_back(std::move(*found));
+        m_items.erase(found);
+    }
+}
+
+QRect Dialog::toPixels(const DialogTemplate::Place& place) const {
+    const Rectangle pixels = toPixels(Rectangle{place.x, place.y, place.width, place.height});
+    return {pixels.left, pixels.top, std::max(pixels.right, 0), std::max(pixels.bottom, 0)};
+}
+
+Rectangle Dialog::toPixels(const Rectangle& units) const {
+    const auto across = [this](int x) { return qRound(x * m_baseUnits.width() / 4); };
+    const auto down = [this](int y) { return qRound(y * m_baseUnits.height() / 8); };
+    return {across(units.left), down(units.top), across(units.right), down(units.bottom)};
+}
+
+/// Where it will stand, unless it is told another place: only its size changes until then.
+void Dialog::placeInTheMiddle() {
+    const QRect area = parentWidget() != nullptr ? parentWidget()->window()->frameGeometry()
+                                                 : screen()->availableGeometry();
+    move(area.center() - rect().center());
+    setAttribute(Qt::WA_Moved, false);
+}
+
+void Dialog::moveTo(const QRect& place) {
+    const QSize frame = frameGeometry().size() - size();
+    setFixedSize((place.size() - frame).expandedTo(QSize(0, 0)).boundedTo(largestWindow));
+    if (place.topLeft() != frameGeometry().topLeft()) {
+        move(place.topLeft());
+    }
+}
+
+} // namespace zent::platform::qt

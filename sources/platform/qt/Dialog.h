@@ -1,0 +1,99 @@
+#pragma once
+
+#include <cstdint>
+#include <exception>
+#include <memory>
+#include <span>
+#include <vector>
+
+#include <QDialog>
+#include <QEventLoop>
+#include <QRect>
+#include <QSizeF>
+
+#include "platform/DialogTemplate.h"
+#include "platform/ResourceModule.h"
+#include "platform/WindowSystem.h"
+#include "platform/qt/Item.h"
+#include "platform/qt/Pictures.h"
+
+namespace zent::platform::qt {
+
+/// A dialog and its items. What the user does goes to its procedure.
+class Dialog final : public QDialog {
+public:
+    /// Makes the window and its items, and nothing yet of what the user sees. Null for bytes that
+    /// are no template, or with an item of an unknown class. The owner, if there is one, destroys
+    /// the dialog with itself.
+    static Dialog* create(std::span<const std::byte> bytes, const ResourceModule& resources,
+                          QWidget* owner, DialogProcedure& procedure);
+    /// The dialog of a handle, null if there is none (any more).
+    static Dialog* find(WindowHandle handle);
+
+    ~Dialog() override;
+
+    WindowHandle handle() { return static_cast<QWidget*>(this); }
+
+    /// Starts a created dialog and stays in it until it ends; destroys it.
+    std::intptr_t runModal();
+    /// Starts a created dialog and shows it.
+    void startModeless();
+    void end(std::intptr_t value);
+    /// Ends a modeless dialog. The object goes once the event at hand is done.
+    void destroy();
+
+    std::intptr_t send(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam);
+
+    // What the user did. Dialogs that haven't started, or have ended, say nothing of it.
+    void tellCommand(std::uint16_t item, std::uint32_t code);
+    /// Gives the message result.
+    std::intptr_t tellNotification(const Notification& notification);
+    void tellScroll(std::uint16_t item, int position);
+    void tellDraw(const DrawRequest& request);
+
+    /// The items in the order of the template.
+    const std::vector<std::unique_ptr<Item>>& items() const { return m_items; }
+    /// Gives the focus to the next item in the template that takes it by keyboard. Gives true, as
+    /// an event handler does.
+    bool focusBehind(const QWidget& widget);
+    /// The first with this number, null if there is none.
+    Item* findItem(std::uint16_t id) const;
+    void removeItem(std::uint16_t id);
+
+    Pictures& pictures() { return m_pictures; }
+    QRect toPixels(const DialogTemplate::Place& place) const;
+    Rectangle toPixels(const Rectangle& units) const;
+    /// With its frame.
+    void moveTo(const QRect& place);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void reject() override;
+
+private:
+    enum class State { created, running, ended, gone };
+    struct Run;
+
+    Dialog(const DialogTemplate& source, const ResourceModule& resources, QWidget* owner,
+           DialogProcedure& procedure);
+    bool addItems(const DialogTemplate& source);
+    void groupRadioButtons();
+    void connectNeighbours();
+    void chooseDefault();
+    void start();
+    void focusFirst();
+    void sendDestroy();
+    std::intptr_t deliver(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam);
+    void noticeFocus(const QWidget* left);
+    void placeInTheMiddle();
+
+    DialogProcedure& m_procedure;
+    Pictures m_pictures;
+    QSizeF m_baseUnits; // an average character's width and height in pixels
+    std::vector<std::unique_ptr<Item>> m_items;
+    std::vector<std::unique_ptr<Item>> m_removed; // it may be their own event that removes them
+    State m_state = State::created;
+    Run* m_run = nullptr; // of a modal dialog
+};
+
+} // namespace zent::platform::qt

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <string_view>
+
+#include "platform/WindowSystem.h"
+
+namespace zent::platform::qt {
+
+/// What an edit item takes of the characters that a user types or pastes.
+struct InputRule {
+    CharacterFilter filter;
+    std::size_t limit = std::numeric_limits<std::size_t>::max(); // units of the whole text
+    bool hasLines = false;
+    bool isNumber = false; // decimal digits alone
+
+    /// What is taken of `entered`, which is to stand in place of a part of `text`, [start, end).
+    std::u16string accept(std::u16string_view text, std::size_t start, std::size_t end,
+                          std::u16string_view entered) const;
+
+private:
+    bool accepts(std::u16string_view text, std::size_t start, std::size_t end,
+                 char16_t character) const;
+};
+
+} // namespace zent::platform::qt

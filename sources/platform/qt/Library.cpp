@@ -1,0 +1,10 @@
+#include "platform/qt/Application.h"
+#include "platform/qt/QtWindowSystem.h"
+
+/// The one call of this library: the window system for the calling thread, null if it can't have
+/// one.
+extern "C" [[gnu::visibility("default")]] zent::platform::WindowSystem* zentQtWindowSystem() {
+    using namespace zent::platform::qt;
+    static QtWindowSystem windowSystem;
+    return hasApplication() ? &windowSystem : nullptr;
+}

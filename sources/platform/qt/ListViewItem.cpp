@@ -1,0 +1,213 @@
+#include "platform/qt/ListViewItem.h"
+
+#include <algorithm>
+
+#include <QHeaderView>
+#include <QScopedValueRollback>
+
+#include "platform/qt/Dialog.h"
+#include "platform/qt/Pictures.h"
+
+namespace zent::platform::qt {
+
+namespace {
+
+using ListViewStyle = WindowSystem::ListViewStyle;
+
+constexpr std::uint32_t isTable = 1;
+constexpr std::uint32_t kindBits = 3;
+constexpr std::uint32_t selectsOne = 4;
+constexpr std::uint32_t noHeader = 0x4000;
+
+constexpr int valueRole = Qt::UserRole;
+
+} // namespace
+
+ListViewItem::ListViewItem(Dialog& dialog, const DialogTemplate::Item& source, Pictures& pictures)
+    : ListViewItem(dialog, source, pictures, *new QStackedWidget(&dialog)) {}
+
+ListViewItem::ListViewItem(Dialog& dialog, const DialogTemplate::Item& source, Pictures& pictures,
+                           QStackedWidget& stack)
+    : Item(dialog, source, stack), m_pictures(pictures), m_stack(stack),
+      m_model(*new QStandardItemModel(&stack)),
+      m_selection(*new QItemSelectionModel(&m_model, &stack)), m_table(*new QTreeView(&stack)),
+      m_icons(*new QListView(&stack)) {
+    setUpTable();
+    setUpIcons();
+    for (QAbstractItemView* const view :
+         {static_cast<QAbstractItemView*>(&m_table), static_cast<QAbstractItemView*>(&m_icons)}) {
+        stack.addWidget(view);
+        view->setModel(&m_model);
+        delete view->selectionModel(); // its own, made with the model
+        view->setSelectionModel(&m_selection);
+        view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        view->setSelectionBehavior(QAbstractItemView::SelectRows);
+        view->setSelectionMode(hasStyle(selectsOne) ? QAbstractItemView::SingleSelection
+                                                    : QAbstractItemView::ExtendedSelection);
+        view->setTabKeyNavigation(false);
+        view->setFocusPolicy(hasStyle(itemStyle::tabStop) ? Qt::StrongFocus : Qt::ClickFocus);
+        QObject::connect(view, &QAbstractItemView::doubleClicked, view,
+                         [this](const QModelIndex& place) {
+                             tell(notification::listViewActivated, place.row(), place.column());
+                         });
+    }
+    setListViewStyle((style() & kindBits) == isTable ? ListViewStyle::details
+                                                     : ListViewStyle::icons);
+    QObject::connect(&m_selection, &QItemSelectionModel::selectionChanged, &stack,
+                     [this](const QItemSelection& now, const QItemSelection& before) {
+                         tellSelection(now, before);
+                     });
+    QObject::connect(&m_model, &QStandardItemModel::itemChanged, &stack,
+                     [this](const QStandardItem* cell) {
+                         tell(notification::listViewChanged, cell->row(), cell->column());
+                     });
+}
+
+void ListViewItem::setUpTable() {
+    m_table.setRootIsDecorated(false);
+    m_table.setUniformRowHeights(true);
+    m_table.setAllColumnsShowFocus(true);
+    m_table.setHeaderHidden(hasStyle(noHeader));
+    m_table.header()->setSectionsMovable(false);
+}
+
+void ListViewItem::setUpIcons() {
+    constexpr int side = 32;
+    m_icons.setViewMode(QListView::IconMode);
+    m_icons.setIconSize(QSize(side, side));
+    m_icons.setMovement(QListView::Static);
+    m_icons.setResizeMode(QListView::Adjust);
+    m_icons.setWordWrap(true);
+}
+
+void ListViewItem::setListViewStyle(ListViewStyle style) {
+    const QScopedValueRollback guard(m_isProgramsChange, true);
+    m_hasMarks = style == ListViewStyle::checkedDetails;
+    QAbstractItemView* const view = style == ListViewStyle::icons
+                                        ? static_cast<QAbstractItemView*>(&m_icons)
+                                        : static_cast<QAbstractItemView*>(&m_table);
+    m_stack.setCurrentWidget(view);
+    m_stack.setFocusProxy(view);
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        showMark(*firstCell(row));
+    }
+}
+
+void ListViewItem::addColumn(const QString& title, int width) {
+    const int column = m_titledColumns++;
+    if (m_model.columnCount() <= column) {
+        m_model.setColumnCount(column + 1);
+    }
+    m_model.setHorizontalHeaderItem(column, new QStandardItem(title));
+    m_table.setColumnWidth(column, width);
+}
+
+int ListViewItem::addRow(const QString& text, std::uint32_t icon, std::uintptr_t value) {
+    const QScopedValueRollback guard(m_isProgramsChange, true);
+    auto* const cell = new QStandardItem(text);
+    cell->setEditable(false);
+    cell->setData(static_cast<qulonglong>(value), valueRole);
+    if (icon != 0) {
+        cell->setIcon(m_pictures.icon(icon));
+    }
+    showMark(*cell);
+    m_model.appendRow(cell);
+    return cell->row();
+}
+
+void ListViewItem::setCell(int row, int column, const QString& text) {
+    const QScopedValueRollback guard(m_isProgramsChange, true);
+    if (row < 0 || row >= rowCount() || column < 0 || column >= m_model.columnCount()) {
+        return;
+    }
+    if (m_model.item(row, column) == nullptr) {
+        auto* const cell = new QStandardItem;
+        cell->setEditable(false);
+        m_model.setItem(row, column, cell);
+    }
+    m_model.item(row, column)->setText(text);
+}
+
+QString ListViewItem::cell(int row, int column) const {
+    const QStandardItem* const cell = m_model.item(row, column);
+    return cell != nullptr ? cell->text() : QString();
+}
+
+void ListViewItem::removeRow(int row) {
+    const QScopedValueRollback guard(m_isProgramsChange, true);
+    if (row >= 0 && row < rowCount()) {
+        m_model.removeRow(row);
+    }
+}
+
+void ListViewItem::clearRows() {
+    const QScopedValueRollback guard(m_isProgramsChange, true);
+    m_model.removeRows(0, rowCount());
+}
+
+std::uintptr_t ListViewItem::rowValue(int row) const {
+    const QStandardItem* const cell = firstCell(row);
+    return cell != nullptr ? cell->data(valueRole).toULongLong() : 0;
+}
+
+std::vector<std::int32_t> ListViewItem::selectedRows() const {
+    std::vector<std::int32_t> rows;
+    for (const QModelIndex& place : m_selection.selectedRows()) {
+        rows.push_back(place.row());
+    }
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+void ListViewItem::selectRow(int row) {
+    const QScopedValueRollback guard(m_isProgramsChange, true);
+    const QModelIndex place = m_model.index(row, 0);
+    m_selection.setCurrentIndex(place,
+                                QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    m_table.scrollTo(place);
+    m_icons.scrollTo(place);
+}
+
+void ListViewItem::setRowChecked(int row, bool isChecked) {
+    const QScopedValueRollback guard(m_isProgramsChange, true);
+    QStandardItem* const cell = firstCell(row);
+    if (cell != nullptr && m_hasMarks) {
+        cell->setCheckState(isChecked ? Qt::Checked : Qt::Unchecked);
+    }
+}
+
+bool ListViewItem::isRowChecked(int row) const {
+    const QStandardItem* const cell = firstCell(row);
+    return cell != nullptr && cell->checkState() == Qt::Checked;
+}
+
+/// Gives a row its check box, or takes it away.
+void ListViewItem::showMark(QStandardItem& cell) const {
+    cell.setCheckable(m_hasMarks);
+    cell.setData(m_hasMarks ? QVariant(cell.checkState()) : QVariant(), Qt::CheckStateRole);
+}
+
+void ListViewItem::tellSelection(const QItemSelection& now, const QItemSelection& before) {
+    // First those that were selected, then those that are.
+    for (const QItemSelection* const selection : {&before, &now}) {
+        for (const QModelIndex& place : QItemSelection(*selection).indexes()) {
+            if (place.column() == 0) {
+                tell(notification::listViewChanged, place.row(), 0);
+            }
+        }
+    }
+}
+
+void ListViewItem::tell(std::int32_t code, int row, int column) {
+    if (m_isProgramsChange) {
+        return;
+    }
+    Notification notification;
+    notification.item = id();
+    notification.code = code;
+    notification.row = row;
+    notification.column = column;
+    dialog().tellNotification(notification);
+}
+
+} // namespace zent::platform::qt

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstdint>
+
+#include <QString>
+
+class QWidget;
+
+namespace zent::platform::qt {
+
+/// As WindowSystem::showMessageBox.
+std::int32_t showMessageBox(QWidget* owner, const QString& body, const QString& title,
+                            std::uint32_t flags);
+
+} // namespace zent::platform::qt

@@ -1,0 +1,57 @@
+#include "platform/qt/OpenListItem.h"
+
+#include <QSignalBlocker>
+
+namespace zent::platform::qt {
+
+OpenListItem::OpenListItem(Dialog& dialog, const DialogTemplate::Item& source, QWidget& widget,
+                           QListWidget& list, bool isSorted)
+    : ListItem(dialog, source, widget, isSorted), m_list(list) {}
+
+int OpenListItem::selected() const {
+    const auto rows = m_list.selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.front().row();
+}
+
+void OpenListItem::select(int index) {
+    const QSignalBlocker blocker(m_list);
+    m_list.setCurrentRow(isIndex(index) ? index : -1);
+}
+
+void OpenListItem::clear() {
+    const QSignalBlocker blocker(m_list);
+    m_list.clear();
+}
+
+/// The list would select a neighbour of the one that goes.
+void OpenListItem::remove(int index) {
+    const QSignalBlocker blocker(m_list);
+    if (index == selected()) {
+        m_list.setCurrentRow(-1);
+    }
+    if (isIndex(index)) {
+        delete m_list.takeItem(index);
+    }
+}
+
+QString OpenListItem::entryText(int index) const {
+    return isIndex(index) ? m_list.item(index)->text() : QString();
+}
+
+void OpenListItem::setEntryText(int index, const QString& text) {
+    if (isIndex(index)) {
+        m_list.item(index)->setText(text);
+    }
+}
+
+std::uintptr_t OpenListItem::entryValue(int index) const {
+    return isIndex(index) ? m_list.item(index)->data(Qt::UserRole).toULongLong() : 0;
+}
+
+void OpenListItem::insert(int index, const QString& text, std::uintptr_t value) {
+    const QSignalBlocker blocker(m_list);
+    m_list.insertItem(index, text);
+    m_list.item(index)->setData(Qt::UserRole, static_cast<qulonglong>(value));
+}
+
+} // namespace zent::platform::qt

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QFrame>
+#include <QLabel>
+
+#include "platform/qt/Item.h"
+
+namespace zent::platform::qt {
+
+/// A text, picture or line.
+class StaticItem final : public Item {
+public:
+    StaticItem(Dialog& dialog, const DialogTemplate::Item& source, Pictures& pictures);
+
+    QString text() const override { return m_text; }
+    void setText(const QString& text) override;
+    /// 0 shows none.
+    void setBitmap(std::uint32_t bitmap);
+    /// The item that this one tells the name of.
+    void setBuddy(QWidget& widget) { m_label.setBuddy(&widget); }
+
+private:
+    class Label;
+
+    StaticItem(Dialog& dialog, const DialogTemplate::Item& source, Pictures& pictures,
+               QLabel& label);
+    void showTemplatesPicture(const DialogTemplate::Name& title);
+    void alignText();
+    void drawAsLine();
+
+    QLabel& m_label;
+    Pictures& m_pictures;
+    QString m_text;
+};
+
+} // namespace zent::platform::qt
