@@ -1,0 +1,606 @@
+#include "platform/WindowSystem.h"
+
+#include <map>
+#include <stdexcept>
+#include <utility>
+
+#include <gmock/gmock.h>
+
+#include "platform/PeImage.h"
+#include "platform/ResourceType.h"
+#include "support/DialogUser.h"
+#include "support/Rows.h"
+#include "support/ScratchFolder.h"
+#include "support/TemplateBuilder.h"
+
+// What each adapter of the window system has to do, whichever toolkit is below.
+
+namespace zent::platform {
+namespace {
+
+using test::Rows;
+using test::TemplateBuilder;
+using test::user::Key;
+using testing::EndsWith;
+using testing::HasSubstr;
+namespace user = test::user;
+
+enum SampleItem : std::uint16_t {
+    ok = 1,
+    cancel = 2,
+    number = 10,
+    notes,
+    duplex,
+    firstRadio,
+    secondRadio,
+    otherRadio, // of another group
+    choice,
+    ownChoice, // with a text to edit
+    openChoice,
+    list,
+    table,
+    slider,
+    spin,
+    picture,
+    drawn,
+    frame,
+    label,
+    scrolled,
+    absent = 999
+};
+
+constexpr std::uint32_t redBitmap = 500;
+
+std::vector<std::byte> sample() {
+    using T = TemplateBuilder;
+    constexpr std::uint32_t shown = T::visible;
+    constexpr std::uint32_t stop = shown | T::tabStop;
+    constexpr std::uint32_t group = T::group;
+    constexpr std::uint32_t bordered = stop | 0x00800000;
+    return T(u"Sample", {0, 0, 300, 200})
+        .add(frame, T::button, shown | group | 7, {2, 2, 100, 60}, u"Frame")
+        .add(label, T::label, shown | 0x80, {5, 12, 40, 8}, u"A & B")
+        .add(number, T::edit, bordered | 0x80, {50, 10, 40, 12})
+        .add(notes, T::edit, bordered | 4 | 0x1000, {5, 26, 85, 30}, u"one")
+        .add(duplex, T::button, stop | group | 3, {5, 66, 60, 10}, u"&Duplex")
+        .add(firstRadio, T::button, stop | group | 9, {5, 78, 60, 10}, u"&First")
+        .add(secondRadio, T::button, shown | 9, {5, 90, 60, 10}, u"&Second")
+        .add(otherRadio, T::button, stop | group | 9, {5, 102, 60, 10}, u"&Other")
+        .add(choice, T::comboBox, stop | group | 3, {110, 10, 80, 60})
+        .add(ownChoice, T::comboBox, stop | 2 | 0x40, {110, 26, 80, 60})
+        .add(openChoice, T::comboBox, stop | 1 | 0x40, {200, 10, 80, 50})
+        .add(list, T::listBox, bordered | 1 | 2, {110, 66, 80, 40})
+        .add(table, u"SysListView32", bordered | 1 | 4, {5, 116, 140, 50})
+        .add(slider, u"msctls_trackbar32", stop, {200, 66, 80, 16})
+        .add(spin, u"msctls_updown32", shown, {200, 90, 12, 14})
+        .add(picture, T::label, shown | 14, {200, 110, 20, 20})
+        .add(drawn, T::button, stop | 11, {230, 110, 20, 20})
+        .add(scrolled, T::scrollBar, shown, {200, 140, 80, 10})
+        .add(ok, T::button, stop | group | 1, {180, 180, 50, 14}, u"OK")
+        .add(cancel, T::button, stop, {240, 180, 50, 14}, u"Cancel")
+        .build();
+}
+
+/// Holds a bitmap of 8 by 8 pixels: a red square of 4 by 4 in the middle, else a ground of blue.
+class Resources final : public ResourceModule {
+public:
+    Resources() : m_bitmap(headerSize + side * side * 3) {
+        test::put32(m_bitmap, 0, headerSize);
+        test::put32(m_bitmap, 4, side);
+        test::put32(m_bitmap, 8, side);
+        test::put16(m_bitmap, 12, 1);
+        test::put16(m_bitmap, 14, 24);
+        for (std::uint32_t pixel = 0; pixel < side * side; ++pixel) {
+            const bool isRed = pixel % side / 2 % 3 != 0 && pixel / side / 2 % 3 != 0;
+            m_bitmap[headerSize + pixel * 3 + (isRed ? 2 : 0)] = 255;
+        }
+    }
+    std::int32_t loadString(std::uint32_t, char16_t*, std::int32_t) const override { return 0; }
+    std::span<const std::byte> findResource(std::uint32_t id, std::uint32_t type,
+                                            Failure& failure) const override {
+        const bool isFound = id == redBitmap && type == resourceType::bitmap;
+        failure = isFound ? Failure::none : Failure::find;
+        return isFound ? std::as_bytes(std::span(m_bitmap)) : std::span<const std::byte>();
+    }
+    const void* loadIcon(std::uint32_t) const override { return nullptr; }
+
+private:
+    static constexpr std::uint32_t headerSize = 40;
+    static constexpr std::uint32_t side = 8;
+    std::vector<std::uint8_t> m_bitmap;
+};
+
+/// Writes down what it is told, and does what the test wants at some of it. Which edit item lost
+/// the focus it says only if asked to.
+class Recorder final : public DialogProcedure {
+public:
+    std::function<void(WindowHandle)> onInit = [](WindowHandle) {};
+    /// By item: what a command of it does.
+    std::map<std::uint16_t, std::function<void(WindowHandle)>> onCommand;
+    std::function<void(WindowHandle, const DrawRequest&)> onDraw = [](auto, const auto&) {};
+    std::intptr_t answer = 0;
+    bool notesFocus = false;
+    std::string log;
+
+    bool processEvent(WindowHandle dialog, std::uint32_t message, std::uintptr_t wParam,
+                      std::intptr_t lParam, std::intptr_t& result) override {
+        const auto item = static_cast<std::uint16_t>(wParam & 0xFFFF);
+        const auto code = static_cast<std::uint32_t>(wParam >> 16);
+        result = answer;
+        if (message == event::initDialog) {
+            note("init", {});
+            onInit(dialog);
+        } else if (message == event::destroy) {
+            note("destroy", {});
+        } else if (message == event::command && (code != notification::editLeft || notesFocus)) {
+            note("command", {item, code});
+            const auto found = onCommand.find(item);
+            if (found != onCommand.end()) {
+                found->second(dialog);
+            }
+        } else if (message == event::notify) {
+            const auto& told = *reinterpret_cast<const Notification*>(lParam);
+            const bool isSpin = told.code == notification::spinStep;
+            note("notify", {told.item, told.code, isSpin ? told.position : told.row, told.delta});
+        } else if (message == event::horizontalScroll) {
+            note("scroll", {lParam, code});
+        } else if (message == event::drawItem) {
+            onDraw(dialog, *reinterpret_cast<const DrawRequest*>(lParam));
+        } else if (message != event::command) {
+            note("message", {message});
+        }
+        return true;
+    }
+
+private:
+    void note(const char* word, std::initializer_list<std::int64_t> numbers) {
+        log += log.empty() ? "" : "; ";
+        log += word;
+        for (const std::int64_t each : numbers) {
+            log += ' ' + std::to_string(each);
+        }
+    }
+};
+
+class WindowSystemTest : public testing::Test {
+protected:
+    void SetUp() override { ASSERT_NE(WindowSystem::find(), nullptr); }
+
+    static WindowSystem& windows() { return *WindowSystem::find(); }
+
+    std::intptr_t runSample() {
+        return windows().runModal(sample(), m_resources, nullptr, m_recorder);
+    }
+    /// Runs the sample dialog; what the user does when it is open comes before its end with 7.
+    std::intptr_t run(const std::function<void(WindowHandle)>& acts) {
+        user::onceOpen([&](WindowHandle dialog) {
+            m_recorder.log.clear();
+            acts(dialog);
+            windows().endDialog(dialog, 7);
+        });
+        return runSample();
+    }
+    /// What the recorder is told while something is done.
+    template <typename Act>
+    std::string told(const Act& act) {
+        m_recorder.log.clear();
+        act();
+        return std::exchange(m_recorder.log, std::string());
+    }
+
+    Resources m_resources;
+    Recorder m_recorder;
+};
+
+TEST_F(WindowSystemTest, TellsFromCreationToTheEnd) {
+    m_recorder.onInit = [&](WindowHandle dialog) {
+        EXPECT_EQ(m_recorder.log, "init");
+        EXPECT_FALSE(windows().isVisible(dialog));
+        EXPECT_EQ(windows().getText(dialog, notes), u"one");
+        EXPECT_EQ(windows().getText(dialog, label), u"A & B");
+        EXPECT_EQ(windows().getCaption(dialog), u"Sample");
+        windows().setCaption(dialog, u"Report [*]");
+        windows().showItem(dialog, picture, false);
+    };
+    const std::intptr_t value = run([&](WindowHandle dialog) {
+        EXPECT_TRUE(windows().isVisible(dialog));
+        EXPECT_EQ(windows().getCaption(dialog), u"Report [*]");
+        EXPECT_TRUE(windows().isItemShown(dialog, number));
+        EXPECT_FALSE(windows().isItemShown(dialog, picture));
+        m_recorder.answer = 5;
+        EXPECT_EQ(told([&] { EXPECT_EQ(windows().send(dialog, 32771, 0, 0), 5); }),
+                  "message 32771");
+    });
+    EXPECT_EQ(value, 7);
+    EXPECT_EQ(m_recorder.log, "destroy");
+
+    m_recorder.onInit = [&](WindowHandle dialog) { windows().endDialog(dialog, 3); };
+    EXPECT_EQ(told([&] { EXPECT_EQ(runSample(), 3); }), "init; destroy"); // it was never shown
+}
+
+TEST_F(WindowSystemTest, ExceptionsEndInTheApplication) {
+    for (const bool isEarly : {true, false}) {
+        const auto fail = [](WindowHandle) { throw std::runtime_error("refused"); };
+        m_recorder.onInit = isEarly ? std::function(fail) : [](WindowHandle) {};
+        m_recorder.onCommand[duplex] = fail;
+        if (!isEarly) {
+            user::onceOpen([](WindowHandle dialog) { user::click(dialog, duplex); });
+        }
+        EXPECT_THROW(runSample(), std::runtime_error);
+        EXPECT_THAT(m_recorder.log, EndsWith("destroy"));
+    }
+}
+
+TEST_F(WindowSystemTest, ItemsThatAreNotThereDoNothing) {
+    run([&](WindowHandle dialog) {
+        EXPECT_FALSE(windows().hasItem(dialog, absent));
+        windows().setText(dialog, absent, u"x");
+        EXPECT_EQ(windows().getText(dialog, absent), u"");
+        windows().setChecked(dialog, number, true); // of another kind
+        EXPECT_FALSE(windows().isChecked(dialog, number));
+        EXPECT_EQ(windows().getListCount(dialog, duplex), 0);
+        windows().removeItem(dialog, duplex);
+        EXPECT_FALSE(windows().hasItem(dialog, duplex));
+    });
+}
+
+TEST_F(WindowSystemTest, TakesWhatTheFilterPasses) {
+    m_recorder.onInit = [&](WindowHandle dialog) {
+        windows().setTextLimit(dialog, number, 5);
+        windows().setCharacterFilter(
+            dialog, number,
+            [](std::u16string_view text, std::int32_t start, std::int32_t, char16_t character) {
+                const bool isFirstMinus =
+                    character == u'-' && start == 0 && text.find(u'-') == std::u16string_view::npos;
+                return isFirstMinus || (character >= u'0' && character <= u'9');
+            });
+    };
+    run([&](WindowHandle dialog) {
+        const auto text = [&] { return windows().getText(dialog, number); };
+        EXPECT_EQ(told([&] { user::type(dialog, number, u"1a2-"); }),
+                  "command 10 768; command 10 768");
+        EXPECT_EQ(text(), u"12");
+        user::paste(dialog, number, u"x3-4y5678");
+        EXPECT_EQ(text(), u"12345"); // as many as there is room for
+        user::press(dialog, Key::backspace);
+        windows().selectText(dialog, number, 0, 3);
+        user::type(dialog, number, u"x");
+        EXPECT_EQ(text(), u"1234");
+        user::type(dialog, number, u"-");
+        EXPECT_EQ(text(), u"-4");
+        // The program isn't asked, nor bound.
+        EXPECT_EQ(told([&] { windows().setText(dialog, number, u"free text"); }), "command 10 768");
+        EXPECT_EQ(told([&] { windows().setText(dialog, number, u"free text"); }), "");
+        EXPECT_EQ(text(), u"free text");
+    });
+}
+
+TEST_F(WindowSystemTest, NumbersAndLines) {
+    run([&](WindowHandle dialog) {
+        for (const auto& [text, asSigned, asUnsigned] :
+             Rows<const char16_t*, std::int32_t, std::int32_t>{{u"", 0, 0},
+                                                               {u"  42 sheets", 42, 42},
+                                                               {u"-5", -5, 0},
+                                                               {u"4294967295", 0, -1},
+                                                               {u"99999999999999999999", 0, 0}}) {
+            windows().setText(dialog, number, text);
+            EXPECT_EQ(windows().getNumber(dialog, number, true), asSigned);
+            EXPECT_EQ(windows().getNumber(dialog, number, false), asUnsigned);
+        }
+        EXPECT_EQ(told([&] { windows().setNumber(dialog, number, -1, true); }), "command 10 768");
+        EXPECT_EQ(windows().getText(dialog, number), u"-1");
+        windows().setNumber(dialog, number, -1, false);
+        EXPECT_EQ(windows().getText(dialog, number), u"4294967295");
+
+        user::type(dialog, notes, u"\rtwo");
+        EXPECT_EQ(windows().getText(dialog, notes), u"one\r\ntwo");
+        windows().selectText(dialog, notes, 3, 6);
+        EXPECT_EQ(told([&] { user::type(dialog, notes, u"x"); }), "command 11 768");
+        EXPECT_EQ(windows().getText(dialog, notes), u"onexwo");
+        windows().setText(dialog, notes, u"a\r\nb");
+        EXPECT_EQ(windows().getText(dialog, notes), u"a\r\nb");
+        windows().focusItem(dialog, notes);
+        m_recorder.notesFocus = true;
+        EXPECT_EQ(told([&] { windows().focusItem(dialog, duplex); }), "command 11 512");
+        m_recorder.notesFocus = false;
+    });
+}
+
+TEST_F(WindowSystemTest, ChecksAndRadios) {
+    run([&](WindowHandle dialog) {
+        const auto marks = [&] {
+            std::string result;
+            for (const std::uint16_t item : {duplex, firstRadio, secondRadio, otherRadio}) {
+                result += windows().isChecked(dialog, item) ? '1' : '0';
+            }
+            return result;
+        };
+        EXPECT_EQ(told([&] { user::click(dialog, duplex); }), "command 12 0");
+        user::click(dialog, firstRadio);
+        user::click(dialog, otherRadio);
+        EXPECT_EQ(marks(), "1101");
+        EXPECT_EQ(told([&] { user::click(dialog, secondRadio); }), "command 14 0");
+        EXPECT_EQ(marks(), "1011");
+        // What the program does raises nothing and moves no other mark.
+        EXPECT_EQ(told([&] {
+                      windows().setChecked(dialog, duplex, false);
+                      windows().setChecked(dialog, secondRadio, false);
+                      windows().setChecked(dialog, firstRadio, true);
+                  }),
+                  "");
+        EXPECT_EQ(marks(), "0101");
+        windows().enableItem(dialog, duplex, false);
+        EXPECT_FALSE(windows().isItemEnabled(dialog, duplex));
+        EXPECT_EQ(told([&] { user::click(dialog, duplex); }), "");
+    });
+}
+
+TEST_F(WindowSystemTest, Lists) {
+    m_recorder.onInit = [&](WindowHandle dialog) {
+        for (const std::uint16_t item : {choice, ownChoice, openChoice, list}) {
+            EXPECT_EQ(windows().addToList(dialog, item, u"cherry", 3, -1), 0);
+            EXPECT_EQ(windows().addToList(dialog, item, u"apple", 1, 0), 0);
+            EXPECT_EQ(windows().addToList(dialog, item, u"banana", 0xFFFFFFFF, 1), 1);
+            EXPECT_EQ(windows().getSelected(dialog, item), -1);
+        }
+        EXPECT_EQ(windows().addToList(dialog, list, u"blueberry", 4, -1), 2); // it is sorted
+    };
+    run([&](WindowHandle dialog) {
+        for (const std::uint16_t item : {choice, ownChoice, openChoice, list}) {
+            const std::string event = "command " + std::to_string(item);
+            EXPECT_THAT(told([&] { user::choose(dialog, item, 1); }), EndsWith(event + " 1"));
+            EXPECT_EQ(windows().getSelected(dialog, item), 1);
+            EXPECT_EQ(windows().getListText(dialog, item, 1), u"banana");
+            EXPECT_EQ(windows().getListValue(dialog, item, 1), 0xFFFFFFFFU);
+            EXPECT_EQ(told([&] {
+                          windows().select(dialog, item, 0);
+                          windows().setListText(dialog, item, 2, u"date");
+                          windows().removeFromList(dialog, item, 0);
+                      }),
+                      "");
+            EXPECT_EQ(windows().getSelected(dialog, item), -1);
+            EXPECT_EQ(windows().getListText(dialog, item, 1), u"date");
+            EXPECT_EQ(windows().getListCount(dialog, item), item == list ? 3 : 2);
+            if (item == ownChoice || item == openChoice) {
+                windows().select(dialog, item, 0);
+                EXPECT_EQ(told([&] { user::type(dialog, item, u"s"); }), event + " 5");
+                EXPECT_EQ(windows().getText(dialog, item), u"bananas");
+                EXPECT_EQ(windows().getSelected(dialog, item), -1);
+            }
+            windows().clearList(dialog, item);
+            EXPECT_EQ(windows().getListCount(dialog, item), 0);
+        }
+    });
+}
+
+TEST_F(WindowSystemTest, ListViews) {
+    using RowNumbers = std::vector<std::int32_t>;
+    m_recorder.onInit = [&](WindowHandle dialog) {
+        windows().setListViewStyle(dialog, table, WindowSystem::ListViewStyle::checkedDetails);
+        windows().addColumn(dialog, table, u"Name", 80);
+        windows().addColumn(dialog, table, u"Size", 60);
+        for (const std::uintptr_t value : {7U, 8U, 9U}) {
+            const std::int32_t row = windows().addRow(dialog, table, u"row", 0, value);
+            windows().setCell(dialog, table, row, 1, u"A4");
+        }
+        windows().setRowChecked(dialog, table, 0, true);
+        windows().selectRow(dialog, table, 0);
+        EXPECT_EQ(m_recorder.log, "init");
+    };
+    run([&](WindowHandle dialog) {
+        EXPECT_EQ(windows().getSelectedRows(dialog, table), RowNumbers{0});
+        EXPECT_EQ(windows().getCell(dialog, table, 2, 1), u"A4");
+        EXPECT_THAT(told([&] { user::clickRow(dialog, table, 2); }), HasSubstr("notify 20 -101 2"));
+        EXPECT_EQ(windows().getSelectedRows(dialog, table), RowNumbers{2});
+        EXPECT_FALSE(windows().isRowChecked(dialog, table, 2));
+        EXPECT_THAT(told([&] { user::checkRow(dialog, table, 1); }), HasSubstr("notify 20 -101 1"));
+        EXPECT_TRUE(windows().isRowChecked(dialog, table, 1));
+
+        EXPECT_EQ(told([&] { windows().removeRow(dialog, table, 0); }), "");
+        EXPECT_EQ(windows().getRowCount(dialog, table), 2);
+        EXPECT_EQ(windows().getRowValue(dialog, table, 0), 8U);
+        EXPECT_TRUE(windows().isRowChecked(dialog, table, 0));
+        windows().clearRows(dialog, table);
+        EXPECT_EQ(windows().getSelectedRows(dialog, table), RowNumbers());
+    });
+}
+
+TEST_F(WindowSystemTest, SlidersAndSpins) {
+    m_recorder.onInit = [&](WindowHandle dialog) {
+        for (const std::uint16_t item : {slider, scrolled, spin}) {
+            windows().setRange(dialog, item, -5, 20);
+            windows().setPosition(dialog, item, 3);
+        }
+        EXPECT_EQ(m_recorder.log, "init");
+    };
+    run([&](WindowHandle dialog) {
+        EXPECT_EQ(told([&] { user::moveSlider(dialog, slider, 4); }), "scroll 21 4");
+        EXPECT_EQ(windows().getPosition(dialog, slider), 4);
+        EXPECT_EQ(windows().getPosition(dialog, scrolled), 3);
+        windows().setPosition(dialog, slider, 100);
+        EXPECT_EQ(windows().getPosition(dialog, slider), 20);
+
+        EXPECT_EQ(told([&] { user::spin(dialog, spin, true); }), "notify 22 -722 3 -1");
+        EXPECT_EQ(told([&] { user::spin(dialog, spin, false); }), "notify 22 -722 4 1");
+        EXPECT_EQ(windows().getPosition(dialog, spin), 3);
+        m_recorder.answer = 1; // against the step
+        user::spin(dialog, spin, true);
+        EXPECT_EQ(windows().getPosition(dialog, spin), 3);
+    });
+}
+
+TEST_F(WindowSystemTest, IsUsedByKeyboard) {
+    m_recorder.onInit = [&](WindowHandle dialog) {
+        windows().showItem(dialog, notes, false);
+        windows().enableItem(dialog, choice, false);
+        windows().setChecked(dialog, firstRadio, true);
+        windows().setChecked(dialog, otherRadio, true);
+    };
+    run([&](WindowHandle dialog) {
+        std::vector<std::uint16_t> order = {user::focused(dialog)};
+        for (int i = 0; i < 12; ++i) {
+            user::press(dialog, Key::tab);
+            order.push_back(user::focused(dialog));
+        }
+        EXPECT_THAT(order, testing::ElementsAre(number, duplex, firstRadio, otherRadio, ownChoice,
+                                                openChoice, list, table, slider, drawn, ok, cancel,
+                                                number));
+        user::press(dialog, Key::shiftTab);
+        EXPECT_EQ(user::focused(dialog), cancel);
+        windows().focusItem(dialog, duplex);
+        EXPECT_EQ(told([&] { user::press(dialog, Key::space); }), "command 12 0");
+        EXPECT_EQ(told([&] { user::press(dialog, Key::enter); }), "command 1 0");
+    });
+}
+
+TEST_F(WindowSystemTest, ClosesByCommand) {
+    const auto escape = [](WindowHandle dialog) { user::press(dialog, Key::escape); };
+    for (const auto& act : {std::function<void(WindowHandle)>(escape), {user::close}}) {
+        m_recorder.onCommand.clear();
+        user::onceOpen(act);
+        EXPECT_EQ(told([&] { EXPECT_EQ(runSample(), 0); }), "init; command 2 0; destroy");
+        m_recorder.onCommand[cancel] = [&](WindowHandle dialog) { windows().endDialog(dialog, 2); };
+        user::onceOpen(act);
+        EXPECT_EQ(runSample(), 2);
+    }
+}
+
+TEST_F(WindowSystemTest, ModelessDialogsGoWithTheirOwners) {
+    const auto open = [&](WindowHandle owner) {
+        return windows().createModeless(sample(), m_resources, owner, m_recorder);
+    };
+    const WindowHandle owner = open(nullptr);
+    ASSERT_NE(owner, nullptr);
+    EXPECT_TRUE(windows().isVisible(owner));
+    m_recorder.onCommand[ok] = [&](WindowHandle dialog) {
+        windows().destroyDialog(dialog);
+        EXPECT_FALSE(windows().hasItem(dialog, ok));
+    };
+    const WindowHandle first = open(owner);
+    EXPECT_EQ(told([&] { user::click(first, ok); }), "command 1 0; destroy");
+    EXPECT_TRUE(windows().isVisible(owner));
+    const WindowHandle second = open(owner);
+    EXPECT_EQ(told([&] { windows().destroyDialog(owner); }), "destroy; destroy");
+    EXPECT_FALSE(windows().isVisible(second));
+    EXPECT_FALSE(windows().isVisible(owner));
+}
+
+TEST_F(WindowSystemTest, DialogsOpenDialogs) {
+    Recorder inner;
+    inner.onCommand[ok] = [&](WindowHandle dialog) { windows().endDialog(dialog, 1); };
+    m_recorder.onCommand[duplex] = [&](WindowHandle dialog) {
+        EXPECT_EQ(windows().runModal(sample(), m_resources, dialog, inner), 1);
+    };
+    run([&](WindowHandle dialog) {
+        user::onceOpen([](WindowHandle opened) { user::click(opened, ok); });
+        EXPECT_EQ(told([&] { user::click(dialog, duplex); }), "command 12 0");
+        EXPECT_TRUE(windows().isVisible(dialog));
+    });
+    EXPECT_EQ(inner.log, "init; command 1 0; destroy");
+}
+
+TEST_F(WindowSystemTest, MeasuresAndMoves) {
+    run([&](WindowHandle dialog) {
+        const Rectangle inside = windows().mapDialogUnits(dialog, {0, 0, 300, 200});
+        EXPECT_GT(inside.right, 300);
+        EXPECT_EQ(windows().getClientRectangle(dialog), inside);
+        const auto items = windows().getItems(dialog);
+        ASSERT_EQ(items.size(), 20U);
+        std::vector<std::uint16_t> marked;
+        for (const auto& item : items) {
+            marked.insert(marked.end(), item.isMarkedButton ? 1 : 0, item.id);
+        }
+        EXPECT_THAT(marked, testing::ElementsAre(frame, duplex, firstRadio, secondRadio, otherRadio,
+                                                 drawn, ok));
+        EXPECT_EQ(items[1].id, label);
+        EXPECT_EQ(items[1].place, windows().mapDialogUnits(dialog, {5, 12, 45, 20}));
+        windows().moveItem(dialog, 1, {30, 40, 90, 55});
+        EXPECT_EQ(windows().getItems(dialog)[1].place, (Rectangle{30, 40, 90, 55}));
+
+        Rectangle place = windows().getWindowRectangle(dialog);
+        place = {place.left + 7, place.top + 5, place.right - 13, place.bottom + 12};
+        windows().moveWindow(dialog, place);
+        EXPECT_EQ(windows().getWindowRectangle(dialog), place);
+        EXPECT_EQ(windows().getClientRectangle(dialog),
+                  (Rectangle{0, 0, inside.right - 20, inside.bottom + 7}));
+        EXPECT_GT(windows().getWorkArea(dialog).width(), 100);
+    });
+}
+
+TEST_F(WindowSystemTest, AsksByMessageBoxes) {
+    for (const auto& [flags, key, answer] : Rows<std::uint32_t, Key, std::int32_t>{
+             {48, Key::enter, 1},
+             {16, Key::escape, 1}, // there is but one button
+             {64 + 1, Key::enter, 1},
+             {64 + 1, Key::escape, 2},
+             {32 + 1 + 0x100, Key::enter, 2}, // the second is the default
+             {32 + 4 + 0x100, Key::enter, 7},
+         }) {
+        user::onceOpen([pressed = key](WindowHandle box) {
+            EXPECT_EQ(windows().getCaption(box), u"Title");
+            user::press(box, pressed);
+        });
+        EXPECT_EQ(windows().showMessageBox(nullptr, u"Line\r\nand line", u"Title", flags), answer);
+    }
+}
+
+/// How many pixels of a bitmap file, of three or four bytes a pixel, have a colour (0xRRGGBB).
+std::size_t countPixels(const std::string& file, std::uint32_t colour) {
+    const auto field = [&](std::size_t place, std::size_t size) {
+        std::size_t value = 0;
+        for (std::size_t i = 0; i < size && place + i < file.size(); ++i) {
+            value |= std::size_t{static_cast<unsigned char>(file[place + i])} << (8 * i);
+        }
+        return value;
+    };
+    const std::size_t width = field(18, 4);
+    const std::size_t bytes = field(28, 2) / 8;
+    const std::size_t line = (width * bytes + 3) / 4 * 4;
+    std::size_t count = 0;
+    for (std::size_t start = field(10, 4); start + line <= file.size() && line != 0;
+         start += line) {
+        for (std::size_t x = 0; x < width; ++x) {
+            count += field(start + x * bytes, 3) == colour ? 1U : 0U;
+        }
+    }
+    return count;
+}
+
+TEST_F(WindowSystemTest, ShowsPicturesWithoutTheirGround) {
+    const test::ScratchFolder folder;
+    m_recorder.onInit = [&](WindowHandle dialog) {
+        windows().setBitmap(dialog, picture, redBitmap);
+        windows().enableItem(dialog, drawn, false);
+    };
+    m_recorder.onDraw = [&](WindowHandle dialog, const DrawRequest& request) {
+        EXPECT_EQ(request.item, drawn);
+        EXPECT_EQ(request.state & 5, 4U);
+        windows().drawBitmap(dialog, request, redBitmap);
+    };
+    run([&](WindowHandle dialog) {
+        const auto count = [&](std::uint32_t colour) {
+            EXPECT_TRUE(windows().saveScreenshot(dialog, folder.file("dialog.bmp")));
+            return countPixels(folder.read("dialog.bmp"), colour);
+        };
+        EXPECT_EQ(count(0xFF0000), 32U); // in both items
+        EXPECT_EQ(count(0x0000FF), 0U);
+        windows().setBitmap(dialog, picture, 0);
+        EXPECT_EQ(count(0xFF0000), 16U);
+    });
+}
+
+TEST_F(WindowSystemTest, RefusesBrokenTemplates) {
+    const auto isRefused = [&](std::span<const std::byte> bytes) {
+        return windows().runModal(bytes, m_resources, nullptr, m_recorder) == -1 &&
+               windows().createModeless(bytes, m_resources, nullptr, m_recorder) == nullptr;
+    };
+    const auto whole = sample();
+    for (std::size_t length = 0; length < whole.size(); length += 3) {
+        EXPECT_TRUE(isRefused(std::span(whole).first(length))) << length;
+    }
+    EXPECT_TRUE(isRefused(TemplateBuilder(u"").add(1, u"NoSuchClass", 0, {}).build()));
+    EXPECT_EQ(m_recorder.log, "");
+}
+
+} // namespace
+} // namespace zent::platform
