@@ -11,6 +11,7 @@
 #include "support/DialogUser.h"
 #include "support/Rows.h"
 #include "support/ScratchFolder.h"
+#include "support/Screenshots.h"
 #include "support/TemplateBuilder.h"
 
 // What each adapter of the window system has to do, whichever toolkit is below.
@@ -203,6 +204,7 @@ TEST_F(WindowSystemTest, TellsFromCreationToTheEnd) {
         windows().showItem(dialog, picture, false);
     };
     const std::intptr_t value = run([&](WindowHandle dialog) {
+        test::keepScreenshot(dialog, "sample");
         EXPECT_TRUE(windows().isVisible(dialog));
         EXPECT_EQ(windows().getCaption(dialog), u"Report [*]");
         EXPECT_TRUE(windows().isItemShown(dialog, number));

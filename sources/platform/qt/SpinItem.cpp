@@ -1,11 +1,11 @@
 #include "platform/qt/SpinItem.h"
 
 #include <algorithm>
+#include <vector>
 
-#include <QAbstractSpinBox>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QStyle>
+#include <QToolButton>
 
 #include "platform/WindowSystem.h"
 #include "platform/qt/Dialog.h"
@@ -22,36 +22,47 @@ constexpr std::uint32_t takesArrowKeys = 0x20;
 
 } // namespace
 
-/// A spin box that has nothing but its arrows. It takes the arrow keys of the widgets that it
-/// watches.
-class SpinItem::Arrows final : public QAbstractSpinBox {
+/// Two buttons, one above the other. They take the arrow keys of the widgets that they watch.
+class SpinItem::Arrows final : public QWidget {
 public:
-    explicit Arrows(QWidget* parent) : QAbstractSpinBox(parent) {
-        setFocusPolicy(Qt::NoFocus);
-        lineEdit()->hide();
+    explicit Arrows(Dialog& dialog) : QWidget(&dialog) {}
+    void setItem(SpinItem& item) {
+        add(Qt::UpArrow, item, 1);
+        add(Qt::DownArrow, item, -1);
     }
-    void setItem(SpinItem& item) { m_item = &item; }
-    void stepBy(int steps) override { m_item->step(steps); }
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::KeyPress && isEnabled()) {
             const int key = static_cast<QKeyEvent*>(event)->key();
             if (key == Qt::Key_Up || key == Qt::Key_Down) {
-                stepBy(key == Qt::Key_Up ? 1 : -1);
+                m_buttons[key == Qt::Key_Up ? 0 : 1]->click();
                 return true;
             }
         }
-        return QAbstractSpinBox::eventFilter(watched, event);
+        return QWidget::eventFilter(watched, event);
     }
 
 protected:
-    StepEnabled stepEnabled() const override { return StepUpEnabled | StepDownEnabled; }
+    void resizeEvent(QResizeEvent* /*event*/) override {
+        const int half = height() / 2;
+        m_buttons[0]->setGeometry(0, 0, width(), half);
+        m_buttons[1]->setGeometry(0, half, width(), height() - half);
+    }
 
 private:
-    SpinItem* m_item = nullptr;
+    void add(Qt::ArrowType arrow, SpinItem& item, int steps) {
+        auto* const button = new QToolButton(this);
+        button->setArrowType(arrow);
+        button->setAutoRepeat(true);
+        button->setFocusPolicy(Qt::NoFocus);
+        connect(button, &QToolButton::clicked, this, [&item, steps] { item.step(steps); });
+        m_buttons.push_back(button);
+    }
+
+    std::vector<QToolButton*> m_buttons;
 };
 
 SpinItem::SpinItem(Dialog& dialog, const DialogTemplate::Item& source)
-    : SpinItem(dialog, source, *new Arrows(&dialog)) {}
+    : SpinItem(dialog, source, *new Arrows(dialog)) {}
 
 SpinItem::SpinItem(Dialog& dialog, const DialogTemplate::Item& source, Arrows& arrows)
     : RangeItem(dialog, source, arrows) {

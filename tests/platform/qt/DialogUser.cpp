@@ -9,13 +9,11 @@
 
 #include <QAbstractItemView>
 #include <QAbstractSlider>
-#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
 #include <QListWidget>
 #include <QPointer>
-#include <QStyleOptionSpinBox>
 #include <QStyleOptionViewItem>
 #include <QTest>
 #include <QTimer>
@@ -228,14 +226,9 @@ void moveSlider(WindowHandle dialog, std::uint16_t item, std::int32_t position) 
 }
 
 void spin(WindowHandle dialog, std::uint16_t item, bool up) {
-    if (auto* const box = findUsable<QAbstractSpinBox>(dialog, item)) {
-        QStyleOptionSpinBox option;
-        option.initFrom(box);
-        option.frame = box->hasFrame();
-        option.subControls = QStyle::SC_All;
-        const QRect arrow = box->style()->subControlRect(
-            QStyle::CC_SpinBox, &option, up ? QStyle::SC_SpinBoxUp : QStyle::SC_SpinBoxDown, box);
-        QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, arrow.center());
+    if (auto* const arrows = findUsable(dialog, item)) {
+        const QPoint place(arrows->width() / 2, arrows->height() * (up ? 1 : 3) / 4);
+        QTest::mouseClick(arrows->childAt(place), Qt::LeftButton);
     }
 }
 
