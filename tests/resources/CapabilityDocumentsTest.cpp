@@ -260,7 +260,7 @@ TEST(CapabilityDocumentsTest, FamiliesOfferWhatThePrinterTablesSay) {
 
 TEST(CapabilityDocumentsTest, StreamFormOffersOnlyWhatTheStreamCanSay) {
     // What the stream of comment lines has a line for. Of media it tells no name, but the printer's
-    // stocks need one.
+    // stocks need one, and no documents of an exception, which an import gives it nevertheless.
     const Names sayable = namesIn(
         "copies sheet-collate sides imposition-template page-ranges job-save-disposition "
         "save-disposition save-info save-name job-name job-account-id requesting-user-name "
@@ -270,8 +270,8 @@ TEST(CapabilityDocumentsTest, StreamFormOffersOnlyWhatTheStreamCanSay) {
         "highlight-colorant-mismatch finishings separator-sheets separator-sheets-type "
         "finishings-col finishing-template force-front-side media-col media-size media-color "
         "media-type media-order-count media-hole-count media-weight-metric media-key cover-front "
-        "cover-back cover-type page-overrides pages insert-sheet insert-after-page-number "
-        "insert-count");
+        "cover-back cover-type page-overrides input-documents pages insert-sheet "
+        "insert-after-page-number insert-count");
     const Names finishings = namesIn("3 13 20 21 22 23 28 29 30 31 50 52");
     for (const FamilyInfo& family : getFamilyTable()) {
         if (family.capabilityResource1 == family.capabilityResource2) {
