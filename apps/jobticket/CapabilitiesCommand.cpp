@@ -4,7 +4,7 @@
 
 #include "Commands.h"
 #include "Listing.h"
-#include "Offers.h"
+#include "OfferJson.h"
 #include "PrinterOptions.h"
 #include "Text.h"
 #include "TicketFile.h"
@@ -17,6 +17,7 @@ struct CapabilitiesOptions {
     PrinterOptions printer;
     std::string pattern;
     bool table = false;
+    bool json = false;
 };
 
 using Row = std::vector<std::string>;
@@ -69,7 +70,8 @@ std::string summarize(const Offer& offer) {
 std::string listPrinter(const Offers& offers) {
     return layOut({
         {"Printer", offers.printer + ", " + offers.language},
-        {"Instructions", offers.form == ZENT_INSTRUCTIONS_XML ? "XML document" : "comment lines"},
+        {"Instructions",
+         offers.choice.form == ZENT_INSTRUCTIONS_XML ? "XML document" : "comment lines"},
         {"Front and back cover apart", yesOrNo(offers.hasSeparateCovers)},
         {"Several media in an insert", yesOrNo(offers.insertsMultipleMedia)},
         {"TIFF when printing and saving", yesOrNo(offers.savesTiffWhenPrinting)},
@@ -145,6 +147,20 @@ std::string makeTable(const std::vector<Offer>& features) {
     return text;
 }
 
+std::string makeJson(const Offers& offers) {
+    Json features = Json::array();
+    for (const Offer& offer : offers.features) {
+        features.add(toJson(offer));
+    }
+    return Json::object()
+        .add("printer", describePrinter(offers)
+                            .add("separateCovers", offers.hasSeparateCovers)
+                            .add("severalMediaInInsert", offers.insertsMultipleMedia)
+                            .add("tiffWhenPrintingAndSaving", offers.savesTiffWhenPrinting))
+        .add("features", features)
+        .toText();
+}
+
 /// Leaves only the feature of that name, or those with the text in a name.
 void keepMatching(std::vector<Offer>& features, const std::string& pattern) {
     const auto isNamed = [&](const Offer& offer) { return offer.feature.getName() == pattern; };
@@ -163,11 +179,14 @@ ExitStatus list(const CapabilitiesOptions& options) {
         throw ProgramError(ExitStatus::badValue,
                            offers.printer + " has no feature " + inQuotes(options.pattern));
     }
-    std::string text = listFeatures(offers.features);
-    if (options.table) {
+    std::string text;
+    if (options.json) {
+        text = makeJson(offers);
+    } else if (options.table) {
         text = makeTable(offers.features);
-    } else if (options.pattern.empty()) {
-        text = listPrinter(offers) + "\n" + text;
+    } else {
+        text = (options.pattern.empty() ? listPrinter(offers) + "\n" : "") +
+               listFeatures(offers.features);
     }
     writeFile(std::string(standardStream), text);
     return ExitStatus::success;
@@ -181,8 +200,10 @@ void addCapabilitiesCommand(CLI::App& program, Action& action) {
     command->add_option("PATTERN", options->pattern,
                         "A feature, or a part of the names of those to list");
     addPrinterOptions(*command, options->printer);
-    command->add_flag("--table", options->table,
-                      "One line a feature with tabs between the columns, for other programs");
+    CLI::Option* table =
+        command->add_flag("--table", options->table,
+                          "One line a feature with tabs between the columns, for other programs");
+    command->add_flag("--json", options->json, "The same as JSON")->excludes(table);
     command->callback([options, &action] { action = [options] { return list(*options); }; });
 }
 

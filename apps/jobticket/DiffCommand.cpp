@@ -25,7 +25,9 @@ struct Sides {
 
 using Row = std::vector<std::string>;
 
-std::string textOf(const OutlineLine* line) { return line == nullptr ? "(not set)" : line->value; }
+std::string valueOf(const OutlineLine* line) {
+    return line == nullptr ? "(not set)" : joinValues(line->values);
+}
 
 /// One row for each feature that the two tickets don't agree on, in the order of the first ticket
 /// and then of the second. The order of features says nothing about the job, so it isn't compared.
@@ -48,9 +50,10 @@ std::vector<Row> compare(const std::vector<OutlineLine>& first,
     std::vector<Row> rows;
     for (const std::string& path : order) {
         const Sides& sides = byPath[path];
-        if (sides.first == nullptr || sides.second == nullptr ||
-            sides.first->value != sides.second->value) {
-            rows.push_back({path, textOf(sides.first) + " -> " + textOf(sides.second)});
+        const std::string before = valueOf(sides.first);
+        const std::string after = valueOf(sides.second);
+        if (sides.first == nullptr || sides.second == nullptr || before != after) {
+            rows.push_back({path, before + " -> " + after});
         }
     }
     return rows;

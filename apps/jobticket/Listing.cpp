@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "Text.h"
+
 namespace jobticket {
 
 namespace {
@@ -17,8 +19,12 @@ std::size_t widthOf(const std::string& text) {
 
 } // namespace
 
-std::string layOut(const std::vector<std::vector<std::string>>& rows) {
+std::string layOut(std::vector<std::vector<std::string>> rows) {
     std::vector<std::size_t> widths;
+    for (std::vector<std::string>& row : rows) {
+        std::ranges::transform(row, row.begin(),
+                               [](const std::string& cell) { return toPrintable(cell); });
+    }
     for (const std::vector<std::string>& row : rows) {
         widths.resize(std::max(widths.size(), row.size()));
         for (std::size_t column = 0; column + 1 < row.size(); ++column) {

@@ -198,9 +198,9 @@ Offers getOffers(const PrinterChoice& choice) {
                                         true);
     const Capabilities& capabilities = printer.getCapabilities();
     Offers offers;
+    offers.choice = {choice.model, choice.pdl, printer.getInstructionForm()};
     offers.printer = toPrintable(printer.getDisplayName());
     offers.language = displayNameOf(choice.pdl);
-    offers.form = printer.getInstructionForm();
     offers.hasSeparateCovers = capabilities.isSeparateCoversCapable();
     offers.insertsMultipleMedia = capabilities.isInsertMultipleMediaCapable();
     offers.savesTiffWhenPrinting = capabilities.isTiffPrintSaveCapable();

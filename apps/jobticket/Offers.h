@@ -26,9 +26,9 @@ struct Offer {
 
 /// What a printer offers.
 struct Offers {
+    PrinterChoice choice; // the form never ZENT_INSTRUCTIONS_BY_MODEL
     std::string printer;
     std::string language;
-    std::uint32_t form = 0;         // a ZentInstructionForm, never ZENT_INSTRUCTIONS_BY_MODEL
     bool hasSeparateCovers = false; // front and back cover may differ
     bool insertsMultipleMedia = false;
     bool savesTiffWhenPrinting = false;

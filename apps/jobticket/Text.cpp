@@ -90,9 +90,22 @@ std::string toPrintable(std::u16string_view text) {
     return result;
 }
 
-std::string inQuotes(std::string_view argument) {
-    return '"' + toPrintable(fromUtf8(argument)) + '"';
+std::string toPrintable(std::string_view text) { return toPrintable(fromUtf8(text)); }
+
+std::string shorten(const std::string& text, std::size_t length) {
+    constexpr std::u16string_view ellipsis = u"...";
+    std::u16string units = fromUtf8(text);
+    if (units.size() <= length) {
+        return text;
+    }
+    units.resize(length - ellipsis.size());
+    if ((units.back() & 0xFC00U) == 0xD800U) { // the other half is cut off
+        units.pop_back();
+    }
+    return toUtf8(units.append(ellipsis));
 }
+
+std::string inQuotes(std::string_view argument) { return '"' + toPrintable(argument) + '"'; }
 
 bool containsIgnoringCase(std::string_view text, std::string_view part) {
     return std::search(text.begin(), text.end(), part.begin(), part.end(),

@@ -22,6 +22,11 @@ std::u16string fromZent(const ZentText& text);
 /// UTF-8 for one line of a listing: control characters, which could break the line or steer a
 /// terminal, are shown as "\n", "\t" or "\x1b".
 std::string toPrintable(std::u16string_view text);
+/// The same of UTF-8.
+std::string toPrintable(std::string_view text);
+
+/// UTF-8 of at most so many UTF-16 units; what is longer ends in "...".
+std::string shorten(const std::string& text, std::size_t length);
 
 /// An argument in quotation marks for a message, printable.
 std::string inQuotes(std::string_view argument);
