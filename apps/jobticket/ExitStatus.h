@@ -9,10 +9,10 @@ namespace jobticket {
 /// page lists these numbers; they never change.
 enum class ExitStatus : int {
     success = 0,
-    differences = 1,    // the tickets that were compared differ
+    differences = 1,    // tickets differ, or a printer can't do all of one
     usage = 2,          // the command line makes no sense
     unreadable = 3,     // a file can't be read
-    invalidTicket = 4,  // what was read is no ticket or state blob
+    invalidTicket = 4,  // what was read is no ticket, state blob or media library
     badValue = 5,       // a feature, printer or value that the tables don't know
     unwritable = 6,     // the result can't be written
     libraryFailure = 7, // anything else that the library reports

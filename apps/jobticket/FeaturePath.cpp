@@ -10,7 +10,7 @@ namespace jobticket {
 namespace {
 
 [[noreturn]] void fail(std::string_view where, const std::string& reason) {
-    throw ProgramError(ExitStatus::badValue, toPrintable(fromUtf8(where)) + ": " + reason);
+    throw ProgramError(ExitStatus::badValue, toPrintable(where) + ": " + reason);
 }
 
 std::uint32_t parseIndex(std::string_view where, std::string_view text) {
@@ -47,6 +47,28 @@ void checkParent(std::string_view where, const Feature& parent, const Feature& m
     }
 }
 
+/// One step of a way to an attribute, whose members of sets are counted from 1.
+struct WayStep {
+    std::string_view name;
+    std::optional<std::uint32_t> index; // from 0 on
+};
+
+WayStep parseWayStep(std::string_view text) {
+    const std::size_t bracket = text.find('[');
+    WayStep step = {text.substr(0, bracket), std::nullopt};
+    if (bracket != std::string_view::npos) {
+        const std::string_view index = text.substr(bracket + 1, text.find(']') - bracket - 1);
+        step.index = parseIndex(text, index) - 1;
+    }
+    return step;
+}
+
+/// Features in a collection of the ticket, or in the first of several, are found by themselves.
+bool isFoundThrough(const WayStep& step) {
+    return step.index.value_or(0) == 0 && Feature::exists(step.name) &&
+           !Feature::named(step.name).isPageLevel();
+}
+
 } // namespace
 
 FeaturePath parsePath(std::string_view text) {
@@ -61,6 +83,24 @@ FeaturePath parsePath(std::string_view text) {
             return path;
         }
         rest.remove_prefix(dot + 1);
+    }
+}
+
+std::string toPathText(std::string_view way) {
+    std::string path;
+    for (std::string_view rest = way;;) {
+        const std::size_t slash = rest.find('/');
+        const WayStep step = parseWayStep(rest.substr(0, slash));
+        const bool isLast = slash == std::string_view::npos;
+        if (isLast || !isFoundThrough(step)) {
+            path += step.name;
+            path += step.index ? "[" + std::to_string(*step.index) + "]" : "";
+            path += isLast ? "" : ".";
+        }
+        if (isLast) {
+            return path;
+        }
+        rest.remove_prefix(slash + 1);
     }
 }
 

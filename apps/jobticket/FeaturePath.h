@@ -27,4 +27,9 @@ FeaturePath parsePath(std::string_view text);
 
 std::string toText(const PathStep& step);
 
+/// The way to an attribute of a ticket, as reports of repairs tell it
+/// ("page-overrides[2]/media-col/media-color"), in the form above
+/// ("page-overrides[1].media-color").
+std::string toPathText(std::string_view way);
+
 } // namespace jobticket

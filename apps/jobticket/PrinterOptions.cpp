@@ -16,27 +16,30 @@ namespace {
     throw ProgramError(ExitStatus::usage, message);
 }
 
-Model chooseModel(const std::string& text) {
+Model chooseModel(const std::string& text, const std::string& option) {
     constexpr std::size_t mostListed = 6;
     if (text.empty()) {
-        fail("which printer? --model takes its number or name; \"jobticket models\" lists all");
+        fail("which printer? " + option +
+             " takes its number or name; \"jobticket models\" lists all");
     }
     const std::vector<Model> models = findModels(text);
     if (models.empty()) {
-        fail("--model: there is no printer " + inQuotes(text) + "; \"jobticket models\" lists all");
+        fail(option + ": there is no printer " + inQuotes(text) +
+             "; \"jobticket models\" lists all");
     }
     if (models.size() > 1) {
         std::string names;
         for (std::size_t index = 0; index < std::min(models.size(), mostListed); ++index) {
             names += (names.empty() ? "" : ", ") + models[index].name;
         }
-        fail("--model: " + inQuotes(text) + " may be " + names +
+        fail(option + ": " + inQuotes(text) + " may be " + names +
              (models.size() > mostListed ? " and others" : ""));
     }
     return models.front();
 }
 
-std::uint32_t chooseLanguage(const Model& model, const std::string& text) {
+std::uint32_t chooseLanguage(const Model& model, const std::string& text,
+                             const std::string& option) {
     if (text.empty()) {
         return PrinterChoice().pdl; // every model has it
     }
@@ -49,9 +52,9 @@ std::uint32_t chooseLanguage(const Model& model, const std::string& text) {
         return driver->language.number;
     }
     if (std::ranges::any_of(getLanguages(), means)) {
-        fail("--pdl: " + model.name + " has no " + text + "; it has " + listLanguages(model));
+        fail(option + ": " + model.name + " has no " + text + "; it has " + listLanguages(model));
     }
-    fail("--pdl: " + inQuotes(text) + " is none of ps (1), pcl (2), color-pcl (3)");
+    fail(option + ": " + inQuotes(text) + " is none of ps (1), pcl (2), color-pcl (3)");
 }
 
 std::uint32_t chooseForm(const std::string& text) {
@@ -77,16 +80,21 @@ void addModelOptions(CLI::App& command, PrinterOptions& options) {
                        "it, pcl");
 }
 
-void addPrinterOptions(CLI::App& command, PrinterOptions& options) {
-    addModelOptions(command, options);
+void addFormOption(CLI::App& command, PrinterOptions& options) {
     command.add_option("--form", options.form,
                        "The form of printing instructions: xml (1), stream (2), or what the model "
                        "takes (3), which is the default");
 }
 
-PrinterChoice choosePrinter(const PrinterOptions& options) {
-    const Model model = chooseModel(options.model);
-    return {model.number, chooseLanguage(model, options.language), chooseForm(options.form)};
+void addPrinterOptions(CLI::App& command, PrinterOptions& options) {
+    addModelOptions(command, options);
+    addFormOption(command, options);
+}
+
+PrinterChoice choosePrinter(const PrinterOptions& options, const PrinterOptionNames& names) {
+    const Model model = chooseModel(options.model, names.model);
+    return {model.number, chooseLanguage(model, options.language, names.language),
+            chooseForm(options.form)};
 }
 
 } // namespace jobticket

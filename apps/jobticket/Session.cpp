@@ -5,6 +5,7 @@
 
 #include "Fetch.h"
 #include "Text.h"
+#include "platform/CodePage.h"
 
 namespace jobticket {
 
@@ -64,22 +65,33 @@ Session::Session(const PrinterChoice& printer, const PreferenceSet& preferences)
 
 Session::~Session() { fnCloseSession(&m_handle); }
 
-void Session::import(std::string_view bytes, std::uint32_t format, const std::string& name) {
+bool Session::import(std::string_view bytes, std::uint32_t format, const std::string& name,
+                     std::uint32_t mode) {
     ZentBool problems = 0;
     ZentBool applied = 0;
     check(fnImportJobTicket(m_handle, bytes.data(), sizeOf(bytes, "fnImportJobTicket", name),
-                            format, ZENT_APPLY_SILENT_KEEP, nullptr, nullptr, &problems, &applied),
+                            format, mode, nullptr, nullptr, &problems, &applied),
           "fnImportJobTicket", name);
     if (applied == 0) {
         throw ProgramError(ExitStatus::libraryFailure,
                            name + ": the ticket isn't taken, since the printer can't do all of it");
     }
+    return problems != 0;
 }
 
 std::string Session::exportAs(std::uint32_t format) {
     return fetch<std::string>("fnExportJobTicket", "", [&](void* buffer, std::uint32_t* size) {
         return fnExportJobTicket(m_handle, buffer, size, format);
     });
+}
+
+std::string Session::getInstructions(const std::string& documentName) {
+    const std::string name = zent::platform::toAnsi(fromUtf8(documentName));
+    return fetch<std::string>(
+        "fnGetPrintInstructions", documentName, [&](void* buffer, std::uint32_t* size) {
+            return fnGetPrintInstructions(m_handle, buffer, size,
+                                          name.empty() ? nullptr : name.c_str());
+        });
 }
 
 std::string Session::renewState(std::string_view blob, const std::string& name) {

@@ -38,17 +38,24 @@ public:
 
     ZentSessionType getHandle() const { return m_handle; }
 
-    /// Reads a ticket in place of the one that the session holds; nothing is repaired. `name` is
-    /// for messages.
-    void importTicket(std::string_view document, const std::string& name) {
-        import(document, ZENT_FORMAT_XML, name);
+    /// Reads a ticket in place of the one that the session holds; `name` is for messages. True if
+    /// there is anything in it that the printer can't do, which stays so.
+    bool importTicket(std::string_view document, const std::string& name) {
+        return import(document, ZENT_FORMAT_XML, name, ZENT_APPLY_SILENT_KEEP);
+    }
+    /// The same, but what the printer can't do is repaired.
+    bool importAndRepairTicket(std::string_view document, const std::string& name) {
+        return import(document, ZENT_FORMAT_XML, name, ZENT_APPLY_SILENT_REPAIR);
     }
     std::string exportTicket() { return exportAs(ZENT_FORMAT_XML); }
     /// The same with a state blob.
     void importState(std::string_view blob, const std::string& name) {
-        import(blob, ZENT_FORMAT_STATE, name);
+        import(blob, ZENT_FORMAT_STATE, name, ZENT_APPLY_SILENT_KEEP);
     }
     std::string exportState() { return exportAs(ZENT_FORMAT_STATE); }
+    /// The printing instructions for a document of the job, in the session's form. The name of the
+    /// document may be empty.
+    std::string getInstructions(const std::string& documentName);
     /// A state blob anew, with the present user's name and preferences in it.
     std::string renewState(std::string_view blob, const std::string& name);
 
@@ -56,7 +63,8 @@ public:
     Ticket getTicket();
 
 private:
-    void import(std::string_view bytes, std::uint32_t format, const std::string& name);
+    bool import(std::string_view bytes, std::uint32_t format, const std::string& name,
+                std::uint32_t mode);
     std::string exportAs(std::uint32_t format);
 
     ZentSessionType m_handle = nullptr;

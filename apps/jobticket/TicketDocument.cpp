@@ -38,13 +38,15 @@ std::vector<std::string> parserMessages(const zent::CXString& message) {
     return lines;
 }
 
-[[noreturn]] void failToRead(const zent::TarvoException& exception, const std::string& name) {
-    const std::string subject = nameForMessages(name);
+} // namespace
+
+void failToRead(const zent::TarvoException& exception, const std::string& subject,
+                const std::string& fault) {
     const std::vector<std::string> messages = parserMessages(exception.getMessage());
     if (messages.empty()) {
         throw LibraryError(exception.getResultCode(), "reading", subject);
     }
-    std::string text = subject + " is no valid ticket";
+    std::string text = subject + " " + fault;
     for (std::size_t index = 0; index < messages.size() && index < mostMessages; ++index) {
         text += "\n  " + messages[index];
     }
@@ -54,15 +56,13 @@ std::vector<std::string> parserMessages(const zent::CXString& message) {
     throw ProgramError(ExitStatus::invalidTicket, text);
 }
 
-} // namespace
-
 zent::AttrNodeList readDocument(std::string_view document, const std::string& name) {
     zent::AttrNodeList list;
     try {
         zent::OrdoTranslator().anlFromBuffer(zent::ByteBuffer(document.data(), document.size()),
                                              &list);
     } catch (const zent::TarvoException& exception) {
-        failToRead(exception, name);
+        failToRead(exception, nameForMessages(name), "is no valid ticket");
     }
     return list;
 }
@@ -71,10 +71,17 @@ zent::AttrNodeList readDocumentFile(const std::string& name) {
     return readDocument(readFile(name), name);
 }
 
-void importDocumentFile(Session& session, const std::string& name) {
+std::string repairTicket(std::string_view document, const std::string& name,
+                         const PrinterChoice& printer) {
+    Session session(printer);
+    session.importAndRepairTicket(document, nameForMessages(name));
+    return session.exportTicket();
+}
+
+bool importDocumentFile(Session& session, const std::string& name) {
     const std::string document = readFile(name);
     try {
-        session.importTicket(document, nameForMessages(name));
+        return session.importTicket(document, nameForMessages(name));
     } catch (const LibraryError&) {
         readDocument(document, name); // fails as well, and says where in the document
         throw;

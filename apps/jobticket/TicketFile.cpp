@@ -89,6 +89,14 @@ void writeStandardOutput(std::string_view bytes) {
 
 } // namespace
 
+void writeListing(std::string_view text, bool isOutputTaken) {
+    if (isOutputTaken) {
+        std::cerr << text;
+    } else {
+        writeStandardOutput(text);
+    }
+}
+
 std::string nameForMessages(const std::string& name) {
     return name == standardStream ? "the standard stream" : name;
 }

@@ -16,6 +16,9 @@ std::string readFile(const std::string& name);
 /// temporary file beside it, which then takes its place. Raises ProgramError (unwritable).
 void writeFile(const std::string& name, std::string_view bytes);
 
+/// Writes a listing to standard output, or to standard error if a result is written to the former.
+void writeListing(std::string_view text, bool isOutputTaken);
+
 /// A file's name for messages.
 std::string nameForMessages(const std::string& name);
 

@@ -56,7 +56,7 @@ bool isShownBefore(const RepairEntry& a, const RepairEntry& b) {
 }
 
 RepairValue makeValue(const CXString& attribute, const AttrValue& value) {
-    return {makeValueText(attribute, value), makeValueDisplay(attribute, value)};
+    return {makeValueText(attribute, value), makeValueDisplay(attribute, value), value.clone()};
 }
 
 void setRule(RepairEntry& entry, const SettingsProblem& problem) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 #include "ocore/Capabilities/RepairLocation.h"
@@ -12,6 +13,7 @@ namespace zent {
 struct RepairValue {
     CXString text;
     CXString display;
+    std::shared_ptr<const AttrValue> value; // a copy; null where there is none
 };
 
 /// One problem of a ticket, and what a repair does about it.

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Json.h"
+#include "TicketCheck.h"
+
+namespace jobticket {
+
+/// A line for each problem: where in the ticket, what is there and what a repair makes of it, and
+/// what the printer takes instead.
+std::string listProblems(const std::vector<Problem>& problems);
+/// An array of them, with all that is known.
+Json toJson(const std::vector<Problem>& problems);
+
+/// "Tarvo Lumaset 430, monochrome PCL".
+std::string describePrinterForPeople(const Offers& offers);
+
+} // namespace jobticket

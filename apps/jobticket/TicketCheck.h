@@ -1,0 +1,46 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Offers.h"
+#include "ShownValue.h"
+#include "ocore/Attributes/AttrNodeList.h"
+
+namespace jobticket {
+
+/// What a repair does about a problem.
+enum class Repair {
+    remove,  // what is there goes, or what lacks something goes as a whole
+    replace, // by another value
+    add,     // the printer's default of what is missing
+};
+
+/// One thing in a ticket that a printer can't do. Paths are as "jobticket set" takes them.
+struct Problem {
+    std::string path;
+    std::string feature;             // or the attribute, if it is none
+    std::string name;                // for people
+    std::string rule;                // that the ticket breaks, as zent::RepairEntry has it
+    std::string part;                // such as "page-overrides[1]"; empty for the job as a whole
+    std::optional<Range> pages;      // that the part is for
+    std::optional<ShownValue> value; // nothing for what is missing
+    std::optional<Range> limits;     // of the number, or of the length of the text
+    Repair repair;
+    std::string removedPath;            // of what a removal takes away
+    std::optional<ShownValue> newValue; // nothing for a removal
+    std::shared_ptr<const Offer> offer; // of the feature; null if the printer lacks it
+};
+
+struct TicketCheck {
+    Offers offers;
+    std::vector<Problem> problems; // in the order of the library's reports
+};
+
+/// Finds what a printer can't do of a ticket, which is first brought into the form that an import
+/// gives it.
+TicketCheck checkTicket(zent::AttrNodeList ticket, const PrinterChoice& choice);
+
+} // namespace jobticket
