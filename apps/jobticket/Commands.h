@@ -19,10 +19,14 @@ void addShowCommand(CLI::App& program, Action& action);
 void addSetCommand(CLI::App& program, Action& action);
 void addUnsetCommand(CLI::App& program, Action& action);
 void addDiffCommand(CLI::App& program, Action& action);
+void addCheckCommand(CLI::App& program, Action& action);
+void addRetargetCommand(CLI::App& program, Action& action);
+void addInstructionsCommand(CLI::App& program, Action& action);
 void addStateCommand(CLI::App& program, Action& action);
 void addFeaturesCommand(CLI::App& program, Action& action);
 void addModelsCommand(CLI::App& program, Action& action);
 void addCapabilitiesCommand(CLI::App& program, Action& action);
+void addStockCommand(CLI::App& program, Action& action);
 void addPreferencesCommand(CLI::App& program, Action& action);
 
 } // namespace jobticket

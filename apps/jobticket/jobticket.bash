@@ -18,11 +18,18 @@ _jobticket_assignments() {
 _jobticket_options() {
     case $1 in
     new) echo --help --output --model --pdl --form ;;
-    show) echo --help --raw ;;
+    show) echo --help --raw --json ;;
     set) echo --help --output ;;
     unset) echo --help --output --all ;;
     features | models) echo --help --table ;;
-    capabilities) echo --help --table --model --pdl --form ;;
+    capabilities) echo --help --table --json --model --pdl --form ;;
+    check) echo --help --json --fix --output --model --pdl --form ;;
+    retarget) echo --help --json --output --from --from-pdl --to --to-pdl ;;
+    instructions) echo --help --output --document --model --pdl --form --set --generic ;;
+    stock) echo --help list add remove ;;
+    "stock list") echo --help --json --folder --model --pdl ;;
+    "stock add") echo --help --favorite --folder ;;
+    "stock remove") echo --help --folder ;;
     diff | "state show") echo --help ;;
     state) echo --help pack unpack show renew ;;
     "state unpack") echo --help --output ;;
@@ -30,20 +37,34 @@ _jobticket_options() {
     preferences) echo --help list get set ;;
     "preferences list") echo --help --model --pdl --set --generic ;;
     preferences\ *) echo --help --type --model --pdl --set --generic ;;
-    *) echo --help --version new show set unset diff state features models capabilities preferences ;;
+    *) echo --help --version new show set unset diff check retarget instructions state features \
+        models capabilities stock preferences ;;
     esac
 }
+
+# Options that take a value, as a pattern.
+_jobticket_taking='-o|--output|-m|--model|-p|--pdl|--form|--type|--set|--from|--from-pdl|--to|--to-pdl|--document|--folder'
 
 # The values of an option; fails for one that has none of its own.
 _jobticket_option_values() {
     case $2 in
-    -m | --model) "$1" models --table | cut -f 1 ;;
-    -p | --pdl) echo ps pcl color-pcl ;;
+    -m | --model | --from | --to) "$1" models --table | cut -f 1 ;;
+    -p | --pdl | --from-pdl | --to-pdl) echo ps pcl color-pcl ;;
     --form) echo xml stream model ;;
     --type) echo bool number text data ;;
-    --set) ;;
+    --set | --document) ;;
     *) return 1 ;;
     esac
+}
+
+# The names of the user's stocks, which may hold blanks.
+_jobticket_stocks() {
+    local name
+    while IFS= read -r name; do
+        if [[ $name == "$2"* ]]; then
+            COMPREPLY+=("$(printf %q "$name")")
+        fi
+    done < <("$1" stock list 2> /dev/null | sed -n 's/  .*//p')
 }
 
 _jobticket() {
@@ -51,10 +72,10 @@ _jobticket() {
     local -i arguments=0
     COMPREPLY=()
     for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
-        if [[ $word != -* && $before != @(-o|--output|-m|--model|-p|--pdl|--form|--type|--set) ]]; then
+        if [[ $word != -* && $before != @($_jobticket_taking) ]]; then
             case $command in
             "") command=$word ;;
-            state | preferences) command+=" $word" ;;
+            state | preferences | stock) command+=" $word" ;;
             *) arguments+=1 ;;
             esac
         fi
@@ -62,7 +83,7 @@ _jobticket() {
     done
     if values=$(_jobticket_option_values "$program" "$previous"); then
         mapfile -t COMPREPLY < <(compgen -W "$values" -- "$current")
-    elif [[ $command == @(|state|preferences) || $current == -* ]]; then
+    elif [[ $command == @(|state|preferences|stock) || $current == -* ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$(_jobticket_options "$command")" -- "$current")
     elif [[ $command == @(features|capabilities) ]]; then
         _jobticket_assignments "$program"
@@ -70,7 +91,10 @@ _jobticket() {
     elif [[ $command == "preferences "@(get|set) && arguments -eq 0 ]]; then
         values=$("$program" preferences list | cut -d " " -f 1)
         mapfile -t COMPREPLY < <(compgen -W "$values" -- "$current")
-    elif [[ $command == @(set|unset) && $previous != @(-o|--output) && arguments -gt 0 ]]; then
+    elif [[ $command == "stock remove" && $previous != --folder ]]; then
+        _jobticket_stocks "$program" "$current"
+    elif [[ $command == @(set|unset|"stock add") && $previous != @(-o|--output|--folder) &&
+        arguments -gt 0 ]]; then
         _jobticket_assignments "$program"
         if [[ $command == unset ]]; then
             COMPREPLY=("${COMPREPLY[@]%=}")

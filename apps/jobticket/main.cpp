@@ -1,4 +1,4 @@
-// jobticket: makes, reads, edits and compares job tickets on the command line.
+// jobticket: makes, edits, compares and checks job tickets on the command line.
 
 #include <algorithm>
 #include <iostream>
@@ -18,10 +18,14 @@ namespace jobticket {
 namespace {
 
 constexpr const char* aboutStatus = R"(Exit status:
-  0  success                       4  what was read is no valid ticket or state blob
-  1  diff: the tickets differ      5  a feature, printer or value that isn't known
-  2  wrong use of the command      6  the result can't be written
-  3  a file can't be read          7  any other failure of the library
+  0  success
+  1  diff: the tickets differ; check, retarget: the printer can't do all of the ticket
+  2  wrong use of the command
+  3  a file can't be read
+  4  what was read is no valid ticket, state blob or media library
+  5  a feature, printer, stock or value that isn't known
+  6  the result can't be written
+  7  any other failure of the library
 )";
 
 std::vector<std::string> namesOf(const CLI::App& program) {
@@ -65,7 +69,7 @@ ExitStatus parse(CLI::App& program, std::vector<std::string> arguments) {
 }
 
 ExitStatus run(const std::vector<std::string>& arguments) {
-    CLI::App program("Makes, reads, edits and compares job tickets for production printers.",
+    CLI::App program("Makes, edits, compares and checks job tickets for production printers.",
                      "jobticket");
     program.set_version_flag("--version", "jobticket " ZENT_VERSION);
     program.require_subcommand(1);
@@ -79,10 +83,14 @@ ExitStatus run(const std::vector<std::string>& arguments) {
     addSetCommand(program, action);
     addUnsetCommand(program, action);
     addDiffCommand(program, action);
+    addCheckCommand(program, action);
+    addRetargetCommand(program, action);
+    addInstructionsCommand(program, action);
     addStateCommand(program, action);
     addFeaturesCommand(program, action);
     addModelsCommand(program, action);
     addCapabilitiesCommand(program, action);
+    addStockCommand(program, action);
     addPreferencesCommand(program, action);
     checkCommand(program, arguments);
     const ExitStatus status = parse(program, arguments);

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Runs the program jobticket as its users do, and looks at what it writes, says and returns."""
 import argparse
+import json
 import os
 import pathlib
 import re
@@ -20,9 +21,10 @@ EXAMPLES = sorted((ROOT / "examples").glob("*.xml"))
 REPORT = ROOT / "examples" / "report.xml"
 COMPLETION = ROOT / "apps" / "jobticket" / "jobticket.bash"
 MANUAL = ROOT / "apps" / "jobticket" / "jobticket.1"
-COMMANDS = ["new", "show", "set", "unset", "diff", "state", "state pack", "state unpack",
-            "state show", "state renew", "features", "models", "capabilities", "preferences", "preferences list",
-            "preferences get", "preferences set"]
+COMMANDS = ["new", "show", "set", "unset", "diff", "check", "retarget", "instructions", "state",
+            "state pack", "state unpack", "state show", "state renew", "features", "models",
+            "capabilities", "stock", "stock list", "stock add", "stock remove", "preferences",
+            "preferences list", "preferences get", "preferences set"]
 
 # Of no user's preferences, so that all have their defaults.
 UNTOUCHED_SET = "jobticket test, never written"
@@ -307,6 +309,183 @@ class Printers(InFolder):
                 self.assertGreater(listed.count(b"\n"), 30)
 
 
+class Checking(InFolder):
+    def test_tells_each_kind_of_problem(self):
+        ticket = run("set", "-", "copies=99999", "media-size=29700x42000", "toner-saver=none",
+                     f"job-message-to-operator={'x' * 60}", f"job-name={'ö' * 44}",
+                     "finishings=20,50", "media-color=a b", "save-name=s",
+                     "page-overrides[0].pages=3-4", "page-overrides[0].media-type=my own",
+                     data=EMPTY)
+        lines = run("check", "-", "-m", "16", data=ticket, status=DIFFERENT).decode().splitlines()
+        self.assertEqual(lines[0], "Tarvo Lumaset 430, monochrome PCL: 9 problems")
+        rows = {row[0]: row[1:] for row in (re.split(r"\s{2,}", line) for line in lines[1:])}
+        self.assertEqual(rows, {
+            "toner-saver": ["none -> removed", "no such feature"],
+            "job-message-to-operator": [f"{'x' * 45}... -> removed", "no such feature"],
+            "copies": ["99999 -> 1", "allowed: 1-999"],
+            "media-size": ["29700x42000 -> 21000x29700",
+                           "allowed: SIZE_8PT5x11, SIZE_8PT5x14, SIZE_8PT5x13, SIZE_A4, or "
+                           "20300-21600 x 25400-35600"],
+            "media-color": ["a b -> white",
+                            "allowed: white, pink, yellow, blue, green, buff, goldenrod"],
+            "finishings[1]": ["50 (Bind, left) -> 3 (No finishing)",
+                              "allowed: 3 (No finishing), 20 (Staple, top left), 21 (Staple, bottom "
+                              "left), 22 (Staple, top right), 23 (Staple, bottom right)"],
+            "job-name": [f"{'ö' * 44} -> {'ö' * 40}", "length: 0-40"],
+            "page-overrides[0].media-type": ["my own -> removed", "allowed: stationery"],
+            "save-disposition": ["(not set) -> none", "required"]})
+        self.assertEqual(run("check", "-", "-m", "16", data=EMPTY),
+                         b"Tarvo Lumaset 430, monochrome PCL: no problems\n")
+
+    def test_problems_as_json(self):
+        ticket = run("set", "-", "copies=32768", "forms-col[0].form-location=x",
+                     "page-overrides[0].pages=3-4", "page-overrides[0].halftone-images=85-lpi",
+                     data=EMPTY)
+        found = json.loads(run("check", "-", "-m", "43", "--json", data=ticket, status=DIFFERENT))
+        values = found["problems"][1]["allowed"].pop("values")
+        self.assertIn({"value": "stochastic", "text": "Stochastic"}, values)
+        self.assertEqual(found, {
+            "printer": {"model": 43, "name": "Tarvo Chromaset 900", "pdl": "pcl", "form": "xml"},
+            "problems": [
+                {"path": "copies", "feature": "copies", "name": "Copies",
+                 "rule": "unsupported-value", "found": {"value": "32768", "text": "32768"},
+                 "allowed": {"feature": "copies", "name": "Copies", "unset": True, "own": False,
+                             "ranges": [[1, 32767]]},
+                 "repair": {"action": "replace", "with": {"value": "1", "text": "1"}}},
+                {"path": "page-overrides[0].halftone-images", "feature": "halftone-images",
+                 "name": "Image halftone", "rule": "unsupported-value", "part": "page-overrides[0]",
+                 "pages": [3, 4], "found": {"value": "85-lpi", "text": "85 lpi"},
+                 "allowed": {"feature": "halftone-images", "name": "Image halftone", "unset": True,
+                             "own": False},
+                 "repair": {"action": "remove", "path": "page-overrides[0].halftone-images"}},
+                {"path": "form-name", "feature": "form-name", "name": "Form name",
+                 "rule": "missing-feature",
+                 "allowed": {"feature": "form-name", "name": "Form name", "unset": False,
+                             "own": True, "length": [0, 255]},
+                 "repair": {"action": "remove", "path": "forms-col[0]"}}]})
+
+    def test_json_keeps_texts(self):
+        name = 'a"b\\c\t\u009b/\u2028 ü\U0001f600'
+        ticket = run("set", "-", f"job-name={name}", "finishings=20,22", data=EMPTY)
+        listed = run("show", "-", "--json", data=ticket)
+        self.assertNotIn("\u009b", listed.decode())
+        self.assertEqual(json.loads(listed), {"features": [
+            {"path": "job-name", "name": "Job name", "values": [{"value": name, "text": name}]},
+            {"path": "finishings", "name": "Finishing", "values": [
+                {"value": "20", "text": "Staple, top left"},
+                {"value": "22", "text": "Staple, top right"}]}]})
+
+    def test_repairs_for_good(self):
+        repaired = self.folder / "repaired.xml"
+        for ticket in EXAMPLES:
+            for printer in some([["-m", str(model)] for model in range(1, 52, 6)]):
+                with self.subTest([ticket.name, *printer]):
+                    before = subprocess.run([*program, "check", str(ticket), *printer],
+                                            capture_output=True, timeout=100, check=False)
+                    fixed = run("check", ticket, *printer, "--fix", "-o", repaired,
+                                status=before.returncode)
+                    self.assertEqual(fixed, before.stdout)
+                    run("check", repaired, *printer)
+                    if before.returncode == OK:
+                        self.assertEqual(raw(repaired.read_bytes()), raw(ticket.read_bytes()))
+
+    def test_writes_the_ticket_and_the_list_apart(self):
+        for command in (["check", REPORT, "-m", "1", "--fix"],
+                        ["retarget", REPORT, "--from", "43", "--to", "1"]):
+            written, listed = run_for_both(*command, status=DIFFERENT)
+            self.assertNotIn("output-bin", raw(written))
+            self.assertIn("output-bin          stacker -> removed", listed)
+            self.assertEqual(run(*command, "-o", self.folder / "out.xml", status=DIFFERENT).decode(),
+                             listed)
+            self.assertEqual((self.folder / "out.xml").read_bytes(), written)
+
+    def test_retarget_tells_what_is_lost(self):
+        ticket = EXAMPLES[[t.name for t in EXAMPLES].index("mailing.xml")]
+        out = self.folder / "out.xml"
+        move = json.loads(run("retarget", ticket, "--from", "43", "--to", "16", "--to-pdl", "ps",
+                              "--json", "-o", out, status=DIFFERENT))
+        self.assertEqual((move["from"]["model"], move["to"]["model"], move["to"]["pdl"]),
+                         (43, 16, "ps"))
+        lost = {problem["path"] for problem in move["lost"]}
+        self.assertLessEqual({"pages-per-subset", "job-hold-until"}, lost)
+        self.assertEqual({problem["path"] for problem in move["others"]},
+                         {"highlight-colorant", "highlight-map", "highlight-colorant-mismatch"})
+        run("check", out, "-m", "16", "-p", "ps")
+        run("retarget", REPORT, "--from", "1", "--to", "43", "-o", out)
+
+
+class Instructions(InFolder):
+    def test_both_forms(self):
+        ticket = run("set", "-", "copies=7", "job-name=Old", "sides=one-sided", data=EMPTY)
+        printer = ["-m", "16", "--set", UNTOUCHED_SET, "--document", "Näme.ps"]
+        user = raw(run("new", "-m", "1"))["requesting-user-name"]
+        stream = run("instructions", "-", *printer, data=ticket).decode().split("\n")
+        self.assertEqual(stream, [
+            "%TRVbegin: 001.0300", "%TRVtitle: Näme.ps", f"%TRVsenderName: {user}",
+            f"%TRVrecipientName: {user}", "%TRVcopyCount: 7", "%TRVrequirements: simplex",
+            "%TRVdisposition: PRINT", "%TRVdeleteSource: False", "%TRVend", ""])
+        document = run("instructions", "-", *printer, "--form", "xml", data=ticket)
+        self.assertEqual(raw(document), {
+            "job-name": "Näme.ps", "copies": "7", "sides": "one-sided",
+            "requesting-user-name": user, "job-recipient-name": user})
+
+    def test_notes_what_the_printer_lacks(self):
+        ticket = run("set", "-", "copies=70000", data=EMPTY)
+        stream, message = run_for_both("instructions", "-", "-m", "16", data=ticket)
+        self.assertIn(b"%TRVcopyCount: 70000\n", stream)
+        self.assertIn('"jobticket check" lists what', message)
+
+
+class Stocks(InFolder):
+    def stocks(self, *options):
+        listed = json.loads(run("stock", "list", "--json", "--folder", self.folder, *options))
+        return {stock["name"]: stock for stock in listed["stocks"]}
+
+    def test_adds_and_removes(self):
+        begin = self.stocks()
+        self.assertEqual(list(begin), [str(number) for number in range(1, 11)])
+        self.assertEqual(list(self.folder.iterdir()), [])
+        run("stock", "add", "Büro <90>", "media-color=blue", "media-size=SIZE_A4", "--favorite",
+            "--folder", self.folder)
+        run("stock", "add", "plain", "--folder", self.folder)
+        run("stock", "remove", "3", "10", "--folder", self.folder)
+        after = self.stocks()
+        self.assertEqual(list(after), ["1", "2", "4", "5", "6", "7", "8", "9", "Büro <90>", "plain"])
+        self.assertEqual(after["Büro <90>"], {
+            "name": "Büro <90>", "kind": "library", "favorite": True, "features": [
+                {"path": "media-color", "name": "Media color",
+                 "values": [{"value": "blue", "text": "Blue"}]},
+                {"path": "media-size", "name": "Media size",
+                 "values": [{"value": "21000x29700", "text": "A4 (210 x 297 mm)"}]}]})
+        self.assertEqual((after["plain"]["favorite"], after["plain"]["features"]), (False, []))
+        self.assertEqual(after["1"], begin["1"])
+        self.assertIn("Büro <90>  library  favorite  Blue, A4 (210 x 297 mm)\n",
+                      run("stock", "list", "--folder", self.folder).decode())
+        of_printer = self.stocks("-m", "43")
+        self.assertEqual(list(of_printer)[:10], list(after))
+        self.assertEqual(of_printer["iso-a4-white"]["kind"], "printer")
+
+    def test_leaves_the_library_alone_on_failure(self):
+        file = self.folder / "omedpref.omp"
+        run("stock", "add", "plain", "--folder", self.folder)
+        before = file.read_bytes()
+        for arguments, status, expected in [
+            (["add", "plain"], BAD_VALUE, "has a stock"),
+            (["add", "other", "copies=2"], BAD_VALUE, "no feature of a stock"),
+            (["add", "other", "cover-front.media-color=blue"], BAD_VALUE, "no feature of a stock"),
+            (["add", ""], BAD_VALUE, "empty"),
+            (["remove", "1", "other"], BAD_VALUE, "no stock"),
+        ]:
+            with self.subTest(arguments):
+                _, message = run_for_both("stock", *arguments, "--folder", self.folder, status=status)
+                self.assertIn(expected, message)
+                self.assertEqual(file.read_bytes(), before)
+        file.write_bytes(before[:300])
+        _, message = run_for_both("stock", "add", "x", "--folder", self.folder, status=INVALID)
+        self.assertIn("damaged\n  Fatal error at line", message)
+        self.assertEqual(file.read_bytes(), before[:300])
+
+
 class StateBlobs(InFolder):
     def test_a_ticket_passes_through_a_blob(self):
         for ticket in some(EXAMPLES):
@@ -441,6 +620,13 @@ class Failures(InFolder):
             (["state", "unpack", "-"], report, INVALID, "no state blob"),
             (["state", "show", "-"], report, INVALID, "no state blob"),
             (["state", "show", "-"], struct.pack("<II", 8, 0x03080001), INVALID, "damaged"),
+            (["check", REPORT], b"", USAGE, "which printer"),
+            (["check", "-", "-m", "1"], b"no XML", INVALID, "line 1, column 1"),
+            (["check", REPORT, "-m", "1", "-o", "x"], b"", USAGE, "--fix"),
+            (["retarget", REPORT, "--from", "1"], b"", USAGE, "--to takes"),
+            (["retarget", REPORT, "--from", "1", "--to", "1", "--to-pdl", "3"], b"", USAGE,
+             "--to-pdl: "),
+            (["instructions", REPORT, "--document", "x"], b"", USAGE, "which printer"),
             (["preferences", "set", "x", "0g", "--type", "data"], b"", BAD_VALUE, "hexadecimal"),
             (["preferences", "set", "x", "yes", "--type", "bool"], b"", BAD_VALUE, "true or false"),
             (["preferences", "get", "x", "--type", "unit"], b"", USAGE, "bool, number, text, data"),
@@ -593,6 +779,9 @@ class Completion(InFolder):
         if is_windows or not shutil.which("bash"):
             self.skipTest("needs bash")
         (self.folder / "ticket.xml").touch()
+        home = self.enterContext(tempfile.TemporaryDirectory(dir=os.environ.get("TEST_TMPDIR")))
+        self.enterContext(unittest.mock.patch.dict(os.environ, HOME=home))
+        run("stock", "add", "Letterhead")
         rows = [
             ("jobticket se", ["set"]),
             ("jobticket show --r", ["--raw"]),
@@ -614,6 +803,10 @@ class Completion(InFolder):
             ("jobticket new -m 5", ["5", "50", "51"]),
             ("jobticket new -m 5 --pdl ", ["ps", "pcl", "color-pcl"]),
             ("jobticket features cover-f", ["cover-front"]),
+            ("jobticket retarget ticket.xml --to-pdl p", ["ps", "pcl"]),
+            ("jobticket check --fix -m 1 ", ["ticket.xml"]),
+            ("jobticket stock add Mine media-col", ["media-color="]),
+            ("jobticket stock remove Let", ["Letterhead"]),
         ]
         for line, expected in rows:
             with self.subTest(line):

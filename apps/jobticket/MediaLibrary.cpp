@@ -1,0 +1,117 @@
+#include "MediaLibrary.h"
+
+#include <algorithm>
+
+#include "ExitStatus.h"
+#include "Text.h"
+#include "TicketDocument.h"
+#include "TicketEditor.h"
+#include "ocore/TarvoException.h"
+#include "ocore/User.h"
+
+namespace jobticket {
+
+namespace {
+
+using zent::Stock;
+using zent::StockType;
+
+zent::MediaPreferences readPreferences(const std::string& folder, std::string& file) {
+    const zent::CXString path =
+        folder.empty() ? zent::User::getProfileDirectoryPath() : zent::CXString(fromUtf8(folder));
+    try {
+        zent::MediaPreferences preferences(path);
+        file = toUtf8(preferences.getPath());
+        return preferences;
+    } catch (const zent::TarvoException& exception) {
+        failToRead(exception, "the media library in " + toUtf8(path), "is damaged");
+    }
+}
+
+void checkBelongsToStock(const Assignment& assignment) {
+    const Feature mediaCol(zent::feature::mediaCol);
+    const Feature& feature = assignment.path.back().feature;
+    const bool isInTicket = std::ranges::none_of(
+        assignment.path, [](const PathStep& step) { return step.feature.isPageLevel(); });
+    if (!isInTicket || !feature.isMemberOf(mediaCol) ||
+        feature.getNumber() == zent::feature::mediaKey) {
+        throw ProgramError(
+            ExitStatus::badValue,
+            toText(assignment.path.back()) +
+                " is no feature of a stock; \"jobticket features media\" lists these");
+    }
+}
+
+/// The settings of a stock, made as those of a ticket are.
+zent::AttrNodeList describe(const std::vector<Assignment>& assignments) {
+    Session session;
+    Ticket ticket = session.getTicket();
+    ticket.removeAll();
+    for (const Assignment& assignment : assignments) {
+        checkBelongsToStock(assignment);
+        setValues(ticket, assignment.path, assignment.values);
+    }
+    return readDocument(session.exportTicket(), "stock");
+}
+
+Stock makeStock(const std::vector<Assignment>& assignments) {
+    if (assignments.empty()) {
+        return Stock(0, zent::FeatureValue(), StockType::user, zent::StockSource::name,
+                     zent::FeatureSettings());
+    }
+    zent::AttrNodeList description = describe(assignments);
+    return *Stock::createFromSettings(zent::FeatureSettings(&description), StockType::user);
+}
+
+} // namespace
+
+MediaLibrary::MediaLibrary(const PrinterChoice& printer, const std::string& folder)
+    : m_printer(printer.model, printer.pdl, printer.form, zent::CXString(), true),
+      m_stocks(m_printer, readPreferences(folder, m_file)) {}
+
+std::vector<const Stock*> MediaLibrary::getStocks(StockType kind) {
+    std::vector<const Stock*> stocks;
+    m_stocks.resetStocksByType(kind);
+    while (m_stocks.hasMoreStocksByType()) {
+        stocks.push_back(m_stocks.getNextStockByType());
+    }
+    return stocks;
+}
+
+const Stock* MediaLibrary::find(const std::string& name) {
+    const std::vector<const Stock*> stocks = getStocks(StockType::user);
+    const auto found = std::ranges::find_if(
+        stocks, [&](const Stock* stock) { return toUtf8(stock->getKey().getText()) == name; });
+    return found == stocks.end() ? nullptr : *found;
+}
+
+void MediaLibrary::add(const std::string& name, const std::vector<Assignment>& assignments,
+                       bool isFavorite) {
+    parseValues(Feature(zent::feature::mediaKey), name); // says what is wrong with a name
+    if (find(name) != nullptr) {
+        throw ProgramError(ExitStatus::badValue, "the library has a stock " + inQuotes(name));
+    }
+    Stock stock = makeStock(assignments);
+    stock.setKeyFromText(zent::CXString(fromUtf8(name)));
+    stock.setFavorite(isFavorite);
+    m_stocks.addStock(stock);
+}
+
+void MediaLibrary::remove(const std::string& name) {
+    const Stock* const stock = find(name);
+    if (stock == nullptr) {
+        throw ProgramError(ExitStatus::badValue, "the library has no stock " + inQuotes(name) +
+                                                     "; \"jobticket stock list\" lists all");
+    }
+    m_stocks.removeStock(*stock);
+}
+
+void MediaLibrary::save() {
+    try {
+        m_stocks.save();
+    } catch (const zent::TarvoException&) {
+        throw ProgramError(ExitStatus::unwritable, "the media library can't be written");
+    }
+}
+
+} // namespace jobticket

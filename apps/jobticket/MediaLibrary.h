@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Assignment.h"
+#include "Session.h"
+#include "ocore/Printer/NonDriverBasedPrinter.h"
+#include "ocore/Stock/StockInformation.h"
+
+namespace jobticket {
+
+/// The user's media library, and the stocks of a printer beside it. Stocks without a name are
+/// called by numbers here.
+class MediaLibrary {
+public:
+    /// Reads the library of a folder; without one, of the user's profile folder. Raises
+    /// ProgramError (invalidTicket) for a file that is none.
+    MediaLibrary(const PrinterChoice& printer, const std::string& folder);
+
+    /// The path of the file; empty if there is none yet.
+    const std::string& getFile() const { return m_file; }
+    std::vector<const zent::Stock*> getStocks(zent::StockType kind);
+
+    /// Adds a stock of the user's; without assignments it is known by its name alone. Raises
+    /// ProgramError (badValue) for a name that another one of these has, and for features that
+    /// don't belong to a stock.
+    void add(const std::string& name, const std::vector<Assignment>& assignments, bool isFavorite);
+    /// Raises ProgramError (badValue) if no stock of the user's has the name.
+    void remove(const std::string& name);
+    /// Writes the file. Raises ProgramError (unwritable).
+    void save();
+
+private:
+    const zent::Stock* find(const std::string& name);
+
+    zent::NonDriverBasedPrinter m_printer;
+    std::string m_file;
+    zent::StockInformation m_stocks;
+};
+
+} // namespace jobticket
