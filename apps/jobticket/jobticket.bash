@@ -43,7 +43,8 @@ _jobticket_options() {
 }
 
 # Options that take a value, as a pattern.
-_jobticket_taking='-o|--output|-m|--model|-p|--pdl|--form|--type|--set|--from|--from-pdl|--to|--to-pdl|--document|--folder'
+_jobticket_taking='-o|--output|-m|--model|-p|--pdl|--form|--type|--set|--document|--folder'
+_jobticket_taking+='|--from|--from-pdl|--to|--to-pdl'
 
 # The values of an option; fails for one that has none of its own.
 _jobticket_option_values() {

@@ -329,8 +329,8 @@ class Checking(InFolder):
             "media-color": ["a b -> white",
                             "allowed: white, pink, yellow, blue, green, buff, goldenrod"],
             "finishings[1]": ["50 (Bind, left) -> 3 (No finishing)",
-                              "allowed: 3 (No finishing), 20 (Staple, top left), 21 (Staple, bottom "
-                              "left), 22 (Staple, top right), 23 (Staple, bottom right)"],
+                              "allowed: 3 (No finishing), 20 (Staple, top left), 21 (Staple, "
+                              "bottom left), 22 (Staple, top right), 23 (Staple, bottom right)"],
             "job-name": [f"{'ö' * 44} -> {'ö' * 40}", "length: 0-40"],
             "page-overrides[0].media-type": ["my own -> removed", "allowed: stationery"],
             "save-disposition": ["(not set) -> none", "required"]})
@@ -378,7 +378,7 @@ class Checking(InFolder):
     def test_repairs_for_good(self):
         repaired = self.folder / "repaired.xml"
         for ticket in EXAMPLES:
-            for printer in some([["-m", str(model)] for model in range(1, 52, 6)]):
+            for printer in some([["-m", str(model)] for model in range(1, 52, 10)]):
                 with self.subTest([ticket.name, *printer]):
                     before = subprocess.run([*program, "check", str(ticket), *printer],
                                             capture_output=True, timeout=100, check=False)
@@ -395,9 +395,9 @@ class Checking(InFolder):
             written, listed = run_for_both(*command, status=DIFFERENT)
             self.assertNotIn("output-bin", raw(written))
             self.assertIn("output-bin          stacker -> removed", listed)
-            self.assertEqual(run(*command, "-o", self.folder / "out.xml", status=DIFFERENT).decode(),
-                             listed)
-            self.assertEqual((self.folder / "out.xml").read_bytes(), written)
+            out = self.folder / "out.xml"
+            self.assertEqual(run(*command, "-o", out, status=DIFFERENT).decode(), listed)
+            self.assertEqual(out.read_bytes(), written)
 
     def test_retarget_tells_what_is_lost(self):
         ticket = EXAMPLES[[t.name for t in EXAMPLES].index("mailing.xml")]
@@ -417,14 +417,15 @@ class Checking(InFolder):
 class Instructions(InFolder):
     def test_both_forms(self):
         ticket = run("set", "-", "copies=7", "job-name=Old", "sides=one-sided", data=EMPTY)
-        printer = ["-m", "16", "--set", UNTOUCHED_SET, "--document", "Näme.ps"]
+        printer = ["-m", "16", "--set", UNTOUCHED_SET]
         user = raw(run("new", "-m", "1"))["requesting-user-name"]
-        stream = run("instructions", "-", *printer, data=ticket).decode().split("\n")
-        self.assertEqual(stream, [
-            "%TRVbegin: 001.0300", "%TRVtitle: Näme.ps", f"%TRVsenderName: {user}",
+        stream = run("instructions", "-", *printer, "--document", "Report.ps", data=ticket)
+        self.assertEqual(stream.decode().split("\n"), [
+            "%TRVbegin: 001.0300", "%TRVtitle: Report.ps", f"%TRVsenderName: {user}",
             f"%TRVrecipientName: {user}", "%TRVcopyCount: 7", "%TRVrequirements: simplex",
             "%TRVdisposition: PRINT", "%TRVdeleteSource: False", "%TRVend", ""])
-        document = run("instructions", "-", *printer, "--form", "xml", data=ticket)
+        document = run("instructions", "-", *printer, "--form", "xml", "--document", "Näme.ps",
+                       data=ticket)
         self.assertEqual(raw(document), {
             "job-name": "Näme.ps", "copies": "7", "sides": "one-sided",
             "requesting-user-name": user, "job-recipient-name": user})
@@ -450,7 +451,7 @@ class Stocks(InFolder):
         run("stock", "add", "plain", "--folder", self.folder)
         run("stock", "remove", "3", "10", "--folder", self.folder)
         after = self.stocks()
-        self.assertEqual(list(after), ["1", "2", "4", "5", "6", "7", "8", "9", "Büro <90>", "plain"])
+        self.assertEqual(list(after), [*"12456789", "Büro <90>", "plain"])
         self.assertEqual(after["Büro <90>"], {
             "name": "Büro <90>", "kind": "library", "favorite": True, "features": [
                 {"path": "media-color", "name": "Media color",
@@ -477,7 +478,8 @@ class Stocks(InFolder):
             (["remove", "1", "other"], BAD_VALUE, "no stock"),
         ]:
             with self.subTest(arguments):
-                _, message = run_for_both("stock", *arguments, "--folder", self.folder, status=status)
+                _, message = run_for_both("stock", *arguments, "--folder", self.folder,
+                                          status=status)
                 self.assertIn(expected, message)
                 self.assertEqual(file.read_bytes(), before)
         file.write_bytes(before[:300])
