@@ -24,7 +24,7 @@ test = ctest --test-dir build/$(1) --output-on-failure --no-tests=error
 
 .PHONY: help
 help:
-	@echo "make run      build for Linux, and let the program change a ticket (start here)"
+	@echo "make run      build for Linux, and take a ticket all the way to a printer (start here)"
 	@echo "make test     build for Linux and Windows, and run all tests: native, sanitizers, Wine"
 	@echo "make windows  build for Windows x86-64 and x86, into build/windows-*/bin"
 	@echo "make bench    measure the library beside its floors and beside other libraries"
