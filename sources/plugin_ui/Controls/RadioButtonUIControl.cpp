@@ -1,8 +1,8 @@
 #include "plugin_ui/Controls/RadioButtonUIControl.h"
 
-#include "ocore/CurrentWindowSystem.h"
-
 #include <algorithm>
+
+#include "ocore/CurrentWindowSystem.h"
 
 namespace zent {
 
