@@ -5,6 +5,7 @@
 #include "ocore/BoxCapture.h"
 #include "ocore/Capabilities/JobTicketUserMessage.h"
 #include "ocore/Capabilities/SettingsProblemReporter.h"
+#include "ocore/CurrentWindowSystem.h"
 #include "ocore/Exceptions.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/ListCapabilities.h"
@@ -46,6 +47,7 @@ protected:
         m_capabilities.validate(m_ticket, m_problems);
     }
 
+    WindowSystemReplacement m_noWindows{nullptr}; // so that all is asked in boxes
     Capabilities m_capabilities;
     Settings m_ticket{listOf(ticketText)};
     Settings m_defaults{listOf(defaults)};

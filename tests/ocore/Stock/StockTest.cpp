@@ -4,6 +4,7 @@
 
 #include "PrintText.h"
 #include "ocore/BoxCapture.h"
+#include "ocore/CurrentWindowSystem.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/ListText.h"
@@ -169,6 +170,7 @@ TEST(StockTest, IsRepairedUnlessTheUserDeclines) {
         {heavy, false, messageAnswer::ok, 1, true, StockType::transient, repaired},
     };
     for (const auto& row : rows) {
+        const WindowSystemReplacement noWindows(nullptr);
         const BoxCapture boxes(row.button);
         const auto stock = stockOf(row.ticket, StockType::user);
         EXPECT_EQ(stock->validate(printer, row.mayDecline, nullptr), row.isValid);

@@ -1,0 +1,216 @@
+#include <gtest/gtest.h>
+
+#include "ocore/BoxCapture.h"
+#include "ocore/Exceptions.h"
+#include "plugin_ui/Controls/PushButtonUIControl.h"
+#include "plugin_ui/DialogFitting.h"
+#include "plugin_ui/Features/DialogLaunchButtonUIFeature.h"
+#include "plugin_ui/Features/TextEntryUIFeature.h"
+#include "plugin_ui/TestDialog.h"
+
+namespace zent::test {
+namespace {
+
+using Window = FakeWindowSystem::Window;
+
+constexpr std::uint16_t ok = 1;
+constexpr std::uint16_t cancel = 2;
+constexpr std::uint16_t edit = 10;
+constexpr std::uint16_t label = 11;
+constexpr std::uint16_t button = 12;
+
+TemplateBuilder items() {
+    return TemplateBuilder(u"Test")
+        .add(label, TemplateBuilder::label, 0, {7, 7, 50, 8}, u"&Message:")
+        .add(edit, TemplateBuilder::edit, TemplateBuilder::visible, {60, 7, 100, 14})
+        .add(button, TemplateBuilder::button, 0, {60, 25, 50, 14}, u"More")
+        .add(ok, TemplateBuilder::button, 0, {60, 50, 50, 14}, u"OK")
+        .add(cancel, TemplateBuilder::button, 0, {120, 50, 50, 14}, u"Cancel");
+}
+
+/// Counts what it hears.
+class Counter : public Observer {
+public:
+    void handleSubjectUpdate(std::uint16_t /*subjectId*/) override { ++m_count; }
+    int count() const { return m_count; }
+
+private:
+    int m_count = 0;
+};
+
+class DialogTest : public DialogFixture {
+protected:
+    DialogTest()
+        : DialogFixture("job-creation-attributes-supported[value=job-sheet-message] "
+                        "job-sheet-message-allowable-char-limit=20"),
+          m_dialog(m_configuration, items()) {}
+
+    TextEntryUIFeature& addEntry() {
+        return m_dialog.makeChild<TextEntryUIFeature>(m_configuration, std::uint16_t{0}, label,
+                                                      edit, feature::jobSheetMessage);
+    }
+
+    TestDialog m_dialog;
+};
+
+TEST_F(DialogTest, ItemsWithoutAFeatureStayHidden) {
+    addEntry();
+    m_windows.onceOpen([&](Window window) {
+        EXPECT_EQ(m_windows.shownItems(window),
+                  (std::vector<std::uint16_t>{label, edit, ok, cancel}));
+        m_windows.click(window, cancel);
+    });
+    EXPECT_FALSE(m_dialog.runModal(nullptr, m_ticket));
+}
+
+/// Fails as soon as the user does something.
+class Failing : public UIFeature {
+public:
+    explicit Failing(UIConfiguration& configuration) : UIFeature(configuration) {
+        makeChild<PushButtonUIControl>(button).attach(*this);
+    }
+    bool isSupported() override { return true; }
+    void updateFeatureWithNewSettings() override {}
+    void handleSubjectUpdate(std::uint16_t /*subjectId*/) override {
+        Raise<IndexOutOfBoundsException>{}("nothing there\r\n");
+    }
+};
+
+TEST_F(DialogTest, AFailureIsReportedAndTheDialogGoesOn) {
+    addEntry();
+    m_dialog.makeChild<Failing>(m_configuration);
+    m_dialog.setTitle(u"Titled");
+    const BoxCapture boxes;
+    m_windows.onceOpen([&](Window window) {
+        EXPECT_EQ(m_windows.caption(window), u"Titled");
+        m_windows.click(window, button);
+        ASSERT_EQ(boxes.shown().size(), 1U);
+        EXPECT_EQ(boxes.shown()[0].owner, window);
+        m_windows.type(window, edit, u"Hello");
+        m_windows.click(window, ok);
+    });
+    EXPECT_TRUE(m_dialog.runModal(nullptr, m_ticket));
+    EXPECT_EQ(ticket(), "job-sheet-message=text:Hello");
+    EXPECT_GE(m_windows.changesReported(), 5U);
+}
+
+TEST_F(DialogTest, AModelessDialogCommitsAtOKAndTells) {
+    addEntry();
+    Counter counter;
+    m_dialog.attach(counter);
+    m_dialog.runModeless(nullptr, m_ticket);
+    Window window = m_dialog.getModelessWindow();
+    m_windows.type(window, edit, u"a");
+    EXPECT_EQ(ticket(), "");
+    m_windows.click(window, ok);
+    EXPECT_EQ(ticket(), "job-sheet-message=text:a");
+    EXPECT_EQ(counter.count(), 1);
+    EXPECT_EQ(m_dialog.getModelessWindow(), nullptr);
+
+    m_dialog.runModeless(nullptr, m_ticket); // a second run begins with what the ticket holds
+    window = m_dialog.getModelessWindow();
+    m_windows.type(window, edit, u"b");
+    EXPECT_EQ(m_windows.getText(window, edit), u"ab");
+    m_windows.click(window, cancel);
+    EXPECT_EQ(ticket(), "job-sheet-message=text:a");
+    EXPECT_EQ(counter.count(), 1);
+    EXPECT_FALSE(m_windows.isVisible(window));
+}
+
+TEST_F(DialogTest, WhatIsLockedStaysDisabledUntilItIsUnlocked) {
+    TextEntryUIFeature& entry = addEntry();
+    auto inner = std::make_unique<TestDialog>(m_configuration, items());
+    inner->makeChild<TextEntryUIFeature>(m_configuration, std::uint16_t{0}, label, edit,
+                                         feature::jobSheetMessage);
+    m_dialog.makeChild<DialogLaunchButtonUIFeature>(m_configuration, std::move(inner), button);
+    m_configuration.readOnly = true;
+    m_windows.onceOpen([&](Window window) {
+        EXPECT_FALSE(m_windows.isItemEnabled(window, edit));
+        entry.getTextBox().enable();
+        EXPECT_FALSE(m_windows.isItemEnabled(window, edit));
+        m_windows.click(window, button); // opens what can be read
+        m_windows.send(window, UIM_UNLOCK, 0, 0);
+        EXPECT_TRUE(m_windows.isItemEnabled(window, edit));
+        EXPECT_FALSE(m_configuration.readOnly);
+        m_windows.send(window, UIM_LOCK, 0, 0);
+        EXPECT_TRUE(m_configuration.readOnly);
+    });
+    bool isInnerLocked = false;
+    m_windows.onceOpen(
+        [&](Window window) { isInnerLocked = !m_windows.isItemEnabled(window, edit); });
+    EXPECT_FALSE(m_dialog.runModal(nullptr, m_ticket));
+    EXPECT_TRUE(isInnerLocked);
+}
+
+TEST_F(DialogTest, NoTemplateNoDialog) {
+    UIDialog empty(m_configuration, ConfigurableUIComponent::jobLevel, false);
+    EXPECT_THROW(empty.runModal(nullptr, m_ticket), ResourceAcquisitionException);
+    const WindowSystemReplacement none(nullptr);
+    EXPECT_THROW(m_dialog.runModal(nullptr, m_ticket), ResourceAcquisitionException);
+}
+
+// ---- The place of windows and items ------------------------------------------------------------
+
+using platform::Rectangle;
+using Item = platform::WindowSystem::Item;
+
+TEST(DialogFittingTest, ItemsBeginAtTheMargin) {
+    struct Row {
+        const char* what;
+        std::vector<Item> items;
+        std::int32_t moveX;
+        std::int32_t moveY;
+        Rectangle window;
+    };
+    // A frame of 10 and 30 around an inner area of 200 by 100; margins of 7.
+    const DialogExtent extent{{100, 50, 310, 180}, {0, 0, 200, 100}, {7, 7, 7, 7}, 3};
+    const Row rows[] = {
+        {"fits", {{1, {7, 7, 193, 93}, false}}, 0, 0, {100, 50, 310, 180}},
+        {"right of the margin", {{1, {27, 7, 193, 93}, false}}, -20, 0, {100, 50, 290, 180}},
+        {"too large",
+         {{1, {7, 7, 50, 20}, false}, {9, {7, 7, 250, 120}, false}},
+         0,
+         0,
+         {100, 50, 367, 207}},
+        {"a group's top counts from below",
+         {{1, {7, 7, 193, 93}, false}, {9, {7, 4, 193, 93}, true}},
+         0,
+         0,
+         {100, 50, 310, 180}},
+        {"no first item: the inner area counts",
+         {{9, {50, 50, 60, 60}, false}},
+         7,
+         7,
+         {100, 50, 324, 194}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.what);
+        const DialogFit fit = fitDialog(row.items, 1, extent);
+        EXPECT_EQ(fit.moveX, row.moveX);
+        EXPECT_EQ(fit.moveY, row.moveY);
+        EXPECT_EQ(fit.window, row.window);
+    }
+}
+
+TEST(DialogFittingTest, PopupsRiseToStayInTheWorkArea) {
+    const Rectangle window{0, 0, 50, 40};
+    const Rectangle area{0, 0, 640, 480};
+    EXPECT_EQ(placePopup(window, 300, 100, area), (Rectangle{250, 100, 300, 140}));
+    EXPECT_EQ(placePopup(window, 300, 441, area), (Rectangle{250, 440, 300, 480}));
+}
+
+TEST_F(DialogTest, OpensWhereItIsWanted) {
+    m_dialog.setScreenPosition(300, 120);
+    m_windows.onceOpen([&](Window window) {
+        const Rectangle place = m_windows.getWindowRectangle(window);
+        EXPECT_EQ(place.right, 300);
+        EXPECT_EQ(place.top, 120);
+        // Items from (7, 7) to (170, 64) units, a margin of 7, and the frame.
+        EXPECT_EQ(place.width(), 2 * 177 + 10);
+        EXPECT_EQ(place.height(), 2 * 71 + 30);
+    });
+    m_dialog.runModal(nullptr, m_ticket);
+}
+
+} // namespace
+} // namespace zent::test

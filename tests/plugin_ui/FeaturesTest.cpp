@@ -1,0 +1,333 @@
+#include <gtest/gtest.h>
+
+#include "ocore/BoxCapture.h"
+#include "ocore/Exceptions.h"
+#include "plugin_ui/Controls/OwndrwPushButtonUIControl.h"
+#include "plugin_ui/Controls/RadioButtonUIControl.h"
+#include "plugin_ui/Controls/SliderUIControl.h"
+#include "plugin_ui/Features/CheckBoxUIFeature.h"
+#include "plugin_ui/Features/KeyWordListUIFeature.h"
+#include "plugin_ui/Features/NumberCheckBoxUIFeature.h"
+#include "plugin_ui/TestDialog.h"
+
+namespace zent::test {
+namespace {
+
+using Window = FakeWindowSystem::Window;
+
+constexpr std::uint16_t ok = 1;
+constexpr std::uint16_t combo = 10;
+constexpr std::uint16_t box = 11;
+constexpr std::uint16_t defaultBox = 12;
+constexpr std::uint16_t number = 13;
+constexpr std::uint16_t spin = 14;
+constexpr std::uint16_t range = 15;
+constexpr std::uint16_t picture = 16;
+constexpr std::uint16_t radio = 17;
+constexpr std::uint16_t otherRadio = 18;
+constexpr std::uint16_t track = 19;
+constexpr std::uint16_t customEdit = 1354;
+
+constexpr std::uint32_t autoCheckBox = 3;
+constexpr std::uint32_t autoRadioButton = 9;
+
+/// One whose names of media take no blanks.
+constexpr std::uint32_t modelWithoutBlanks = 17;
+
+constexpr FeatureEnum antiAliasing = 30;
+constexpr FeatureEnum mediaOrderCount = 103;
+
+TemplateBuilder items() {
+    TemplateBuilder builder(u"Features");
+    for (const std::uint16_t id : {box, defaultBox}) {
+        builder.add(id, TemplateBuilder::button, autoCheckBox, {});
+    }
+    for (const std::uint16_t id : {number, range}) {
+        builder.add(id, TemplateBuilder::edit, 0, {});
+    }
+    for (const std::uint16_t id : {radio, otherRadio}) {
+        builder.add(id, TemplateBuilder::button, autoRadioButton, {});
+    }
+    return builder.add(track, u"msctls_trackbar32", 0, {})
+        .add(combo, TemplateBuilder::comboBox, 0, {})
+        .add(spin, u"msctls_updown32", 0, {})
+        .add(picture, TemplateBuilder::label, 0, {})
+        .add(ok, TemplateBuilder::button, 0, {}, u"OK")
+        .add(2, TemplateBuilder::button, 0, {}, u"Cancel");
+}
+
+class FeaturesTest : public DialogFixture {
+protected:
+    FeaturesTest()
+        : DialogFixture("job-creation-attributes-supported[value=anti-aliasing value=media-col] "
+                        "media-col-supported[value=media-color value=media-order-count] "
+                        "anti-aliasing-supported[value=standard value=none] "
+                        "media-color-supported[value=white value=red] "
+                        "media-order-count-supported[value(lower-bound=1 upper-bound=250)] "
+                        "user-defined-values-supported[value=media-color]",
+                        modelWithoutBlanks),
+          m_dialog(m_configuration, items()) {}
+
+    /// Runs the dialog on a ticket, ends it with OK, and gives what has become of the ticket.
+    std::string run(std::string_view text, std::function<void(Window)> acts) {
+        m_ticket.setAttrNodeList(listOf(text));
+        m_windows.onceOpen([this, acts](Window window) {
+            acts(window);
+            m_windows.click(window, ok);
+        });
+        EXPECT_TRUE(m_dialog.runModal(nullptr, m_ticket));
+        return ticket();
+    }
+
+    /// The texts of the drop-down list, with the chosen one in brackets.
+    std::string choices(Window window) {
+        std::string text;
+        const auto& item = m_windows.item(window, combo);
+        for (std::size_t i = 0; i < item.list.size(); ++i) {
+            const std::string entry = CXString(item.list[i].first).toNarrow();
+            text += (i == 0 ? "" : "|") +
+                    (static_cast<std::int32_t>(i) == item.selected ? '[' + entry + ']' : entry);
+        }
+        return text;
+    }
+
+    TestDialog m_dialog;
+};
+
+TEST_F(FeaturesTest, ADropDownListOffersThePrintersValues) {
+    auto& list = m_dialog.makeChild<KeyWordListUIFeature>(m_configuration, combo, std::uint16_t{0},
+                                                          antiAliasing, TJTF_ANY);
+    list.setDefaultText(6203); // before there is a window
+    const std::string none = run("anti-aliasing=none", [&](Window window) {
+        EXPECT_EQ(choices(window), "Account|Standard|[No anti-aliasing]");
+        list.setDefaultText(6207);
+        EXPECT_EQ(choices(window), "Job name|Standard|[No anti-aliasing]");
+        m_windows.choose(window, combo, 1);
+        EXPECT_EQ(choices(window), "Job name|[Standard]|No anti-aliasing");
+    });
+    EXPECT_EQ(none, "anti-aliasing=standard");
+    EXPECT_EQ(run("anti-aliasing=none", [&](Window window) { m_windows.choose(window, combo, 0); }),
+              "");
+    EXPECT_EQ(m_windows.changesReported(), 2U);
+    m_ticket.setAttrNodeList(listOf("anti-aliasing=none"));
+    m_dialog.broadcastPrinterDefault(m_ticket);
+    EXPECT_EQ(ticket(), "");
+}
+
+TEST_F(FeaturesTest, AValueOfTheUsersOwnIsAskedFor) {
+    m_dialog.makeChild<KeyWordListUIFeature>(m_configuration, combo, std::uint16_t{0},
+                                             feature::mediaColor, TJTF_ANY, picture, 1010U, 0U);
+    const char* const pink = "media-col{media-color=name:pink}";
+    // A value that the ticket brings along stands in the list, also when another one is chosen.
+    EXPECT_EQ(run(pink,
+                  [&](Window window) {
+                      EXPECT_EQ(choices(window),
+                                "Printer default|White|Red|Custom\u2026|[pink (custom)]");
+                      EXPECT_EQ(m_windows.item(window, picture).bitmap, 1010U);
+                      m_windows.choose(window, combo, 2);
+                      EXPECT_EQ(choices(window),
+                                "Printer default|White|[Red]|Custom\u2026|pink (custom)");
+                  }),
+              "media-col{media-color=red}");
+    // Giving up puts the choice back.
+    EXPECT_EQ(run(pink,
+                  [&](Window window) {
+                      m_windows.onceOpen([&](Window asking) {
+                          EXPECT_EQ(m_windows.getText(asking, customEdit), u"pink");
+                          m_windows.clear(asking, customEdit);
+                          EXPECT_FALSE(m_windows.isItemEnabled(asking, ok));
+                      });
+                      m_windows.choose(window, combo, 3);
+                      EXPECT_EQ(choices(window),
+                                "Printer default|White|Red|Custom\u2026|[pink (custom)]");
+                  }),
+              pink);
+    // A text is taken within the printer's limits: 27 characters, no blanks.
+    EXPECT_EQ(
+        run("",
+            [&](Window window) {
+                m_windows.onceOpen([&](Window asking) {
+                    m_windows.type(asking, customEdit, u"sky blue 2 " + std::u16string(30, u'x'));
+                    m_windows.click(asking, ok);
+                });
+                m_windows.choose(window, combo, 3);
+                EXPECT_EQ(choices(window),
+                          "Printer default|White|Red|Custom\u2026|[skyblue2xxxxxxxxxxxxxxxxxxx "
+                          "(custom)]");
+            }),
+        "media-col{media-color=name:skyblue2xxxxxxxxxxxxxxxxxxx}");
+    // One that names a value of the printer is that one.
+    EXPECT_EQ(run("",
+                  [&](Window window) {
+                      m_windows.onceOpen([&](Window asking) {
+                          m_windows.type(asking, customEdit, u"red");
+                          m_windows.click(asking, ok);
+                      });
+                      m_windows.choose(window, combo, 3);
+                      EXPECT_EQ(choices(window), "Printer default|White|[Red]|Custom\u2026");
+                  }),
+              "media-col{media-color=red}");
+}
+
+TEST_F(FeaturesTest, CheckBoxesStandForTwoValuesAndTheDefault) {
+    m_dialog.makeChild<CheckBoxUIFeature>(
+        m_configuration, antiAliasing, box, defaultBox, FeatureValue(antiAliasing, u"standard"),
+        FeatureValue(antiAliasing, u"none"), ConfigurableUIComponent::jobLevel);
+    EXPECT_EQ(run("",
+                  [&](Window window) {
+                      EXPECT_TRUE(m_windows.isChecked(window, defaultBox));
+                      EXPECT_FALSE(m_windows.isItemEnabled(window, box));
+                      m_windows.click(window, box); // in vain
+                      m_windows.click(window, defaultBox);
+                      EXPECT_TRUE(m_windows.isItemEnabled(window, box));
+                  }),
+              "anti-aliasing=none");
+    EXPECT_EQ(run("anti-aliasing=none",
+                  [&](Window window) {
+                      EXPECT_FALSE(m_windows.isChecked(window, defaultBox));
+                      EXPECT_FALSE(m_windows.isChecked(window, box));
+                      m_windows.click(window, box);
+                  }),
+              "anti-aliasing=standard");
+    EXPECT_EQ(run("anti-aliasing=standard",
+                  [&](Window window) {
+                      EXPECT_TRUE(m_windows.isChecked(window, box));
+                      m_windows.click(window, defaultBox);
+                  }),
+              "");
+}
+
+TEST_F(FeaturesTest, ANumberMayBeLeftToThePrinter) {
+    for (const bool inverts : {false, true}) {
+        SCOPED_TRACE(inverts);
+        TestDialog dialog(m_configuration, items());
+        auto& feature = dialog.makeChild<NumberCheckBoxUIFeature>(
+            m_configuration, mediaOrderCount, spin, range, number, box, NumberType::signedInteger,
+            5, inverts, ConfigurableUIComponent::jobLevel);
+        m_ticket.setAttrNodeList(AttrNodeList());
+        m_windows.onceOpen([&](Window window) {
+            EXPECT_EQ(m_windows.getText(window, range), u"(1 - 250)");
+            EXPECT_EQ(m_windows.getText(window, number), u"5");
+            EXPECT_EQ(m_windows.isChecked(window, box), inverts);
+            EXPECT_FALSE(m_windows.isItemEnabled(window, number));
+            m_windows.click(window, box);
+            EXPECT_EQ(m_windows.spin(window, spin, -1), 1); // the spin's own position is of no use
+            EXPECT_EQ(m_windows.getText(window, number), u"6");
+            m_windows.type(window, number, u"00"); // three digits at most
+            m_windows.click(window, ok);
+        });
+        EXPECT_TRUE(dialog.runModal(nullptr, m_ticket));
+        EXPECT_EQ(ticket(), "media-col{media-order-count=600}");
+        EXPECT_EQ(feature.getLastValue(), 600);
+        m_windows.onceOpen([&](Window window) {
+            EXPECT_TRUE(m_windows.isItemEnabled(window, number));
+            m_windows.click(window, box);
+            m_windows.click(window, ok);
+        });
+        EXPECT_TRUE(dialog.runModal(nullptr, m_ticket));
+        EXPECT_EQ(ticket(), "");
+    }
+}
+
+/// A dialog whose controls belong to no feature.
+class ControlsTest : public FeaturesTest, public Observer {
+protected:
+    void handleSubjectUpdate(std::uint16_t /*subjectId*/) override { ++m_notified; }
+
+    int m_notified = 0;
+};
+
+TEST_F(ControlsTest, NumberBoxes) {
+    auto& control = m_dialog.makeChild<NumberBoxUIControl>(number, spin);
+    control.attach(*this);
+    control.setBounds(1, 99);
+    control.setBounds(-1.0, 2.0);
+    control.setValue(0);
+    run("", [&](Window window) {
+        control.displayControl();
+        m_notified = 0;
+        m_windows.clear(window, number); // an empty box is a change from 0
+        EXPECT_TRUE(control.isEmpty());
+        EXPECT_EQ(control.getValue(), 0);
+        EXPECT_EQ(m_notified, 1);
+        m_windows.type(window, number, u"-250");
+        m_windows.leave(window, number);
+        EXPECT_EQ(control.getInteger(), -250); // for the validation to find
+        control.setClampOnLeave(true);
+        m_windows.leave(window, number);
+        EXPECT_EQ(m_windows.getText(window, number), u"1");
+        m_windows.spin(window, spin, -200);
+        EXPECT_EQ(control.getInteger(), 99);
+
+        control.setNumberType(NumberType::decimal);
+        control.setDecimals(3);
+        control.setValue(1.5);
+        EXPECT_EQ(m_windows.getText(window, number), u"1.5");
+        control.setDecimals(2);
+        m_windows.spin(window, spin, 1);
+        EXPECT_EQ(m_windows.getText(window, number), u"1.49");
+        m_windows.spin(window, spin, -100); // beyond the bound: stays
+        EXPECT_EQ(control.getValue(), 1.49);
+
+        control.setNumberType(NumberType::unsignedInteger);
+        control.setValue(4294967295.0);
+        EXPECT_EQ(m_windows.getText(window, number), u"4294967295");
+        EXPECT_EQ(control.getValue(), 4294967295.0);
+        control.setNumberType(NumberType(4));
+        EXPECT_THROW(control.displayControl(), UnknownCaseException);
+        control.setNumberType(NumberType::signedInteger);
+    });
+}
+
+TEST_F(ControlsTest, RadioButtonsAndSliders) {
+    auto& buttons = m_dialog.makeChild<RadioButtonUIControl>(radio);
+    buttons.addButton(otherRadio);
+    buttons.setCheckedId(radio);
+    buttons.attach(*this);
+    auto& slider = m_dialog.makeChild<SliderUIControl>(track);
+    slider.setRange(-100, 100);
+    slider.attach(*this);
+    buttons.setToolTip(u"One or the other");
+    run("", [&](Window window) {
+        EXPECT_EQ(m_windows.item(window, radio).toolTip, u"One or the other");
+        EXPECT_EQ(m_windows.item(window, track).lower, -100);
+        buttons.displayControl();
+        m_windows.click(window, radio); // no change
+        EXPECT_EQ(m_notified, 0);
+        m_windows.click(window, otherRadio);
+        EXPECT_EQ(buttons.getCheckedId(), otherRadio);
+        EXPECT_FALSE(m_windows.isChecked(window, radio));
+        m_windows.slide(window, track, -7);
+        EXPECT_EQ(slider.getValue(), -7);
+        EXPECT_EQ(m_notified, 2);
+    });
+}
+
+TEST_F(ControlsTest, DrawnButtonsShowWhatTheyAre) {
+    m_dialog.makeChild<OwndrwPushButtonUIControl>(
+        box, OwndrwPushButtonUIControl::Bitmaps{1220, 1221, 1222});
+    struct Row {
+        std::uint32_t action;
+        std::uint32_t state;
+        std::uint32_t bitmap;
+    };
+    run("", [&](Window window) {
+        for (const Row& row : {Row{1, 0, 1220}, Row{2, 1, 1221}, Row{1, 4, 1222}, Row{1, 5, 1221},
+                               Row{4, 0, 1221 /* as before */}}) {
+            platform::DrawRequest request{.item = box, .action = row.action, .state = row.state};
+            m_windows.send(window, platform::event::drawItem, box,
+                           reinterpret_cast<std::intptr_t>(&request));
+            EXPECT_EQ(m_windows.drawnBitmap(), row.bitmap);
+        }
+    });
+}
+
+TEST_F(ControlsTest, ABoxWithoutItsItemIsAFault) {
+    m_dialog.makeChild<NumberBoxUIControl>(std::uint16_t{99});
+    const BoxCapture boxes;
+    EXPECT_FALSE(m_dialog.runModal(nullptr, m_ticket)); // there is nothing to press
+    EXPECT_EQ(boxes.shown().size(), 1U);
+}
+
+} // namespace
+} // namespace zent::test
