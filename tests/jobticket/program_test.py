@@ -744,16 +744,18 @@ class Documents(InFolder):
         messages = (ROOT / "apps" / "jobticket" / "LibraryError.cpp").read_text(encoding="utf-8")
         self.assertEqual(re.findall(r'\{"(ZENT_\w+)"', messages), [name for name, _ in results])
 
-    def test_the_session_in_the_readme_is_real(self):
-        readme = (ROOT / "README.md").read_text(encoding="utf-8").replace("\\\n", " ")
+    def test_the_sessions_are_real(self):
         (self.folder / "examples").symlink_to(ROOT / "examples")
-        steps = re.findall(r"(?m)^\$ jobticket (.*)\n((?:(?!\$ |```).*\n)*)", readme)
-        self.assertGreaterEqual(len(steps), 4)
-        for command, expected in steps:
-            done = subprocess.run([*program, *shlex.split(command)], cwd=self.folder, text=True,
-                                  capture_output=True, timeout=100, check=False)
-            self.assertTrue((done.stdout + done.stderr).startswith(expected.removesuffix("...\n")),
-                            command + "\n" + done.stdout + done.stderr)
+        for page, least in (("README.md", 6), ("docs/checking.md", 1)):
+            text = (ROOT / page).read_text(encoding="utf-8").replace("\\\n", " ")
+            steps = re.findall(r"(?m)^\$ jobticket (.*)\n((?:(?!\$ |```).*\n)*)", text)
+            self.assertGreaterEqual(len([step for step in steps if step[1]]), least)
+            for command, expected in steps:
+                done = subprocess.run([*program, *shlex.split(command)], cwd=self.folder, text=True,
+                                      capture_output=True, timeout=100, check=False)
+                self.assertTrue(
+                    (done.stdout + done.stderr).startswith(expected.removesuffix("...\n")),
+                    command + "\n" + done.stdout + done.stderr)
 
 
 class Completion(InFolder):
