@@ -105,7 +105,7 @@ std::shared_ptr<const CompiledDtd> CompiledDtd::compile(const CXString& path) {
     parser.setDoNamespaces(false);
     const xercesc::MemBufInputSource source(
         static_cast<const XMLByte*>(static_cast<const void*>(dtd->m_bytes->data())),
-        dtd->m_bytes->size(), path.c_str());
+        dtd->m_bytes->size(), path.c_str(), false, &memory);
     const xercesc::Grammar* grammar = nullptr;
     try {
         grammar = parser.loadGrammar(source, xercesc::Grammar::DTDGrammarType, true);

@@ -9,8 +9,8 @@
 
 namespace zent {
 
-/// The memory of one run of the parser. What the parser doesn't give back goes with this object:
-/// a parser that is stopped half-way loses track of some of it, and Debian's guard against
+/// The memory of one run of the parser or the formatter. What isn't given back goes with this
+/// object: a parser that is stopped half-way loses track of some of it, and Debian's guard against
 /// CVE-2018-1311 is that one declaration is never freed in each document type that is read.
 ///
 /// A parser asks for some hundreds of small blocks before it has read anything, which is a third of

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <new>
+#include <optional>
 
 #include <xercesc/dom/DOMException.hpp>
 #include <xercesc/framework/MemBufInputSource.hpp>
@@ -14,6 +15,7 @@
 #include "ocore/OrdoParse/DtdFolder.h"
 #include "ocore/OrdoParse/KeptSkeletons.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
+#include "ocore/OrdoParse/ParseGrammars.h"
 #include "ocore/OrdoParse/ParserMemory.h"
 #include "ocore/OrdoParse/XmlLimits.h"
 #include "ocore/OrdoParse/XmlOutputCallback.h"
@@ -120,7 +122,11 @@ void TarvoXmlParser::runParser(std::span<const std::byte> bytes,
     limits.setEntityExpansionLimit(xmlLimits::entityExpansions);
     DtdFolder folder(m_validate ? m_streamName : CXString(), dtd);
     ParserMemory memory;
-    XmlTreeBuilder parser(*m_document, memory, dtd ? &dtd->getGrammars() : nullptr);
+    std::optional<ParseGrammars> grammars;
+    if (dtd) {
+        grammars.emplace(dtd->getGrammars(), memory);
+    }
+    XmlTreeBuilder parser(*m_document, memory, grammars ? &*grammars : nullptr);
     parser.setErrorHandler(&m_reporter);
     parser.setXMLEntityResolver(&folder);
     parser.setDisableDefaultEntityResolution(true);
@@ -134,7 +140,7 @@ void TarvoXmlParser::runParser(std::span<const std::byte> bytes,
 
     xercesc::MemBufInputSource source(
         static_cast<const XMLByte*>(static_cast<const void*>(bytes.data())), bytes.size(),
-        m_streamName.c_str());
+        m_streamName.c_str(), false, &memory);
     source.setCopyBufToStream(false);
     parser.parse(source);
 }
@@ -144,9 +150,10 @@ void TarvoXmlParser::convertToXmlStream(XmlOutputCallback& callback) {
     const CXString encoding = writingEncoding(document);
     m_callback = &callback;
     try {
+        ParserMemory memory;
         xercesc::XMLFormatter formatter(encoding.c_str(), u"1.0", this,
                                         xercesc::XMLFormatter::NoEscapes,
-                                        xercesc::XMLFormatter::UnRep_CharRef);
+                                        xercesc::XMLFormatter::UnRep_CharRef, &memory);
         XmlWriter writer(formatter, callback.isFormatted());
         writer.write(document.getNode());
         writer.flush();
