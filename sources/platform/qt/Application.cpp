@@ -30,10 +30,10 @@ private:
 
 /// An application object of this library's own. It is never destroyed: the end of the process may
 /// come on any thread, and after Qt's own static objects are gone.
-const QApplication* makeOwnApplication() {
+bool makeOwnApplication() {
     const auto platform = findPlatform();
     if (!platform) {
-        return nullptr;
+        return false;
     }
     // Qt keeps references to its arguments.
     static QByteArray name = *platform;
@@ -42,17 +42,17 @@ const QApplication* makeOwnApplication() {
     static char* arguments[] = {program, option, name.data(), nullptr};
     static int count = 3;
     const LocaleKeeper keeper;
-    auto* const application = new QApplication(count, arguments);
+    new QApplication(count, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
-    return application;
+    return true;
 }
 
 } // namespace
 
 bool hasApplication() {
-    if (QCoreApplication::instance() == nullptr) {
-        [[maybe_unused]] static const QApplication* const own = makeOwnApplication();
-    }
+    // One thread makes it, while others that ask at the same time wait.
+    [[maybe_unused]] static const bool isMade =
+        QCoreApplication::instance() != nullptr || makeOwnApplication();
     const auto* const application = qobject_cast<QApplication*>(QCoreApplication::instance());
     return application != nullptr && application->thread() == QThread::currentThread();
 }
