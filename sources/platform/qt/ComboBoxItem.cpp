@@ -15,7 +15,7 @@ ComboBoxItem::ComboBoxItem(Dialog& dialog, const DialogTemplate::Item& source, Q
     : ListItem(dialog, source, combo, (source.style & comboStyle::sorted) != 0), m_combo(combo) {
     // The height in the template is that of the list when it is open.
     constexpr DialogTemplate::Place closed{0, 0, 0, 13};
-    combo.resize(combo.width(), dialog.toPixels(closed).height());
+    combo.resize(combo.width(), dialog.units().toPixels(closed).height());
     if (comboStyle::kindOf(source.style) == comboStyle::dropDown) {
         letEdit();
     }

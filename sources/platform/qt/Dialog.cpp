@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QButtonGroup>
-#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QPushButton>
@@ -37,38 +36,7 @@ bool isTabStop(const std::unique_ptr<Item>& item) {
            item->widget().isEnabled();
 }
 
-/// What a dialog unit is measured by: the average of the letters, and the height of a line.
-QSizeF measureFont(const QFont& font) {
-    const QString letters = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
-    const QFontMetricsF metrics(font);
-    return {metrics.horizontalAdvance(letters) / static_cast<qreal>(letters.size()),
-            metrics.height()};
-}
-
 } // namespace
-
-/// A modal dialog's loop and what comes of it. It outlives the dialog, which may go with its owner.
-struct Dialog::Run {
-    Run() : outer(std::exchange(innermost, this)) {}
-    ~Run() { innermost = outer; }
-    Run(const Run&) = delete;
-    Run& operator=(const Run&) = delete;
-
-    /// Ends the innermost loop with the exception at hand, which mustn't pass through Qt.
-    static void fail() {
-        innermost->exception = std::current_exception();
-        innermost->loop.quit();
-    }
-
-    static Run* innermost;
-
-    Run* outer;
-    QEventLoop loop;
-    std::intptr_t value = 0;
-    std::exception_ptr exception;
-};
-
-Dialog::Run* Dialog::Run::innermost = nullptr;
 
 Dialog* Dialog::create(std::span<const std::byte> bytes, const ResourceModule& resources,
                        QWidget* owner, DialogProcedure& procedure) {
@@ -89,12 +57,11 @@ Dialog* Dialog::find(WindowHandle handle) {
 
 Dialog::Dialog(const DialogTemplate& source, const ResourceModule& resources, QWidget* owner,
                DialogProcedure& procedure)
-    : QDialog(owner), m_procedure(procedure), m_pictures(resources),
-      m_baseUnits(measureFont(font())) {
+    : QDialog(owner), m_procedure(procedure), m_pictures(resources), m_units(font()) {
     liveDialogs().push_back(this);
     setAttribute(Qt::WA_QuitOnClose, false);
     setWindowTitle(toTitle(toQt(source.title)));
-    setFixedSize(toPixels(source.place).size().boundedTo(largestWindow));
+    setFixedSize(m_units.toPixels(source.place).size().boundedTo(largestWindow));
     placeInTheMiddle();
     connect(qApp, &QApplication::focusChanged, this,
             [this](const QWidget* left) { noticeFocus(left); });
@@ -108,7 +75,7 @@ Dialog::~Dialog() {
     }
     std::erase(liveDialogs(), this);
     if (m_run != nullptr) {
-        m_run->loop.quit();
+        m_run->end();
     }
     // The widgets go before the items that they tell of what happens to them.
     qApp->disconnect(this);
@@ -190,7 +157,7 @@ void Dialog::start() {
 std::intptr_t Dialog::runModal() {
     setWindowModality(parentWidget() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
     const QPointer<Dialog> self(this);
-    Run run;
+    ModalRun run;
     m_run = &run;
     const auto close = [&] {
         if (self != nullptr) {
@@ -201,9 +168,7 @@ std::intptr_t Dialog::runModal() {
     };
     try {
         start();
-        if (self != nullptr && m_state == State::running && run.exception == nullptr) {
-            run.loop.exec(QEventLoop::DialogExec);
-        }
+        run.stay();
         if (self != nullptr) {
             sendDestroy();
         }
@@ -212,10 +177,7 @@ std::intptr_t Dialog::runModal() {
         throw;
     }
     close();
-    if (run.exception != nullptr) {
-        std::rethrow_exception(run.exception);
-    }
-    return run.value;
+    return run.value();
 }
 
 void Dialog::startModeless() {
@@ -230,8 +192,7 @@ void Dialog::startModeless() {
 
 void Dialog::end(std::intptr_t value) {
     if (m_run != nullptr) {
-        m_run->value = value;
-        m_run->loop.quit();
+        m_run->end(value);
         m_state = State::ended;
     }
 }
@@ -324,10 +285,10 @@ std::intptr_t Dialog::deliver(std::uint32_t message, std::uintptr_t wParam, std:
     try {
         return send(message, wParam, lParam);
     } catch (...) {
-        if (Run::innermost == nullptr) {
+        if (!ModalRun::isAny()) {
             throw; // the loop is the application's
         }
-        Run::fail();
+        ModalRun::fail();
         return 0;
     }
 }
@@ -379,17 +340,6 @@ void Dialog::removeItem(std::uint16_t id) {
         m_removed.push_back(std::move(*found));
         m_items.erase(found);
     }
-}
-
-QRect Dialog::toPixels(const DialogTemplate::Place& place) const {
-    const Rectangle pixels = toPixels(Rectangle{place.x, place.y, place.width, place.height});
-    return {pixels.left, pixels.top, std::max(pixels.right, 0), std::max(pixels.bottom, 0)};
-}
-
-Rectangle Dialog::toPixels(const Rectangle& units) const {
-    const auto across = [this](int x) { return qRound(x * m_baseUnits.width() / 4); };
-    const auto down = [this](int y) { return qRound(y * m_baseUnits.height() / 8); };
-    return {across(units.left), down(units.top), across(units.right), down(units.bottom)};
 }
 
 /// Where it will stand, unless it is told another place: only its size changes until then.

@@ -1,20 +1,19 @@
 #pragma once
 
 #include <cstdint>
-#include <exception>
 #include <memory>
 #include <span>
 #include <vector>
 
 #include <QDialog>
-#include <QEventLoop>
 #include <QRect>
-#include <QSizeF>
 
 #include "platform/DialogTemplate.h"
 #include "platform/ResourceModule.h"
 #include "platform/WindowSystem.h"
+#include "platform/qt/DialogUnits.h"
 #include "platform/qt/Item.h"
+#include "platform/qt/ModalRun.h"
 #include "platform/qt/Pictures.h"
 
 namespace zent::platform::qt {
@@ -61,8 +60,7 @@ public:
     void removeItem(std::uint16_t id);
 
     Pictures& pictures() { return m_pictures; }
-    QRect toPixels(const DialogTemplate::Place& place) const;
-    Rectangle toPixels(const Rectangle& units) const;
+    const DialogUnits& units() const { return m_units; }
     /// With its frame.
     void moveTo(const QRect& place);
 
@@ -72,7 +70,6 @@ protected:
 
 private:
     enum class State { created, running, ended, gone };
-    struct Run;
 
     Dialog(const DialogTemplate& source, const ResourceModule& resources, QWidget* owner,
            DialogProcedure& procedure);
@@ -89,11 +86,11 @@ private:
 
     DialogProcedure& m_procedure;
     Pictures m_pictures;
-    QSizeF m_baseUnits; // an average character's width and height in pixels
+    DialogUnits m_units;
     std::vector<std::unique_ptr<Item>> m_items;
     std::vector<std::unique_ptr<Item>> m_removed; // it may be their own event that removes them
     State m_state = State::created;
-    Run* m_run = nullptr; // of a modal dialog
+    ModalRun* m_run = nullptr; // of a modal dialog
 };
 
 } // namespace zent::platform::qt

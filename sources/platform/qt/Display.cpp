@@ -50,7 +50,10 @@ bool doesWaylandAnswer() {
 
 /// Whether a plugin can be loaded, with all that it needs.
 bool isPluginInstalled(const QString& name) {
-    QStringList folders(qEnvironmentVariable("QT_QPA_PLATFORM_PLUGIN_PATH"));
+    QStringList folders;
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM_PLUGIN_PATH")) {
+        folders << qEnvironmentVariable("QT_QPA_PLATFORM_PLUGIN_PATH");
+    }
     for (const QString& folder : QCoreApplication::libraryPaths()) {
         folders << folder + QStringLiteral("/platforms");
     }

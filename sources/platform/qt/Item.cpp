@@ -93,7 +93,7 @@ Item::Item(Dialog& dialog, const DialogTemplate::Item& source, QWidget& widget)
     : m_dialog(dialog), m_widget(widget), m_id(source.id), m_style(source.style) {
     // By this name tests and other programs that look at windows find the item.
     widget.setObjectName(QString::number(m_id));
-    widget.setGeometry(dialog.toPixels(source.place));
+    widget.setGeometry(dialog.units().toPixels(source.place));
     widget.setVisible(hasStyle(itemStyle::visible));
     widget.setEnabled(!hasStyle(itemStyle::disabled));
     if (widget.focusPolicy() != Qt::NoFocus) {

@@ -79,9 +79,11 @@ LineEditItem::LineEditItem(Dialog& dialog, const DialogTemplate::Item& source, Q
 }
 
 void LineEditItem::setText(const QString& text) {
-    const QScopedValueRollback guard(m_isProgramsChange, true);
-    m_before = text;
-    m_edit.setText(text);
+    if (text != m_edit.text()) { // else the cursor and what can be undone stay
+        const QScopedValueRollback guard(m_isProgramsChange, true);
+        m_before = text;
+        m_edit.setText(text);
+    }
 }
 
 void LineEditItem::select(std::int32_t start, std::int32_t end) {

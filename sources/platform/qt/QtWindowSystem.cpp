@@ -5,8 +5,6 @@
 #include <utility>
 
 #include <QApplication>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QPainter>
 #include <QPixmap>
 #include <QScreen>
@@ -15,6 +13,7 @@
 #include "platform/qt/Caption.h"
 #include "platform/qt/Dialog.h"
 #include "platform/qt/EditItem.h"
+#include "platform/qt/FileQuestion.h"
 #include "platform/qt/ListItem.h"
 #include "platform/qt/ListViewItem.h"
 #include "platform/qt/MessageBox.h"
@@ -70,44 +69,6 @@ Rectangle fromQt(const QRect& place) {
 
 QRect toQt(const Rectangle& place) {
     return {place.left, place.top, place.width(), place.height()};
-}
-
-/// The number that a text begins with; 0 if it is none, or too large for its type.
-template <typename Number>
-std::int32_t leadingNumber(QStringView text, bool isSigned) {
-    text = text.trimmed();
-    const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
-    const auto* const digits = text.begin() + (isSigned && text.startsWith(u'-') ? 1 : 0);
-    const auto* const end = std::find_if_not(digits, text.end(), isDigit);
-    bool isGood = false;
-    const qlonglong number = text.left(end - text.begin()).toLongLong(&isGood);
-    return isGood && std::in_range<Number>(number) ? static_cast<std::int32_t>(number) : 0;
-}
-
-/// What file dialogs take as a filter, such as "Job tickets (*.xml)".
-QString filterOf(const WindowSystem::FileQuestion& question) {
-    return question.filterPattern.empty()
-               ? QString()
-               : QStringLiteral("%1 (%2)").arg(qt::toQt(question.filterName),
-                                               qt::toQt(question.filterPattern));
-}
-
-std::optional<std::u16string> askForFile(WindowHandle owner,
-                                         const WindowSystem::FileQuestion& question,
-                                         QFileDialog::AcceptMode mode) {
-    QFileDialog dialog(findWidget(owner), qt::toQt(question.title), QString(), filterOf(question));
-    dialog.setAttribute(Qt::WA_QuitOnClose, false);
-    dialog.setAcceptMode(mode);
-    dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
-                                                       : QFileDialog::AnyFile);
-    dialog.setDefaultSuffix(qt::toQt(question.extension));
-    if (!question.fileName.empty()) {
-        dialog.selectFile(qt::toQt(question.fileName));
-    }
-    if (dialog.exec() != QDialog::Accepted) {
-        return std::nullopt;
-    }
-    return qt::fromQt(dialog.selectedFiles().value(0));
 }
 
 } // namespace
@@ -181,7 +142,7 @@ Rectangle QtWindowSystem::getWorkArea(WindowHandle dialog) {
 }
 
 Rectangle QtWindowSystem::mapDialogUnits(WindowHandle dialog, const Rectangle& units) {
-    return onDialog(dialog, [&](const Dialog& found) { return found.toPixels(units); });
+    return onDialog(dialog, [&](const Dialog& found) { return found.units().toPixels(units); });
 }
 
 // ---- Any item ----------------------------------------------------------------------------------
@@ -263,17 +224,12 @@ void QtWindowSystem::setToolTip(WindowHandle dialog, std::uint16_t item, std::u1
 
 void QtWindowSystem::setNumber(WindowHandle dialog, std::uint16_t item, std::int32_t number,
                                bool isSigned) {
-    onItem<EditItem>(dialog, item, [&](EditItem& found) {
-        found.setText(isSigned ? QString::number(number)
-                               : QString::number(static_cast<std::uint32_t>(number)));
-    });
+    onItem<EditItem>(dialog, item, [&](EditItem& found) { found.setNumber(number, isSigned); });
 }
 
 std::int32_t QtWindowSystem::getNumber(WindowHandle dialog, std::uint16_t item, bool isSigned) {
-    return onItem<EditItem>(dialog, item, [&](const EditItem& found) {
-        return isSigned ? leadingNumber<std::int32_t>(found.text(), true)
-                        : leadingNumber<std::uint32_t>(found.text(), false);
-    });
+    return onItem<EditItem>(dialog, item,
+                            [&](const EditItem& found) { return found.number(isSigned); });
 }
 
 void QtWindowSystem::setTextLimit(WindowHandle dialog, std::uint16_t item, std::uint32_t units) {
@@ -465,12 +421,12 @@ std::int32_t QtWindowSystem::showMessageBox(WindowHandle owner, std::u16string_v
 
 std::optional<std::u16string> QtWindowSystem::askForOpenFile(WindowHandle owner,
                                                              const FileQuestion& question) {
-    return askForFile(owner, question, QFileDialog::AcceptOpen);
+    return askForFile(findWidget(owner), question, QFileDialog::AcceptOpen);
 }
 
 std::optional<std::u16string> QtWindowSystem::askForSaveFile(WindowHandle owner,
                                                              const FileQuestion& question) {
-    return askForFile(owner, question, QFileDialog::AcceptSave);
+    return askForFile(findWidget(owner), question, QFileDialog::AcceptSave);
 }
 
 /// The help file is of a form that nothing here reads.

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include <QFileDialog>
+
+#include "platform/WindowSystem.h"
+
+namespace zent::platform::qt {
+
+/// As WindowSystem::askForOpenFile and askForSaveFile.
+std::optional<std::u16string> askForFile(QWidget* owner, const WindowSystem::FileQuestion& question,
+                                         QFileDialog::AcceptMode mode);
+
+} // namespace zent::platform::qt

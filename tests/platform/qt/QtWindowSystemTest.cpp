@@ -1,0 +1,163 @@
+#include <string>
+#include <thread>
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "platform/WindowSystem.h"
+#include "support/DialogUser.h"
+#include "support/ScratchFolder.h"
+#include "support/TemplateBuilder.h"
+
+// What the Windows dialog manager does by itself, and how the adapter lives in its host.
+
+namespace zent::platform {
+namespace {
+
+using test::TemplateBuilder;
+using test::user::Key;
+namespace user = test::user;
+
+constexpr std::uint32_t shown = TemplateBuilder::visible;
+constexpr std::uint32_t stop = shown | TemplateBuilder::tabStop;
+
+class NoResources final : public ResourceModule {
+public:
+    std::int32_t loadString(std::uint32_t, char16_t*, std::int32_t) const override { return 0; }
+    std::span<const std::byte> findResource(std::uint32_t, std::uint32_t,
+                                            Failure& failure) const override {
+        failure = Failure::find;
+        return {};
+    }
+    const void* loadIcon(std::uint32_t) const override { return nullptr; }
+};
+
+class Procedure final : public DialogProcedure {
+public:
+    std::function<void(WindowHandle)> onInit = [](WindowHandle) {};
+    int destroyed = 0;
+
+    bool processEvent(WindowHandle dialog, std::uint32_t message, std::uintptr_t /*wParam*/,
+                      std::intptr_t /*lParam*/, std::intptr_t& /*result*/) override {
+        if (message == event::initDialog) {
+            onInit(dialog);
+        }
+        destroyed += message == event::destroy ? 1 : 0;
+        return true;
+    }
+};
+
+class QtWindowSystemTest : public testing::Test {
+protected:
+    void SetUp() override { ASSERT_NE(WindowSystem::find(), nullptr); }
+    static WindowSystem& windows() { return *WindowSystem::find(); }
+
+    /// Runs a dialog; what the user does in it comes before its end.
+    void run(const TemplateBuilder& builder, const std::function<void(WindowHandle)>& acts,
+             WindowHandle owner = nullptr) {
+        user::onceOpen([acts](WindowHandle dialog) {
+            acts(dialog);
+            windows().endDialog(dialog, 1);
+        });
+        windows().runModal(builder.build(), m_resources, owner, m_procedure);
+    }
+    static void pressWithAlt(WindowHandle dialog, Qt::Key key) {
+        QTest::keyClick(static_cast<QWidget*>(dialog), key, Qt::AltModifier);
+    }
+
+    NoResources m_resources;
+    Procedure m_procedure;
+};
+
+TEST_F(QtWindowSystemTest, MnemonicsOfLabelsAndGroupsLeadToTheItemBehind) {
+    constexpr std::uint32_t readOnly = 0x800;
+    TemplateBuilder builder(u"Mnemonics");
+    builder.add(1, TemplateBuilder::button, stop, {5, 80, 50, 14}, u"OK")
+        .add(2, TemplateBuilder::label, shown, {5, 5, 50, 8}, u"&Name:")
+        .add(3, TemplateBuilder::edit, shown | readOnly, {60, 5, 50, 12})
+        .add(4, TemplateBuilder::edit, stop, {120, 5, 50, 12})
+        .add(5, TemplateBuilder::button, shown | 7, {5, 20, 150, 50}, u"&Sides")
+        .add(6, TemplateBuilder::button, stop | 3, {10, 30, 50, 10}, u"Front");
+    run(builder, [](WindowHandle dialog) {
+        pressWithAlt(dialog, Qt::Key_N);
+        EXPECT_EQ(user::focused(dialog), 4);
+        pressWithAlt(dialog, Qt::Key_S);
+        EXPECT_EQ(user::focused(dialog), 6);
+        EXPECT_FALSE(windows().isChecked(dialog, 6));
+    });
+}
+
+TEST_F(QtWindowSystemTest, SpinsServeTheirBuddies) {
+    constexpr std::uint32_t allForBuddy = 0x2 | 0x4 | 0x10 | 0x20; // text, right, own, arrow keys
+    TemplateBuilder builder(u"Spin");
+    builder.add(3, TemplateBuilder::edit, stop, {5, 5, 60, 12})
+        .add(4, u"msctls_updown32", shown | allForBuddy, {100, 50, 10, 10});
+    run(builder, [](WindowHandle dialog) {
+        const auto items = windows().getItems(dialog);
+        EXPECT_EQ(items[0].place.right, items[1].place.left);
+        EXPECT_EQ(items[1].place.right, windows().mapDialogUnits(dialog, {0, 0, 65, 0}).right);
+        windows().setRange(dialog, 4, 1, 3);
+        windows().setPosition(dialog, 4, 2);
+        EXPECT_EQ(windows().getText(dialog, 3), u"2");
+        user::press(dialog, Key::up);
+        user::press(dialog, Key::up);
+        EXPECT_EQ(windows().getText(dialog, 3), u"3");
+        user::press(dialog, Key::down);
+        EXPECT_EQ(windows().getText(dialog, 3), u"2");
+    });
+}
+
+TEST_F(QtWindowSystemTest, OpenCombosAreUsedByKeyboard) {
+    TemplateBuilder builder(u"Combo");
+    builder.add(3, TemplateBuilder::comboBox, stop | 1, {5, 5, 60, 60});
+    run(builder, [](WindowHandle dialog) {
+        for (const auto* const text : {u"A4", u"A3"}) {
+            windows().addToList(dialog, 3, text, 0, -1);
+        }
+        windows().select(dialog, 3, 0);
+        user::press(dialog, Key::down);
+        EXPECT_EQ(windows().getText(dialog, 3), u"A3");
+        EXPECT_EQ(windows().getSelected(dialog, 3), 1);
+    });
+}
+
+TEST_F(QtWindowSystemTest, IsThereForTheApplicationsThreadAlone) {
+    std::thread([] { EXPECT_EQ(WindowSystem::find(), nullptr); }).join();
+}
+
+TEST_F(QtWindowSystemTest, EndsWithAWindowOfTheHost) {
+    auto host = std::make_unique<QWidget>();
+    host->setWindowTitle(QStringLiteral("Ticket [*]x[*][*]"));
+    EXPECT_EQ(windows().getCaption(host.get()), u"Ticket x[*]");
+    EXPECT_EQ(windows().getCaption(this), u""); // no window at all
+    TemplateBuilder builder(u"Owned");
+    builder.add(3, TemplateBuilder::edit, stop, {5, 5, 60, 12});
+    run(
+        builder,
+        [&](WindowHandle dialog) {
+            EXPECT_EQ(static_cast<QWidget*>(dialog)->parentWidget(), host.get());
+            host.reset();
+            EXPECT_FALSE(windows().hasItem(dialog, 3));
+        },
+        host.get());
+    EXPECT_EQ(m_procedure.destroyed, 1);
+}
+
+TEST_F(QtWindowSystemTest, AsksForFiles) {
+    const test::ScratchFolder folder;
+    const std::u16string wanted(folder.file("new"));
+    WindowSystem::FileQuestion question{.title = u"Export",
+                                        .filterName = u"Job tickets",
+                                        .filterPattern = u"*.xml",
+                                        .extension = u"xml",
+                                        .fileName = wanted};
+    user::onceOpen([](WindowHandle dialog) { user::press(dialog, Key::enter); });
+    EXPECT_EQ(windows().askForSaveFile(nullptr, question), wanted + u".xml");
+    user::onceOpen([](WindowHandle dialog) { user::press(dialog, Key::escape); });
+    EXPECT_EQ(windows().askForOpenFile(nullptr, question), std::nullopt);
+}
+
+} // namespace
+} // namespace zent::platform
