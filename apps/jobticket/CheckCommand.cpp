@@ -15,6 +15,7 @@ struct CheckOptions {
     std::string ticket;
     PrinterOptions printer;
     bool json = false;
+    bool dialog = false;
     bool fix = false;
     std::string output = std::string(standardStream);
 };
@@ -48,6 +49,19 @@ ExitStatus check(const CheckOptions& options) {
     return check.problems.empty() ? ExitStatus::success : ExitStatus::differences;
 }
 
+/// The user sees what there is, and may refuse a repair.
+ExitStatus checkInDialog(const CheckOptions& options) {
+    Session session(choosePrinter(options.printer));
+    const std::string document = readFile(options.ticket);
+    readDocument(document, options.ticket); // says what is wrong with it, if anything is
+    const Session::Report report =
+        session.importAndReportTicket(document, nameForMessages(options.ticket), options.fix);
+    if (options.fix && report.isTaken) {
+        writeFile(options.output, session.exportTicket());
+    }
+    return report.hadProblems ? ExitStatus::differences : ExitStatus::success;
+}
+
 } // namespace
 
 void addCheckCommand(CLI::App& program, Action& action) {
@@ -57,14 +71,22 @@ void addCheckCommand(CLI::App& program, Action& action) {
     command->add_option("TICKET", options->ticket, "Ticket file, or - for standard input")
         ->required();
     addPrinterOptions(*command, options->printer);
-    command->add_flag("--json", options->json, "List the problems as JSON, for other programs");
+    CLI::Option* json =
+        command->add_flag("--json", options->json, "List the problems as JSON, for other programs");
+    command
+        ->add_flag("--dialog", options->dialog,
+                   "Show the problems in a dialog; with --fix the user may refuse the repair, and "
+                   "nothing is written then")
+        ->excludes(json);
     CLI::Option* fix = command->add_flag("--fix", options->fix, "Repair the ticket, and write it");
     command
         ->add_option("-o,--output", options->output,
                      "File to write the repaired ticket to; without it, standard output, and the "
                      "list goes to standard error")
         ->needs(fix);
-    command->callback([options, &action] { action = [options] { return check(*options); }; });
+    command->callback([options, &action] {
+        action = [options] { return options->dialog ? checkInDialog(*options) : check(*options); };
+    });
 }
 
 } // namespace jobticket

@@ -22,6 +22,7 @@ void addDiffCommand(CLI::App& program, Action& action);
 void addCheckCommand(CLI::App& program, Action& action);
 void addRetargetCommand(CLI::App& program, Action& action);
 void addInstructionsCommand(CLI::App& program, Action& action);
+void addNotesCommand(CLI::App& program, Action& action);
 void addStateCommand(CLI::App& program, Action& action);
 void addFeaturesCommand(CLI::App& program, Action& action);
 void addModelsCommand(CLI::App& program, Action& action);

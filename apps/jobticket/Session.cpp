@@ -67,16 +67,40 @@ Session::~Session() { fnCloseSession(&m_handle); }
 
 bool Session::import(std::string_view bytes, std::uint32_t format, const std::string& name,
                      std::uint32_t mode) {
-    ZentBool problems = 0;
-    ZentBool applied = 0;
-    check(fnImportJobTicket(m_handle, bytes.data(), sizeOf(bytes, "fnImportJobTicket", name),
-                            format, mode, nullptr, nullptr, &problems, &applied),
-          "fnImportJobTicket", name);
-    if (applied == 0) {
+    const Report report = importBy(mode, bytes, format, name);
+    if (!report.isTaken) {
         throw ProgramError(ExitStatus::libraryFailure,
                            name + ": the ticket isn't taken, since the printer can't do all of it");
     }
-    return problems != 0;
+    return report.hadProblems;
+}
+
+Session::Report Session::importBy(std::uint32_t mode, std::string_view bytes, std::uint32_t format,
+                                  const std::string& name) {
+    const ZentChar usualTitle[] = {0};
+    ZentBool problems = 0;
+    ZentBool applied = 0;
+    check(fnImportJobTicket(m_handle, bytes.data(), sizeOf(bytes, "fnImportJobTicket", name),
+                            format, mode, nullptr, usualTitle, &problems, &applied),
+          "fnImportJobTicket", name);
+    return {problems != 0, applied != 0};
+}
+
+Session::Report Session::importAndReportTicket(std::string_view document, const std::string& name,
+                                               bool repairs) {
+    return importBy(repairs ? ZENT_APPLY_REPORT_REPAIR : ZENT_APPLY_REPORT_KEEP, document,
+                    ZENT_FORMAT_XML, name);
+}
+
+void Session::showJobNotes() {
+    const ZentResult result =
+        fnInvokeTarvoJobTicketDialog(m_handle, ZENT_DIALOG_JOB_NOTES, nullptr, 0);
+    if (result == ZENT_ERR_DIALOG_START) {
+        throw ProgramError(ExitStatus::libraryFailure,
+                           "the dialog can't start; there is no display to show it on, or no "
+                           "libzent27-qt.so beside the program");
+    }
+    check(result, "fnInvokeTarvoJobTicketDialog");
 }
 
 std::string Session::exportAs(std::uint32_t format) {

@@ -47,6 +47,15 @@ public:
     bool importAndRepairTicket(std::string_view document, const std::string& name) {
         return import(document, ZENT_FORMAT_XML, name, ZENT_APPLY_SILENT_REPAIR);
     }
+    /// What a report has come to.
+    struct Report {
+        bool hadProblems = false;
+        bool isTaken = false; // the ticket, as it is now; not if the user refused the repair
+    };
+    /// The same, but a dialog tells the user of what the printer can't do, and `repairs` that it is
+    /// repaired unless the user refuses. Without a display the report goes to standard error, and
+    /// nobody refuses.
+    Report importAndReportTicket(std::string_view document, const std::string& name, bool repairs);
     std::string exportTicket() { return exportAs(ZENT_FORMAT_XML); }
     /// The same with a state blob.
     void importState(std::string_view blob, const std::string& name) {
@@ -59,12 +68,17 @@ public:
     /// A state blob anew, with the present user's name and preferences in it.
     std::string renewState(std::string_view blob, const std::string& name);
 
+    /// Lets the user edit the job notes of the ticket in a dialog.
+    void showJobNotes();
+
     /// The ticket that the session holds.
     Ticket getTicket();
 
 private:
     bool import(std::string_view bytes, std::uint32_t format, const std::string& name,
                 std::uint32_t mode);
+    Report importBy(std::uint32_t mode, std::string_view bytes, std::uint32_t format,
+                    const std::string& name);
     std::string exportAs(std::uint32_t format);
 
     ZentSessionType m_handle = nullptr;

@@ -23,9 +23,10 @@ _jobticket_options() {
     unset) echo --help --output --all ;;
     features | models) echo --help --table ;;
     capabilities) echo --help --table --json --model --pdl --form ;;
-    check) echo --help --json --fix --output --model --pdl --form ;;
+    check) echo --help --json --dialog --fix --output --model --pdl --form ;;
     retarget) echo --help --json --output --from --from-pdl --to --to-pdl ;;
     instructions) echo --help --output --document --model --pdl --form --set --generic ;;
+    notes) echo --help --output --model --pdl --set --generic ;;
     stock) echo --help list add remove ;;
     "stock list") echo --help --json --folder --model --pdl ;;
     "stock add") echo --help --favorite --folder ;;
@@ -37,8 +38,8 @@ _jobticket_options() {
     preferences) echo --help list get set ;;
     "preferences list") echo --help --model --pdl --set --generic ;;
     preferences\ *) echo --help --type --model --pdl --set --generic ;;
-    *) echo --help --version new show set unset diff check retarget instructions state features \
-        models capabilities stock preferences ;;
+    *) echo --help --version new show set unset diff check retarget instructions notes state \
+        features models capabilities stock preferences ;;
     esac
 }
 

@@ -86,6 +86,7 @@ ExitStatus run(const std::vector<std::string>& arguments) {
     addCheckCommand(program, action);
     addRetargetCommand(program, action);
     addInstructionsCommand(program, action);
+    addNotesCommand(program, action);
     addStateCommand(program, action);
     addFeaturesCommand(program, action);
     addModelsCommand(program, action);

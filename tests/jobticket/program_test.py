@@ -21,8 +21,8 @@ EXAMPLES = sorted((ROOT / "examples").glob("*.xml"))
 REPORT = ROOT / "examples" / "report.xml"
 COMPLETION = ROOT / "apps" / "jobticket" / "jobticket.bash"
 MANUAL = ROOT / "apps" / "jobticket" / "jobticket.1"
-COMMANDS = ["new", "show", "set", "unset", "diff", "check", "retarget", "instructions", "state",
-            "state pack", "state unpack", "state show", "state renew", "features", "models",
+COMMANDS = ["new", "show", "set", "unset", "diff", "check", "retarget", "instructions", "notes",
+            "state", "state pack", "state unpack", "state show", "state renew", "features", "models",
             "capabilities", "stock", "stock list", "stock add", "stock remove", "preferences",
             "preferences list", "preferences get", "preferences set"]
 
@@ -399,6 +399,24 @@ class Checking(InFolder):
             self.assertEqual(run(*command, "-o", out, status=DIFFERENT).decode(), listed)
             self.assertEqual(out.read_bytes(), written)
 
+    def test_dialogs_need_a_display(self):
+        if is_windows:
+            self.skipTest("there is always one")
+        ticket = self.folder / "ticket.xml"
+        ticket.write_bytes(REPORT.read_bytes())
+        _, message = run_for_both("notes", ticket, "-m", "1", status=LIBRARY)
+        self.assertIn("no display", message)
+        self.assertEqual(ticket.read_bytes(), REPORT.read_bytes())
+        # The report goes to where people read it.
+        fixed = run("check", ticket, "-m", "1", "--fix", status=DIFFERENT)
+        written, message = run_for_both("check", ticket, "-m", "1", "--fix", "--dialog",
+                                        status=DIFFERENT)
+        self.assertEqual(written, fixed)
+        self.assertIn("Job ticket check", message)
+        written, message = run_for_both("check", ticket, "-m", "1", "--dialog", status=DIFFERENT)
+        self.assertEqual(written, b"")
+        self.assertNotIn("->", message)
+
     def test_retarget_tells_what_is_lost(self):
         ticket = EXAMPLES[[t.name for t in EXAMPLES].index("mailing.xml")]
         out = self.folder / "out.xml"
@@ -628,6 +646,8 @@ class Failures(InFolder):
             (["retarget", REPORT, "--from", "1"], b"", USAGE, "--to takes"),
             (["retarget", REPORT, "--from", "1", "--to", "1", "--to-pdl", "3"], b"", USAGE,
              "--to-pdl: "),
+            (["check", REPORT, "-m", "1", "--json", "--dialog"], b"", USAGE, "--json"),
+            (["notes", REPORT], b"", USAGE, "which printer"),
             (["instructions", REPORT, "--document", "x"], b"", USAGE, "which printer"),
             (["preferences", "set", "x", "0g", "--type", "data"], b"", BAD_VALUE, "hexadecimal"),
             (["preferences", "set", "x", "yes", "--type", "bool"], b"", BAD_VALUE, "true or false"),
