@@ -294,6 +294,13 @@ class Printers(InFolder):
                 table = run("capabilities", *printer, feature, "--table").decode().splitlines()
                 self.assertEqual(len(table), 1)
                 self.assertLessEqual(expected, set(table[0].split("\t")[2:]))
+        table = run("capabilities", "-m", "43", "--table").decode().splitlines()
+        offers = json.loads(run("capabilities", "-m", "43", "--json"))
+        self.assertTrue(offers["printer"]["separateCovers"])
+        values = {offer["feature"]: [value["value"] for value in offer.get("values", [])]
+                  for offer in offers["features"]}
+        self.assertEqual(values, {line.split("\t")[0]: re.findall(r"\tvalue=([^\t]*)", line)
+                                  for line in table})
         listing = run("capabilities", "-m", "43", "-p", "ps").decode()
         self.assertRegex(listing, r"\nInstructions +XML document\n")
         self.assertRegex(listing, r"\nopi-image-insertion +OPI image insertion\n +insert +Insert ")
