@@ -3,7 +3,6 @@
 //
 // Input: the number of arguments, one byte for the kind of each, and the format, a byte a unit.
 
-#include <array>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
@@ -12,12 +11,14 @@
 #include <string_view>
 #include <vector>
 
+#include "FuzzInput.h"
 #include "ocore/CXString.h"
 
 namespace {
 
 using zent::CXString;
 using zent::FormatArgument;
+using zent::fuzz::unitOf;
 
 constexpr std::size_t mostArguments = 8;
 constexpr std::int32_t longestResult = 1 << 20;
@@ -63,12 +64,6 @@ const CXString& checked(const CXString& text) {
     return text;
 }
 
-/// ASCII as it is; the rest from places where 16-bit text has its pitfalls.
-char16_t unitOf(std::uint8_t byte) {
-    constexpr std::array<char16_t, 4> bases{0x0080, 0xD800, 0xDC00, 0xFFE0};
-    return static_cast<char16_t>(byte < 0x80 ? byte : bases[byte / 32 - 4] + byte % 32);
-}
-
 /// A format that ends within a specifier, or wants what isn't there, is refused by a literal.
 template <typename... Arguments>
 void formatMessage(const std::u16string& format, const Arguments&... arguments) {
@@ -102,7 +97,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const CXString text =
         checked(CXString::Format(wide.c_str(), a[0], a[1], a[2], a[3], a[4], a[5], a[6], a[7]));
     const std::u16string_view format(wide.c_str());
-    require(format.find(u'%') != format.npos || text == format);
+    require(format.find(u'%') != std::u16string_view::npos || text == format);
     checked(zent::formatText(narrow, zent::FormatArguments(a).first(count)));
     formatMessage(wide, a[0], a[1], a[2], a[3], a[4], a[5], a[6], a[7]);
     formatMessage(wide, a[0], a[1]);

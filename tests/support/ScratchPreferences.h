@@ -13,6 +13,9 @@ public:
     ScratchPreferences(const ScratchPreferences&) = delete;
     ScratchPreferences& operator=(const ScratchPreferences&) = delete;
 
+    /// Makes the store empty again.
+    void clear();
+
 private:
     struct Native;
     std::unique_ptr<Native> m_native;

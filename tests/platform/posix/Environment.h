@@ -7,8 +7,6 @@
 #include <string>
 #include <system_error>
 
-#include <gtest/gtest.h>
-
 namespace zent::test {
 
 /// Sets a variable of the environment, or removes it, as long as the object lives.
@@ -41,7 +39,7 @@ private:
 class ScratchFolder {
 public:
     ScratchFolder() {
-        std::string pattern = testing::TempDir() + "zentXXXXXX";
+        std::string pattern = (std::filesystem::temp_directory_path() / "zentXXXXXX").string();
         if (mkdtemp(pattern.data()) == nullptr) {
             throw std::system_error(errno, std::generic_category(), pattern);
         }

@@ -1,5 +1,7 @@
 #include "support/ScratchPreferences.h"
 
+#include <filesystem>
+
 #include "platform/posix/Environment.h"
 
 namespace zent::test {
@@ -11,5 +13,9 @@ struct ScratchPreferences::Native {
 
 ScratchPreferences::ScratchPreferences() : m_native(std::make_unique<Native>()) {}
 ScratchPreferences::~ScratchPreferences() = default;
+
+void ScratchPreferences::clear() {
+    std::filesystem::remove_all(m_native->folder.path() / "zent27");
+}
 
 } // namespace zent::test

@@ -40,4 +40,6 @@ struct ScratchPreferences::Native {
 ScratchPreferences::ScratchPreferences() : m_native(std::make_unique<Native>()) {}
 ScratchPreferences::~ScratchPreferences() = default;
 
+void ScratchPreferences::clear() { require(RegDeleteTreeW(m_native->root, nullptr)); }
+
 } // namespace zent::test
