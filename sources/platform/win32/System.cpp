@@ -13,7 +13,9 @@ const bool unknownExceptionsMayLeave = true;
 
 std::int32_t showMessageBox(WindowHandle owner, const CXString& body, const CXString& title,
                             std::uint32_t flags) {
-    return MessageBoxW(static_cast<HWND>(owner), wide(body), wide(title), flags);
+    const int answer = MessageBoxW(static_cast<HWND>(owner), wide(body), wide(title), flags);
+    // A box that has OK alone answers so when it is closed, too; Wine says otherwise.
+    return (flags & MB_TYPEMASK) == MB_OK && answer == IDCANCEL ? IDOK : answer;
 }
 
 CXString getWindowCaption(WindowHandle window) {

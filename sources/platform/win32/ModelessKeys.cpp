@@ -1,0 +1,38 @@
+#include "platform/win32/ModelessKeys.h"
+
+namespace zent::platform {
+
+namespace {
+
+/// A property of the dialogs that want this.
+constexpr const wchar_t* modelessProperty = L"SC_MODELESS";
+
+bool isKey(const MSG& message) {
+    return message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+}
+
+} // namespace
+
+ModelessKeys::ModelessKeys(HWND dialog)
+    : m_dialog(dialog),
+      m_hook(SetWindowsHookExW(WH_GETMESSAGE, &translate, nullptr, GetCurrentThreadId())) {
+    SetPropW(m_dialog, modelessProperty, m_hook);
+}
+
+ModelessKeys::~ModelessKeys() {
+    RemovePropW(m_dialog, modelessProperty);
+    UnhookWindowsHookEx(m_hook);
+}
+
+LRESULT CALLBACK ModelessKeys::translate(int code, WPARAM removed, LPARAM message) {
+    MSG& taken = *reinterpret_cast<MSG*>(message);
+    if (code == HC_ACTION && removed == PM_REMOVE && isKey(taken)) {
+        const HWND window = GetAncestor(taken.hwnd, GA_ROOT);
+        if (GetPropW(window, modelessProperty) != nullptr && IsDialogMessageW(window, &taken)) {
+            taken.message = WM_NULL; // the loop is to do nothing more about it
+        }
+    }
+    return CallNextHookEx(nullptr, code, removed, message);
+}
+
+} // namespace zent::platform

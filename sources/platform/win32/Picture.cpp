@@ -1,0 +1,44 @@
+#include "platform/win32/Picture.h"
+
+#include "platform/win32/ResourceImages.h"
+
+namespace zent::platform {
+
+namespace {
+
+constexpr const wchar_t* bitmapProperty = L"SC_ID";
+
+/// The page below the item, so that what the new bitmap leaves out doesn't keep the old one.
+void redrawWithPage(HWND item) {
+    RECT place = {};
+    GetWindowRect(item, &place);
+    const HWND dialog = GetParent(item);
+    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&place), 2);
+    RedrawWindow(dialog, &place, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+} // namespace
+
+void Picture::setBitmap(const ResourceModule& resources, std::uint32_t id) {
+    const auto number = static_cast<std::uintptr_t>(id);
+    if (GetPropW(window(), bitmapProperty) == reinterpret_cast<HANDLE>(number)) {
+        return;
+    }
+    SetPropW(window(), bitmapProperty, reinterpret_cast<HANDLE>(number));
+    m_bitmap = MaskedBitmap(id == 0 ? nullptr : createBitmap(resources, id));
+    redrawWithPage(window());
+}
+
+LRESULT Picture::process(UINT message, WPARAM wParam, LPARAM lParam) {
+    const LRESULT result = SubclassedItem::process(message, wParam, lParam);
+    if (message == WM_PAINT) {
+        m_bitmap.draw(WindowSurface(window()).get(), 0, 0);
+    } else if (message == WM_PRINTCLIENT) {
+        m_bitmap.draw(reinterpret_cast<HDC>(wParam), 0, 0);
+    } else if (message == WM_DESTROY) {
+        RemovePropW(window(), bitmapProperty);
+    }
+    return result;
+}
+
+} // namespace zent::platform

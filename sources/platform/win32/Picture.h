@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+
+#include "platform/ResourceModule.h"
+#include "platform/win32/MaskedBitmap.h"
+#include "platform/win32/SubclassedItem.h"
+
+namespace zent::platform {
+
+/// Draws a bitmap over a static item, on what shines through from the page.
+class Picture final : public SubclassedItem {
+public:
+    explicit Picture(HWND item) : SubclassedItem(item) {}
+
+    /// A bitmap resource, 0 for none.
+    void setBitmap(const ResourceModule& resources, std::uint32_t id);
+
+protected:
+    LRESULT process(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+private:
+    MaskedBitmap m_bitmap{nullptr};
+};
+
+} // namespace zent::platform

@@ -1,0 +1,262 @@
+#include "platform/win32/WindowsDialog.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/win32/Module.h"
+#include "platform/win32/ResourceImages.h"
+#include "platform/win32/WideText.h"
+
+namespace zent::platform {
+
+namespace {
+
+/// A copy at an address that the system accepts for a template.
+class AlignedTemplate {
+public:
+    explicit AlignedTemplate(std::span<const std::byte> bytes)
+        : m_bytes(bytes.begin(), bytes.end()) {}
+    const DLGTEMPLATE* get() const { return reinterpret_cast<const DLGTEMPLATE*>(m_bytes.data()); }
+
+private:
+    std::vector<std::byte> m_bytes;
+};
+
+} // namespace
+
+WindowsDialog::WindowsDialog(DialogTemplate form, const ResourceModule& resources,
+                             DialogProcedure& procedure)
+    : m_form(std::move(form)), m_resources(resources), m_procedure(procedure) {}
+
+std::intptr_t WindowsDialog::runModal(std::span<const std::byte> dialogTemplate, HWND owner) {
+    m_isModal = true;
+    m_isBeingOpened = true;
+    const std::intptr_t value =
+        DialogBoxIndirectParamW(getOwnModule(), AlignedTemplate(dialogTemplate).get(), owner,
+                                &procedure, reinterpret_cast<LPARAM>(this));
+    if (m_exception != nullptr) {
+        std::rethrow_exception(m_exception);
+    }
+    // The system says 0 if the owner is no window.
+    return m_window != nullptr ? value : -1;
+}
+
+HWND WindowsDialog::createModeless(std::span<const std::byte> dialogTemplate, HWND owner) {
+    m_isBeingOpened = true;
+    const HWND window =
+        CreateDialogIndirectParamW(getOwnModule(), AlignedTemplate(dialogTemplate).get(), owner,
+                                   &procedure, reinterpret_cast<LPARAM>(this));
+    m_isBeingOpened = false;
+    if (m_exception != nullptr) {
+        DestroyWindow(window);
+        std::rethrow_exception(m_exception);
+    }
+    if (window == nullptr || m_hasEnded) { // perhaps by its own first event
+        return nullptr;
+    }
+    ShowWindow(window, SW_SHOW);
+    return window;
+}
+
+void WindowsDialog::end(std::intptr_t value) {
+    if (m_isModal) {
+        m_hasEnded = true;
+        EndDialog(m_window, value);
+    }
+}
+
+void WindowsDialog::destroy() {
+    if (!m_isModal) {
+        m_hasEnded = true;
+        DestroyWindow(m_window);
+    }
+}
+
+WindowsDialog* WindowsDialog::find(HWND window) {
+    const bool isOwn =
+        GetWindowLongPtrW(window, DWLP_DLGPROC) == reinterpret_cast<LONG_PTR>(&procedure);
+    return isOwn ? reinterpret_cast<WindowsDialog*>(GetWindowLongPtrW(window, GWLP_USERDATA))
+                 : nullptr;
+}
+
+std::shared_ptr<WindowsDialog> WindowsDialog::of(WindowHandle window) {
+    WindowsDialog* const dialog = find(static_cast<HWND>(window));
+    return dialog != nullptr ? dialog->shared_from_this() : nullptr;
+}
+
+void WindowsDialog::endBy(const std::exception_ptr& exception, HWND window) {
+    for (HWND at = window; at != nullptr; at = GetWindow(at, GW_OWNER)) {
+        WindowsDialog* const dialog = find(at);
+        if (dialog != nullptr && dialog->m_isBeingOpened) {
+            dialog->m_exception = exception;
+            dialog->end(-1);
+            return;
+        }
+    }
+    // The loop is the application's: perhaps it knows what to do.
+    std::rethrow_exception(exception);
+}
+
+bool WindowsDialog::deliver(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam,
+                            std::intptr_t& result) {
+    result = 0;
+    const bool isHandled = m_procedure.processEvent(m_window, message, wParam, lParam, result);
+    SetWindowLongPtrW(m_window, DWLP_MSGRESULT, result);
+    return isHandled;
+}
+
+bool WindowsDialog::command(std::uint16_t item, std::uint32_t code) {
+    std::intptr_t result = 0;
+    return deliver(event::command, MAKEWPARAM(item, code), 0, result);
+}
+
+HWND WindowsDialog::find(std::uint16_t id) const {
+    const auto found = m_firstOfId.find(id);
+    return found != m_firstOfId.end() ? found->second : nullptr;
+}
+
+void WindowsDialog::removeItem(std::uint16_t id) {
+    const HWND item = find(id);
+    if (item != nullptr) {
+        m_toolTips.set(m_window, item, u"");
+        m_transparent.erase(item);
+        DestroyWindow(item);
+        listItems();
+    }
+}
+
+bool WindowsDialog::showHelp(const CXString& helpFile, std::uint32_t context) {
+    m_hasShownHelp = true;
+    return WinHelpW(m_window, wide(helpFile), HELP_CONTEXT, context) != FALSE;
+}
+
+// ---- What the window is told --------------------------------------------------------------------
+
+INT_PTR CALLBACK WindowsDialog::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_INITDIALOG) {
+        SetWindowLongPtrW(window, GWLP_USERDATA, lParam);
+        reinterpret_cast<WindowsDialog*>(lParam)->m_window = window;
+    }
+    // What comes before is about the making of the items.
+    const std::shared_ptr<WindowsDialog> dialog = of(window);
+    if (dialog == nullptr) {
+        return FALSE;
+    }
+    try {
+        return dialog->process(message, wParam, lParam);
+    } catch (...) {
+        endBy(std::current_exception(), window);
+        return TRUE;
+    }
+}
+
+INT_PTR WindowsDialog::process(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_INITDIALOG:
+        open();
+        return FALSE; // the focus is where it belongs
+    case WM_COMMAND:
+        return onCommand(LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam));
+    case WM_NOTIFY:
+        return onNotify(*reinterpret_cast<const NMHDR*>(lParam));
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+        return onScroll(LOWORD(wParam), reinterpret_cast<HWND>(lParam));
+    case WM_DRAWITEM:
+        return onDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+    case WM_CTLCOLORSTATIC:
+        return reinterpret_cast<INT_PTR>(
+            onColor(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)));
+    case WM_CLOSE:
+        if (raisesEvents()) {
+            onClick(IDCANCEL);
+        }
+        return TRUE;
+    case WM_DESTROY:
+        onDestroy();
+        return FALSE;
+    case WM_NCDESTROY:
+        onGone();
+        return FALSE;
+    default:
+        return FALSE;
+    }
+}
+
+void WindowsDialog::open() {
+    listItems();
+    loadImages();
+    if (!m_isModal) {
+        m_self = shared_from_this();
+        m_keys = std::make_unique<ModelessKeys>(m_window);
+    }
+    std::intptr_t result = 0;
+    deliver(event::initDialog, 0, 0, result);
+    focusFirstItem();
+}
+
+void WindowsDialog::listItems() {
+    m_items.clear();
+    m_firstOfId.clear();
+    for (HWND item = GetWindow(m_window, GW_CHILD); item != nullptr;
+         item = GetWindow(item, GW_HWNDNEXT)) {
+        const auto id = static_cast<std::uint16_t>(GetDlgCtrlID(item));
+        m_items.push_back({item, id, getItemKind(item)});
+        m_firstOfId.emplace(id, item);
+    }
+}
+
+/// The system looks for the pictures of the items in the module that a dialog belongs to, and these
+/// dialogs come with another one.
+void WindowsDialog::loadImages() {
+    const std::size_t count = std::min(m_items.size(), m_form.items.size());
+    for (std::size_t i = 0; i < count; ++i) {
+        const auto* const resource = std::get_if<std::uint16_t>(&m_form.items[i].title);
+        if (resource != nullptr && m_items[i].kind == ItemKind::label) {
+            loadImage(m_items[i].window, m_form.items[i].style & SS_TYPEMASK, *resource);
+        }
+    }
+}
+
+void WindowsDialog::loadImage(HWND label, std::uint32_t type, std::uint16_t resource) {
+    if (type == SS_ICON) {
+        m_icons.push_back(createIcon(m_resources, resource, GetSystemMetrics(SM_CXICON),
+                                     GetSystemMetrics(SM_CYICON)));
+        SendMessageW(label, STM_SETIMAGE, IMAGE_ICON,
+                     reinterpret_cast<LPARAM>(m_icons.back().get()));
+    } else if (type == SS_BITMAP) {
+        m_bitmaps.push_back(createBitmap(m_resources, resource));
+        SendMessageW(label, STM_SETIMAGE, IMAGE_BITMAP,
+                     reinterpret_cast<LPARAM>(m_bitmaps.back().get()));
+    }
+}
+
+/// Unless the procedure has put the focus on an item. The system would choose before the procedure
+/// has shown any.
+void WindowsDialog::focusFirstItem() {
+    if (m_hasEnded || IsChild(m_window, GetFocus())) {
+        return;
+    }
+    const Silence silence(*this);
+    const HWND first = GetNextDlgTabItem(m_window, nullptr, FALSE);
+    if (first != nullptr) {
+        SendMessageW(m_window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);
+    }
+}
+
+void WindowsDialog::onDestroy() {
+    m_hasEnded = true;
+    std::intptr_t result = 0;
+    deliver(event::destroy, 0, 0, result);
+    if (m_hasShownHelp) {
+        WinHelpW(m_window, nullptr, HELP_QUIT, 0);
+    }
+}
+
+void WindowsDialog::onGone() {
+    m_keys.reset();
+    SetWindowLongPtrW(m_window, GWLP_USERDATA, 0);
+    m_self.reset();
+}
+
+} // namespace zent::platform

@@ -1,0 +1,126 @@
+#pragma once
+
+#include <exception>
+#include <memory>
+#include <set>
+#include <span>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/DialogTemplate.h"
+#include "platform/WindowSystem.h"
+#include "platform/win32/GdiHandles.h"
+#include "platform/win32/ItemKind.h"
+#include "platform/win32/ModelessKeys.h"
+#include "platform/win32/ToolTips.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+namespace zent::platform {
+
+/// A dialog of the library, from its window's creation to its end: turns what the window is told
+/// into the port's events. It is always held by shared pointers, since an event may end its window.
+class WindowsDialog : public std::enable_shared_from_this<WindowsDialog> {
+public:
+    WindowsDialog(DialogTemplate form, const ResourceModule& resources, DialogProcedure& procedure);
+
+    // ---- Opening and ending --------------------------------------------------------------------
+
+    /// Gives the value that ended the dialog, -1 if it couldn't be made. `dialogTemplate` is what
+    /// the form was read from.
+    std::intptr_t runModal(std::span<const std::byte> dialogTemplate, HWND owner);
+    /// Null if it couldn't be made. The window keeps this object.
+    HWND createModeless(std::span<const std::byte> dialogTemplate, HWND owner);
+    void end(std::intptr_t value);
+    void destroy();
+
+    /// The dialog that a window is; null for all other windows.
+    static std::shared_ptr<WindowsDialog> of(WindowHandle window);
+    /// Ends a dialog, or the modal one that a modeless one stands before, by an exception, which
+    /// can't pass through the system's message loop: it is raised again by what opened the dialog.
+    static void endBy(const std::exception_ptr& exception, HWND window);
+
+    /// Calls the procedure at once; gives whether it handled the event.
+    bool deliver(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam,
+                 std::intptr_t& result);
+    /// Tells the procedure of a command, whoever's doing it is.
+    bool command(std::uint16_t item, std::uint32_t code);
+
+    // ---- The window and its items --------------------------------------------------------------
+
+    struct Item {
+        HWND window = nullptr;
+        std::uint16_t id = 0;
+        ItemKind kind = ItemKind::other;
+    };
+    HWND window() const { return m_window; }
+    const ResourceModule& resources() const { return m_resources; }
+    /// In the order of the template.
+    const std::vector<Item>& items() const { return m_items; }
+    /// The window of the first item of an id, or null.
+    HWND find(std::uint16_t id) const;
+    void removeItem(std::uint16_t id);
+    void setToolTip(HWND item, std::u16string_view text) { m_toolTips.set(m_window, item, text); }
+    /// Lets the page shine through an edit item that is read-only.
+    void setTransparent(HWND edit) { m_transparent.insert(edit); }
+    bool showHelp(const CXString& helpFile, std::uint32_t context);
+
+    /// While it lives, what happens to items is the program's doing and raises no event.
+    class Silence {
+    public:
+        explicit Silence(WindowsDialog& dialog) : m_dialog(dialog) { ++m_dialog.m_silences; }
+        ~Silence() { --m_dialog.m_silences; }
+        Silence(const Silence&) = delete;
+        Silence& operator=(const Silence&) = delete;
+
+    private:
+        WindowsDialog& m_dialog;
+    };
+
+private:
+    static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    static WindowsDialog* find(HWND window);
+    INT_PTR process(UINT message, WPARAM wParam, LPARAM lParam);
+
+    void open();
+    void listItems();
+    void loadImages();
+    void loadImage(HWND label, std::uint32_t type, std::uint16_t resource);
+    void focusFirstItem();
+    bool raisesEvents() const { return m_silences == 0 && !m_hasEnded; }
+    bool onCommand(std::uint16_t id, std::uint32_t code, HWND control);
+    bool onClick(std::uint16_t id);
+    bool onNotify(const NMHDR& header);
+    bool onSpinStep(const NMUPDOWN& step);
+    bool onListView(const NMLISTVIEW& row);
+    bool notify(const Notification& notification);
+    bool onScroll(std::uint32_t code, HWND control);
+    bool onDrawItem(const DRAWITEMSTRUCT& request);
+    HBRUSH onColor(HDC target, HWND control) const;
+    void onDestroy();
+    void onGone();
+
+    DialogTemplate m_form;
+    const ResourceModule& m_resources;
+    DialogProcedure& m_procedure;
+    HWND m_window = nullptr;
+    std::vector<Item> m_items;
+    std::unordered_map<std::uint16_t, HWND> m_firstOfId;
+    std::set<HWND> m_transparent;
+    std::vector<OwnBitmap> m_bitmaps; // of the template's items
+    std::vector<OwnIcon> m_icons;
+    ToolTips m_toolTips;
+    std::unique_ptr<ModelessKeys> m_keys;
+    std::shared_ptr<WindowsDialog> m_self; // of a modeless dialog, as long as the window stands
+    std::exception_ptr m_exception;
+    int m_silences = 0;
+    bool m_isModal = false;
+    bool m_isBeingOpened = false; // what opens it waits, for the whole run of a modal one
+    bool m_hasEnded = false;
+    bool m_hasShownHelp = false;
+};
+
+} // namespace zent::platform

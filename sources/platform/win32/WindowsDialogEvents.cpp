@@ -1,0 +1,214 @@
+// What the items tell their dialog, as the port's events.
+
+#include <algorithm>
+#include <optional>
+
+#include "platform/win32/WindowsDialog.h"
+
+namespace zent::platform {
+
+namespace {
+
+/// The code of a command as the port has it, or nothing for what it doesn't tell of.
+std::optional<std::uint32_t> asNotification(HWND control, std::uint32_t code) {
+    const auto oneOf = [code](std::uint32_t first, std::uint32_t second) {
+        return code == first || code == second ? std::optional(code) : std::nullopt;
+    };
+    switch (getItemKind(control)) {
+    case ItemKind::button:
+        // An owner-drawn button takes the second of two quick clicks for another thing.
+        if (code == BN_DOUBLECLICKED &&
+            (GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK) == BS_OWNERDRAW) {
+            return notification::clicked;
+        }
+        return oneOf(notification::clicked, notification::clicked);
+    case ItemKind::comboBox:
+        return oneOf(notification::comboSelected, notification::comboEdited);
+    case ItemKind::listBox:
+        return oneOf(notification::listSelected, notification::listDoubleClicked);
+    case ItemKind::edit:
+        return oneOf(notification::editChanged, notification::editLeft);
+    default:
+        return std::nullopt;
+    }
+}
+
+/// Once its text is edited, a combo box has no item chosen. The system leaves that as it was.
+void deselect(HWND comboBox) {
+    constexpr WPARAM none = static_cast<WPARAM>(-1);
+    COMBOBOXINFO parts = {};
+    parts.cbSize = sizeof(parts);
+    if (GetComboBoxInfo(comboBox, &parts) != FALSE) {
+        SendMessageW(parts.hwndList, LB_SETCURSEL, none, 0);
+    }
+}
+
+/// Moves a scroll bar as it asks to be; unlike a slider it leaves that to its dialog.
+int moveScrollBar(HWND bar, std::uint32_t code) {
+    SCROLLINFO info = {};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_ALL;
+    GetScrollInfo(bar, SB_CTL, &info);
+    const int page = std::max(1, (info.nMax - info.nMin) / 10);
+    switch (code) {
+    case SB_LINELEFT:
+        info.nPos -= 1;
+        break;
+    case SB_LINERIGHT:
+        info.nPos += 1;
+        break;
+    case SB_PAGELEFT:
+        info.nPos -= page;
+        break;
+    case SB_PAGERIGHT:
+        info.nPos += page;
+        break;
+    case SB_LEFT:
+        info.nPos = info.nMin;
+        break;
+    case SB_RIGHT:
+        info.nPos = info.nMax;
+        break;
+    case SB_THUMBPOSITION:
+    case SB_THUMBTRACK:
+        info.nPos = info.nTrackPos;
+        break;
+    default:
+        break;
+    }
+    info.fMask = SIF_POS;
+    return SetScrollInfo(bar, SB_CTL, &info, TRUE);
+}
+
+} // namespace
+
+bool WindowsDialog::onCommand(std::uint16_t id, std::uint32_t code, HWND control) {
+    // The keyboard's commands come without a control where the dialog has no such item.
+    const auto notification =
+        control != nullptr ? asNotification(control, code) : std::optional(notification::clicked);
+    if (!notification || !raisesEvents()) {
+        return false;
+    }
+    if (*notification == notification::clicked) {
+        return onClick(id);
+    }
+    if (*notification == notification::comboEdited) {
+        deselect(control);
+    }
+    return command(id, *notification);
+}
+
+/// By the mouse or a key: Enter and Escape press OK and Cancel, the cross in the frame is Cancel.
+bool WindowsDialog::onClick(std::uint16_t id) {
+    const HWND item = find(id);
+    if (item != nullptr && !IsWindowEnabled(item)) {
+        return true;
+    }
+    const bool isHandled = command(id, notification::clicked);
+    if (id == IDCANCEL && !m_hasEnded) {
+        end(0);
+        destroy();
+    }
+    return isHandled;
+}
+
+bool WindowsDialog::onNotify(const NMHDR& header) {
+    if (!raisesEvents()) {
+        return false;
+    }
+    switch (getItemKind(header.hwndFrom)) {
+    case ItemKind::spin:
+        return header.code == UDN_DELTAPOS && onSpinStep(reinterpret_cast<const NMUPDOWN&>(header));
+    case ItemKind::listView:
+        return (header.code == LVN_ITEMCHANGED || header.code == NM_DBLCLK) &&
+               onListView(reinterpret_cast<const NMLISTVIEW&>(header));
+    default:
+        return false;
+    }
+}
+
+bool WindowsDialog::notify(const Notification& notification) {
+    std::intptr_t result = 0;
+    const bool isHandled = deliver(event::notify, notification.item,
+                                   reinterpret_cast<std::intptr_t>(&notification), result);
+    return isHandled || result != 0;
+}
+
+bool WindowsDialog::onSpinStep(const NMUPDOWN& step) {
+    int lower = 0;
+    int upper = 0;
+    SendMessageW(step.hdr.hwndFrom, UDM_GETRANGE32, reinterpret_cast<WPARAM>(&lower),
+                 reinterpret_cast<LPARAM>(&upper));
+    // A spin that nobody has given a range counts from 100 up to 0.
+    const bool countsUp = lower <= upper;
+    Notification notification;
+    notification.item = static_cast<std::uint16_t>(step.hdr.idFrom);
+    notification.code = notification::spinStep;
+    notification.position = step.iPos;
+    notification.delta = countsUp ? -step.iDelta : step.iDelta;
+    return notify(notification);
+}
+
+bool WindowsDialog::onListView(const NMLISTVIEW& row) {
+    constexpr UINT marks = LVIS_SELECTED | LVIS_STATEIMAGEMASK;
+    const bool isActivated = row.hdr.code == NM_DBLCLK;
+    const bool isChanged =
+        (row.uChanged & LVIF_STATE) != 0 && ((row.uNewState ^ row.uOldState) & marks) != 0;
+    if (isActivated ? row.iItem < 0 : !isChanged) {
+        return false;
+    }
+    Notification notification;
+    notification.item = static_cast<std::uint16_t>(row.hdr.idFrom);
+    notification.code =
+        isActivated ? notification::listViewActivated : notification::listViewChanged;
+    notification.row = row.iItem;
+    notification.column = row.iSubItem;
+    return notify(notification);
+}
+
+bool WindowsDialog::onScroll(std::uint32_t code, HWND control) {
+    const ItemKind kind = getItemKind(control);
+    const bool isSlider = kind == ItemKind::slider;
+    if ((!isSlider && kind != ItemKind::scrollBar) || code == SB_ENDSCROLL || !raisesEvents()) {
+        return false;
+    }
+    const auto position = isSlider
+                              ? static_cast<std::uint32_t>(SendMessageW(control, TBM_GETPOS, 0, 0))
+                              : static_cast<std::uint32_t>(moveScrollBar(control, code));
+    std::intptr_t result = 0;
+    return deliver(event::horizontalScroll, MAKEWPARAM(0, position), GetDlgCtrlID(control), result);
+}
+
+bool WindowsDialog::onDrawItem(const DRAWITEMSTRUCT& request) {
+    if (request.CtlType != ODT_BUTTON) {
+        return false;
+    }
+    if ((request.itemAction & (ODA_DRAWENTIRE | ODA_SELECT)) == 0) {
+        DrawFocusRect(request.hDC, &request.rcItem); // a second time takes it away
+        return true;
+    }
+    FillRect(request.hDC, &request.rcItem, GetSysColorBrush(COLOR_3DFACE));
+    DRAWITEMSTRUCT canvas = request;
+    DrawRequest wanted;
+    wanted.item = static_cast<std::uint16_t>(request.CtlID);
+    wanted.action = request.itemAction;
+    wanted.state = request.itemState;
+    wanted.canvas = &canvas;
+    std::intptr_t result = 0;
+    deliver(event::drawItem, request.CtlID, reinterpret_cast<std::intptr_t>(&wanted), result);
+    if ((request.itemState & ODS_FOCUS) != 0) {
+        DrawFocusRect(request.hDC, &request.rcItem);
+    }
+    return true;
+}
+
+HBRUSH WindowsDialog::onColor(HDC target, HWND control) const {
+    if (!m_transparent.contains(control)) {
+        return nullptr;
+    }
+    SetBkMode(target, TRANSPARENT);
+    SetTextColor(target, GetSysColor(COLOR_WINDOWTEXT));
+    return GetSysColorBrush(COLOR_3DFACE);
+}
+
+} // namespace zent::platform
