@@ -1,0 +1,198 @@
+#include <map>
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include "platform/PeImage.h"
+#include "platform/ResourceType.h"
+#include "platform/WindowSystem.h"
+#include "platform/win32/ResourceImages.h"
+#include "support/DialogUser.h"
+#include "support/Rows.h"
+#include "support/TemplateBuilder.h"
+
+// What is to be seen of a dialog from outside the port, where it is made of real windows.
+
+namespace zent::platform {
+namespace {
+
+using test::Rows;
+using test::TemplateBuilder;
+namespace user = test::user;
+
+constexpr std::uint16_t number = 10;
+constexpr std::uint16_t duplex = 11;
+constexpr std::uint16_t photo = 12;
+constexpr std::uint16_t mark = 13;
+constexpr std::uint16_t drawing = 14;
+constexpr std::uint16_t bitmap = 500;
+constexpr std::uint16_t icon = 501;
+constexpr std::uint16_t iconImage = 1;
+
+using Image = std::vector<std::uint8_t>;
+
+/// A picture of one bit a pixel, and of zeroes.
+Image makeImage(std::uint32_t width, std::uint32_t height) {
+    constexpr std::uint32_t headerSize = 40;
+    constexpr std::uint32_t colours = 2 * 4;
+    Image bytes(headerSize + colours + std::size_t{(width + 31) / 32 * 4} * height);
+    test::put32(bytes, 0, headerSize);
+    test::put32(bytes, 4, width);
+    test::put32(bytes, 8, height);
+    test::put16(bytes, 12, 1); // planes
+    test::put16(bytes, 14, 1); // bits
+    return bytes;
+}
+
+/// A group of one icon of 16 by 16 pixels, or one that says it has more.
+Image makeIconGroup(std::uint16_t count) {
+    Image bytes(6 + 14);
+    test::put16(bytes, 2, 1);
+    test::put16(bytes, 4, count);
+    bytes[6] = bytes[7] = 16;
+    test::put16(bytes, 10, 1);
+    test::put16(bytes, 12, 1);
+    test::put32(bytes, 14, static_cast<std::uint32_t>(makeImage(16, 32).size()));
+    test::put16(bytes, 18, iconImage);
+    return bytes;
+}
+
+class Resources final : public ResourceModule {
+public:
+    std::int32_t loadString(std::uint32_t, char16_t*, std::int32_t) const override { return 0; }
+    std::span<const std::byte> findResource(std::uint32_t id, std::uint32_t type,
+                                            Failure& failure) const override {
+        const auto found = images.find({id, type});
+        failure = found != images.end() ? Failure::none : Failure::find;
+        return found != images.end() ? std::as_bytes(std::span(found->second))
+                                     : std::span<const std::byte>();
+    }
+    const void* loadIcon(std::uint32_t) const override { return nullptr; }
+
+    std::map<std::pair<std::uint32_t, std::uint32_t>, Image> images = {
+        {{bitmap, resourceType::bitmap}, makeImage(8, 8)},
+        {{icon, resourceType::iconGroup}, makeIconGroup(1)},
+        {{iconImage, resourceType::icon}, makeImage(16, 32)},
+    };
+};
+
+class Procedure final : public DialogProcedure {
+public:
+    std::function<void(WindowHandle)> onInit = [](WindowHandle) {};
+    std::function<void(WindowHandle)> onDestroy = [](WindowHandle) {};
+
+    bool processEvent(WindowHandle dialog, std::uint32_t message, std::uintptr_t /*wParam*/,
+                      std::intptr_t /*lParam*/, std::intptr_t& result) override {
+        if (message == event::initDialog) {
+            onInit(dialog);
+        } else if (message == event::destroy) {
+            onDestroy(dialog);
+        }
+        result = 5;
+        return true;
+    }
+};
+
+class Win32WindowSystemTest : public testing::Test {
+protected:
+    static WindowSystem& windows() { return *WindowSystem::find(); }
+
+    static HWND itemOf(WindowHandle dialog, int item) {
+        return GetDlgItem(static_cast<HWND>(dialog), item);
+    }
+
+    static std::vector<std::byte> sample() {
+        constexpr std::uint32_t stop = TemplateBuilder::visible | TemplateBuilder::tabStop;
+        using T = TemplateBuilder;
+        return T(u"Sample")
+            .add(number, T::edit, stop, {0, 0, 40, 12})
+            .add(duplex, T::button, stop | BS_AUTOCHECKBOX, {0, 20, 40, 12}, u"Duplex")
+            .add(photo, T::label, T::visible | SS_BITMAP, {50, 0, 20, 20}, bitmap)
+            .add(mark, T::label, T::visible | SS_ICON, {80, 0, 20, 20}, icon)
+            .add(drawing, T::label, T::visible, {110, 0, 20, 20})
+            .build();
+    }
+
+    Resources m_resources;
+    Procedure m_procedure;
+};
+
+TEST_F(Win32WindowSystemTest, WindowsKeepWhatStandsBehindThem) {
+    const auto filtered = std::make_shared<int>();
+    LONG_PTR own = 0;
+    m_procedure.onInit = [&](WindowHandle dialog) {
+        EXPECT_NE(GetWindowLongPtrW(static_cast<HWND>(dialog), GWLP_USERDATA), 0);
+        own = GetWindowLongPtrW(itemOf(dialog, number), GWLP_WNDPROC);
+        windows().setCharacterFilter(dialog, number,
+                                     [filtered](auto, auto, auto, auto) { return true; });
+        windows().setBitmap(dialog, drawing, bitmap);
+    };
+    m_procedure.onDestroy = [&](WindowHandle dialog) {
+        const HWND edit = itemOf(dialog, number);
+        EXPECT_NE(GetWindowLongPtrW(edit, GWLP_WNDPROC), own);
+        EXPECT_EQ(reinterpret_cast<LONG_PTR>(GetPropW(edit, L"SC_WND")), own);
+        EXPECT_NE(GetPropW(edit, L"SC_THS"), nullptr);
+        EXPECT_EQ(reinterpret_cast<std::uintptr_t>(GetPropW(itemOf(dialog, drawing), L"SC_ID")),
+                  bitmap);
+    };
+    user::onceOpen([&](WindowHandle dialog) {
+        EXPECT_EQ(windows().send(dialog, 32774, 0, 0), 5);
+        EXPECT_EQ(GetWindowLongPtrW(static_cast<HWND>(dialog), DWLP_MSGRESULT), 5);
+        windows().endDialog(dialog, 1);
+    });
+    EXPECT_EQ(windows().runModal(sample(), m_resources, nullptr, m_procedure), 1);
+    EXPECT_EQ(filtered.use_count(), 1);
+}
+
+/// Such as the application's, which doesn't know of the dialog.
+TEST_F(Win32WindowSystemTest, ModelessDialogsHaveTheirKeysInAnyLoop) {
+    const WindowHandle dialog =
+        windows().createModeless(sample(), m_resources, nullptr, m_procedure);
+    EXPECT_EQ(user::focused(dialog), number);
+    PostMessageW(GetFocus(), WM_KEYDOWN, VK_TAB, 1);
+    MSG message = {};
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+    EXPECT_EQ(user::focused(dialog), duplex);
+    windows().destroyDialog(dialog);
+}
+
+TEST_F(Win32WindowSystemTest, PicturesOfTheTemplateAreOfItsResources) {
+    m_procedure.onInit = [&](WindowHandle dialog) {
+        EXPECT_NE(SendMessageW(itemOf(dialog, photo), STM_GETIMAGE, IMAGE_BITMAP, 0), 0);
+        EXPECT_NE(SendMessageW(itemOf(dialog, mark), STM_GETIMAGE, IMAGE_ICON, 0), 0);
+        windows().endDialog(dialog, 1);
+    };
+    EXPECT_EQ(windows().runModal(sample(), m_resources, nullptr, m_procedure), 1);
+}
+
+TEST_F(Win32WindowSystemTest, BrokenPicturesAreNone) {
+    const auto change = [](Image bytes, std::size_t place, std::uint32_t value) {
+        test::put32(bytes, place, value);
+        return bytes;
+    };
+    const Image whole = makeImage(8, 8);
+    for (const auto& [fault, bytes] : Rows<const char*, Image>{
+             {"empty", {}},
+             {"cut in the header", {whole.begin(), whole.begin() + 20}},
+             {"cut in the pixels", {whole.begin(), whole.end() - 1}},
+             {"header beyond the end", change(whole, 0, 0xFFFFFFF0)},
+             {"short header", change(whole, 0, 12)},
+             {"too wide", change(whole, 4, 0x7FFFFFFF)},
+             {"lowest height", change(whole, 8, 0x80000000)},
+             {"too high", change(whole, 8, 9)},
+             {"compressed", change(whole, 16, 1)},
+             {"too many colours", change(whole, 32, 0x7FFFFFFF)},
+         }) {
+        m_resources.images[{bitmap, resourceType::bitmap}] = bytes;
+        EXPECT_EQ(createBitmap(m_resources, bitmap), nullptr) << fault;
+    }
+    m_resources.images[{icon, resourceType::iconGroup}] = makeIconGroup(2);
+    EXPECT_EQ(createIcon(m_resources, icon, 16, 16), nullptr);
+    EXPECT_EQ(createIcon(m_resources, bitmap, 16, 16), nullptr);
+}
+
+} // namespace
+} // namespace zent::platform
