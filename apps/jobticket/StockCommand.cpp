@@ -79,6 +79,7 @@ ExitStatus list(const StockOptions& options) {
         text = Json::object().add("file", library.getFile()).add("stocks", all).toText();
     } else {
         std::vector<std::vector<std::string>> rows;
+        rows.reserve(stocks.size());
         for (const Stock* stock : stocks) {
             rows.push_back(toRow(*stock));
         }
