@@ -15,7 +15,7 @@ ObserverSubject::ObserverSubject() : m_subjectId(static_cast<std::uint16_t>(++su
 
 // By index: an observer may attach another.
 void ObserverSubject::notifyObservers() {
-    for (std::size_t i = 0; i < m_observers.size(); ++i) {
+    for (std::size_t i = 0; i < m_observers.size(); ++i) { // NOLINT(modernize-loop-convert)
         m_observers[i]->handleSubjectUpdate(m_subjectId);
     }
 }
