@@ -5,12 +5,12 @@
 //
 // Input: the calls and their arguments as SessionArguments takes them.
 //
-// No window opens. Message boxes are answered in here, and of dialogs only what is refused is asked
-// for.
+// No window opens: there is no window system, and message boxes are answered in here.
 
 #include <algorithm>
 
 #include "SessionArguments.h"
+#include "ocore/CurrentWindowSystem.h"
 #include "ocore/UserMessage.h"
 #include "support/ScratchPreferences.h"
 
@@ -22,6 +22,7 @@ namespace {
 class User {
 public:
     static void sitDown() {
+        static const WindowSystemReplacement noWindows(nullptr);
         decide(true);
         UserMessage::setPresenter([](platform::WindowHandle, const CXString& body,
                                      const CXString& title, std::uint32_t style) {
@@ -412,9 +413,7 @@ private:
     }
     void callDialog() {
         const std::uint32_t kind = takeNumber();
-        const bool wouldOpen = kind >= ZENT_DIALOG_JOB_TICKET && kind <= ZENT_DIALOG_JOB_NOTES;
-        require(!succeeds(fnInvokeTarvoJobTicketDialog(wouldOpen ? nullptr : session(), kind,
-                                                       nullptr, takeByte())));
+        require(!succeeds(fnInvokeTarvoJobTicketDialog(session(), kind, nullptr, takeByte())));
     }
     /// A ticket that goes out and comes in again stays the same sooner or later: what is empty is
     /// written, but not read, and may leave a list empty.

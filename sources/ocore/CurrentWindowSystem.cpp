@@ -14,7 +14,7 @@ std::atomic<const WindowSystemReplacement*> replacement = nullptr;
 
 platform::WindowSystem* findWindowSystem() {
     const WindowSystemReplacement* const replaced = replacement.load();
-    return replaced != nullptr ? replaced->getSystem() : nullptr;
+    return replaced != nullptr ? replaced->getSystem() : platform::WindowSystem::find();
 }
 
 platform::WindowSystem& windowSystem() {

@@ -35,16 +35,15 @@ std::string textOfWindow(HWND window) {
     return text;
 }
 
-/// The first text in a box that isn't empty: its icon is a static control as well.
-BOOL CALLBACK findText(HWND child, LPARAM result) {
+/// The texts in a box or dialog, but for its buttons. The icon of a box, which has none, is a
+/// static control as well.
+BOOL CALLBACK collectText(HWND child, LPARAM result) {
     wchar_t className[16] = {};
     GetClassNameW(child, className, 16);
-    if (std::wstring_view(className) != L"Static") {
-        return TRUE;
+    if (std::wstring_view(className) == L"Static" || std::wstring_view(className) == L"Edit") {
+        *reinterpret_cast<std::string*>(result) += textOfWindow(child);
     }
-    auto& text = *reinterpret_cast<std::string*>(result);
-    text = textOfWindow(child);
-    return text.empty();
+    return TRUE;
 }
 
 BOOL CALLBACK findBox(HWND window, LPARAM result) {
@@ -90,7 +89,7 @@ private:
 
     void answer(HWND box) {
         MessageBox shown{textOfWindow(box), {}};
-        EnumChildWindows(box, findText, reinterpret_cast<LPARAM>(&shown.text));
+        EnumChildWindows(box, collectText, reinterpret_cast<LPARAM>(&shown.text));
         {
             const std::lock_guard hold(m_guard);
             m_boxes.push_back(std::move(shown));

@@ -1,0 +1,241 @@
+#include <gtest/gtest.h>
+
+#include "dialogs/DialogSession.h"
+#include "ocore/User.h"
+
+namespace zent::test {
+namespace {
+
+using platform::WindowHandle;
+
+// Models: one that asks for the account alone, one for all that belongs to it, and one that takes
+// but capitals and digits in it.
+constexpr std::uint32_t plainAccount = 1;
+constexpr std::uint32_t wholeAccount = 42;
+constexpr std::uint32_t capitalAccount = 32;
+
+namespace item {
+constexpr std::uint16_t jobName = 2201;
+constexpr std::uint16_t account = 2202;
+constexpr std::uint16_t sender = 2203;
+constexpr std::uint16_t recipient = 2204;
+constexpr std::uint16_t phone = 2205;
+constexpr std::uint16_t banner = 2206;
+constexpr std::uint16_t operatorMessage = 2207;
+constexpr std::uint16_t ok = 2219;
+constexpr std::uint16_t cancel = 2220;
+constexpr std::uint16_t accountButton = 2221;
+// In the dialog of the account.
+constexpr std::uint16_t accountEdit = 2303;
+constexpr std::uint16_t userEdit = 2305;
+constexpr std::uint16_t dataEdit = 2307;
+constexpr std::uint16_t accountOk = 1;
+constexpr std::uint16_t accountCancel = 2;
+} // namespace item
+
+TEST(JobNotesTest, WhatIsTypedIsInTheTicketAfterOK) {
+    const DialogSession job(plainAccount);
+    job.setTicket("copies=3 job-sheet-message=text:Old job-message-to-operator=text:Hurry");
+    user::onceOpen([](WindowHandle dialog) {
+        EXPECT_EQ(windowSystem().getCaption(dialog), u"Job notes");
+        EXPECT_EQ(windowSystem().getText(dialog, item::jobName), u"Untitled");
+        EXPECT_EQ(windowSystem().getText(dialog, item::banner), u"Old");
+        retype(dialog, item::jobName, u"Annual report!");
+        user::type(dialog, item::account, u"4711-a");
+        user::type(dialog, item::sender, u"M\u00fcller");
+        user::paste(dialog, item::recipient, u"Front desk");
+        retype(dialog, item::operatorMessage, u""); // says nothing any more
+        keepScreenshot(dialog, "job-notes");
+        user::type(dialog, item::phone, u"1"); // not for this printer, and not to be seen
+        user::click(dialog, item::ok);
+    });
+    EXPECT_EQ(job.invoke(), ZENT_OK);
+    EXPECT_EQ(job.ticket(), "copies=3 job-sheet-message=text:Old job-name=name:Annual report! "
+                            "job-account-id=name:4711-a requesting-user-name=name:M\u00fcller "
+                            "job-recipient-name=name:Front desk");
+    EXPECT_TRUE(job.boxes().empty());
+    // The state blob has it, too.
+    FeatureSettings stored;
+    job.session().currentState().toAttrNodeList(stored.getAttrNodeList());
+    CXString name;
+    stored.getString(_FI(feature::jobName), &name);
+    EXPECT_EQ(name, u"Annual report!");
+}
+
+TEST(JobNotesTest, NothingReachesTheTicketWithoutOK) {
+    using Act = void (*)(WindowHandle);
+    const Act acts[] = {
+        [](WindowHandle dialog) { user::click(dialog, item::cancel); },
+        [](WindowHandle dialog) { user::press(dialog, user::Key::escape); },
+        [](WindowHandle dialog) { user::close(dialog); },
+    };
+    for (const Act act : acts) {
+        const DialogSession job;
+        job.setTicket("copies=3");
+        user::onceOpen([&](WindowHandle dialog) {
+            user::type(dialog, item::sender, u"Mary");
+            act(dialog);
+        });
+        EXPECT_EQ(job.invoke(), ZENT_OK); // giving up is no failure
+        EXPECT_EQ(job.ticket(), "copies=3");
+    }
+}
+
+TEST(JobNotesTest, TheKeyboardGoesFromTopToBottom) {
+    struct Row {
+        std::uint32_t model;
+        std::vector<std::uint16_t> items;
+    };
+    const Row rows[] = {
+        {plainAccount,
+         {item::jobName, item::account, item::sender, item::recipient, item::banner,
+          item::operatorMessage, item::ok, item::cancel, item::jobName}},
+        {wholeAccount,
+         {item::jobName, item::accountButton, item::sender, item::recipient, item::banner,
+          item::operatorMessage, item::ok, item::cancel, item::jobName}},
+    };
+    for (const Row& row : rows) {
+        const DialogSession job(row.model);
+        user::onceOpen([&](WindowHandle dialog) {
+            std::vector<std::uint16_t> visited{user::focused(dialog)};
+            while (visited.size() < row.items.size()) {
+                user::press(dialog, user::Key::tab);
+                visited.push_back(user::focused(dialog));
+            }
+            EXPECT_EQ(visited, row.items);
+            user::press(dialog, user::Key::enter); // anywhere in a box, accepts
+        });
+        EXPECT_EQ(job.invoke(), ZENT_OK);
+        EXPECT_EQ(job.ticket(), "job-name=name:Untitled");
+    }
+}
+
+TEST(JobNotesTest, TheAccountHasADialogWhereThereIsMoreToIt) {
+    const DialogSession job(wholeAccount);
+    job.setTicket("job-accounting-data=text:x");
+    const auto fillIn = [](std::uint16_t button) {
+        user::onceOpen([button](WindowHandle dialog) {
+            user::type(dialog, item::accountEdit, u"Acme 9");
+            user::type(dialog, item::userEdit, u"jo");
+            retype(dialog, item::dataEdit, u"");
+            keepScreenshot(dialog, "account");
+            user::click(dialog, button);
+        });
+    };
+    const auto openFrom = [](WindowHandle dialog) {
+        EXPECT_FALSE(windowSystem().isItemShown(dialog, item::account));
+        user::click(dialog, item::accountButton);
+    };
+    user::onceOpen([&](WindowHandle dialog) {
+        openFrom(dialog);
+        user::click(dialog, item::cancel);
+    });
+    fillIn(item::accountOk);
+    EXPECT_EQ(job.invoke(), ZENT_OK);
+    EXPECT_EQ(job.ticket(), "job-accounting-data=text:x"); // the outer dialog was given up
+    user::onceOpen([&](WindowHandle dialog) {
+        openFrom(dialog);
+        user::click(dialog, item::ok);
+    });
+    fillIn(item::accountCancel);
+    EXPECT_EQ(job.invoke(), ZENT_OK);
+    EXPECT_EQ(job.ticket(), "job-accounting-data=text:x job-name=name:Untitled");
+    user::onceOpen([&](WindowHandle dialog) {
+        openFrom(dialog);
+        user::click(dialog, item::ok);
+    });
+    fillIn(item::accountOk);
+    EXPECT_EQ(job.invoke(), ZENT_OK);
+    EXPECT_EQ(job.ticket(),
+              "job-name=name:Untitled job-account-id=name:Acme 9 job-accounting-user-id=name:jo");
+}
+
+TEST(JobNotesTest, ATextThatThePrinterRefusesKeepsTheDialogOpen) {
+    const DialogSession job(wholeAccount);
+    user::onceOpen([&](WindowHandle dialog) {
+        user::click(dialog, item::accountButton);
+        user::click(dialog, item::ok);
+    });
+    user::onceOpen([&](WindowHandle dialog) {
+        user::type(dialog, item::accountEdit, u"a/b");
+        user::click(dialog, item::accountOk);
+        EXPECT_EQ(job.boxes().size(), 1U); // and the dialog is still there
+        retype(dialog, item::accountEdit, u"ab");
+        user::click(dialog, item::accountOk);
+    });
+    EXPECT_EQ(job.invoke(), ZENT_OK);
+    EXPECT_EQ(job.ticket(), "job-name=name:Untitled job-account-id=name:ab");
+    ASSERT_EQ(job.boxes().size(), 1U);
+    EXPECT_EQ(job.boxes()[0].title, resourceText(6203));
+    EXPECT_EQ(job.boxes()[0].body, resourceText(6206));
+    EXPECT_NE(job.boxes()[0].owner, nullptr);
+}
+
+TEST(JobNotesTest, BoxesTakeNoMoreThanThePrinter) {
+    const DialogSession job(capitalAccount);
+    user::onceOpen([&](WindowHandle dialog) {
+        retype(dialog, item::jobName, std::u16string(60, u'n'));
+        user::paste(dialog, item::phone, u"+1 555 0100 0100 0100 0100");
+        user::click(dialog, item::accountButton);
+        user::click(dialog, item::ok);
+    });
+    user::onceOpen([&](WindowHandle dialog) {
+        user::type(dialog, item::accountEdit, u"1234567890ABCDEF");
+        user::click(dialog, item::accountOk);
+    });
+    EXPECT_EQ(job.invoke(), ZENT_OK);
+    EXPECT_EQ(job.ticket(), "job-name=name:" + std::string(40, 'n') +
+                                " job-phone-number=text:+1 555 0100 0100 01 "
+                                "job-account-id=name:1234567890AB");
+}
+
+TEST(JobNotesTest, PreferencesFillBoxesAndLockThem) {
+    const DialogSession job;
+    job.prefer(u"JOB_NAME_PREFERENCE");
+    job.prefer(u"USE_LOGON_NAME_PREFERENCE");
+    job.prefer(u"ACCOUNT_REQUIRED_PREFERENCE");
+    user::onceOpen([&](WindowHandle dialog) {
+        platform::WindowSystem& system = windowSystem();
+        EXPECT_FALSE(system.isItemEnabled(dialog, item::jobName));
+        EXPECT_FALSE(system.isItemEnabled(dialog, item::sender));
+        EXPECT_TRUE(system.isItemEnabled(dialog, item::recipient));
+        EXPECT_EQ(system.getText(dialog, item::sender), User::getLogonName().view());
+        user::type(dialog, item::jobName, u"x");
+        user::click(dialog, item::ok);
+        EXPECT_EQ(job.boxes().size(), 1U); // no account
+        user::type(dialog, item::account, u"7");
+        user::click(dialog, item::ok);
+    });
+    EXPECT_EQ(job.invoke(), ZENT_OK);
+    EXPECT_EQ(job.ticket(), "requesting-user-name=name:" + User::getLogonName().toNarrow() +
+                                " job-account-id=name:7");
+    ASSERT_EQ(job.boxes().size(), 1U);
+    EXPECT_EQ(job.boxes()[0].body, resourceText(6202));
+}
+
+TEST(JobNotesTest, WithoutWindowsTheyRefuseToStart) {
+    const DialogSession job;
+    const WindowSystemReplacement none(nullptr);
+    EXPECT_EQ(job.invoke(), ZENT_ERR_DIALOG_START);
+    EXPECT_EQ(job.ticket(), "");
+    EXPECT_TRUE(job.boxes().empty());
+}
+
+TEST(JobNotesTest, EachPrinterHasThem) {
+    for (std::uint32_t model = 1; model <= 51; ++model) {
+        SCOPED_TRACE(model);
+        const DialogSession job(model);
+        bool isOpened = false;
+        user::onceOpen([&](WindowHandle dialog) {
+            isOpened = true;
+            user::click(dialog, item::ok);
+        });
+        EXPECT_EQ(job.invoke(), ZENT_OK);
+        EXPECT_TRUE(isOpened);
+        EXPECT_TRUE(job.boxes().empty());
+        EXPECT_EQ(job.ticket(), "job-name=name:Untitled");
+    }
+}
+
+} // namespace
+} // namespace zent::test

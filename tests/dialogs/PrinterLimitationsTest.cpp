@@ -1,0 +1,131 @@
+#include <gtest/gtest.h>
+
+#include "dialogs/DialogSession.h"
+#include "ocore/Capabilities/SettingsProblemReporter.h"
+#include "support/OrdoDocument.h"
+
+namespace zent::test {
+namespace {
+
+using platform::WindowHandle;
+
+namespace item {
+constexpr std::uint16_t ok = 1;
+constexpr std::uint16_t cancel = 2;
+constexpr std::uint16_t report = 4001;
+constexpr std::uint16_t label = 4002;
+} // namespace item
+
+const ZentChar title[] = {'M', 'i', 'n', 'e', 0};
+const ZentChar noTitle[] = {0};
+
+struct Applied {
+    ZentResult result;
+    ZentBool problems = 7;
+    ZentBool usable = 7;
+
+    bool operator==(const Applied&) const = default;
+};
+
+Applied apply(const DialogSession& job, std::uint32_t mode, const ZentChar* caption) {
+    Applied applied{};
+    applied.result = fnApplyPrinterCapabilitiesToSettings(job.handle(), mode, nullptr, caption,
+                                                          &applied.problems, &applied.usable);
+    return applied;
+}
+
+TEST(PrinterLimitationsTest, TheUserAgreesToARepairOrNot) {
+    const auto press = [](std::uint16_t button) {
+        return [button](WindowHandle dialog) { user::click(dialog, button); };
+    };
+    const std::function<void(WindowHandle)> ok = press(item::ok);
+    const std::function<void(WindowHandle)> cancel = press(item::cancel);
+    const std::function<void(WindowHandle)> enter = [](WindowHandle dialog) {
+        user::press(dialog, user::Key::enter);
+    };
+    const std::function<void(WindowHandle)> escape = [](WindowHandle dialog) {
+        user::press(dialog, user::Key::escape);
+    };
+    const std::function<void(WindowHandle)> close = [](WindowHandle dialog) {
+        user::close(dialog);
+    };
+    struct Row {
+        std::uint32_t mode;
+        const std::function<void(WindowHandle)>& act;
+        ZentBool usable;
+    };
+    const Row rows[] = {{3, ok, 1}, {3, cancel, 0}, {4, ok, 0},     {4, cancel, 0},
+                        {5, ok, 1}, {5, enter, 1},  {5, escape, 0}, {5, close, 0}};
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.mode);
+        const DialogSession job;
+        job.setTicket("copies=3 media-col{media-type=handmade}");
+        user::onceOpen([&](WindowHandle dialog) {
+            platform::WindowSystem& system = windowSystem();
+            EXPECT_EQ(system.getCaption(dialog), u"Mine");
+            EXPECT_EQ(system.getText(dialog, item::label), resourceText(11553).view());
+            const std::u16string report = system.getText(dialog, item::report);
+            EXPECT_NE(report.find(u"\tMedia type"), std::u16string::npos);
+            EXPECT_EQ(report.find(u"->") != std::u16string::npos, row.mode != 4);
+            keepScreenshot(dialog, "printer-limitations");
+            user::type(dialog, item::report, u"x"); // to be read only
+            EXPECT_EQ(system.getText(dialog, item::report), report);
+            row.act(dialog);
+        });
+        EXPECT_EQ(apply(job, row.mode, title), (Applied{ZENT_OK, 1, row.usable}));
+        EXPECT_EQ(job.ticket(), row.usable != 0 ? "copies=3 media-col{media-type=stationery}"
+                                                : "copies=3 media-col{media-type=handmade}");
+    }
+}
+
+TEST(PrinterLimitationsTest, AnImportThatTheUserRefusesLeavesTheTicket) {
+    const DialogSession job;
+    const std::string document = ordoTicket("<media-col syntax='collection'>"
+                                            "<media-type syntax='keyword'>handmade</media-type>"
+                                            "</media-col>");
+    for (const bool agrees : {false, true}) {
+        job.setTicket("copies=3");
+        user::onceOpen([&](WindowHandle dialog) {
+            EXPECT_EQ(windowSystem().getCaption(dialog), resourceText(11542).view());
+            user::click(dialog, agrees ? item::ok : item::cancel);
+        });
+        ZentBool problems = 7;
+        ZentBool applied = 7;
+        EXPECT_EQ(fnImportJobTicket(job.handle(), document.data(),
+                                    static_cast<std::uint32_t>(document.size()), ZENT_FORMAT_XML, 5,
+                                    nullptr, noTitle, &problems, &applied),
+                  ZENT_OK);
+        EXPECT_EQ(problems, 1);
+        EXPECT_EQ(applied != 0, agrees);
+        EXPECT_EQ(job.ticket() == "copies=3", !agrees);
+    }
+}
+
+TEST(PrinterLimitationsTest, ANoticeHasOneButton) {
+    const DialogSession job;
+    const Capabilities& capabilities = job.session().getCapabilities();
+    for (const bool closes : {false, true}) {
+        Settings ticket(listOf("media-col{media-type=handmade}"));
+        SettingsProblemList problems;
+        EXPECT_FALSE(capabilities.validate(ticket, problems));
+        user::onceOpen([&](WindowHandle dialog) {
+            platform::WindowSystem& system = windowSystem();
+            EXPECT_EQ(system.getText(dialog, item::label), resourceText(11541).view());
+            EXPECT_FALSE(system.hasItem(dialog, item::ok));
+            EXPECT_EQ(system.getText(dialog, item::cancel), u"OK");
+            EXPECT_EQ(user::focused(dialog), item::cancel);
+            if (closes) {
+                user::close(dialog);
+            } else {
+                user::press(dialog, user::Key::enter);
+            }
+        });
+        const SettingsProblemReporter reporter(nullptr, u"title", false, reportMode::silentKeep,
+                                               problemPolicy::repair);
+        EXPECT_EQ(reporter.report(problems, job.session().getDefaults().getSettings()),
+                  problemPolicy::repair);
+    }
+}
+
+} // namespace
+} // namespace zent::test
