@@ -19,7 +19,9 @@
  * ZENT_ERR_SETTINGS; other wrong pointers are not detected.
  *
  * Threads. The calls take no lock: one session, and one settings handle, belongs to one thread at a
- * time. Different sessions may run on different threads. The library starts no thread.
+ * time. Different sessions may run on different threads. The library starts no thread. On Linux
+ * dialogs and message boxes are Qt's: they belong to the thread of the application's QApplication,
+ * or, if it has none, to the first thread that needs one; elsewhere it is as without a display.
  *
  * Text is zero-terminated and 16 bits wide (ZentChar: wchar_t on Windows, char16_t elsewhere), in
  * UTF-16. Feature names are IPP attribute names such as u"copies"; they compare exactly. A null
@@ -81,7 +83,7 @@ extern "C" {
 typedef uint32_t ZentResult;
 /* A truth value of one byte: 0 or 1. */
 typedef uint8_t ZentBool;
-/* A window of the application (HWND on Windows), or null. */
+/* A window of the application (HWND on Windows, QWidget* of Qt 6 elsewhere), or null. */
 typedef void* ZentWindow;
 
 /* Opaque handles. */

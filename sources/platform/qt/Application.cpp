@@ -42,7 +42,7 @@ bool makeOwnApplication() {
     static char* arguments[] = {program, option, name.data(), nullptr};
     static int count = 3;
     const LocaleKeeper keeper;
-    new QApplication(count, arguments);
+    [[maybe_unused]] static const auto* const application = new QApplication(count, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
     return true;
 }

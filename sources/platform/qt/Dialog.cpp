@@ -4,7 +4,6 @@
 #include <utility>
 
 #include <QApplication>
-#include <QButtonGroup>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QPushButton>
@@ -99,13 +98,12 @@ bool Dialog::addItems(const DialogTemplate& source) {
 
 /// A group goes from an item of that style to the next one.
 void Dialog::groupRadioButtons() {
-    QButtonGroup* group = nullptr;
     for (const auto& item : m_items) {
-        if (group == nullptr || item->hasStyle(itemStyle::group)) {
-            group = new QButtonGroup(this);
+        if (m_radioGroups.empty() || item->hasStyle(itemStyle::group)) {
+            m_radioGroups.push_back(std::make_unique<QButtonGroup>());
         }
         if (auto* const button = dynamic_cast<ButtonItem*>(item.get())) {
-            button->joinGroup(*group);
+            button->joinGroup(*m_radioGroups.back());
         }
     }
 }

@@ -5,6 +5,7 @@
 #include <span>
 #include <vector>
 
+#include <QButtonGroup>
 #include <QDialog>
 #include <QRect>
 
@@ -88,6 +89,7 @@ private:
     Pictures m_pictures;
     DialogUnits m_units;
     std::vector<std::unique_ptr<Item>> m_items;
+    std::vector<std::unique_ptr<QButtonGroup>> m_radioGroups;
     std::vector<std::unique_ptr<Item>> m_removed; // it may be their own event that removes them
     State m_state = State::created;
     ModalRun* m_run = nullptr; // of a modal dialog
