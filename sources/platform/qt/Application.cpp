@@ -36,7 +36,7 @@ bool makeOwnApplication() {
         return false;
     }
     // Qt keeps references to its arguments.
-    static QByteArray name = *platform;
+    static QByteArray name = platform->plugin;
     static char program[] = "zent27";
     static char option[] = "-platform";
     static char* arguments[] = {program, option, name.data(), nullptr};

@@ -1,8 +1,7 @@
 #include "platform/qt/Display.h"
 
-#include <algorithm>
 #include <cstring>
-#include <memory>
+#include <utility>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -19,10 +18,10 @@ namespace zent::platform::qt {
 
 namespace {
 
-bool doesXServerAnswer() {
-    const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection(
-        xcb_connect(nullptr, nullptr), xcb_disconnect);
-    return xcb_connection_has_error(connection.get()) == 0;
+/// Null if there is no answer.
+std::shared_ptr<void> connectToXServer() {
+    std::shared_ptr<xcb_connection_t> connection(xcb_connect(nullptr, nullptr), xcb_disconnect);
+    return xcb_connection_has_error(connection.get()) == 0 ? connection : nullptr;
 }
 
 bool doesSocketAnswer(const QByteArray& path) {
@@ -68,15 +67,15 @@ bool isPluginInstalled(const QString& name) {
     return false;
 }
 
-bool isReady(const QByteArray& platform) {
-    const QByteArray name = platform.split(':').first(); // its arguments follow
-    if (name.isEmpty() || !isPluginInstalled(QString::fromLocal8Bit(name))) {
-        return false;
+std::optional<Platform> openPlatform(const QByteArray& plugin) {
+    const QByteArray name = plugin.split(':').first(); // its arguments follow
+    if (name.isEmpty() || !isPluginInstalled(QString::fromLocal8Bit(name)) ||
+        (name.startsWith("wayland") && !doesWaylandAnswer())) {
+        return std::nullopt;
     }
-    if (name == "xcb") {
-        return doesXServerAnswer();
-    }
-    return !name.startsWith("wayland") || doesWaylandAnswer();
+    Platform platform{plugin, name == "xcb" ? connectToXServer() : nullptr};
+    return name == "xcb" && platform.connection == nullptr ? std::nullopt
+                                                           : std::optional(std::move(platform));
 }
 
 QList<QByteArray> wishedPlatforms() {
@@ -97,10 +96,13 @@ QList<QByteArray> wishedPlatforms() {
 
 } // namespace
 
-std::optional<QByteArray> findPlatform() {
-    const QList<QByteArray> platforms = wishedPlatforms();
-    const auto found = std::find_if(platforms.begin(), platforms.end(), isReady);
-    return found == platforms.end() ? std::nullopt : std::optional(*found);
+std::optional<Platform> findPlatform() {
+    for (const QByteArray& plugin : wishedPlatforms()) {
+        if (auto platform = openPlatform(plugin)) {
+            return platform;
+        }
+    }
+    return std::nullopt;
 }
 
 } // namespace zent::platform::qt

@@ -94,6 +94,8 @@ TextEditItem::TextEditItem(Dialog& dialog, const DialogTemplate::Item& source, Q
     static_cast<Pane&>(edit).setItem(*this);
     edit.setTabChangesFocus(true);
     edit.setReadOnly(hasStyle(editStyle::readOnly));
+    constexpr Rectangle tabStop{0, 0, 32, 0}; // in dialog units
+    edit.setTabStopDistance(dialog.units().toPixels(tabStop).right);
     edit.setLineWrapMode(hasStyle(editStyle::scrollsAcross) ? QPlainTextEdit::NoWrap
                                                             : QPlainTextEdit::WidgetWidth);
     QTextOption option = edit.document()->defaultTextOption();
