@@ -88,7 +88,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     const Bytes all = std::as_bytes(std::span(data, size)).subspan(2);
-    const std::size_t length = std::min<std::size_t>(data[0] | data[1] << 8, all.size());
+    const std::size_t length = std::min(data[0] | std::size_t{data[1]} << 8U, all.size());
     DialogResource left(1, true);
     DialogResource right(2, false);
     const auto first = load(left, all.first(length));

@@ -157,6 +157,7 @@ void StockInformation::refreshUsage() {
 }
 
 void StockInformation::refreshUsage(AttrNodeList& level, FeatureEnum feature) {
+    const _FI mediaCol(feature::mediaCol);
     try {
         FeatureSettings view(&level);
         recordUse(view, feature);
@@ -166,7 +167,8 @@ void StockInformation::refreshUsage(AttrNodeList& level, FeatureEnum feature) {
     }
     for (std::uint32_t i = 0; i < level.getNumberOfNodes(); ++i) {
         AttrNode& node = level.getNodeAt(i);
-        if (node.getAttrValue().isList()) {
+        // A description is no level, whatever it holds: it has just been laid there.
+        if (node.getAttrValue().isList() && node.getAttrID() != mediaCol.getAttrID()) {
             refreshUsage(static_cast<IppList&>(node.getAttrValue()).getAttrNodeList(),
                          _FI::isFeatureName(node.getName()) ? _FI(node.getName()).getFeature()
                                                             : feature);
