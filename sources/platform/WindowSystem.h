@@ -178,6 +178,10 @@ public:
     virtual void setText(WindowHandle dialog, std::uint16_t item, std::u16string_view text) = 0;
     virtual std::u16string getText(WindowHandle dialog, std::uint16_t item) = 0;
     virtual void setToolTip(WindowHandle dialog, std::uint16_t item, std::u16string_view text) = 0;
+    /// Keeps a number with an item under a name, for programs that look at the dialog from outside:
+    /// a window property, until the dialog's end. Does nothing where windows have none.
+    virtual void setProperty(WindowHandle /*dialog*/, std::uint16_t /*item*/,
+                             std::u16string_view /*name*/, std::uintptr_t /*value*/) {}
 
     // ---- Edit items ----------------------------------------------------------------------------
 

@@ -44,6 +44,8 @@ public:
     void setText(WindowHandle dialog, std::uint16_t item, std::u16string_view text) override;
     std::u16string getText(WindowHandle dialog, std::uint16_t item) override;
     void setToolTip(WindowHandle dialog, std::uint16_t item, std::u16string_view text) override;
+    void setProperty(WindowHandle dialog, std::uint16_t item, std::u16string_view name,
+                     std::uintptr_t value) override;
 
     // Edit items
     void setNumber(WindowHandle dialog, std::uint16_t item, std::int32_t number,

@@ -62,6 +62,7 @@ std::int32_t Win32WindowSystem::getNumber(WindowHandle dialog, std::uint16_t ite
 void Win32WindowSystem::setTextLimit(WindowHandle dialog, std::uint16_t item, std::uint32_t units) {
     if (const DialogItem found(dialog, item, edits); found) {
         SendMessageW(getEditPart(found), EM_SETLIMITTEXT, units, 0);
+        found.dialog().setProperty(found.window(), u"SC_MAX", units);
     }
 }
 

@@ -130,6 +130,13 @@ void Win32WindowSystem::setToolTip(WindowHandle dialog, std::uint16_t item,
     }
 }
 
+void Win32WindowSystem::setProperty(WindowHandle dialog, std::uint16_t item,
+                                    std::u16string_view name, std::uintptr_t value) {
+    if (const DialogItem found(dialog, item); found) {
+        found.dialog().setProperty(found.window(), name, value);
+    }
+}
+
 void Win32WindowSystem::setChecked(WindowHandle dialog, std::uint16_t item, bool isChecked) {
     DialogItem(dialog, item, {ItemKind::button})
         .send(BM_SETCHECK, isChecked ? BST_CHECKED : BST_UNCHECKED);

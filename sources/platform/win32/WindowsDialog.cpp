@@ -125,6 +125,11 @@ void WindowsDialog::removeItem(std::uint16_t id) {
     }
 }
 
+void WindowsDialog::setProperty(HWND item, std::u16string_view name, std::uintptr_t value) {
+    const auto place = m_properties.emplace(item, name).first;
+    SetPropW(item, wide(place->second.c_str()), reinterpret_cast<HANDLE>(value));
+}
+
 bool WindowsDialog::showHelp(const CXString& helpFile, std::uint32_t context) {
     m_hasShownHelp = true;
     return WinHelpW(m_window, wide(helpFile), HELP_CONTEXT, context) != FALSE;
@@ -248,6 +253,9 @@ void WindowsDialog::onDestroy() {
     m_hasEnded = true;
     std::intptr_t result = 0;
     deliver(event::destroy, 0, 0, result);
+    for (const auto& [item, name] : m_properties) {
+        RemovePropW(item, wide(name.c_str())); // a window is to have none left at its end
+    }
     if (m_hasShownHelp) {
         WinHelpW(m_window, nullptr, HELP_QUIT, 0);
     }

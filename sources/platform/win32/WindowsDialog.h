@@ -4,8 +4,10 @@
 #include <memory>
 #include <set>
 #include <span>
+#include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "platform/DialogTemplate.h"
@@ -66,6 +68,7 @@ public:
     void setToolTip(HWND item, std::u16string_view text) { m_toolTips.set(m_window, item, text); }
     /// Lets the page shine through an edit item that is read-only.
     void setTransparent(HWND edit) { m_transparent.insert(edit); }
+    void setProperty(HWND item, std::u16string_view name, std::uintptr_t value);
     bool showHelp(const CXString& helpFile, std::uint32_t context);
 
     /// While it lives, what happens to items is the program's doing and raises no event.
@@ -110,6 +113,7 @@ private:
     std::vector<Item> m_items;
     std::unordered_map<std::uint16_t, HWND> m_firstOfId;
     std::set<HWND> m_transparent;
+    std::set<std::pair<HWND, std::u16string>> m_properties;
     std::vector<OwnBitmap> m_bitmaps; // of the template's items
     std::vector<OwnIcon> m_icons;
     ToolTips m_toolTips;

@@ -90,6 +90,8 @@ void NumberBoxUIControl::setControlCallBack() {
         Raise<UnknownCaseException>{}(
             "NumberBoxUIControl::setControlCallBack() Unknown Resource ID.\r\n");
     }
+    system.setProperty(getWindow(), m_editId, u"SC_TYPE",
+                       static_cast<std::uintptr_t>(m_numberType));
     system.setTextLimit(getWindow(), m_editId, m_maxLength);
     system.setCharacterFilter(
         getWindow(), m_editId,

@@ -4,6 +4,15 @@
 
 namespace zent {
 
+void OwndrwPushButtonUIControl::setControlCallBack() {
+    const auto keep = [this](std::u16string_view name, std::uint32_t bitmap) {
+        windowSystem().setProperty(getWindow(), getItem(), name, bitmap);
+    };
+    keep(u"SC_ID", m_bitmaps.normal);
+    keep(u"SC_DN_ID", m_bitmaps.pressed);
+    keep(u"SC_DSBL_ID", m_bitmaps.disabled);
+}
+
 bool OwndrwPushButtonUIControl::processControlMessage(const DialogMessage& message,
                                                       std::intptr_t& result) {
     if (message.getMessage() == platform::event::drawItem && message.getItem() == getItem()) {

@@ -18,6 +18,7 @@ public:
         : PushButtonUIControl(item, toolTipId), m_bitmaps(bitmaps) {}
 
     bool processControlMessage(const DialogMessage& message, std::intptr_t& result) override;
+    void setControlCallBack() override;
 
 private:
     void draw(const platform::DrawRequest& request) const;

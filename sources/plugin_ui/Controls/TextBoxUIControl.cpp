@@ -37,6 +37,8 @@ void TextBoxUIControl::setControlCallBack() {
         Raise<UnknownCaseException>{}(
             "TextBoxUIControl::setControlCallBack() Unknown Resource ID.\r\n");
     }
+    system.setProperty(getWindow(), m_editId, u"SC_TYPE",
+                       static_cast<std::uintptr_t>(m_filterMode));
     system.setTextLimit(getWindow(), m_editId, m_maxLength);
     system.setCharacterFilter(
         getWindow(), m_editId,

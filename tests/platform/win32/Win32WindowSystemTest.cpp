@@ -126,12 +126,16 @@ TEST_F(Win32WindowSystemTest, WindowsKeepWhatStandsBehindThem) {
         windows().setCharacterFilter(dialog, number,
                                      [filtered](auto, auto, auto, auto) { return true; });
         windows().setBitmap(dialog, drawing, bitmap);
+        windows().setProperty(dialog, number, u"SC_TYPE", 2);
+        windows().setTextLimit(dialog, number, 7);
     };
     m_procedure.onDestroy = [&](WindowHandle dialog) {
         const HWND edit = itemOf(dialog, number);
         EXPECT_NE(GetWindowLongPtrW(edit, GWLP_WNDPROC), own);
         EXPECT_EQ(reinterpret_cast<LONG_PTR>(GetPropW(edit, L"SC_WND")), own);
         EXPECT_NE(GetPropW(edit, L"SC_THS"), nullptr);
+        EXPECT_EQ(reinterpret_cast<std::uintptr_t>(GetPropW(edit, L"SC_TYPE")), 2U);
+        EXPECT_EQ(reinterpret_cast<std::uintptr_t>(GetPropW(edit, L"SC_MAX")), 7U);
         EXPECT_EQ(reinterpret_cast<std::uintptr_t>(GetPropW(itemOf(dialog, drawing), L"SC_ID")),
                   bitmap);
     };
