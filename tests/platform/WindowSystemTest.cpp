@@ -1,13 +1,11 @@
 #include "platform/WindowSystem.h"
 
-#include <map>
 #include <stdexcept>
 #include <utility>
 
 #include <gmock/gmock.h>
 
-#include "platform/PeImage.h"
-#include "platform/ResourceType.h"
+#include "platform/SampleDialog.h"
 #include "support/DialogUser.h"
 #include "support/Rows.h"
 #include "support/ScratchFolder.h"
@@ -19,152 +17,11 @@
 namespace zent::platform {
 namespace {
 
-using test::Rows;
-using test::TemplateBuilder;
+using namespace test;
+using namespace test::sample;
 using test::user::Key;
 using testing::EndsWith;
 using testing::HasSubstr;
-namespace user = test::user;
-
-// clang-format off
-enum SampleItem : std::uint16_t {
-    ok = 1, cancel = 2, number = 10, notes, duplex, firstRadio, secondRadio,
-    otherRadio, // of another group
-    choice,
-    ownChoice, // with a text to edit
-    openChoice, list, table, slider, spin, picture, drawn, frame, label, scrolled, absent = 999
-};
-// clang-format on
-
-constexpr std::uint32_t redPicture = 500;
-
-std::vector<std::byte> sample() {
-    using T = TemplateBuilder;
-    constexpr std::uint32_t shown = T::visible;
-    constexpr std::uint32_t stop = shown | T::tabStop;
-    constexpr std::uint32_t group = T::group;
-    constexpr std::uint32_t bordered = stop | 0x00800000;
-    return T(u"Sample", {0, 0, 300, 200})
-        .add(frame, T::button, shown | group | 7, {2, 2, 100, 60}, u"Frame")
-        .add(label, T::label, shown | 0x80, {5, 12, 40, 8}, u"A & B")
-        .add(number, T::edit, bordered | 0x80, {50, 10, 40, 12})
-        .add(notes, T::edit, bordered | 4 | 0x1000, {5, 26, 85, 30}, u"one")
-        .add(duplex, T::button, stop | group | 3, {5, 66, 60, 10}, u"&Duplex")
-        .add(firstRadio, T::button, stop | group | 9, {5, 78, 60, 10}, u"&First")
-        .add(secondRadio, T::button, shown | 9, {5, 90, 60, 10}, u"&Second")
-        .add(otherRadio, T::button, stop | group | 9, {5, 102, 60, 10}, u"&Other")
-        .add(choice, T::comboBox, stop | group | 3, {110, 10, 80, 60})
-        .add(ownChoice, T::comboBox, stop | 2 | 0x40, {110, 26, 80, 60})
-        .add(openChoice, T::comboBox, stop | 1 | 0x40, {200, 10, 80, 50})
-        .add(list, T::listBox, bordered | 1 | 2, {110, 66, 80, 40})
-        .add(table, u"SysListView32", bordered | 1 | 4, {5, 116, 140, 50})
-        .add(slider, u"msctls_trackbar32", stop, {200, 66, 80, 16})
-        .add(spin, u"msctls_updown32", shown, {200, 90, 12, 14})
-        .add(picture, T::label, shown | 14, {200, 110, 20, 20})
-        .add(drawn, T::button, stop | 11, {230, 110, 20, 20})
-        .add(scrolled, T::scrollBar, shown, {200, 140, 80, 10})
-        .add(ok, T::button, stop | group | 1, {180, 180, 50, 14}, u"OK")
-        .add(cancel, T::button, stop, {240, 180, 50, 14}, u"Cancel")
-        .build();
-}
-
-/// Pictures of 8 by 8 pixels: a red square of 4 by 4 in the middle, else a ground of blue.
-class Resources final : public ResourceModule {
-public:
-    Resources() : m_bitmap(headerSize + side * side * 3), m_iconGroup(20) {
-        test::put32(m_bitmap, 0, headerSize);
-        test::put32(m_bitmap, 4, side);
-        test::put32(m_bitmap, 8, side);
-        test::put16(m_bitmap, 12, 1);
-        test::put16(m_bitmap, 14, 24);
-        for (std::uint32_t pixel = 0; pixel < side * side; ++pixel) {
-            const bool isRed = pixel % side / 2 % 3 != 0 && pixel / side / 2 % 3 != 0;
-            m_bitmap[headerSize + pixel * 3 + (isRed ? 2 : 0)] = 255;
-        }
-        m_icon = m_bitmap;
-        m_icon.resize(m_bitmap.size() + side * 4); // a mask that lets all through
-        test::put32(m_icon, 8, side * 2);
-        test::put16(m_iconGroup, 2, 1);
-        test::put16(m_iconGroup, 4, 1);
-        m_iconGroup[6] = m_iconGroup[7] = side;
-        test::put16(m_iconGroup, 10, 1);
-        test::put16(m_iconGroup, 12, 24);
-        test::put32(m_iconGroup, 14, static_cast<std::uint32_t>(m_icon.size()));
-        test::put16(m_iconGroup, 18, redPicture);
-    }
-    std::int32_t loadString(std::uint32_t, char16_t*, std::int32_t) const override { return 0; }
-    std::span<const std::byte> findResource(std::uint32_t id, std::uint32_t type,
-                                            Failure& failure) const override {
-        static const std::vector<std::uint8_t> none;
-        const auto& found = id != redPicture                  ? none
-                            : type == resourceType::bitmap    ? m_bitmap
-                            : type == resourceType::icon      ? m_icon
-                            : type == resourceType::iconGroup ? m_iconGroup
-                                                              : none;
-        failure = found.empty() ? Failure::find : Failure::none;
-        return std::as_bytes(std::span(found));
-    }
-    const void* loadIcon(std::uint32_t) const override { return nullptr; }
-
-private:
-    static constexpr std::uint32_t headerSize = 40;
-    static constexpr std::uint32_t side = 8;
-    std::vector<std::uint8_t> m_bitmap;
-    std::vector<std::uint8_t> m_icon;
-    std::vector<std::uint8_t> m_iconGroup;
-};
-
-/// Writes down what it is told, and does what the test wants at some of it. Which edit item lost
-/// the focus it says only if asked to.
-class Recorder final : public DialogProcedure {
-public:
-    std::function<void(WindowHandle)> onInit = [](WindowHandle) {};
-    /// By item: what a command of it does.
-    std::map<std::uint16_t, std::function<void(WindowHandle)>> onCommand;
-    std::function<void(WindowHandle, const DrawRequest&)> onDraw = [](auto, const auto&) {};
-    std::intptr_t answer = 0;
-    bool notesFocus = false;
-    std::string log;
-
-    bool processEvent(WindowHandle dialog, std::uint32_t message, std::uintptr_t wParam,
-                      std::intptr_t lParam, std::intptr_t& result) override {
-        const auto item = static_cast<std::uint16_t>(wParam & 0xFFFF);
-        const auto code = static_cast<std::uint32_t>(wParam >> 16);
-        result = answer;
-        if (message == event::initDialog) {
-            note("init", {});
-            onInit(dialog);
-        } else if (message == event::destroy) {
-            note("destroy", {});
-        } else if (message == event::command && (code != notification::editLeft || notesFocus)) {
-            note("command", {item, code});
-            const auto found = onCommand.find(item);
-            if (found != onCommand.end()) {
-                found->second(dialog);
-            }
-        } else if (message == event::notify) {
-            const auto& told = *reinterpret_cast<const Notification*>(lParam);
-            const bool isSpin = told.code == notification::spinStep;
-            note("notify", {told.item, told.code, isSpin ? told.position : told.row, told.delta});
-        } else if (message == event::horizontalScroll) {
-            note("scroll", {lParam, code});
-        } else if (message == event::drawItem) {
-            onDraw(dialog, *reinterpret_cast<const DrawRequest*>(lParam));
-        } else if (message != event::command) {
-            note("message", {message});
-        }
-        return true;
-    }
-
-private:
-    void note(const char* word, std::initializer_list<std::int64_t> numbers) {
-        log += log.empty() ? "" : "; ";
-        log += word;
-        for (const std::int64_t each : numbers) {
-            log += ' ' + std::to_string(each);
-        }
-    }
-};
 
 class WindowSystemTest : public testing::Test {
 protected:
@@ -173,7 +30,7 @@ protected:
     static WindowSystem& windows() { return *WindowSystem::find(); }
 
     std::intptr_t runSample() {
-        return windows().runModal(sample(), m_resources, nullptr, m_recorder);
+        return windows().runModal(sampleTemplate(), m_resources, nullptr, m_recorder);
     }
     /// Runs the sample dialog; what the user does when it is open comes before its end with 7.
     std::intptr_t run(const std::function<void(WindowHandle)>& acts) {
@@ -192,7 +49,7 @@ protected:
         return std::exchange(m_recorder.log, std::string());
     }
 
-    Resources m_resources;
+    SampleResources m_resources;
     Recorder m_recorder;
 };
 
@@ -207,7 +64,7 @@ TEST_F(WindowSystemTest, TellsFromCreationToTheEnd) {
         windows().showItem(dialog, picture, false);
     };
     const std::intptr_t value = run([&](WindowHandle dialog) {
-        test::keepScreenshot(dialog, "sample");
+        keepScreenshot(dialog, "sample");
         EXPECT_TRUE(windows().isVisible(dialog));
         EXPECT_EQ(windows().getCaption(dialog), u"Report [*]");
         EXPECT_TRUE(windows().isItemShown(dialog, number));
@@ -472,7 +329,7 @@ TEST_F(WindowSystemTest, ClosesByCommand) {
 
 TEST_F(WindowSystemTest, ModelessDialogsGoWithTheirOwners) {
     const auto open = [&](WindowHandle owner) {
-        return windows().createModeless(sample(), m_resources, owner, m_recorder);
+        return windows().createModeless(sampleTemplate(), m_resources, owner, m_recorder);
     };
     const WindowHandle owner = open(nullptr);
     ASSERT_NE(owner, nullptr);
@@ -494,7 +351,7 @@ TEST_F(WindowSystemTest, DialogsOpenDialogs) {
     Recorder inner;
     inner.onCommand[ok] = [&](WindowHandle dialog) { windows().endDialog(dialog, 1); };
     m_recorder.onCommand[duplex] = [&](WindowHandle dialog) {
-        EXPECT_EQ(windows().runModal(sample(), m_resources, dialog, inner), 1);
+        EXPECT_EQ(windows().runModal(sampleTemplate(), m_resources, dialog, inner), 1);
     };
     run([&](WindowHandle dialog) {
         user::onceOpen([](WindowHandle opened) { user::click(opened, ok); });
@@ -572,7 +429,7 @@ std::size_t countPixels(const std::string& file, std::uint32_t colour) {
 }
 
 TEST_F(WindowSystemTest, ShowsPicturesWithoutTheirGround) {
-    const test::ScratchFolder folder;
+    const ScratchFolder folder;
     m_recorder.onInit = [&](WindowHandle dialog) {
         windows().setBitmap(dialog, picture, redPicture);
         windows().enableItem(dialog, drawn, false);
@@ -602,7 +459,7 @@ TEST_F(WindowSystemTest, RefusesBrokenTemplates) {
         return windows().runModal(bytes, m_resources, nullptr, m_recorder) == -1 &&
                windows().createModeless(bytes, m_resources, nullptr, m_recorder) == nullptr;
     };
-    const auto whole = sample();
+    const auto whole = sampleTemplate();
     EXPECT_TRUE(isRefused(std::span(whole).first(whole.size() - 3)));
     EXPECT_TRUE(isRefused(TemplateBuilder(u"").add(1, u"NoSuchClass", 0, {}).build()));
     EXPECT_EQ(m_recorder.log, "");

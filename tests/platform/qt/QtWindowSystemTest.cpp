@@ -6,6 +6,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "platform/SampleDialog.h"
 #include "platform/WindowSystem.h"
 #include "support/DialogUser.h"
 #include "support/ScratchFolder.h"
@@ -16,38 +17,11 @@
 namespace zent::platform {
 namespace {
 
-using test::TemplateBuilder;
+using namespace test;
 using test::user::Key;
-namespace user = test::user;
 
 constexpr std::uint32_t shown = TemplateBuilder::visible;
 constexpr std::uint32_t stop = shown | TemplateBuilder::tabStop;
-
-class NoResources final : public ResourceModule {
-public:
-    std::int32_t loadString(std::uint32_t, char16_t*, std::int32_t) const override { return 0; }
-    std::span<const std::byte> findResource(std::uint32_t, std::uint32_t,
-                                            Failure& failure) const override {
-        failure = Failure::find;
-        return {};
-    }
-    const void* loadIcon(std::uint32_t) const override { return nullptr; }
-};
-
-class Procedure final : public DialogProcedure {
-public:
-    std::function<void(WindowHandle)> onInit = [](WindowHandle) {};
-    int destroyed = 0;
-
-    bool processEvent(WindowHandle dialog, std::uint32_t message, std::uintptr_t /*wParam*/,
-                      std::intptr_t /*lParam*/, std::intptr_t& /*result*/) override {
-        if (message == event::initDialog) {
-            onInit(dialog);
-        }
-        destroyed += message == event::destroy ? 1 : 0;
-        return true;
-    }
-};
 
 class QtWindowSystemTest : public testing::Test {
 protected:
@@ -61,14 +35,14 @@ protected:
             acts(dialog);
             windows().endDialog(dialog, 1);
         });
-        windows().runModal(builder.build(), m_resources, owner, m_procedure);
+        windows().runModal(builder.build(), m_resources, owner, m_recorder);
     }
     static void pressWithAlt(WindowHandle dialog, Qt::Key key) {
         QTest::keyClick(static_cast<QWidget*>(dialog), key, Qt::AltModifier);
     }
 
-    NoResources m_resources;
-    Procedure m_procedure;
+    SampleResources m_resources;
+    Recorder m_recorder;
 };
 
 TEST_F(QtWindowSystemTest, MnemonicsOfLabelsAndGroupsLeadToTheItemBehind) {
@@ -142,11 +116,11 @@ TEST_F(QtWindowSystemTest, EndsWithAWindowOfTheHost) {
             EXPECT_FALSE(windows().hasItem(dialog, 3));
         },
         host.get());
-    EXPECT_EQ(m_procedure.destroyed, 1);
+    EXPECT_EQ(m_recorder.log, "init; destroy");
 }
 
 TEST_F(QtWindowSystemTest, AsksForFiles) {
-    const test::ScratchFolder folder;
+    const ScratchFolder folder;
     const std::u16string wanted(folder.file("new"));
     WindowSystem::FileQuestion question{.title = u"Export",
                                         .filterName = u"Job tickets",
