@@ -35,27 +35,19 @@ Applied apply(const DialogSession& job, std::uint32_t mode, const ZentChar* capt
 }
 
 TEST(PrinterLimitationsTest, TheUserAgreesToARepairOrNot) {
-    const auto press = [](std::uint16_t button) {
-        return [button](WindowHandle dialog) { user::click(dialog, button); };
-    };
-    const std::function<void(WindowHandle)> ok = press(item::ok);
-    const std::function<void(WindowHandle)> cancel = press(item::cancel);
-    const std::function<void(WindowHandle)> enter = [](WindowHandle dialog) {
-        user::press(dialog, user::Key::enter);
-    };
-    const std::function<void(WindowHandle)> escape = [](WindowHandle dialog) {
-        user::press(dialog, user::Key::escape);
-    };
-    const std::function<void(WindowHandle)> close = [](WindowHandle dialog) {
-        user::close(dialog);
-    };
+    using Act = void (*)(WindowHandle);
+    const Act ok = [](WindowHandle dialog) { user::click(dialog, item::ok); };
+    const Act cancel = [](WindowHandle dialog) { user::click(dialog, item::cancel); };
+    const Act enter = [](WindowHandle dialog) { user::press(dialog, user::Key::enter); };
+    const Act escape = [](WindowHandle dialog) { user::press(dialog, user::Key::escape); };
+    const Act close = [](WindowHandle dialog) { user::close(dialog); };
     struct Row {
+        Act act;
         std::uint32_t mode;
-        const std::function<void(WindowHandle)>& act;
         ZentBool usable;
     };
-    const Row rows[] = {{3, ok, 1}, {3, cancel, 0}, {4, ok, 0},     {4, cancel, 0},
-                        {5, ok, 1}, {5, enter, 1},  {5, escape, 0}, {5, close, 0}};
+    const Row rows[] = {{ok, 3, 1}, {cancel, 3, 0}, {ok, 4, 0},     {cancel, 4, 0},
+                        {ok, 5, 1}, {enter, 5, 1},  {escape, 5, 0}, {close, 5, 0}};
     for (const Row& row : rows) {
         SCOPED_TRACE(row.mode);
         const DialogSession job;

@@ -84,63 +84,6 @@ TEST(ComponentTreeTest, TheFirstRefusalEndsAValidation) {
     }
 }
 
-/// Names the handler that a message reaches.
-class Handlers : public MessageProcessor {
-public:
-    std::string reached;
-
-#define ZENT_NOTE(handler)                                                                         \
-    bool handler(const DialogMessage& /*message*/, std::intptr_t& /*result*/) override {           \
-        reached = #handler;                                                                        \
-        return false;                                                                              \
-    }
-    ZENT_NOTE(onInitDialog)
-    ZENT_NOTE(onCommand)
-    ZENT_NOTE(onNotify)
-    ZENT_NOTE(onShow)
-    ZENT_NOTE(onHide)
-    ZENT_NOTE(onEnable)
-    ZENT_NOTE(onDisable)
-    ZENT_NOTE(onValidate)
-    ZENT_NOTE(onValidateForSave)
-    ZENT_NOTE(onSettingsChanged)
-    ZENT_NOTE(onOtherMessage)
-    ZENT_NOTE(onDestroy)
-    ZENT_NOTE(onFeatureAnnounce)
-    ZENT_NOTE(onLock)
-    ZENT_NOTE(onUnlock)
-#undef ZENT_NOTE
-};
-
-TEST(ComponentTreeTest, EachNumberHasItsHandler) {
-    const std::pair<std::uint32_t, const char*> rows[] = {
-        {2, "onDestroy"},
-        {43, "onOtherMessage"},
-        {78, "onNotify"},
-        {272, "onInitDialog"},
-        {273, "onCommand"},
-        {276, "onOtherMessage"},
-        {32768, "onOtherMessage"},
-        {32769, "onHide"},
-        {32770, "onShow"},
-        {32771, "onSettingsChanged"},
-        {32772, "onEnable"},
-        {32773, "onDisable"},
-        {32774, "onValidate"},
-        {32775, "onValidateForSave"},
-        {32776, "onFeatureAnnounce"},
-        {32777, "onLock"},
-        {32778, "onUnlock"},
-        {32779, "onOtherMessage"},
-    };
-    for (const auto& [number, handler] : rows) {
-        Handlers handlers;
-        std::intptr_t result = 0;
-        handlers.processMessage({nullptr, number}, result);
-        EXPECT_EQ(handlers.reached, handler) << number;
-    }
-}
-
 TEST(ComponentTreeTest, ComponentMessagesReachWhatIsRegistered) {
     Log log;
     Node elsewhere(log, "elsewhere"); // as a dialog that a button opens
