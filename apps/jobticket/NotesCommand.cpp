@@ -22,9 +22,11 @@ ExitStatus editNotes(const NotesOptions& options) {
     const std::string before = session.exportTicket();
     session.showJobNotes();
     const std::string after = session.exportTicket();
-    // The ticket itself is left alone if the user has given up.
-    if (!options.output.empty() || after != before) {
-        writeFile(options.output.empty() ? options.ticket : options.output, after);
+    const std::string& target = options.output.empty() ? options.ticket : options.output;
+    // A file is left alone if the user has given up.
+    const bool isSameFile = target == options.ticket && target != standardStream;
+    if (!isSameFile || after != before) {
+        writeFile(target, after);
     }
     return ExitStatus::success;
 }
