@@ -96,7 +96,7 @@ Bytes findResource(const ResourceModule& resources, std::uint32_t id, std::uint3
 
 /// One image of an icon. A group can name the same one often, so a large one is left out.
 Bytes findIconImage(const ResourceModule& resources, std::uint32_t id) {
-    constexpr std::size_t largestImage = 1024 * 1024;
+    constexpr std::size_t largestImage = std::size_t{1024} * 1024;
     const Bytes image = findResource(resources, id, resourceType::icon);
     return image.size() <= largestImage ? image : Bytes();
 }
