@@ -6,14 +6,11 @@
 #include <benchmark/benchmark.h>
 
 #include "SampleTickets.h"
-#include "ocore/Compress/CompressedBuffer.h"
 #include "ocore/Compress/PersistentSettings.h"
 
 namespace zent::bench {
 
 namespace {
-
-constexpr std::size_t headerSize = 8;
 
 /// Registers a benchmark that runs `work` on an outside form of a number of bytes.
 template <typename Work>
@@ -26,20 +23,10 @@ void add(const std::string& name, std::size_t bytes, Work work) {
     });
 }
 
-std::string textOf(const ByteBuffer& bytes) {
-    return {static_cast<const char*>(static_cast<const void*>(bytes.data())), bytes.size()};
-}
-
 /// Imports a document, and exports it as a blob.
 std::string toState(TicketSession& session, const std::string& xml) {
     session.importTicket(xml);
     return std::string(session.exportTicket(ZENT_FORMAT_STATE));
-}
-
-std::string expanded(const std::string& stream) {
-    ByteBuffer content;
-    CompressedBuffer({stream.data(), stream.size()}).getOriginalData(content);
-    return textOf(content);
 }
 
 CupsTicket toCups(const std::string& state) {
@@ -55,9 +42,8 @@ void touch(const TicketSession& session) {
 } // namespace
 
 BlobBenchmark::Blob::Blob(std::string ticketName, const std::string& xml)
-    : name(std::move(ticketName)), state(toState(session, xml)), stream(state.substr(headerSize)),
-      content(expanded(stream)), document(std::string_view(content).substr(StateData::size)),
-      cups(toCups(state)), messageSize(cups.write().size()) {
+    : name(std::move(ticketName)), state(toState(session, xml)), content(state),
+      document(content.document()), cups(toCups(state)), messageSize(cups.write().size()) {
     message = Deflater().deflate(cups.write());
 }
 
@@ -66,7 +52,7 @@ BlobBenchmark::BlobBenchmark() {
     m_blobs.emplace_back("full", makeFullTicket());
     m_blobs.emplace_back("overrides-1000", makeOverridesTicket(1000));
     for (Blob& blob : m_blobs) {
-        if (!blob.stream.starts_with(writeFloor(blob))) {
+        if (!blob.content.stream.starts_with(writeFloor(blob))) {
             throw std::logic_error("the floor of writing doesn't write the blob");
         }
     }
@@ -83,14 +69,10 @@ void BlobBenchmark::registerImport(Blob& blob) {
     const std::string name = "import-blob/" + blob.name;
     add(name + "/zent", blob.state.size(),
         [&] { m_importing.importTicket(blob.state, ZENT_FORMAT_STATE); });
-    add(name + "/xerces-tree", blob.state.size(), [&] {
-        const auto content = m_inflater.inflate(blob.stream, blob.content.size());
-        m_xerces.parseToTree(content.substr(StateData::size));
-    });
-    add(name + "/xerces-events", blob.state.size(), [&] {
-        const auto content = m_inflater.inflate(blob.stream, blob.content.size());
-        m_xerces.parseToEvents(content.substr(StateData::size));
-    });
+    add(name + "/xerces-tree", blob.state.size(),
+        [&] { m_xerces.parseToTree(blob.content.expandDocument(m_inflater)); });
+    add(name + "/xerces-events", blob.state.size(),
+        [&] { m_xerces.parseToEvents(blob.content.expandDocument(m_inflater)); });
     add(name + "/cups", blob.message.size(),
         [&] { CupsTicket::read(m_inflater.inflate(blob.message, blob.messageSize)); });
 }
@@ -108,7 +90,7 @@ void BlobBenchmark::registerExport(Blob& blob) {
 }
 
 std::string_view BlobBenchmark::writeFloor(Blob& blob) {
-    m_content.assign(blob.content, 0, StateData::size);
+    m_content.assign(blob.content.expanded, 0, StateData::size);
     m_content += blob.document.writePieces();
     return m_deflater.deflate(m_content);
 }

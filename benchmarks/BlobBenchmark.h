@@ -3,6 +3,7 @@
 #include <deque>
 #include <string>
 
+#include "BlobContent.h"
 #include "CupsTicket.h"
 #include "TicketSession.h"
 #include "XercesFloor.h"
@@ -27,8 +28,7 @@ private:
         std::string name;
         TicketSession session; // holds the ticket
         std::string state;     // the blob
-        std::string stream;    // what is deflated in it
-        std::string content;   // the same, expanded: a structure of fixed size, and a document
+        BlobContent content;
         XercesWrite document;
         CupsTicket cups;
         std::string message; // the IPP message, deflated

@@ -1,12 +1,8 @@
 #include "FirstSessions.h"
 
 #include <cstdio>
-#include <ctime>
-#include <filesystem>
-#include <memory>
-#include <stdexcept>
-#include <string>
 
+#include "ChildProcess.h"
 #include "TicketSession.h"
 #include "ocore/FeatureSettings/CapabilityDataBase.h"
 #include "ocore/FeatureSettings/FeatureDataBase.h"
@@ -17,33 +13,17 @@ namespace zent::bench {
 
 namespace {
 
-struct ClosePipe {
-    void operator()(std::FILE* pipe) const { pclose(pipe); }
-};
-
-double processorSeconds() {
-    timespec now = {};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
-}
-
 double measureSession() {
-    const double begin = processorSeconds();
+    const double begin = getProcessorSeconds();
     openAndClose();
-    return processorSeconds() - begin;
+    return getProcessorSeconds() - begin;
 }
 
 } // namespace
 
 FirstSessions measureFirstSessions() {
-    static const std::string command =
-        std::filesystem::read_symlink("/proc/self/exe").string() + " " + firstSessionsOption;
-    const std::unique_ptr<std::FILE, ClosePipe> output(popen(command.c_str(), "r"));
-    FirstSessions seconds;
-    if (!output || std::fscanf(output.get(), "%lf %lf", &seconds.first, &seconds.second) != 2) {
-        throw std::runtime_error("the program can't be started anew");
-    }
-    return seconds;
+    const std::vector<double> seconds = runChild(firstSessionsOption);
+    return {seconds.at(0), seconds.at(1)};
 }
 
 void printFirstSessions() {

@@ -13,12 +13,10 @@ void require(ZentResult result) {
 
 namespace {
 
-ZentSessionType openSession() {
-    constexpr std::uint32_t model = 1;
-    constexpr std::uint32_t pdl = 1;
+ZentSessionType openSession(const PrinterChoice& printer) {
     constexpr ZentBool silent = 1;
     ZentSessionType session = nullptr;
-    require(fnOpenSession(ZENT_INTERFACE_VERSION, model, pdl, ZENT_INSTRUCTIONS_XML, silent,
+    require(fnOpenSession(ZENT_INTERFACE_VERSION, printer.model, printer.pdl, printer.form, silent,
                           nullptr, 0, &session));
     return session;
 }
@@ -26,11 +24,11 @@ ZentSessionType openSession() {
 } // namespace
 
 void openAndClose() {
-    ZentSessionType session = openSession();
+    ZentSessionType session = openSession({});
     require(fnCloseSession(&session));
 }
 
-TicketSession::TicketSession() : m_session(openSession()) {
+TicketSession::TicketSession(const PrinterChoice& printer) : m_session(openSession(printer)) {
     require(fnGetTarvoJtSettingsFromSession(m_session, &m_settings));
     require(fnUnspecifyAllFeatures(m_session, m_settings));
 }
@@ -48,14 +46,35 @@ void TicketSession::importTicket(std::string_view bytes, std::uint32_t format) c
     }
 }
 
-std::string_view TicketSession::exportTicket(std::uint32_t format) {
+bool TicketSession::applyCapabilities(std::uint32_t mode) const {
+    ZentBool problems = 0;
+    ZentBool usable = 0;
+    require(fnApplyPrinterCapabilitiesToSettings(m_session, mode, nullptr, nullptr, &problems,
+                                                 &usable));
+    return problems != 0;
+}
+
+template <typename Call>
+std::string_view TicketSession::fetch(Call call) {
     std::uint32_t size = 0;
-    require(fnExportJobTicket(m_session, nullptr, &size, format));
-    if (m_exported.size() < size) {
-        m_exported.resize(size);
+    require(call(nullptr, &size));
+    if (m_fetched.size() < size) {
+        m_fetched.resize(size);
     }
-    require(fnExportJobTicket(m_session, m_exported.data(), &size, format));
-    return {m_exported.data(), size};
+    require(call(m_fetched.data(), &size));
+    return {m_fetched.data(), size};
+}
+
+std::string_view TicketSession::exportTicket(std::uint32_t format) {
+    return fetch([&](void* buffer, std::uint32_t* size) {
+        return fnExportJobTicket(m_session, buffer, size, format);
+    });
+}
+
+std::string_view TicketSession::getInstructions(const char* documentName) {
+    return fetch([&](void* buffer, std::uint32_t* size) {
+        return fnGetPrintInstructions(m_session, buffer, size, documentName);
+    });
 }
 
 PageTicket::PageTicket(const TicketSession& owner) : m_session(owner.session()) {

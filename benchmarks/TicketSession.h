@@ -11,6 +11,13 @@ namespace zent::bench {
 /// Throws std::runtime_error unless the result is ZENT_OK: a call that fails is no measurement.
 void require(ZentResult result);
 
+/// The printer of a session. All its numbers are those of fnOpenSession.
+struct PrinterChoice {
+    std::uint32_t model = 1;
+    std::uint32_t pdl = 1;
+    std::uint32_t form = ZENT_INSTRUCTIONS_XML;
+};
+
 /// Opens a silent session, and closes it.
 void openAndClose();
 
@@ -18,7 +25,7 @@ void openAndClose();
 /// application has them.
 class TicketSession {
 public:
-    TicketSession();
+    explicit TicketSession(const PrinterChoice& printer = {});
     TicketSession(const TicketSession&) = delete;
     TicketSession& operator=(const TicketSession&) = delete;
     ~TicketSession();
@@ -28,13 +35,19 @@ public:
 
     /// Replaces the ticket.
     void importTicket(std::string_view bytes, std::uint32_t format = ZENT_FORMAT_XML) const;
-    /// Asks for the size, then fetches. The bytes are valid until the next export.
+    /// Checks the ticket against the printer, by a ZentApplyMode. Whether it found problems.
+    bool applyCapabilities(std::uint32_t mode) const;
+    /// These ask for the size, then fetch. The bytes are valid until the next call of either.
     std::string_view exportTicket(std::uint32_t format = ZENT_FORMAT_XML);
+    std::string_view getInstructions(const char* documentName = nullptr);
 
 private:
+    template <typename Call>
+    std::string_view fetch(Call call);
+
     ZentSessionType m_session;
     TarvoJtSettingsType m_settings = nullptr;
-    std::vector<char> m_exported;
+    std::vector<char> m_fetched;
 };
 
 /// A free-standing ticket of a session's application.

@@ -9,8 +9,11 @@
 #include <benchmark/benchmark.h>
 
 #include "BlobBenchmark.h"
+#include "CheckBenchmark.h"
 #include "FeatureBenchmark.h"
 #include "FirstSessions.h"
+#include "InstructionsBenchmark.h"
+#include "JobsBenchmark.h"
 #include "ScratchPreferences.h"
 #include "SessionBenchmark.h"
 #include "TicketBenchmark.h"
@@ -21,6 +24,10 @@ int main(int argc, char** argv) {
             zent::bench::printFirstSessions();
             return EXIT_SUCCESS;
         }
+        if (argc == 2 && std::string_view(argv[1]) == zent::bench::jobsOption) {
+            zent::bench::printJobs();
+            return EXIT_SUCCESS;
+        }
         benchmark::Initialize(&argc, argv);
         if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
             return EXIT_FAILURE;
@@ -29,10 +36,15 @@ int main(int argc, char** argv) {
         zent::bench::SessionBenchmark sessions(preferences);
         zent::bench::TicketBenchmark tickets(ZENT_DTD_PATH);
         zent::bench::BlobBenchmark blobs;
+        zent::bench::CheckBenchmark checks;
+        zent::bench::InstructionsBenchmark instructions;
         zent::bench::FeatureBenchmark features;
         sessions.registerAll();
         tickets.registerAll();
         blobs.registerAll();
+        checks.registerAll();
+        instructions.registerAll();
+        zent::bench::registerJobs();
         features.registerAll();
         benchmark::RunSpecifiedBenchmarks();
         benchmark::Shutdown();
