@@ -5,38 +5,17 @@
 //
 // Input: the calls and their arguments as SessionArguments takes them.
 //
-// No window opens: there is no window system, and message boxes are answered in here.
+// No window opens: FuzzUser stands for the user and for the window system.
 
 #include <algorithm>
 
+#include "FuzzUser.h"
 #include "SessionArguments.h"
-#include "ocore/CurrentWindowSystem.h"
-#include "ocore/UserMessage.h"
 #include "support/ScratchPreferences.h"
 
 namespace zent::fuzz {
 
 namespace {
-
-/// Takes the place of the user, who reads each box and answers it.
-class User {
-public:
-    static void sitDown() {
-        static const WindowSystemReplacement noWindows(nullptr);
-        decide(true);
-        UserMessage::setPresenter([](platform::WindowHandle, const CXString& body,
-                                     const CXString& title, std::uint32_t style) {
-            require(body.c_str()[body.length()] == u'\0' && title.c_str()[title.length()] == u'\0');
-            return (style & messageStyle::okCancel) != 0 ? s_answer : messageAnswer::ok;
-        });
-    }
-    static void decide(bool agrees) {
-        s_answer = agrees ? messageAnswer::ok : messageAnswer::cancel;
-    }
-
-private:
-    inline static std::int32_t s_answer = messageAnswer::ok;
-};
 
 /// Plays one input.
 class Play : private SessionArguments {
@@ -360,7 +339,7 @@ private:
         const std::uint32_t format = takeNumber();
         const std::uint32_t mode = takeNumber();
         const ZentChar* const title = takeTitle();
-        User::decide(takeByte() % 2 == 0);
+        m_user.prepare();
         ZentBool problems = 0;
         ZentBool applied = 0;
         const char* const data = document.empty() ? nullptr : out(document.front(), 5);
@@ -398,7 +377,7 @@ private:
     void callApply() {
         const std::uint32_t mode = takeNumber();
         const ZentChar* const title = takeTitle();
-        User::decide(takeByte() % 2 == 0);
+        m_user.prepare();
         ZentBool problems = 0;
         ZentBool usable = 0;
         const bool done = succeeds(fnApplyPrinterCapabilitiesToSettings(
@@ -413,7 +392,8 @@ private:
     }
     void callDialog() {
         const std::uint32_t kind = takeNumber();
-        require(!succeeds(fnInvokeTarvoJobTicketDialog(session(), kind, nullptr, takeByte())));
+        m_user.prepare();
+        succeeds(fnInvokeTarvoJobTicketDialog(session(), kind, nullptr, 0));
     }
     /// A ticket that goes out and comes in again stays the same sooner or later: what is empty is
     /// written, but not read, and may leave a list empty.
@@ -518,6 +498,7 @@ private:
         }
     }
 
+    FuzzUser m_user{*this};
     std::vector<char> m_bytes; // what a call gave last
     int m_nestings = 0;
     int m_openings = 0;
@@ -575,7 +556,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static zent::test::ScratchPreferences scratch;
     scratch.clear();
-    zent::fuzz::User::sitDown();
     zent::fuzz::Play(data, size).run();
     return 0;
 }
