@@ -38,6 +38,7 @@ LRESULT DialogItem::send(UINT message, WPARAM wParam, LPARAM lParam) const {
 void DialogItem::leave() const {
     const HWND focus = GetFocus();
     if (focus != nullptr && (focus == m_window || IsChild(m_window, focus))) {
+        const WindowsDialog::Silence silence(*m_dialog);
         SendMessageW(m_dialog->window(), WM_NEXTDLGCTL, 0, FALSE);
     }
 }

@@ -62,6 +62,7 @@ void Win32WindowSystem::showItem(WindowHandle dialog, std::uint16_t item, bool i
         if (!isShown) {
             found.leave(); // else the keyboard would be lost
         }
+        const WindowsDialog::Silence silence(found.dialog());
         ShowWindow(found.window(), isShown ? SW_SHOW : SW_HIDE);
     }
 }
@@ -89,6 +90,7 @@ bool Win32WindowSystem::isItemEnabled(WindowHandle dialog, std::uint16_t item) {
 void Win32WindowSystem::focusItem(WindowHandle dialog, std::uint16_t item) {
     const DialogItem found(dialog, item);
     if (found && found.hasStyle(WS_VISIBLE) && !found.hasStyle(WS_DISABLED)) {
+        const WindowsDialog::Silence silence(found.dialog()); // of a radio button, it would click
         SendMessageW(found.dialog().window(), WM_NEXTDLGCTL,
                      reinterpret_cast<WPARAM>(found.window()), TRUE);
     }

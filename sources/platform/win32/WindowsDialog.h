@@ -71,7 +71,8 @@ public:
     void setProperty(HWND item, std::u16string_view name, std::uintptr_t value);
     bool showHelp(const CXString& helpFile, std::uint32_t context);
 
-    /// While it lives, what happens to items is the program's doing and raises no event.
+    /// While it lives, what happens to items is the program's doing and raises no event, but that
+    /// an edit item lost the focus.
     class Silence {
     public:
         explicit Silence(WindowsDialog& dialog) : m_dialog(dialog) { ++m_dialog.m_silences; }

@@ -86,7 +86,9 @@ bool WindowsDialog::onCommand(std::uint16_t id, std::uint32_t code, HWND control
     // The keyboard's commands come without a control where the dialog has no such item.
     const auto notification =
         control != nullptr ? asNotification(control, code) : std::optional(notification::clicked);
-    if (!notification || !raisesEvents()) {
+    // The focus is gone whoever has moved it.
+    const bool isTold = raisesEvents() || (!m_hasEnded && notification == notification::editLeft);
+    if (!notification || !isTold) {
         return false;
     }
     if (*notification == notification::clicked) {
