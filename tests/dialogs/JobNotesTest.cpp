@@ -51,8 +51,9 @@ TEST(JobNotesTest, WhatIsTypedIsInTheTicketAfterOK) {
     });
     EXPECT_EQ(job.invoke(), ZENT_OK);
     EXPECT_EQ(job.ticket(), "copies=3 job-sheet-message=text:Old job-name=name:Annual report! "
-                            "job-account-id=name:4711-a requesting-user-name=name:M\u00fcller "
-                            "job-recipient-name=name:Front desk");
+                            "job-account-id=name:4711-a requesting-user-name=name:" +
+                                CXString(u"M\u00fcller").toNarrow() +
+                                " job-recipient-name=name:Front desk");
     EXPECT_TRUE(job.boxes().empty());
     // The state blob has it, too.
     FeatureSettings stored;

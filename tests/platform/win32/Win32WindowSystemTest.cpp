@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <map>
 #include <memory>
 
@@ -9,6 +10,7 @@
 #include "platform/win32/ResourceImages.h"
 #include "support/DialogUser.h"
 #include "support/Rows.h"
+#include "support/ScratchFolder.h"
 #include "support/TemplateBuilder.h"
 
 // What is to be seen of a dialog from outside the port, where it is made of real windows.
@@ -170,6 +172,34 @@ TEST_F(Win32WindowSystemTest, PicturesOfTheTemplateAreOfItsResources) {
         windows().endDialog(dialog, 1);
     };
     EXPECT_EQ(windows().runModal(sample(), m_resources, nullptr, m_procedure), 1);
+}
+
+TEST_F(Win32WindowSystemTest, AsksForFiles) {
+    const test::ScratchFolder folder;
+    folder.write("there.xml", "");
+    // With its drive, as the answers are.
+    const auto path = [&](const char* name) {
+        return std::filesystem::absolute(folder.path() / name).make_preferred().u16string();
+    };
+    const auto asked = [&](bool isToOpen, const char* proposed, user::Key key) {
+        WindowSystem::FileQuestion question;
+        question.title = u"Tickets";
+        question.filterName = u"Job tickets";
+        question.filterPattern = u"*.xml";
+        question.extension = u"xml";
+        question.fileName = path(proposed);
+        user::onceOpen([&](WindowHandle dialog) {
+            EXPECT_EQ(windows().getCaption(dialog), question.title);
+            user::press(dialog, key);
+        });
+        const auto file = isToOpen ? windows().askForOpenFile(nullptr, question)
+                                   : windows().askForSaveFile(nullptr, question);
+        return file.value_or(u"none");
+    };
+    EXPECT_EQ(asked(true, "there.xml", user::Key::enter), path("there.xml"));
+    EXPECT_EQ(asked(true, "there.xml", user::Key::escape), u"none");
+    EXPECT_EQ(asked(false, "new", user::Key::enter), path("new.xml"));
+    EXPECT_EQ(asked(false, "new", user::Key::escape), u"none");
 }
 
 TEST_F(Win32WindowSystemTest, BrokenPicturesAreNone) {
