@@ -34,8 +34,13 @@ std::string toRepaired(const std::string& xml) {
     return std::string(session.exportTicket());
 }
 
-void setCounter(benchmark::State& state, std::size_t problems) {
-    state.counters["problems"] = static_cast<double>(problems);
+/// Registers a benchmark that counts the problems of a ticket.
+template <typename Work>
+void add(const std::string& name, std::size_t problems, Work work) {
+    benchmark::RegisterBenchmark(name.c_str(), [work, problems](benchmark::State& state) {
+        work(state);
+        state.counters["problems"] = static_cast<double>(problems);
+    });
 }
 
 } // namespace
@@ -74,13 +79,12 @@ void CheckBenchmark::registerAll() {
 
 void CheckBenchmark::registerCheck(const Ticket& ticket) {
     const std::string name = "check/" + ticket.name;
-    benchmark::RegisterBenchmark((name + "/zent").c_str(), [&](benchmark::State& state) {
+    add(name + "/zent", ticket.problems, [&](benchmark::State& state) {
         for ([[maybe_unused]] auto each : state) {
             ticket.session.applyCapabilities(ZENT_APPLY_SILENT_KEEP);
         }
-        setCounter(state, ticket.problems);
     });
-    benchmark::RegisterBenchmark((name + "/walk").c_str(), [&](benchmark::State& state) {
+    add(name + "/walk", ticket.problems, [&](benchmark::State& state) {
         const AttrNodeList& list = *settingsOf(ticket.session).getAttrNodeList();
         for ([[maybe_unused]] auto each : state) {
             benchmark::DoNotOptimize(walkList(list));
@@ -89,18 +93,16 @@ void CheckBenchmark::registerCheck(const Ticket& ticket) {
 }
 
 void CheckBenchmark::registerRepair(const Ticket& ticket) {
-    benchmark::RegisterBenchmark(("repair/" + ticket.name + "/zent").c_str(),
-                                 [&](benchmark::State& state) {
-                                     FeatureSettings& settings = settingsOf(ticket.session);
-                                     const FeatureSettings unrepaired = settings;
-                                     for ([[maybe_unused]] auto each : state) {
-                                         ticket.session.applyCapabilities(ZENT_APPLY_SILENT_REPAIR);
-                                         state.PauseTiming();
-                                         settings = unrepaired;
-                                         state.ResumeTiming();
-                                     }
-                                     setCounter(state, ticket.problems);
-                                 });
+    add("repair/" + ticket.name + "/zent", ticket.problems, [&](benchmark::State& state) {
+        FeatureSettings& settings = settingsOf(ticket.session);
+        const FeatureSettings unrepaired = settings;
+        for ([[maybe_unused]] auto each : state) {
+            ticket.session.applyCapabilities(ZENT_APPLY_SILENT_REPAIR);
+            state.PauseTiming();
+            settings = unrepaired;
+            state.ResumeTiming();
+        }
+    });
 }
 
 } // namespace zent::bench
