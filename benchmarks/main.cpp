@@ -10,6 +10,7 @@
 
 #include "BlobBenchmark.h"
 #include "CheckBenchmark.h"
+#include "DialogBenchmark.h"
 #include "FeatureBenchmark.h"
 #include "FirstSessions.h"
 #include "InstructionsBenchmark.h"
@@ -39,6 +40,7 @@ int main(int argc, char** argv) {
         zent::bench::CheckBenchmark checks;
         zent::bench::InstructionsBenchmark instructions;
         zent::bench::FeatureBenchmark features;
+        zent::bench::DialogBenchmark dialogs;
         sessions.registerAll();
         tickets.registerAll();
         blobs.registerAll();
@@ -46,6 +48,7 @@ int main(int argc, char** argv) {
         instructions.registerAll();
         zent::bench::registerJobs();
         features.registerAll();
+        dialogs.registerAll();
         benchmark::RunSpecifiedBenchmarks();
         benchmark::Shutdown();
     } catch (const std::exception& exception) {
