@@ -69,7 +69,7 @@ protected:
           m_dialog(m_configuration, items()) {}
 
     /// Runs the dialog on a ticket, ends it with OK, and gives what has become of the ticket.
-    std::string run(std::string_view text, std::function<void(Window)> acts) {
+    std::string run(std::string_view text, const std::function<void(Window)>& acts) {
         m_ticket.setAttrNodeList(listOf(text));
         m_windows.onceOpen([this, acts](Window window) {
             acts(window);
