@@ -8,8 +8,8 @@ namespace zent::test {
 
 namespace {
 
-constexpr std::uint32_t headerSize = 40; // of a bitmap
-constexpr std::uint32_t side = 8;
+constexpr std::size_t headerSize = 40; // of a bitmap
+constexpr std::size_t side = 8;
 
 } // namespace
 

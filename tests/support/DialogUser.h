@@ -6,11 +6,9 @@
 
 #include "platform/System.h"
 
-namespace zent::test {
-
 /// Acts on dialogs as a person does, through the toolkit's own input: each adapter of the window
 /// system has its own. What is done to an item that is hidden or disabled is done in vain.
-namespace user {
+namespace zent::test::user {
 
 enum class Key { tab, shiftTab, enter, escape, backspace, remove, up, down, space };
 
@@ -36,5 +34,4 @@ void spin(platform::WindowHandle dialog, std::uint16_t item, bool up);
 /// By the window system's own means, such as the cross in the frame.
 void close(platform::WindowHandle dialog);
 
-} // namespace user
-} // namespace zent::test
+} // namespace zent::test::user
