@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "ocore/CurrentWindowSystem.h"
 #include "ocore/UserMessage.h"
 #include "support/AllocationFailure.h"
 #include "support/ScratchPreferences.h"
@@ -277,6 +278,7 @@ void exhaust(Job& job, const Call& call) {
 }
 
 TEST(AllocationFailureTest, EveryCallReportsItAndTheLibraryGoesOn) {
+    const WindowSystemReplacement none(nullptr); // nobody is there to answer a dialog
     const ScratchPreferences scratch;
     UserMessage::setPresenter([](platform::WindowHandle, const CXString&, const CXString&,
                                  std::uint32_t) { return messageAnswer::ok; });

@@ -80,13 +80,13 @@ protected:
     }
 
     /// The texts of the drop-down list, with the chosen one in brackets.
-    std::string choices(Window window) {
-        std::string text;
+    std::u16string choices(Window window) {
+        std::u16string text;
         const auto& item = m_windows.item(window, combo);
         for (std::size_t i = 0; i < item.list.size(); ++i) {
-            const std::string entry = CXString(item.list[i].first).toNarrow();
-            text += (i == 0 ? "" : "|") +
-                    (static_cast<std::int32_t>(i) == item.selected ? '[' + entry + ']' : entry);
+            const std::u16string entry(item.list[i].first);
+            text += (i == 0 ? u"" : u"|") +
+                    (static_cast<std::int32_t>(i) == item.selected ? u'[' + entry + u']' : entry);
         }
         return text;
     }
@@ -99,11 +99,11 @@ TEST_F(FeaturesTest, ADropDownListOffersThePrintersValues) {
                                                           antiAliasing, TJTF_ANY);
     list.setDefaultText(6203); // before there is a window
     const std::string none = run("anti-aliasing=none", [&](Window window) {
-        EXPECT_EQ(choices(window), "Account|Standard|[No anti-aliasing]");
+        EXPECT_EQ(choices(window), u"Account|Standard|[No anti-aliasing]");
         list.setDefaultText(6207);
-        EXPECT_EQ(choices(window), "Job name|Standard|[No anti-aliasing]");
+        EXPECT_EQ(choices(window), u"Job name|Standard|[No anti-aliasing]");
         m_windows.choose(window, combo, 1);
-        EXPECT_EQ(choices(window), "Job name|[Standard]|No anti-aliasing");
+        EXPECT_EQ(choices(window), u"Job name|[Standard]|No anti-aliasing");
     });
     EXPECT_EQ(none, "anti-aliasing=standard");
     EXPECT_EQ(run("anti-aliasing=none", [&](Window window) { m_windows.choose(window, combo, 0); }),
@@ -122,11 +122,11 @@ TEST_F(FeaturesTest, AValueOfTheUsersOwnIsAskedFor) {
     EXPECT_EQ(run(pink,
                   [&](Window window) {
                       EXPECT_EQ(choices(window),
-                                "Printer default|White|Red|Custom\u2026|[pink (custom)]");
+                                u"Printer default|White|Red|Custom\u2026|[pink (custom)]");
                       EXPECT_EQ(m_windows.item(window, picture).bitmap, 1010U);
                       m_windows.choose(window, combo, 2);
                       EXPECT_EQ(choices(window),
-                                "Printer default|White|[Red]|Custom\u2026|pink (custom)");
+                                u"Printer default|White|[Red]|Custom\u2026|pink (custom)");
                   }),
               "media-col{media-color=red}");
     // Giving up puts the choice back.
@@ -139,7 +139,7 @@ TEST_F(FeaturesTest, AValueOfTheUsersOwnIsAskedFor) {
                       });
                       m_windows.choose(window, combo, 3);
                       EXPECT_EQ(choices(window),
-                                "Printer default|White|Red|Custom\u2026|[pink (custom)]");
+                                u"Printer default|White|Red|Custom\u2026|[pink (custom)]");
                   }),
               pink);
     // A text is taken within the printer's limits: 27 characters, no blanks.
@@ -152,7 +152,7 @@ TEST_F(FeaturesTest, AValueOfTheUsersOwnIsAskedFor) {
                 });
                 m_windows.choose(window, combo, 3);
                 EXPECT_EQ(choices(window),
-                          "Printer default|White|Red|Custom\u2026|[skyblue2xxxxxxxxxxxxxxxxxxx "
+                          u"Printer default|White|Red|Custom\u2026|[skyblue2xxxxxxxxxxxxxxxxxxx "
                           "(custom)]");
             }),
         "media-col{media-color=name:skyblue2xxxxxxxxxxxxxxxxxxx}");
@@ -164,7 +164,7 @@ TEST_F(FeaturesTest, AValueOfTheUsersOwnIsAskedFor) {
                           m_windows.click(asking, ok);
                       });
                       m_windows.choose(window, combo, 3);
-                      EXPECT_EQ(choices(window), "Printer default|White|[Red]|Custom\u2026");
+                      EXPECT_EQ(choices(window), u"Printer default|White|[Red]|Custom\u2026");
                   }),
               "media-col{media-color=red}");
 }
