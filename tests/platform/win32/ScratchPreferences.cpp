@@ -1,3 +1,9 @@
+// RegDeleteTree is of later systems than the oldest that the library serves.
+#undef WINVER
+#undef _WIN32_WINNT
+#define WINVER 0x0600
+#define _WIN32_WINNT 0x0600
+
 #include "support/ScratchPreferences.h"
 
 #include <stdexcept>
