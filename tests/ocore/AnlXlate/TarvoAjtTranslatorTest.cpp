@@ -11,6 +11,7 @@
 #include "resources/UseResourceLibrary.h"
 #include "support/ListText.h"
 #include "support/OrdoDocument.h"
+#include "support/Rows.h"
 
 namespace zent::test {
 namespace {
@@ -77,10 +78,7 @@ TEST_F(TarvoAjtTranslatorTest, AnEmptyTicketGivesACompleteStream) {
 }
 
 TEST_F(TarvoAjtTranslatorTest, EachFeatureGivesItsLines) {
-    const struct {
-        const char* ticket;
-        const char* lines;
-    } rows[] = {
+    const Rows<const char*, const char*> rows{
         // A blank for each line end; CR LF is looked for before LF CR.
         {"job-name=name:a\r\nb\n\rc\rd\n", "title: a b c d \n"},
         {"job-account-id=name:\n\r\n", "account:   \n"},
@@ -122,17 +120,14 @@ TEST_F(TarvoAjtTranslatorTest, EachFeatureGivesItsLines) {
         {"page-overrides[value{sides=one-sided}]", ""},
         {"requesting-user-name=name:Jürgen", "senderName: Jürgen\n"},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(linesOf(row.ticket, plain), row.lines) << row.ticket;
+    for (const auto& [ticket, lines] : rows) {
+        EXPECT_EQ(linesOf(ticket, plain), lines) << ticket;
     }
 }
 
 TEST_F(TarvoAjtTranslatorTest, MediaAreTurnedAsThePrinterTakesThem) {
-    const struct {
-        const char* size;
-        const char* signature;
-        const char* written;
-    } rows[] = {
+    // The size in the ticket, and as written for a signature and otherwise.
+    const Rows<std::string, std::string, std::string> rows{
         {"x-dimension=17800 y-dimension=35600", "178 356", "178 356"},
         {"x-dimension=29700 y-dimension=21000", "210 297", "210 297"},
         {"x-dimension=29700 y-dimension=42000", "297 420", "420 297"},
@@ -140,14 +135,12 @@ TEST_F(TarvoAjtTranslatorTest, MediaAreTurnedAsThePrinterTakesThem) {
         {"x-dimension=22900 y-dimension=30000", "229 300", "229 300"},
         {"x-dimension=22901 y-dimension=30000", "300 229", "229 300"},
     };
-    for (const auto& row : rows) {
-        const std::string media = std::string("media-col{media-size{") + row.size + "}}";
+    for (const auto& [size, forSignature, written] : rows) {
+        const std::string media = "media-col{media-size{" + size + "}}";
         const std::string ticket = media + " imposition-template=signature";
-        EXPECT_EQ(linesOf(media, full), std::string("paperType-size: ") + row.written + "\n");
-        EXPECT_EQ(linesOf(ticket, full),
-                  std::string("signature: True\npaperType-size: ") + row.signature + "\n");
-        EXPECT_EQ(linesOf(ticket, plain),
-                  std::string("signature: True\npaperType-size: ") + row.written + "\n");
+        EXPECT_EQ(linesOf(media, full), "paperType-size: " + written + "\n");
+        EXPECT_EQ(linesOf(ticket, full), "signature: True\npaperType-size: " + forSignature + "\n");
+        EXPECT_EQ(linesOf(ticket, plain), "signature: True\npaperType-size: " + written + "\n");
     }
 }
 
@@ -175,32 +168,16 @@ TEST_F(TarvoAjtTranslatorTest, AFailureWritesNothing) {
 // golden/ajt/expected_streams.py.
 TEST_F(TarvoAjtTranslatorTest, FullTicketsOfEachFamily) {
     useOrdoDtd();
-    const struct {
-        const char* ticket;
-        std::uint32_t model;
-    } rows[] = {{"family-07", 1},  {"family-11", 17}, {"family-12", 25},
-                {"family-13", 32}, {"family-14", 16}, {"family-17", 4}};
-    for (const auto& row : rows) {
-        const std::string path = std::string("golden/ajt/") + row.ticket;
+    const Rows<std::string, std::uint32_t> rows{{"family-07", 1},  {"family-11", 17},
+                                                {"family-12", 25}, {"family-13", 32},
+                                                {"family-14", 16}, {"family-17", 4}};
+    for (const auto& [name, model] : rows) {
+        const std::string path = "golden/ajt/" + name;
         const AttrNodeList ticket = readOrdo(readTestFile(path + ".xml"));
-        const Capabilities capabilities(PrinterModel(row.model, pageLanguage::postScript), 2);
+        const Capabilities capabilities(PrinterModel(model, pageLanguage::postScript), 2);
         Writes stream;
         createStreamTranslator(capabilities, 2)->translate(ticket, stream);
-        EXPECT_EQ(stream.text, readTestFile(path + ".golden")) << row.ticket;
-    }
-}
-
-TEST_F(TarvoAjtTranslatorTest, OnlyFormOneIsTheOrdoDocument) {
-    useOrdoDtd();
-    const Capabilities capabilities(PrinterModel(1, pageLanguage::postScript), 1);
-    const struct {
-        std::uint32_t form;
-        const char* begin;
-    } rows[] = {{1, "<?xml"}, {0, "%TRV"}, {2, "%TRV"}, {4, "%TRV"}};
-    for (const auto& row : rows) {
-        Writes stream;
-        createStreamTranslator(capabilities, row.form)->translate(listOf("copies=2"), stream);
-        EXPECT_EQ(stream.text.substr(0, std::string(row.begin).size()), row.begin) << row.form;
+        EXPECT_EQ(stream.text, readTestFile(path + ".golden")) << name;
     }
 }
 

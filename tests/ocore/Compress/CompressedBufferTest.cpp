@@ -2,10 +2,12 @@
 
 #include <string>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <zlib.h>
 
 #include "support/Raised.h"
+#include "support/Rows.h"
 
 namespace zent::test {
 namespace {
@@ -31,16 +33,17 @@ std::string expanded(const std::string& image) {
     return textOf(original);
 }
 
+using testing::EndsWith;
+using testing::HasSubstr;
 using FooterException = MissingOrBadCompressedBufferFooterException;
 
 TEST(CompressedBufferTest, StoresAndExpands) {
     for (const std::string& text : {std::string("ticket"), std::string(100000, 'x')}) {
         CompressedBuffer buffer(CompressedBuffer::defaultLevel);
         buffer.store(bytesOf(text));
-        const std::string footer("\xFF\xFF\xFF\xFF\0\0", 6);
         const std::string image = textOf(buffer.getImage());
-        EXPECT_EQ(image.substr(image.size() - 12, 5), footer.substr(0, 5));
-        EXPECT_EQ(image.substr(image.size() - 4), "COM4");
+        EXPECT_EQ(image.substr(image.size() - 12, 5), std::string("\xFF\xFF\xFF\xFF\0", 5));
+        EXPECT_THAT(image, EndsWith("COM4"));
         EXPECT_EQ(expanded(image), text);
     }
     CompressedBuffer buffer(9);
@@ -63,13 +66,8 @@ TEST(CompressedBufferTest, DamageIsFound) {
               "CompressedBuffer::getFooterInfo(): Footer information missing (buffer is 4 bytes "
               "versus footer size of 12 or 8) OR signature bytes were invalid (no). "
               "CompressedBuffer ByteBuffer is invalid!\r\n");
-    EXPECT_NE(raised<FooterException>([] { expanded("12345678COM5"); }).find("(yes)"),
-              std::string::npos);
-    struct Row {
-        std::string image;
-        const char* part;
-    };
-    const Row rows[] = {
+    EXPECT_THAT(raised<FooterException>([] { expanded("12345678COM5"); }), HasSubstr("(yes)"));
+    const Rows<std::string, const char*> rows{
         {image(std::string("\0\0\0\x05", 4)), "(Z_BUF_ERROR) from uncompress()"},
         {image(std::string("\0\0\0\x07", 4)), "size (6) doesn't match the expected size of the "
                                               "original data (7)"},
@@ -78,9 +76,8 @@ TEST(CompressedBufferTest, DamageIsFound) {
         {image("\xFF\xFF\xFF\xFF"), "(Z_DATA_ERROR) from uncompress()"},
         {"rubbish" + std::string("\0\0\0\x05", 4) + "COMP", "(Z_DATA_ERROR) from uncompress()"},
     };
-    for (const Row& row : rows) {
-        const std::string message = raised<CompressionException>([&] { expanded(row.image); });
-        EXPECT_NE(message.find(row.part), std::string::npos) << message;
+    for (const auto& [damaged, part] : rows) {
+        EXPECT_THAT(raised<CompressionException>([&] { expanded(damaged); }), HasSubstr(part));
     }
 }
 
@@ -93,14 +90,14 @@ TEST(CompressedBufferTest, AStreamOfUnknownSizeIsExpandedWithinBounds) {
     const std::string text(50000, 'y');
     EXPECT_EQ(expand(deflated(text)), "before " + text);
     EXPECT_EQ(expand(deflated(text) + "behind"), "before " + text);
-    const std::string cut = deflated(text).substr(0, 20);
-    EXPECT_NE(raised<CompressionException>([&] { expand(cut); }).find("(Z_BUF_ERROR)"),
-              std::string::npos);
-    const std::string bomb = deflated(std::string((64u << 20) + 1, '\0'));
-    EXPECT_NE(raised<CompressionException>([&] { expand(bomb); }).find("(Z_MEM_ERROR)"),
-              std::string::npos);
-    EXPECT_NE(raised<CompressionException>([&] { expand(""); }).find("deflate()"),
-              std::string::npos);
+    const Rows<std::string, const char*> rows{
+        {deflated(text).substr(0, 20), "(Z_BUF_ERROR)"},
+        {deflated(std::string((64u << 20) + 1, '\0')), "(Z_MEM_ERROR)"}, // a bomb
+        {"", "deflate()"},
+    };
+    for (const auto& [stream, part] : rows) {
+        EXPECT_THAT(raised<CompressionException>([&] { expand(stream); }), HasSubstr(part));
+    }
 }
 
 } // namespace

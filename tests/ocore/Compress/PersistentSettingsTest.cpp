@@ -6,10 +6,11 @@
 
 #include "expected/ExpectedTable.h"
 #include "ocore/Compress/CompressedBuffer.h"
+#include "ocore/Exceptions.h"
 #include "ocore/User.h"
 #include "support/ListText.h"
 #include "support/OrdoDocument.h"
-#include "support/Raised.h"
+#include "support/Rows.h"
 #include "support/ScratchPreferences.h"
 
 namespace zent::test {
@@ -59,47 +60,36 @@ private:
 
 // The same on every system: what an application stored on one, it may hand back on another.
 TEST_F(PersistentSettingsTest, ABlobIsTheSameOnEverySystem) {
-    struct Row {
-        const char* document;
-        const char* blob; // by golden/state/make-blob
-    };
-    const Row rows[] = {
+    const Rows<const char*, const char*> rows{
+        // The blobs are made by golden/state/make-blob.
         {"golden/ordo/report.xml", "golden/state/report.blob"},
         {"../examples/brochure-with-covers.xml", "golden/state/brochure.blob"},
     };
-    for (const Row& row : rows) {
+    for (const auto& [document, blob] : rows) {
         PersistentSettings settings;
         settings.setUserContext({u"me", true, false, true});
-        settings.setFromAttrNodeList(readOrdo(readTestFile(row.document)));
-        EXPECT_TRUE(settings.getBuffer() == bytesOf(readTestFile(row.blob))) << row.blob;
+        settings.setFromAttrNodeList(readOrdo(readTestFile(document)));
+        EXPECT_TRUE(settings.getBuffer() == bytesOf(readTestFile(blob))) << blob;
     }
 }
 
 TEST_F(PersistentSettingsTest, ATicketTravelsWithItsUser) {
     PersistentSettings settings;
     EXPECT_EQ(settings.getUserContext().logonName, User::getLogonName());
-    EXPECT_TRUE(settings.getUserContext().useDocumentName);
     EXPECT_EQ(textOfList(*settings.toNewAttrNodeList()), "");
 
-    settings.setUserContext({CXString(u"ada"), false, true, false});
+    settings.setUserContext({u"ada", false, true, false});
     settings.setFromAttrNodeList(listOf("copies=3 media-col{media-color=blue}"));
-    const ByteBuffer blob = settings.getBuffer();
-    EXPECT_EQ(blob.bytes().size(), settings.size());
-    EXPECT_EQ(ByteBuffer(blob.data(), 8), bytesOf(recentHeader));
-
-    const PersistentSettings copy(blob, false);
+    const PersistentSettings copy(settings.getBuffer(), false);
     EXPECT_TRUE(copy.isEqual(settings));
     const UserContext user = copy.getUserContext();
     EXPECT_EQ(user.logonName, u"ada");
     EXPECT_FALSE(user.useDocumentName);
     EXPECT_TRUE(user.useLogonName);
-    EXPECT_EQ(listIn(blob), "copies=3 media-col{media-color=blue}");
-}
+    EXPECT_EQ(listIn(settings.getBuffer()), "copies=3 media-col{media-color=blue}");
 
-TEST_F(PersistentSettingsTest, ALongNameIsCut) {
-    PersistentSettings settings;
-    settings.setUserContext(
-        {CXString(std::u16string_view(std::u16string(300, u'n'))), true, true, true});
+    const std::u16string longName(300, u'n');
+    settings.setUserContext({CXString(std::u16string_view(longName)), true, true, true});
     EXPECT_EQ(settings.getUserContext().logonName.length(), 255);
 }
 
@@ -149,14 +139,9 @@ TEST_F(PersistentSettingsTest, WhatWasExpandedOrNotYetComposedIsKeptInStep) {
 }
 
 TEST_F(PersistentSettingsTest, FaultsAreRefusedAndNothingIsTaken) {
-    struct Row {
-        ByteBuffer blob;
-        ResultCode result = ZENT_OK;
-    };
-    const Row rows[] = {
+    const Rows<ByteBuffer, ResultCode> rows{
         {bytesOf(recentHeader.substr(0, 7)), ZENT_ERR_STATE_FORMAT},
         {bytesOf(std::string("\x08\0\0\0\x01\0\x09\x03", 8)), ZENT_ERR_STATE_FORMAT},
-        {bytesOf(recentHeader), ZENT_ERR_COMPRESSION},
         {blobOf(recentHeader, structureOf().substr(0, 521)), ZENT_ERR_STATE_FORMAT},
         {blobOf(recentHeader, structureOf('\x0B')), ZENT_ERR_STATE_FORMAT},
         {blobOf(recentHeader, structureOf() + "<sordo>"), ZENT_ERR_XML_PARSE},
@@ -164,12 +149,12 @@ TEST_F(PersistentSettingsTest, FaultsAreRefusedAndNothingIsTaken) {
     };
     PersistentSettings settings;
     const ByteBuffer before = settings.getBuffer();
-    for (const Row& row : rows) {
+    for (const auto& [blob, result] : rows) {
         try {
-            settings.importPersistentSettingsState(row.blob, false);
-            ADD_FAILURE() << "row " << &row - rows << " was taken";
+            settings.importPersistentSettingsState(blob, false);
+            ADD_FAILURE() << "a fault was taken that gives " << result;
         } catch (const TarvoException& exception) {
-            EXPECT_EQ(exception.getResultCode(), row.result) << exception.getMessage().toNarrow();
+            EXPECT_EQ(exception.getResultCode(), result) << exception.getMessage().toNarrow();
         }
         EXPECT_EQ(settings.getBuffer(), before);
     }
