@@ -80,14 +80,6 @@ TEST(CriticalResource, RecordsHoldsInOrderOfTaking) {
     EXPECT_EQ(OwnedCriticalResource::getRecordedCount(), 0U);
 }
 
-TEST(Trace, SettingsDefaultWithoutASettingsFile) {
-    for (const std::u16string_view name : trace::moduleNames) {
-        EXPECT_EQ(trace::getTraceSetting(CXString(name), 7), 7);
-    }
-    EXPECT_EQ(trace::moduleNames.front(), u"Errors");
-    EXPECT_EQ(trace::moduleNames.back(), u"uiinfra");
-}
-
 TEST(Trace, TakesWhatExceptionsSay) {
     const TraceCapture capture;
     setExceptionLocation(u"a.cpp", 5);

@@ -24,6 +24,11 @@ public:
     CXString getErrorId() const override { return u"099:000"; }
 };
 
+class UnreadableDocument : public OrdoParseException {
+public:
+    UnreadableDocument() : OrdoParseException(2, u"") {}
+};
+
 using Boxes = std::vector<ShownBox>;
 
 constexpr std::uint32_t boxTitle = 11619;
@@ -56,27 +61,22 @@ protected:
             reportException(caught, boxTitle, call, extraMessageId, u"");
         }
     }
+    template <typename E>
+    static void reportOf(std::uint32_t extraMessageId) {
+        report(E(), extraMessageId);
+    }
 };
 
 TEST_F(ExceptionReportTest, ChoosesTextsByClass) {
-    using Report = void (*)(std::uint32_t);
-    const Rows<Report, std::uint32_t, std::uint32_t, const char16_t*> rows{
-        {[](std::uint32_t x) { report(Foreign<DevModeOverflowException>(), x); }, 11608, 11609,
-         u"099:000:0000"},
-        {[](std::uint32_t x) { report(ResourceAcquisitionException(), x); }, 11610, 11611,
-         u"005:000:0000"},
-        {[](std::uint32_t x) { report(Foreign<SpoolDataException>(), x); }, 11612, 11613,
-         u"099:000:0000"},
-        {[](std::uint32_t x) { report(RegistryRequestException(), x); }, 11614, 11602,
-         u"020:000:0000"},
-        {[](std::uint32_t x) { report(OrdoParseException(2, u""), x); }, 11615, 11616,
-         u"001:002:0000"},
-        {[](std::uint32_t x) { report(CreateFileForReadingException(), x); }, 11617, 11618,
-         u"022:001:0000"},
-        {[](std::uint32_t x) { report(InvalidZentSessionException(), x); }, 11601, 11602,
-         u"025:000:0000"},
-        {[](std::uint32_t x) { report(std::runtime_error("other"), x); }, 11601, 11602,
-         u"000:000:000"},
+    const Rows<void (*)(std::uint32_t), std::uint32_t, std::uint32_t, const char16_t*> rows{
+        {reportOf<Foreign<DevModeOverflowException>>, 11608, 11609, u"099:000:0000"},
+        {reportOf<ResourceAcquisitionException>, 11610, 11611, u"005:000:0000"},
+        {reportOf<Foreign<SpoolDataException>>, 11612, 11613, u"099:000:0000"},
+        {reportOf<RegistryRequestException>, 11614, 11602, u"020:000:0000"},
+        {reportOf<UnreadableDocument>, 11615, 11616, u"001:002:0000"},
+        {reportOf<CreateFileForReadingException>, 11617, 11618, u"022:001:0000"},
+        {reportOf<InvalidZentSessionException>, 11601, 11602, u"025:000:0000"},
+        {reportOf<std::exception>, 11601, 11602, u"000:000:000"},
     };
     for (const auto& [reportIt, first, second, number] : rows) {
         const BoxCapture boxes;

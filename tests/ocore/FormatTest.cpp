@@ -3,29 +3,21 @@
 #include <cmath>
 #include <cstdio>
 #include <limits>
-#include <ostream>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "ocore/CXString.h"
+#include "PrintText.h"
 #include "ocore/FormatFakeModule.h"
+#include "support/Rows.h"
 
 namespace zent {
-
-static void PrintTo(const CXString& text, std::ostream* out) { *out << text.toNarrow(); }
-
 namespace {
 
-struct Row {
-    CXString formatted;
-    const char16_t* expected;
-};
-
-void check(const std::vector<Row>& rows) {
-    for (const Row& row : rows) {
-        EXPECT_EQ(row.formatted, row.expected);
+void check(const test::Rows<CXString, const char16_t*>& rows) {
+    for (const auto& [formatted, expected] : rows) {
+        EXPECT_EQ(formatted, expected);
     }
 }
 
@@ -214,11 +206,9 @@ TEST(FormatMessage, ThrowsALiteralOnFailure) {
         "CXString::FormatMessage(LPCTSTR...): Failed call to FormatMessage() API!\r\n";
     const std::string ofResource =
         "CXString::FormatMessage(HINSTANCE,UINT,...): Failed call to FormatMessage() API!\r\n";
-    EXPECT_EQ(thrownBy([] { message(u"%1 %2", u"a"); }), ofText);
-    EXPECT_EQ(thrownBy([] { message(u"%99", u"a"); }), ofText);
-    EXPECT_EQ(thrownBy([] { message(u"%1!*d!", 1); }), ofText);
-    EXPECT_EQ(thrownBy([] { message(u"%1!d", 1); }), ofText);
-    EXPECT_EQ(thrownBy([] { message(u"at the end %"); }), ofText);
+    for (const char16_t* text : {u"%1 %2", u"%99", u"%1!*d!", u"%1!d", u"at the end %"}) {
+        EXPECT_EQ(thrownBy([&] { message(text, 1); }), ofText) << CXString(text).toNarrow();
+    }
     const FakeResourceModule module({{1, u"%1"}});
     EXPECT_EQ(thrownBy([&] { CXString::FormatMessage(module, 1); }), ofResource);
     EXPECT_EQ(thrownBy([&] { CXString::FormatMessage(module, 2); }), ofResource);

@@ -26,13 +26,11 @@ TEST(UserMessage, StyleFollowsSeverityAndOwner) {
     };
     for (const auto& [severity, owner, given, derived] : rows) {
         EXPECT_EQ(UserMessage(owner, u"t", u"b", given, severity).getFlags(), derived);
-        for (const Severity before : {Severity::information, Severity::question}) {
-            UserMessage changed(u"t", u"b", 0, before);
-            changed.setOwner(owner);
-            changed.setSeverity(severity);
-            changed.setFlags(given);
-            EXPECT_EQ(changed.getFlags(), derived);
-        }
+        UserMessage changed(u"t", u"b", 0, Severity::question);
+        changed.setOwner(owner);
+        changed.setSeverity(severity);
+        changed.setFlags(given);
+        EXPECT_EQ(changed.getFlags(), derived);
     }
     EXPECT_EQ(UserMessage(someWindow).getFlags(), 16U);
 }

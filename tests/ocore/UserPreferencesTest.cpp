@@ -40,81 +40,39 @@ protected:
 };
 
 TEST_F(UserPreferencesTest, WellKnownOnesHaveDefaultsUntilTheyAreStored) {
-    const Rows<const char16_t*, std::uint32_t, const char16_t*, std::string> rows{
-        {u"JOB_NAME_PREFERENCE", 1, u"<bool>", "\x01"},
-        {u"ACCOUNT_REQUIRED_PREFERENCE", 1, u"<bool>", std::string(1, '\0')},
-        {u"ACCT_NUMBER_IN_JT_PREFERENCE", 1, u"<bool>", std::string(1, '\0')},
-        {u"USE_LOGON_NAME_PREFERENCE", 1, u"<bool>", "\x01"},
-        {u"USE_LOGON_NAME_PREFERENCE_RECIPIENT", 1, u"<bool>", "\x01"},
-        {u"GENERIC_JT_PREFERENCE", 1, u"<bool>", "\x01"},
-        {u"PREFERRED_JOB_TICKET", 3, u"<string>", ""},
-        {u"CUSTOM_PAPER_SIZE_PREFERENCE", 4, u"<unit of measure>", std::string("\x01\0\0\0", 4)},
-        {u"IMAGE_SHIFT_UNIT_PREFERENCE", 4, u"<unit of measure>", std::string("\x01\0\0\0", 4)},
-        {u"TOOL_BAR_PREFERENCE", 2, u"<long>", std::string("\x01\0\0\0", 4)},
-    };
-    const auto& table = m_preferences.getWellKnownPreferences();
-    ASSERT_EQ(table.size(), rows.size());
     const char* const unit = User::usesInches() ? "1" : "2";
     std::string expected = std::string("100111") + unit + unit + "1";
     EXPECT_EQ(wellKnown(), expected);
+    // Each is set to something else, so that none can stand for another.
     std::size_t i = 0;
-    for (const auto& [name, type, typeText, value] : rows) {
-        EXPECT_EQ(table[i].name, name);
-        EXPECT_EQ(table[i].dataType, type);
-        EXPECT_EQ(table[i].getDataTypeText(), CXString(typeText));
-        EXPECT_EQ(table[i].value, ByteBuffer(value.data(), value.size()));
-        // Each is set to something else, so that none can stand for another.
-        if (type == 1) {
-            expected[i] = expected[i] == '1' ? '0' : '1';
-            m_preferences.setBooleanPreference(name, expected[i] == '1');
-            EXPECT_EQ(m_registry.getLongValue(m_key, name, 99), expected[i] - '0');
-        } else if (type == 3) {
-            m_preferences.setStringPreference(name, u"a.ord");
-            expected.insert(6, "a.ord");
-        } else {
-            m_preferences.setLongPreference(name, static_cast<std::int32_t>(i));
-            expected[i + 4] = static_cast<char>('0' + i);
-        }
+    for (const char* name : {"JOB_NAME_PREFERENCE", "ACCOUNT_REQUIRED_PREFERENCE",
+                             "ACCT_NUMBER_IN_JT_PREFERENCE", "USE_LOGON_NAME_PREFERENCE",
+                             "USE_LOGON_NAME_PREFERENCE_RECIPIENT", "GENERIC_JT_PREFERENCE"}) {
+        expected[i] = expected[i] == '1' ? '0' : '1';
+        m_preferences.setBooleanPreference(CXString(name), expected[i] == '1');
         EXPECT_EQ(wellKnown(), expected);
+        EXPECT_EQ(m_registry.getLongValue(m_key, CXString(name), 99), expected[i] - '0');
         ++i;
     }
-    const bool yes = true;
-    const std::int32_t five = 5;
-    const CXString text(u"default");
-    EXPECT_FALSE(m_preferences.getBooleanPreference(u"JOB_NAME_PREFERENCE", &yes));
-    EXPECT_EQ(m_preferences.getLongPreference(u"TOOL_BAR_PREFERENCE", &five), 9);
-    EXPECT_EQ(m_preferences.getStringPreference(u"PREFERRED_JOB_TICKET", &text), u"a.ord");
-}
-
-TEST_F(UserPreferencesTest, TakesTheCallersDefaultFirst) {
-    const bool no = false;
-    const std::int32_t five = 5;
-    const CXString text(u"default");
-    const ByteBuffer data("\0d", 2);
-    EXPECT_FALSE(m_preferences.getBooleanPreference(u"JOB_NAME_PREFERENCE", &no));
-    EXPECT_EQ(m_preferences.getLongPreference(u"IMAGE_SHIFT_UNIT_PREFERENCE", &five), 5);
-    EXPECT_EQ(m_preferences.getStringPreference(u"PREFERRED_JOB_TICKET", &text), u"default");
-    EXPECT_EQ(m_preferences.getDataPreference(u"free", &data), data);
-    EXPECT_FALSE(m_preferences.getBooleanPreference(u"free"));
-    EXPECT_EQ(m_preferences.getLongPreference(u"free"), 0);
-    EXPECT_EQ(m_preferences.getStringPreference(u"free"), u"");
-    EXPECT_TRUE(m_preferences.getDataPreference(u"free").isEmpty());
+    m_preferences.setStringPreference(u"PREFERRED_JOB_TICKET", u"a.ord");
+    m_preferences.setLongPreference(u"CUSTOM_PAPER_SIZE_PREFERENCE", 7);
+    m_preferences.setLongPreference(u"IMAGE_SHIFT_UNIT_PREFERENCE", 8);
+    m_preferences.setLongPreference(u"TOOL_BAR_PREFERENCE", 9);
+    EXPECT_EQ(wellKnown(), "011000a.ord789");
 }
 
 TEST_F(UserPreferencesTest, LeavesOtherNamesFree) {
-    const bool yes = true;
     // Names compare exactly: this one isn't well-known.
     for (const char16_t* name : {u"tool_bar_preference", u"TOOL_BAR_PREFERENCE ", u""}) {
-        m_preferences.setBooleanPreference(name, true);
-        EXPECT_TRUE(m_preferences.getBooleanPreference(name));
+        EXPECT_FALSE(m_preferences.getBooleanPreference(name));
+        EXPECT_EQ(m_preferences.getStringPreference(name), u"");
+        EXPECT_TRUE(m_preferences.getDataPreference(name).isEmpty());
         m_preferences.setLongPreference(name, -1);
-        EXPECT_FALSE(m_preferences.getBooleanPreference(name, &yes)) << "isn't above 0";
+        EXPECT_EQ(m_preferences.getLongPreference(name), -1);
+        EXPECT_FALSE(m_preferences.getBooleanPreference(name)) << "isn't above 0";
         m_preferences.setStringPreference(name, u"gr\u00FC\u00DF");
         EXPECT_EQ(m_preferences.getStringPreference(name), u"gr\u00FC\u00DF");
-        m_preferences.setDataPreference(name, ByteBuffer("x", 1));
-        EXPECT_EQ(m_preferences.getDataPreference(name), ByteBuffer("x", 1));
-        EXPECT_THROW(m_preferences.getBooleanPreference(name),
-                     NotEnoughBytesForDesiredDataTypeException);
+        m_preferences.setDataPreference(name, ByteBuffer());
     }
 }
 
