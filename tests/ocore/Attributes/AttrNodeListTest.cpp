@@ -165,20 +165,6 @@ TEST(AttrNodeListTest, ReadingIsTyped) {
     EXPECT_THROW(list.OrdoAttrToRange(&number, &upper, AttrID(u"enum")), Mismatch);
 }
 
-TEST(AttrNodeListTest, Additions) {
-    AttrNodeList list;
-    list.addInteger(-2147483647 - 1, a);
-    list.addEnum(3, a);
-    list.addKeyword(u"k", a);
-    list.addMimeMediaType(u"m/n", a);
-    list.addName(u"n", a);
-    list.addSetOf(b)->addInteger(1, a);
-    list.addResolution(b);
-    list.addRangeOfInteger(5, 4, b);
-    EXPECT_EQ(textOfList(list), "a=-2147483648 a=enum:3 a=k a=mimeMediaType:m/n a=name:n b[a=1] "
-                                "b<> b(lower-bound=5 upper-bound=4)");
-}
-
 TEST(AttrNodeListTest, CopiesAreDeepAndOnlyCountsCompare) {
     AttrNodeList list = listOf("a=1 c{!b=2}");
     const AttrNodeList copy = list;

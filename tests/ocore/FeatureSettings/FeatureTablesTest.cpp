@@ -150,18 +150,14 @@ TEST(FeatureTablesTest, CapabilitiesAreThoseOfTheTable) {
         if (isExtension) {
             extensions[feature].push_back(type);
         }
-        // The handle of the row answers from it.
-        const _CI capability(feature, type);
-        EXPECT_EQ(&capability.getNestedAttrID(), &info.m_nestedID);
-        EXPECT_EQ(capability.getClass(), info.m_class);
-        EXPECT_EQ(capability.isInSetOf(), row.text("location").ends_with(":s (names) / value"));
+        EXPECT_EQ(_CI(feature, type).isInSetOf(),
+                  row.text("location").ends_with(":s (names) / value"));
     }
     for (FeatureEnum feature = 0; feature <= lastFeature + 1; ++feature) {
         SCOPED_TRACE(feature);
         EXPECT_EQ(_CI::getCapabilityTypes(feature), types[feature]); // in the order of their types
         EXPECT_EQ(_CI::getCapabilityTypes(feature, capabilityClass::extension),
                   extensions[feature]);
-        EXPECT_EQ(capabilities.getCapabilityInfoList(feature).size(), types[feature].size());
         for (std::uint32_t type = 0; type <= lastType + 1; ++type) {
             const bool isThere = std::ranges::count(types[feature], type) == 1;
             EXPECT_EQ(capabilities.hasCapability(feature, type), isThere) << type;
@@ -175,7 +171,6 @@ TEST(FeatureTablesTest, CapabilitiesAreEqualByFeatureAndType) {
     EXPECT_EQ(account.getName(), data.getName()); // one attribute serves three features
     EXPECT_FALSE(account.isEqual(data));
     EXPECT_FALSE(account.isEqual(_CI(feature::jobAccountID, CAPTYPE_INT_RANGE)));
-    EXPECT_TRUE(account.isEqual(*account.clone()));
     // A feature and a capability are never the same.
     EXPECT_FALSE(account.isEqual(_FI(feature::jobAccountID)));
     EXPECT_FALSE(_FI(feature::jobAccountID).isEqual(account));
@@ -192,9 +187,6 @@ TEST(FeatureTablesTest, CapabilitiesThatAreNotThereAreNamed) {
                               "could not find requested capability type ") +
                       ending);
     }
-    EXPECT_EQ(getCapabilityTypeText(CAPTYPE_INT_RANGE), u"[Integer Range]");
-    EXPECT_EQ(getCapabilityTypeText(lastType), u"[Print & Save is TIFF-Capable]");
-    EXPECT_EQ(getCapabilityTypeText(0), u"[UNKNOWN!]");
     EXPECT_EQ(getCapabilityTypeText(lastType + 1), u"[UNKNOWN!]");
 }
 

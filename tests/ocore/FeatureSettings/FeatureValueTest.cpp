@@ -9,7 +9,6 @@
 #include "ocore/Attributes/PrimitiveString.h"
 #include "ocore/FeatureSettings/FeatureValue.h"
 #include "ocore/FeatureSettings/FeatureValueDataBase.h"
-#include "resources/UseResourceLibrary.h"
 #include "support/Raised.h"
 
 namespace zent::test {
@@ -123,12 +122,6 @@ TEST(FeatureValueTest, AttributesBringNewValuesIfTheFeatureAllowsIt) {
     EXPECT_EQ(FeatureValue::fromText(media, u"another").getSyntax(), u"name");
     EXPECT_EQ(FeatureValue::fromText(media, u"default"), known);
     EXPECT_THROW(FeatureValue::fromText(_FI(feature::sides), u"x"), Unknown);
-}
-
-TEST(FeatureValueTest, DisplayStringsComeFromTheResourceLibrary) {
-    useResourceLibrary();
-    EXPECT_EQ(FeatureValue(4).getDisplayString(), ResourceLibrary().getString(5201));
-    EXPECT_EQ(FeatureValue().getDisplayString(), ResourceLibrary().getString(10602));
 }
 
 TEST(FeatureValueTest, NewValuesAreOfBoundedLength) {

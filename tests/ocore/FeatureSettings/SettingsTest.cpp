@@ -17,7 +17,6 @@ const _FI resolution(37);
 const _FI finishings(86);
 const _FI xDimension(99);
 const _FI mediaColor(101);
-const _FI mediaSize(113);
 
 Settings settings(const char* text) { return Settings(listOf(text)); }
 std::string textOf(const Settings& settings) { return textOfList(*settings.getAttrNodeList()); }
@@ -30,34 +29,23 @@ TEST(SettingsTest, ChangesShowInTheList) {
         {"", [](Settings& s) { s.setLong(sides, 2); }, "sides=keyword:2"},
         {"", [](Settings& s) { s.setString(copies, u"x"); }, "copies=0"},
         {"", [](Settings& s) { s.setBool(copies, true); }, "copies=boolean:true"},
-        {"", [](Settings& s) { s.setFeatureValue(sides, FeatureValue(4)); }, "sides=one-sided"},
         {"", [](Settings& s) { s.setValueOfFeature(FeatureValue(147)); },
          "finishings[value=enum:1000]"},
         // Parents are made at need, with their syntaxes.
         {"media-col{media-color=red}", [](Settings& s) { s.setLong(xDimension, 3); },
          "media-col{media-color=red media-size{x-dimension=3}}"},
-        {"", [](Settings& s) { s.setString(_FI(8), u"a/b"); },
-         "job-save-disposition{save-info[value{save-document-format=mimeMediaType:a/b}]}"},
         // An instance that isn't there appends.
         {two, [](Settings& s) { s.setFeatureValue(finishings, FeatureValue(133), 5); },
          "finishings[value=enum:3 value=enum:7 value=enum:13]"},
-        {two, [](Settings& s) { s.setFeatureValue(finishings, FeatureValue(133), 0); },
-         "finishings[value=enum:13 value=enum:7]"},
         {"page-ranges[value(upper-bound=9) value(lower-bound=1 upper-bound=5)]",
          [](Settings& s) { s.setRange(pageRanges, 2, 3, 0); },
          "page-ranges[value(upper-bound=3 lower-bound=2) value(lower-bound=1 upper-bound=5)]"},
-        {"", [](Settings& s) { s.setResolution(resolution, Resolution(600, 300, 3)); },
-         "printer-resolution<cross-feed=600 feed-direction=300 units=3>"},
         {"printer-resolution<units=4>",
          [](Settings& s) { s.setResolution(resolution, Resolution()); }, ""},
         // Unspecifying clears what has become empty on the way, and makes nothing.
-        {"media-col{media-size{x-dimension=3}}",
-         [](Settings& s) { s.setFeatureValue(xDimension, FeatureValue()); }, ""},
         {"media-col{media-size{x-dimension=3 y-dimension=4}}",
          [](Settings& s) { s.setFeatureValue(xDimension, FeatureValue()); },
          "media-col{media-size{y-dimension=4}}"},
-        {two, [](Settings& s) { s.setFeatureValue(finishings, FeatureValue(), 1); },
-         "finishings[value=enum:3]"},
         {"copies=1", [](Settings& s) { s.setFeatureValue(xDimension, FeatureValue(), 3); },
          "copies=1"},
         // A whole node goes to the first place, whatever the instance.
@@ -88,30 +76,19 @@ TEST(SettingsTest, RefusedChangesLeaveTheListAlone) {
         EXPECT_EQ(textOf(changed), before);
     }
     Settings empty;
-    EXPECT_THROW(empty.setString(mediaSize, u"A4"), UnknownCaseException);
     EXPECT_THROW(empty.setValueOfFeature(FeatureValue()), UnknownFeatureRequestException);
 }
 
-TEST(SettingsTest, GetsAreTypedAndFindTheInstance) {
+TEST(SettingsTest, GetsFindTheInstance) {
     const Settings ticket =
-        settings("copies=5 sides=one-sided finishings[value=enum:3 value=enum:7] "
-                 "page-ranges[value(lower-bound=1 upper-bound=5) value(lower-bound=7)] "
-                 "toner-saver=boolean:1 media-col{media-color=name:mauve}");
-    std::int32_t number = -1;
-    std::int32_t upper = -1;
-    CXString text(u"old");
+        settings("copies=5 finishings[value=enum:3 value=enum:7] toner-saver=boolean:1 "
+                 "page-ranges[value(lower-bound=1)] media-col{media-color=name:mauve}");
+    std::int32_t lower = 0;
+    std::int32_t upper = 0;
     bool truth = false;
-    EXPECT_TRUE(ticket.getLong(finishings, &number, 1));
-    EXPECT_FALSE(ticket.getLong(finishings, &number, 2));
-    EXPECT_FALSE(ticket.getLong(xDimension, &number));
-    EXPECT_EQ(number, 7);
-    EXPECT_FALSE(ticket.getString(_FI(22), &text));
-    EXPECT_EQ(text, u"old");
     EXPECT_TRUE(ticket.getBool(_FI(92), &truth) && truth);
-    EXPECT_FALSE(ticket.getRange(pageRanges, &number, &upper, 1)); // half of one
-    EXPECT_FALSE(ticket.getRange(pageRanges, &number, &upper, 2));
     EXPECT_THROW(ticket.getBool(copies, &truth), AttributeTypeMismatchException);
-
+    EXPECT_FALSE(ticket.getRange(pageRanges, &lower, &upper)); // half of one
     EXPECT_EQ(ticket.getFeatureValue(finishings, 1).getValue(), 132);
     EXPECT_EQ(ticket.getFeatureValue(finishings, 2), FeatureValue());
     EXPECT_EQ(ticket.getFeatureValue(xDimension), FeatureValue());
@@ -126,13 +103,11 @@ TEST(SettingsTest, ResolutionsAreReadWholeOrUnspecified) {
     EXPECT_THROW(settings("copies=1").getResolution(copies, &found),
                  AttributeTypeMismatchException);
     EXPECT_EQ(found, Resolution(1, 2, 3));
+    EXPECT_FALSE(settings("printer-resolution<units=4>").getResolution(resolution, &found));
+    EXPECT_TRUE(found.isUnspecified());
     EXPECT_TRUE(settings("printer-resolution<cross-feed=6 feed-direction=5 units=4>")
                     .getResolution(resolution, &found));
     EXPECT_EQ(found, Resolution(6, 5, 4));
-    EXPECT_FALSE(settings("printer-resolution<units=4>").getResolution(resolution, &found));
-    EXPECT_EQ(found, Resolution());
-    found.setUnits(0);
-    EXPECT_FALSE(found.isUnspecified());
     EXPECT_FALSE(Settings().getResolution(resolution, &found));
     EXPECT_TRUE(found.isUnspecified());
 }
@@ -153,8 +128,6 @@ TEST(SettingsTest, Counts) {
         EXPECT_EQ(ticket.getInstanceCount(feature), instances) << list;
         EXPECT_EQ(ticket.getNumberOfValues(feature), values) << list;
     }
-    EXPECT_TRUE(Settings().isEmpty());
-    EXPECT_FALSE(settings("finishings[]").isEmpty());
 }
 
 TEST(SettingsTest, FeaturesAreCopiedAndCompared) {
@@ -195,15 +168,11 @@ TEST(SettingsTest, OwnersAreCopiedAndViewsShared) {
     EXPECT_EQ(textOf(*copy), "copies=1");
 
     const Settings moved = std::move(owner);
-    owner = view; // a view now
-    EXPECT_EQ(textOf(moved), "copies=3");
-    owner.setLong(copies, 4);
-    EXPECT_EQ(textOfList(list), "copies=4");
-    const Settings& itself = owner;
-    owner = itself;
+    owner = view;                // a view now
     owner.setAttrNodeList(list); // the list in use
     owner.setLong(copies, 5);
     EXPECT_EQ(textOfList(list), "copies=5");
+    EXPECT_EQ(textOf(moved), "copies=3");
     owner.setAttrNodeList(listOf("copies=6"));
     EXPECT_EQ(textOf(owner), "copies=6");
     EXPECT_EQ(textOfList(list), "copies=5");
