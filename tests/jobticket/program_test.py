@@ -330,7 +330,7 @@ class Checking(InFolder):
             "toner-saver": ["none -> removed", "no such feature"],
             "job-message-to-operator": [f"{'x' * 45}... -> removed", "no such feature"],
             "copies": ["99999 -> 1", "allowed: 1-999"],
-            "media-size": ["29700x42000 -> 21000x29700",
+            "media-size": [f"29700x42000 -> {raw(run('new', '-m', '16'))['media-size']}",
                            "allowed: SIZE_8PT5x11, SIZE_8PT5x14, SIZE_8PT5x13, SIZE_A4, or "
                            "20300-21600 x 25400-35600"],
             "media-color": ["a b -> white",

@@ -2,12 +2,18 @@
 
 #include "PrintText.h"
 #include "ocore/FeatureSettings/StockSize.h"
+#include "resources/UseResourceLibrary.h"
 #include "support/Rows.h"
 
 namespace zent::test {
 namespace {
 
-TEST(StockSizeTest, SizesOfNoTableAreOther) {
+class StockSizeTest : public testing::Test {
+protected:
+    StockSizeTest() { useResourceLibrary(); } // which holds their names
+};
+
+TEST_F(StockSizeTest, SizesOfNoTableAreOther) {
     EXPECT_EQ(StockSize(20000, 10000).getSizeName(), u"SIZE_OTHER");
     EXPECT_EQ(StockSize(20000, 10000).getWidth(), 20000) << "in the order given";
     EXPECT_FALSE(StockSize(0, 0).isUnspecified());
@@ -15,7 +21,7 @@ TEST(StockSizeTest, SizesOfNoTableAreOther) {
     EXPECT_EQ(StockSize(99).getWidth(), 0);
 }
 
-TEST(StockSizeTest, SizesAreTurnedIfOnlyThatFits) {
+TEST_F(StockSizeTest, SizesAreTurnedIfOnlyThatFits) {
     const Rows<SizeLimits, bool> rows{
         {{21000, 21000, 29700, 29700}, false}, // bounds are inclusive
         {{29700, 29700, 21000, 21000}, true},
@@ -33,7 +39,7 @@ TEST(StockSizeTest, SizesAreTurnedIfOnlyThatFits) {
     }
 }
 
-TEST(StockSizeTest, SizesWithinLimits) {
+TEST_F(StockSizeTest, SizesWithinLimits) {
     const Rows<SizeLimits, std::vector<std::uint32_t>> rows{
         // 17 x 11 inches and A3 stand in landscape order in the table.
         {{27000, 30000, 40000, 43200}, {4, 9}},

@@ -30,7 +30,7 @@ std::string textOf(const FeatureSettings& ticket) {
 
 class StockInformationTest : public testing::Test {
 protected:
-    StockInformationTest() { useResourceLibrary(); }
+    static void SetUpTestSuite() { useResourceLibrary(); }
 
     /// "1 2 Ours" for the stocks of a kind.
     std::string keysOf(StockType kind) {
