@@ -1,6 +1,5 @@
 #include "ocore/TarvoException.h"
 
-#include <memory>
 #include <stdexcept>
 
 #include <gtest/gtest.h>
@@ -12,49 +11,6 @@
 
 namespace zent::test {
 namespace {
-
-template <typename E>
-std::unique_ptr<TarvoException> make() {
-    return std::make_unique<E>(CXString(u"message\r\n"));
-}
-
-TEST(TarvoException, EachClassHasItsIdAndResultCode) {
-    // clang-format off
-    const Rows<std::unique_ptr<TarvoException> (*)(), const char*, ResultCode> rows{
-        {make<ResourceAcquisitionException>,                  "005:000", 19},
-        {make<ExceededNumberOfDlgItems>,                      "007:000", 30},
-        {make<UnknownCaseException>,                          "008:000", 29},
-        {make<AttributeTypeMismatchException>,                "009:000", 13},
-        {make<NodeAccessOutOfBoundsException>,                "010:000", 29},
-        {make<InvalidAttributeIdException>,                   "011:000", 16},
-        {make<UnknownFeatureRequestException>,                "012:000", 12},
-        {make<DuplicateFeatureValueDBEntryException>,         "013:000", 22},
-        {make<MissingCapabilityDataException>,                "014:000", 20},
-        {make<MissingOrBadCompressedBufferFooterException>,   "017:000", 15},
-        {make<CompressionException>,                          "018:000", 15},
-        {make<IndexOutOfBoundsException>,                     "019:000", 29},
-        {make<RegistryRequestException>,                      "020:000", 21},
-        {make<ResourceLibraryConstructionException>,          "021:000", 11},
-        {make<CreateFileForReadingException>,                 "022:001", 23},
-        {make<ReadFileException>,                             "022:002", 25},
-        {make<ProcessTokenRequestException>,                  "023:000", 30},
-        {make<UserInformationRequestException>,               "024:000", 27},
-        {make<InvalidZentSessionException>,                   "025:000", 6},
-        {make<InvalidTarvoJtSettingsException>,               "026:000", 7},
-        {make<MissingOrBadPersistentSettingsFormatException>, "027:000", 17},
-        {make<NotEnoughBytesForDesiredDataTypeException>,     "028:000", 30},
-        {make<PreferenceDataTypeMismatchException>,           "029:000", 10},
-    };
-    // clang-format on
-    for (const auto& [makeIt, id, code] : rows) {
-        const auto exception = makeIt();
-        EXPECT_EQ(exception->getErrorId().toNarrow(), id);
-        EXPECT_EQ(exception->getResultCode(), code) << id;
-        EXPECT_EQ(exception->getMessage(), u"message\r\n") << id;
-        EXPECT_EQ(dynamic_cast<FileException*>(exception.get()) != nullptr,
-                  std::string(id).starts_with("022:"));
-    }
-}
 
 TEST(OrdoParseException, ItsCodesHaveNamesAndResultCodes) {
     // The first and the last of each run of codes that share a result code.

@@ -77,14 +77,6 @@ TEST(AttrNodeListTest, PrivateNodesAreSkippedOnTheWayOut) {
     EXPECT_FALSE(list.hasMoreNodes());
 }
 
-TEST(AttrNodeListTest, MoveNodeToFront) {
-    AttrNodeList list = listOf("c=0 a=1 b=2 a=3");
-    EXPECT_TRUE(list.moveNodeToFront(a, 1));
-    EXPECT_FALSE(list.moveNodeToFront(a, 2));
-    EXPECT_FALSE(list.moveNodeToFront(a)); // it is there
-    EXPECT_EQ(textOfList(list), "a=3 c=0 a=1 b=2");
-}
-
 TEST(AttrNodeListTest, Merge) {
     const Rows<const char*, const char*, bool, const char*> rows{
         // Plainly: what is here wins, collections combine, sets collect.

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "PrintText.h"
 #include "ocore/Attributes/NestedAttrID.h"
 #include "ocore/Exceptions.h"
 #include "support/ListText.h"
@@ -9,36 +8,17 @@
 namespace zent::test {
 namespace {
 
-NestedAttrID idOf(const char16_t* leaf, std::initializer_list<const char16_t*> collections) {
-    NestedAttrID id{AttrID(leaf)};
-    for (const char16_t* name : collections) {
+/// The place of "x" in the two collections.
+NestedAttrID widthOfMedia() {
+    NestedAttrID id{AttrID(u"x")};
+    for (const char16_t* name : {u"media-col", u"media-size"}) {
         id.addParent(name, syntax::collection, NestedAttrID::plainParent);
     }
     return id;
 }
 
-const NestedAttrID width = idOf(u"x", {u"media-col", u"media-size"});
-
-TEST(NestedAttrIDTest, IsNamedByItsLeafOrByTheNamingParent) {
-    NestedAttrID id;
-    EXPECT_EQ(id.getAttrID().getText(), u"NAID_TEMPORARY");
-    EXPECT_EQ(id.getName(), u"");
-    EXPECT_THROW(id.addParent(u"", syntax::setOf, 1), InvalidAttributeIdException);
-
-    id = width;
-    id.setNamingParent(1, 1);
-    EXPECT_EQ(id.getName(), u"media-col");
-    id.setNamingParent(0, 2);
-    EXPECT_FALSE(id.isNamingParent(1)); // one at a time
-    id.setAttrID(AttrID(u"y"));
-    EXPECT_EQ(id.getName(), u"media-size"); // not the leaf's
-    EXPECT_NE(id, width);
-    id.setAttrID(AttrID(u"x"));
-    id.resetNaming();
-    EXPECT_EQ(id, width);
-}
-
 TEST(NestedAttrIDTest, ListsAreFoundOrCreatedAndRemovedIfEmpty) {
+    const NestedAttrID width = widthOfMedia();
     const Rows<const char*, std::uint32_t, const char*, const char*, const char*> rows{
         // The list, an instance, what is found, what is created, and what removing leaves of it.
         {"media-col{media-size{x=1}}", 0, "x=1", "media-col{media-size{x=1}}",

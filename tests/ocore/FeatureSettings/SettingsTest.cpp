@@ -116,10 +116,8 @@ TEST(SettingsTest, Counts) {
     // How many instances of any name the container has, and how many values.
     const Rows<const char*, _FI, bool, std::uint32_t, std::uint32_t> rows{
         {"sides=x job-name=y", copies, false, 2, 0},
-        {"copies=1 copies=2 sides=x", copies, true, 3, 2},
         {"finishings[value=3 value=4 other=5]", finishings, true, 3, 3},
         {"finishings[other=5]", finishings, false, 1, 0},
-        {"finishings[]", finishings, false, 0, 0},
         {"media-col{media-color=red media-key=k}", mediaColor, true, 2, 1},
     };
     for (const auto& [list, feature, specified, instances, values] : rows) {

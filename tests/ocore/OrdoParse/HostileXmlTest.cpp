@@ -11,6 +11,7 @@
 #include "ocore/OrdoParse/ZNXMLInterface.h"
 #include "support/ListText.h"
 #include "support/OrdoDocument.h"
+#include "support/Rows.h"
 #include "support/ScratchFolder.h"
 
 namespace zent::test {
@@ -123,19 +124,23 @@ TEST_F(HostileXmlTest, BombsAreDefused) {
         parameter += "<!ENTITY % p" + std::to_string(i) + " '" +
                      repeated("&#37;p" + before + ";", 10) + "'>";
     }
-    EXPECT_THAT(failureOf(withSubset(general, "&l39;")), StartsWith("2: "));
-    EXPECT_THAT(failureOf(withSubset(general, "</job-name><copies syntax=\"&l39;\">1</copies>"
-                                              "<job-name syntax=\"name\">")),
-                StartsWith("2: "));
-    EXPECT_THAT(failureOf(withSubset(parameter + "%p39;", "a")),
-                HasSubstr("A document can't declare parameter entities of its own."));
-    EXPECT_THAT(failureOf(withSubset("<!ENTITY a '&b;'><!ENTITY b '&a;'>", "&a;")),
-                StartsWith("2: "));
-    EXPECT_THAT(failureOf(withSubset("<!ELEMENT x ((a|b)*,a,(a|b),(a|b))>", "a")),
-                HasSubstr("A document can't declare element types of its own."));
-    // The default of an attribute is expanded where it is declared, and again for each element.
-    EXPECT_THAT(failureOf(withSubset(general + "<!ATTLIST sides x CDATA '&l39;'>", "a")),
-                HasSubstr("A document can't declare attributes of its own."));
+    const Rows<std::string, const char*> rows{
+        {withSubset(general, "&l39;"), ""},
+        {withSubset(general, "</job-name><copies syntax=\"&l39;\">1</copies>"
+                             "<job-name syntax=\"name\">"),
+         ""},
+        {withSubset(parameter + "%p39;", "a"),
+         "A document can't declare parameter entities of its own."},
+        {withSubset("<!ENTITY a '&b;'><!ENTITY b '&a;'>", "&a;"), ""},
+        {withSubset("<!ELEMENT x ((a|b)*,a,(a|b),(a|b))>", "a"),
+         "A document can't declare element types of its own."},
+        // The default of an attribute is expanded where it is declared, and for each element.
+        {withSubset(general + "<!ATTLIST sides x CDATA '&l39;'>", "a"),
+         "A document can't declare attributes of its own."},
+    };
+    for (const auto& [document, message] : rows) {
+        EXPECT_THAT(failureOf(document), AllOf(StartsWith("2: "), HasSubstr(message)));
+    }
 }
 
 TEST_F(HostileXmlTest, NestingHasABound) {
@@ -147,9 +152,9 @@ TEST_F(HostileXmlTest, NestingHasABound) {
     };
     EXPECT_EQ(failureOf(nested(xmlLimits::depth)), "nothing was raised");
     for (const std::size_t depth : {std::size_t{101}, std::size_t{200'000}}) {
-        EXPECT_THAT(failureOf(nested(depth)), HasSubstr("Fatal error at line 3, column"));
         EXPECT_THAT(failureOf(nested(depth)),
-                    HasSubstr("Elements are nested deeper than 100 levels."));
+                    AllOf(HasSubstr("Fatal error at line 3, column"),
+                          HasSubstr("Elements are nested deeper than 100 levels.")));
     }
 }
 

@@ -101,8 +101,12 @@ TEST_F(OrdoWriteTest, TextsAreEscapedAndWhatXmlCannotHoldIsReplaced) {
 
 TEST_F(OrdoWriteTest, NamesComeBackAsTheyWere) {
     const std::u16string longText(100'000, u'\u20AC');
-    for (const std::u16string& text : {std::u16string(u" \r\n\t<&>\"' \U0001D11E\r"), longText,
-                                       longText + u"\U0001D11E&", u"&" + longText}) {
+    std::u16string mixed;
+    for (int i = 0; i < 200'000; ++i) {
+        mixed += i % 7 == 0 ? u"\u00E4\U0001D11Ex" : u"\u00E4\U0001D11E";
+    }
+    for (const std::u16string& text : {std::u16string(u" \r\n\t<&>\"' \U0001D11E\r"), mixed,
+                                       longText, longText + u"\U0001D11E&", u"&" + longText}) {
         AttrNodeList list;
         list.addName(CXString(text), AttrID(u"job-name"));
         const AttrNodeList read = readOrdo(writeOrdo(list));

@@ -1,3 +1,4 @@
+#include <optional>
 #include <string>
 
 #include <gmock/gmock.h>
@@ -45,66 +46,44 @@ TEST(TarvoXmlDataStreamTest, FailsInATellingOrder) {
     EXPECT_TRUE(buffer.isEmpty());
 }
 
-TEST(TarvoXmlDataStreamTest, IsNamedAfterItsDocumentTypeOrItsFile) {
-    EXPECT_EQ(TarvoXmlDataStream(XmlDataType::ordo, u"").getStreamName(), u"XmlStream");
-    EXPECT_EQ(TarvoXmlDataStream(XmlDataType::ordo, u"d").getStreamName(), u"d");
-    EXPECT_EQ(TarvoXmlFile().getStreamName(), u"XmlStream");
-    EXPECT_EQ(TarvoXmlFile(XmlDataType::ordo, u"f", u"").getStreamName(), u"f");
-    EXPECT_EQ(TarvoXmlFile(XmlDataType::ordo, u"f", u"d").getStreamName(), u"d");
-}
-
-TEST(TarvoXmlFileTest, WritesAndReadsFiles) {
-    const ScratchFolder folder;
-    const AttrNodeList list = listOf("copies=2 job-name=name:x");
-    folder.write("ticket.xml", std::string(10'000, 'x'));
-    TarvoXmlFile(XmlDataType::ordo, folder.file("ticket.xml"), dtdPath()).write(&list);
-    useOrdoDtd();
-    EXPECT_EQ(folder.read("ticket.xml"), writeOrdo(list));
-    AttrNodeList read;
-    TarvoXmlFile(XmlDataType::ordo, folder.file("ticket.xml"), dtdPath()).read(&read);
-    EXPECT_EQ(textOfList(read), textOfList(list));
-
-    TarvoXmlFile compact(XmlDataType::ordo, folder.file("compact.xml"), dtdPath());
-    compact.setFormatted(false);
-    compact.write(&list);
-    EXPECT_EQ(folder.read("compact.xml").find('\t'), std::string::npos);
-}
-
 TEST(TarvoXmlFileTest, SaysWhatItCannotRead) {
     const ScratchFolder folder;
-    AttrNodeList list;
-    const auto failure = [&](std::optional<CXString> name) {
-        return ordoFailure(
-            [&] { TarvoXmlFile(XmlDataType::ordo, std::move(name), dtdPath()).read(&list); });
-    };
-    EXPECT_EQ(failure(std::nullopt), "16: TarvoXmlFile::read(): No file to open.\r\n");
-    const CXString missing = folder.file("missing.xml");
-    EXPECT_EQ(failure(missing),
-              "15: TarvoXmlFile::read(): Failed to open file " + missing.toNarrow() + ".\r\n");
     folder.write("empty.xml", "");
-    EXPECT_THAT(failure(folder.file("empty.xml")), StartsWith("8: "));
     folder.write("bad.xml", "<ordo>");
-    EXPECT_THAT(failure(folder.file("bad.xml")), StartsWith("2: "));
     folder.write("large.xml", "x");
     std::filesystem::resize_file(folder.path() / "large.xml", 64 * 1024 * 1024 + 1);
-    EXPECT_EQ(failure(folder.file("large.xml")),
-              "13: TarvoXmlFile::read(): Failed to allocate enough space. Needed 67108865\r\n");
-    EXPECT_EQ(textOfList(list), "");
+    const CXString missing = folder.file("missing.xml");
+    const Rows<std::optional<CXString>, std::string> rows{
+        {std::nullopt, "16: TarvoXmlFile::read(): No file to open.\r\n"},
+        {missing, "15: TarvoXmlFile::read(): Failed to open file " + missing.toNarrow() + ".\r\n"},
+        {folder.file("empty.xml"), "8: "},
+        {folder.file("bad.xml"), "2: "},
+        {folder.file("large.xml"),
+         "13: TarvoXmlFile::read(): Failed to allocate enough space. Needed 67108865\r\n"},
+    };
+    for (const auto& [name, failure] : rows) {
+        AttrNodeList list;
+        TarvoXmlFile file(XmlDataType::ordo, name, dtdPath());
+        EXPECT_THAT(ordoFailure([&] { file.read(&list); }), StartsWith(failure));
+        EXPECT_EQ(textOfList(list), "");
+    }
 }
 
 TEST(TarvoXmlFileTest, AWritingThatFailsLeavesNoFile) {
     const ScratchFolder folder;
     folder.write("ticket.xml", "from before");
     const AttrNodeList list = listOf("copies=2 nobody-knows=1");
-    const auto failure = [&](std::optional<CXString> name) {
-        return ordoFailure(
-            [&] { TarvoXmlFile(XmlDataType::ordo, std::move(name), dtdPath()).write(&list); });
+    const Rows<std::optional<CXString>, std::string> rows{
+        {folder.file("ticket.xml"), "7: "},
+        {std::nullopt, "18: TarvoXmlFile::write(): No file to open.\r\n"},
+        {folder.file("no-such-folder/ticket.xml"),
+         "17: TarvoXmlFile::write(): Failed to open/create the file.\r\n"},
     };
-    EXPECT_THAT(failure(folder.file("ticket.xml")), StartsWith("7: "));
+    for (const auto& [name, failure] : rows) {
+        TarvoXmlFile file(XmlDataType::ordo, name, dtdPath());
+        EXPECT_THAT(ordoFailure([&] { file.write(&list); }), StartsWith(failure));
+    }
     EXPECT_FALSE(std::filesystem::exists(folder.path() / "ticket.xml"));
-    EXPECT_EQ(failure(std::nullopt), "18: TarvoXmlFile::write(): No file to open.\r\n");
-    EXPECT_EQ(failure(folder.file("no-such-folder/ticket.xml")),
-              "17: TarvoXmlFile::write(): Failed to open/create the file.\r\n");
 }
 
 } // namespace

@@ -5,35 +5,15 @@
 #include "ocore/Compress/PersistentSettings.h"
 #include "ocore/User.h"
 #include "resources/UseResourceLibrary.h"
-#include "support/Rows.h"
 #include "support/ScratchPreferences.h"
 
 namespace zent::test {
 namespace {
 
-class PrinterTest : public testing::Test {
-protected:
-    PrinterTest() { useResourceLibrary(); }
-
-private:
-    ScratchPreferences m_preferences;
-};
-
-// What a new session holds is tested by the exported calls; these defaults depend on the language.
-TEST_F(PrinterTest, DefaultsDifferByLanguage) {
-    for (const auto& [pdl, opi] : Rows<std::uint32_t, std::int32_t>{
-             {pageLanguage::postScript, value::opiInsert},
-             {pageLanguage::monochromePcl, FeatureValue::unspecified}}) {
-        NonDriverBasedPrinter printer(43, pdl, 1, CXString(), true);
-        EXPECT_EQ(printer.getDefaults()
-                      .getSettings()
-                      .getFeatureValue(_FI(feature::opiImageInsertion))
-                      .getValue(),
-                  opi);
-    }
-}
-
-TEST_F(PrinterTest, TheUserGoesIntoAStateBlob) {
+// All else that printers do is tested by the exported calls.
+TEST(PrinterTest, TheUserGoesIntoAStateBlob) {
+    useResourceLibrary();
+    const ScratchPreferences preferences;
     const NonDriverBasedPrinter made(1, 2, 1, CXString(u"of my own"), false);
     made.getUserPreferences()->setBooleanPreference(u"JOB_NAME_PREFERENCE", false);
     PersistentSettings state;
