@@ -65,5 +65,17 @@ TEST(SmallOrdoTranslatorTest, UnknownCodesStayAsTheyAre) {
               "zz=c sides=q: copies=7");
 }
 
+// No document type rules out what has no syntax.
+TEST(SmallOrdoTranslatorTest, ElementsWithoutSyntaxAreSkippedWithAllTheyHold) {
+    const Rows<const char*, const char*> rows{
+        {"<x y='2'><A s='i'>1</A></x><A s='i'>2</A>", "copies=2"},
+        {"text<A s='i'>2</A><!-- x -->", "copies=2"},
+        {"<media-col s='c'><d>1</d><a s='k'>c</a></media-col>", "media-col{sides=one-sided}"},
+    };
+    for (const auto& [content, expected] : rows) {
+        EXPECT_EQ(read(around(content)), expected) << content;
+    }
+}
+
 } // namespace
 } // namespace zent::test

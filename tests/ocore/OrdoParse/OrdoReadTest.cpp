@@ -1,11 +1,9 @@
-#include <span>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include "ocore/AnlXlate/OrdoTranslator.h"
 #include "ocore/Exceptions.h"
-#include "ocore/OrdoParse/TarvoDomDoc.h"
 #include "support/ListText.h"
 #include "support/OrdoDocument.h"
 #include "support/Raised.h"
@@ -132,33 +130,6 @@ TEST_F(OrdoReadTest, AddsToTheListAndLeavesItAloneOnAnError) {
               "AttrValueFactory::createSimpleAttrValue(AVTE): unhandled attribute value "
               "enumeration (10).\r\n");
     EXPECT_EQ(textOfList(list), "sides=one-sided copies=2") << "what came before stays";
-}
-
-/// A form of no rules of its own, to see what all forms do.
-class PlainDomDoc : public TarvoDomDoc {
-public:
-    PlainDomDoc() { createParser(u"XmlStream", false); }
-
-protected:
-    std::string_view getSkeletonDocument() const override { return "<?xml version='1.0'?><root/>"; }
-};
-
-TEST(TarvoDomDocTest, ElementsWithoutSyntaxAreSkippedWithAllTheyHold) {
-    const Rows<std::string_view, const char*> rows{
-        {"<root x='1'><a y='2'><b syntax='integer'>1</b></a><c syntax='integer'>2</c></root>",
-         "c=2"},
-        {"<root>text<c syntax='integer'>2</c><!-- x --></root>", "c=2"},
-        {"<root syntax='integer'>2</root>", ""},
-        {"<!DOCTYPE root><root><c syntax='collection'><d>1</d><e syntax='keyword'>f</e></c></root>",
-         "c{e=f}"},
-    };
-    for (const auto& [text, expected] : rows) {
-        PlainDomDoc document;
-        document.parse(std::as_bytes(std::span(text)));
-        AttrNodeList list;
-        document.toAttrNodeList(&list);
-        EXPECT_EQ(textOfList(list), expected) << text;
-    }
 }
 
 } // namespace

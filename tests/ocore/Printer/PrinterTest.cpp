@@ -10,7 +10,6 @@
 namespace zent::test {
 namespace {
 
-// All else that printers do is tested by the exported calls.
 TEST(PrinterTest, TheUserGoesIntoAStateBlob) {
     useResourceLibrary();
     const ScratchPreferences preferences;
