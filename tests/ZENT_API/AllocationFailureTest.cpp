@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "abi/ZentLiteral.h"
 #include "ocore/CurrentWindowSystem.h"
 #include "ocore/UserMessage.h"
 #include "support/AllocationFailure.h"
@@ -16,26 +17,14 @@
 namespace zent::test {
 namespace {
 
-using Text = std::basic_string<ZentChar>;
-Text wide(const char* ascii) { return {ascii, ascii + std::char_traits<char>::length(ascii)}; }
-
 constexpr std::uint32_t manyAllocations = 200000;
 
 /// All that the calls need, made beforehand, so that only their own allocations count.
 struct Job {
-    ZentSessionType session = nullptr;
-    TarvoJtSettingsType ticket = nullptr;
+    ZentSessionType s = nullptr;
+    TarvoJtSettingsType t = nullptr;
     std::string xml = readTestFile("../examples/exception-pages-with-inserts.xml");
     std::string blob;
-    Text copies = wide("copies");
-    Text sides = wide("sides");
-    Text own = wide("a name of my own");
-    Text jobName = wide("job-name");
-    Text ranges = wide("page-ranges");
-    Text resolution = wide("printer-resolution");
-    Text overrides = wide("page-overrides");
-    Text preference = wide("MINE");
-    Text title = wide("Problems");
     std::string output = std::string(1 << 20, '\0');
     ZentBool flag = 0;
     ZentBool flag2 = 0;
@@ -43,14 +32,14 @@ struct Job {
     std::uint32_t size = 0;
 
     Job() {
-        EXPECT_EQ(open(&session), ZENT_OK);
-        EXPECT_EQ(fnGetTarvoJtSettingsFromSession(session, &ticket), ZENT_OK);
+        EXPECT_EQ(open(&s), ZENT_OK);
+        EXPECT_EQ(fnGetTarvoJtSettingsFromSession(s, &t), ZENT_OK);
         blob = xml;
         EXPECT_EQ(import(blob, ZENT_FORMAT_XML, ZENT_APPLY_SILENT_KEEP), ZENT_OK);
         EXPECT_EQ(exportAs(ZENT_FORMAT_STATE), ZENT_OK);
         blob.assign(output, 0, size);
     }
-    ~Job() { EXPECT_EQ(fnCloseSession(&session), ZENT_OK); }
+    ~Job() { EXPECT_EQ(fnCloseSession(&s), ZENT_OK); }
     Job(const Job&) = delete;
     Job& operator=(const Job&) = delete;
 
@@ -58,16 +47,16 @@ struct Job {
         return fnOpenSession(27, 6, 2, ZENT_INSTRUCTIONS_STREAM, 1, nullptr, 1, opened);
     }
     ZentResult import(const std::string& data, std::uint32_t format, std::uint32_t mode) {
-        return fnImportJobTicket(session, data.data(), static_cast<std::uint32_t>(data.size()),
-                                 format, mode, nullptr, title.c_str(), &flag, &flag2);
+        return fnImportJobTicket(s, data.data(), static_cast<std::uint32_t>(data.size()), format,
+                                 mode, nullptr, ZT("Problems"), &flag, &flag2);
     }
     ZentResult exportAs(std::uint32_t format) {
         size = static_cast<std::uint32_t>(output.size());
-        return fnExportJobTicket(session, output.data(), &size, format);
+        return fnExportJobTicket(s, output.data(), &size, format);
     }
     ZentResult instructions(const char* document) {
         size = static_cast<std::uint32_t>(output.size());
-        return fnGetPrintInstructions(session, output.data(), &size, document);
+        return fnGetPrintInstructions(s, output.data(), &size, document);
     }
 };
 
@@ -76,7 +65,7 @@ struct Call {
     std::function<ZentResult(Job&)> call;
 };
 
-std::vector<Call> sessionCalls() {
+std::vector<Call> allCalls() {
     return {
         {"open",
          [](Job&) {
@@ -85,154 +74,112 @@ std::vector<Call> sessionCalls() {
              return result == ZENT_OK ? fnCloseSession(&opened) : result;
          }},
         {"create",
-         [](Job& job) {
+         [](Job& j) {
              TarvoJtSettingsType made = nullptr;
-             const ZentResult result = fnCreateNewTarvoJtSettings(job.session, &made);
-             return made != nullptr ? fnReleaseTarvoJtSettings(job.session, &made) : result;
+             const ZentResult result = fnCreateNewTarvoJtSettings(j.s, &made);
+             return made != nullptr ? fnReleaseTarvoJtSettings(j.s, &made) : result;
          }},
-        {"import", [](Job& job) { return job.import(job.xml, ZENT_FORMAT_XML, 1); }},
-        {"import, reported", [](Job& job) { return job.import(job.xml, ZENT_FORMAT_XML, 5); }},
-        {"import of a blob", [](Job& job) { return job.import(job.blob, ZENT_FORMAT_STATE, 2); }},
+        {"import", [](Job& j) { return j.import(j.xml, ZENT_FORMAT_XML, 1); }},
+        {"import, reported", [](Job& j) { return j.import(j.xml, ZENT_FORMAT_XML, 5); }},
+        {"import of a blob", [](Job& j) { return j.import(j.blob, ZENT_FORMAT_STATE, 2); }},
         {"export",
-         [](Job& job) {
-             fnSetNumberValue(job.session, job.ticket, job.copies.c_str(), 2, 0);
-             return job.exportAs(ZENT_FORMAT_XML);
+         [](Job& j) {
+             fnSetNumberValue(j.s, j.t, ZT("copies"), 2, 0);
+             return j.exportAs(ZENT_FORMAT_XML);
          }},
         {"export of a blob",
-         [](Job& job) {
-             fnSetNumberValue(job.session, job.ticket, job.copies.c_str(), 2, 0);
-             return job.exportAs(ZENT_FORMAT_STATE);
+         [](Job& j) {
+             fnSetNumberValue(j.s, j.t, ZT("copies"), 2, 0);
+             return j.exportAs(ZENT_FORMAT_STATE);
          }},
         {"apply",
-         [](Job& job) {
-             return fnApplyPrinterCapabilitiesToSettings(job.session, 1, nullptr, job.title.c_str(),
-                                                         &job.flag, &job.flag2);
+         [](Job& j) {
+             return fnApplyPrinterCapabilitiesToSettings(j.s, 1, nullptr, ZT("Problems"), &j.flag,
+                                                         &j.flag2);
          }},
-        {"instructions", [](Job& job) { return job.instructions("document"); }},
+        {"instructions", [](Job& j) { return j.instructions("document"); }},
         {"user context",
-         [](Job& job) {
-             job.size = static_cast<std::uint32_t>(job.output.size());
-             return fnUpdateUserContextInformation(job.session, job.blob.data(),
-                                                   static_cast<std::uint32_t>(job.blob.size()),
-                                                   job.output.data(), &job.size);
+         [](Job& j) {
+             j.size = static_cast<std::uint32_t>(j.output.size());
+             return fnUpdateUserContextInformation(j.s, j.blob.data(),
+                                                   static_cast<std::uint32_t>(j.blob.size()),
+                                                   j.output.data(), &j.size);
          }},
-        {"dialog",
-         [](Job& job) { return fnInvokeTarvoJobTicketDialog(job.session, 0, nullptr, 0); }},
-    };
-}
-
-std::vector<Call> featureCalls() {
-    return {
-        {"get settings",
-         [](Job& job) { return fnGetTarvoJtSettingsFromSession(job.session, &job.ticket); }},
-        {"is empty", [](Job& job) { return fnIsEmpty(job.session, job.ticket, &job.flag); }},
-        {"is specified",
-         [](Job& job) {
-             return fnIsSpecified(job.session, job.ticket, job.sides.c_str(), &job.flag);
-         }},
-        {"count",
-         [](Job& job) {
-             return fnGetNumberOfValues(job.session, job.ticket, job.ranges.c_str(), &job.size);
-         }},
+        {"dialog", [](Job& j) { return fnInvokeTarvoJobTicketDialog(j.s, 0, nullptr, 0); }},
+        {"get settings", [](Job& j) { return fnGetTarvoJtSettingsFromSession(j.s, &j.t); }},
+        {"is empty", [](Job& j) { return fnIsEmpty(j.s, j.t, &j.flag); }},
+        {"is specified", [](Job& j) { return fnIsSpecified(j.s, j.t, ZT("sides"), &j.flag); }},
+        {"count", [](Job& j) { return fnGetNumberOfValues(j.s, j.t, ZT("page-ranges"), &j.size); }},
         {"get range",
-         [](Job& job) {
-             return fnGetRangeValues(job.session, job.ticket, job.ranges.c_str(), &job.number,
-                                     &job.number, 0, &job.flag);
+         [](Job& j) {
+             return fnGetRangeValues(j.s, j.t, ZT("page-ranges"), &j.number, &j.number, 0, &j.flag);
          }},
         {"get resolution",
-         [](Job& job) {
-             return fnGetResolutionValue(job.session, job.ticket, job.resolution.c_str(),
-                                         &job.number, &job.number, &job.number, 0, &job.flag);
+         [](Job& j) {
+             return fnGetResolutionValue(j.s, j.t, ZT("printer-resolution"), &j.number, &j.number,
+                                         &j.number, 0, &j.flag);
          }},
-        {"set number",
-         [](Job& job) {
-             return fnSetNumberValue(job.session, job.ticket, job.copies.c_str(), 7, 0);
-         }},
+        {"set number", [](Job& j) { return fnSetNumberValue(j.s, j.t, ZT("copies"), 7, 0); }},
         {"get string",
-         [](Job& job) {
-             job.size = 0;
-             return fnGetStringValue(job.session, job.ticket, job.sides.c_str(), nullptr, &job.size,
-                                     0, &job.flag);
+         [](Job& j) {
+             j.size = 0;
+             return fnGetStringValue(j.s, j.t, ZT("sides"), nullptr, &j.size, 0, &j.flag);
          }},
         {"get number",
-         [](Job& job) {
-             return fnGetNumberValue(job.session, job.ticket, job.copies.c_str(), &job.number, 0,
-                                     &job.flag);
-         }},
+         [](Job& j) { return fnGetNumberValue(j.s, j.t, ZT("copies"), &j.number, 0, &j.flag); }},
         {"get size",
-         [](Job& job) {
-             return fnGetStockSizeValues(job.session, job.ticket, &job.number, &job.number,
-                                         &job.flag);
-         }},
+         [](Job& j) { return fnGetStockSizeValues(j.s, j.t, &j.number, &j.number, &j.flag); }},
         {"set string",
-         [](Job& job) {
-             return fnSetStringValue(job.session, job.ticket, job.jobName.c_str(), job.own.c_str(),
-                                     0);
+         [](Job& j) {
+             return fnSetStringValue(j.s, j.t, ZT("job-name"), ZT("a name of my own"), 0);
          }},
         {"set range",
-         [](Job& job) {
-             return fnSetRangeValues(job.session, job.ticket, job.ranges.c_str(), 1, 5, 9);
-         }},
+         [](Job& j) { return fnSetRangeValues(j.s, j.t, ZT("page-ranges"), 1, 5, 9); }},
         {"set resolution",
-         [](Job& job) {
-             return fnSetResolutionValue(job.session, job.ticket, job.resolution.c_str(), 6, 6, 3,
-                                         0);
+         [](Job& j) {
+             return fnSetResolutionValue(j.s, j.t, ZT("printer-resolution"), 6, 6, 3, 0);
          }},
-        {"set size",
-         [](Job& job) { return fnSetStockSizeValues(job.session, job.ticket, 21000, 29700); }},
-        {"unspecify",
-         [](Job& job) { return fnUnspecifyFeature(job.session, job.ticket, job.ranges.c_str()); }},
+        {"set size", [](Job& j) { return fnSetStockSizeValues(j.s, j.t, 21000, 29700); }},
+        {"unspecify", [](Job& j) { return fnUnspecifyFeature(j.s, j.t, ZT("page-ranges")); }},
         {"page settings and back",
-         [](Job& job) {
+         [](Job& j) {
              TarvoJtSettingsType page = nullptr;
              ZentResult result = fnCreateTarvoJtSettingsFromPageLevelFeature(
-                 job.session, job.ticket, job.overrides.c_str(), 0, &page);
+                 j.s, j.t, ZT("page-overrides"), 0, &page);
              if (page != nullptr) {
-                 result = fnSetPageLevelFeatureFromTarvoJtSettings(job.session, job.ticket,
-                                                                   job.overrides.c_str(), 99, page);
-                 EXPECT_EQ(fnReleaseTarvoJtSettings(job.session, &page), ZENT_OK);
+                 result = fnSetPageLevelFeatureFromTarvoJtSettings(j.s, j.t, ZT("page-overrides"),
+                                                                   99, page);
+                 EXPECT_EQ(fnReleaseTarvoJtSettings(j.s, &page), ZENT_OK);
              }
              return result;
          }},
         {"remove page",
-         [](Job& job) {
-             return fnRemovePageLevelFeatureFromTarvoJtSettings(job.session, job.ticket,
-                                                                job.overrides.c_str(), 1);
+         [](Job& j) {
+             return fnRemovePageLevelFeatureFromTarvoJtSettings(j.s, j.t, ZT("page-overrides"), 1);
          }},
         {"set text preference",
-         [](Job& job) {
-             return fnSetPreferenceStringValue(job.session, job.preference.c_str(),
-                                               job.own.c_str());
+         [](Job& j) {
+             return fnSetPreferenceStringValue(j.s, ZT("MINE"), ZT("a name of my own"));
          }},
         {"get text preference",
-         [](Job& job) {
-             return fnGetPreferenceStringValue(job.session, job.preference.c_str(), nullptr,
-                                               &job.size, nullptr);
+         [](Job& j) {
+             return fnGetPreferenceStringValue(j.s, ZT("MINE"), nullptr, &j.size, nullptr);
          }},
         {"set bool preference",
-         [](Job& job) { return fnSetPreferenceBoolValue(job.session, job.preference.c_str(), 1); }},
+         [](Job& j) { return fnSetPreferenceBoolValue(j.s, ZT("MINE"), 1); }},
         {"get bool preference",
-         [](Job& job) {
-             return fnGetPreferenceBoolValue(job.session, job.preference.c_str(), &job.flag, 1);
-         }},
+         [](Job& j) { return fnGetPreferenceBoolValue(j.s, ZT("MINE"), &j.flag, 1); }},
         {"set number preference",
-         [](Job& job) {
-             return fnSetPreferenceNumberValue(job.session, job.preference.c_str(), 70000);
-         }},
+         [](Job& j) { return fnSetPreferenceNumberValue(j.s, ZT("MINE"), 70000); }},
         {"get number preference",
-         [](Job& job) {
-             return fnGetPreferenceNumberValue(job.session, job.preference.c_str(), &job.number, 1);
-         }},
+         [](Job& j) { return fnGetPreferenceNumberValue(j.s, ZT("MINE"), &j.number, 1); }},
         {"set data preference",
-         [](Job& job) {
-             return fnSetPreferenceDataValue(job.session, job.preference.c_str(), "abcd", 4);
-         }},
+         [](Job& j) { return fnSetPreferenceDataValue(j.s, ZT("MINE"), "abcd", 4); }},
         {"get data preference",
-         [](Job& job) {
-             return fnGetPreferenceDataValue(job.session, job.preference.c_str(), nullptr,
-                                             &job.size, nullptr, 0);
+         [](Job& j) {
+             return fnGetPreferenceDataValue(j.s, ZT("MINE"), nullptr, &j.size, nullptr, 0);
          }},
-        {"unspecify all", [](Job& job) { return fnUnspecifyAllFeatures(job.session, job.ticket); }},
+        {"unspecify all", [](Job& j) { return fnUnspecifyAllFeatures(j.s, j.t); }},
     };
 }
 
@@ -284,11 +231,7 @@ TEST(AllocationFailureTest, EveryCallReportsItAndTheLibraryGoesOn) {
                                  std::uint32_t) { return messageAnswer::ok; });
     {
         Job job;
-        for (const Call& call : sessionCalls()) {
-            exhaust(job, call);
-            expectGoodSession(job);
-        }
-        for (const Call& call : featureCalls()) {
+        for (const Call& call : allCalls()) {
             exhaust(job, call);
             expectGoodSession(job);
         }

@@ -2,6 +2,7 @@
 
 #include "abi/Session.h"
 #include "abi/ZentLiteral.h"
+#include "support/Rows.h"
 
 namespace zent::test {
 namespace {
@@ -214,25 +215,19 @@ TEST_F(FeatureCallsTest, WhatIsNotFoundLeavesNumbersAlone) {
 }
 
 TEST_F(FeatureCallsTest, SizesAreKeptInPortraitOrder) {
-    struct Row {
-        std::int32_t width;
-        std::int32_t height;
-        const char* kept;
-        const char* size; // standard sizes come in the order of their table
-    };
-    const Row rows[] = {
-        {21000, 29700, "21000 29700", "21000x29700"},
-        {29700, 21000, "21000 29700", "21000x29700"},
-        {29700, 42000, "29700 42000", "42000x29700"},
-        {30000, 10000, "10000 30000", "10000x30000"},
-        {0, 10, "0 10", "0x10"},
-        {0, 0, "none none", "none"},
-        {5000, 5000, "5000 5000", "5000x5000"},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(fnSetStockSizeValues(s, t, row.width, row.height), ZENT_OK);
-        EXPECT_EQ(number("x-dimension") + " " + number("y-dimension"), row.kept);
-        EXPECT_EQ(sizeOf(session, t), row.size);
+    for (const auto& [width, height, kept, size] :
+         Rows<std::int32_t, std::int32_t, const char*, const char*>{
+             {21000, 29700, "21000 29700", "21000x29700"},
+             {29700, 21000, "21000 29700", "21000x29700"},
+             {29700, 42000, "29700 42000", "42000x29700"},
+             {30000, 10000, "10000 30000", "10000x30000"},
+             {0, 10, "0 10", "0x10"},
+             {0, 0, "none none", "none"},
+             {5000, 5000, "5000 5000", "5000x5000"},
+         }) {
+        EXPECT_EQ(fnSetStockSizeValues(s, t, width, height), ZENT_OK);
+        EXPECT_EQ(number("x-dimension") + " " + number("y-dimension"), kept);
+        EXPECT_EQ(sizeOf(session, t), size);
     }
     EXPECT_EQ(session.setString("x-dimension", "wide"), ZENT_OK); // as the number 0
     EXPECT_EQ(sizeOf(session, t), "0x5000");

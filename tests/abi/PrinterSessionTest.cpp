@@ -4,6 +4,7 @@
 #include "abi/MessageBoxes.h"
 #include "abi/Session.h"
 #include "abi/ZentLiteral.h"
+#include "support/Rows.h"
 #include "support/ScratchPreferences.h"
 
 namespace zent::test {
@@ -34,74 +35,45 @@ std::string importedFrom(const std::string& blob, std::uint32_t model) {
 
 TEST(PrinterSessionTest, PrintersThatNobodyKnowsAreRefused) {
     const ScratchPreferences scratch;
-    struct Row {
-        const char* name;
-        Opening opening;
-        ZentResult result;
-    };
-    const Row rows[] = {
-        {"first model", {1, 2}, ZENT_OK},
-        {"last model", {51, 2}, ZENT_OK},
-        {"no model", {0, 2}, ZENT_ERR_INTERNAL_INDEX},
-        {"unknown model", {52, 2, 1, ZT("mine"), 1}, ZENT_ERR_INTERNAL_INDEX},
-        {"unknown model, loud", {52, 2, 1, nullptr, 0, 0}, ZENT_ERR_INTERNAL_INDEX},
-        {"form by model", {1, 2, 3}, ZENT_OK},
-        {"any form", {1, 2, 99}, ZENT_OK},
-        // The language is looked at where the driver's name is needed, for the preferences.
-        {"language that the model lacks", {1, 3}, ZENT_ERR_INTERNAL_INDEX},
-        {"such with a set of a name", {1, 3, 1, ZT("mine")}, ZENT_OK},
-        {"such with the generic set", {1, 3, 1, ZT(""), 1}, ZENT_OK},
-    };
     MessageBoxes boxes;
     int anything = 0;
     auto* const before = reinterpret_cast<ZentSessionType>(&anything);
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, opening, result] : Rows<const char*, Opening, ZentResult>{
+             {"first model", {1, 2}, ZENT_OK},
+             {"last model", {51, 2}, ZENT_OK},
+             {"no model", {0, 2}, ZENT_ERR_INTERNAL_INDEX},
+             {"unknown model", {52, 2, 1, ZT("mine"), 1}, ZENT_ERR_INTERNAL_INDEX},
+             {"unknown model, loud", {52, 2, 1, nullptr, 0, 0}, ZENT_ERR_INTERNAL_INDEX},
+             {"form by model", {1, 2, 3}, ZENT_OK},
+             {"any form", {1, 2, 99}, ZENT_OK},
+             // The language is looked at where the driver's name is needed, for the preferences.
+             {"language that the model lacks", {1, 3}, ZENT_ERR_INTERNAL_INDEX},
+             {"such with a set of a name", {1, 3, 1, ZT("mine")}, ZENT_OK},
+             {"such with the generic set", {1, 3, 1, ZT(""), 1}, ZENT_OK},
+         }) {
+        SCOPED_TRACE(name);
         ZentSessionType session = before;
-        EXPECT_EQ(open(row.opening, &session), row.result);
-        EXPECT_EQ(session == before, row.result != ZENT_OK);
-        EXPECT_EQ(boxes.take().size(), row.opening.silent != 0 ? 0U : 1U);
-        if (row.result == ZENT_OK) {
+        EXPECT_EQ(open(opening, &session), result);
+        EXPECT_EQ(session == before, result != ZENT_OK);
+        EXPECT_EQ(boxes.take().size(), opening.silent != 0 ? 0U : 1U);
+        if (result == ZENT_OK) {
             EXPECT_EQ(fnCloseSession(&session), ZENT_OK);
         }
     }
 }
 
 TEST(PrinterSessionTest, ANewTicketHoldsThePrintersDefaults) {
-    struct Row {
-        std::uint32_t model;
-        const char* rotation;
-        const char* mediaColor;
-        const char* imposition;
-        const char* backShift; // of the side 2
-    };
-    const Row rows[] = {
-        {1, "rotate-0", "white", "none", "0"},
-        {4, "rotate-0", "white", "none", "none"}, // a printer of the stream form
-        {17, "none", "white", "none", "0"},       // a printer with few defaults of its own
-        {28, "rotate-0", "none", "none", "0"},    // a printer without media colours
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.model);
-        const Session session(true, row.model);
-        ZentSessionType fresh = nullptr;
-        ASSERT_EQ(open({row.model, 2, 1, nullptr, 1}, &fresh), ZENT_OK);
-        TarvoJtSettingsType t = nullptr;
-        ASSERT_EQ(fnGetTarvoJtSettingsFromSession(fresh, &t), ZENT_OK);
-        // The readers take any open session with any settings.
-        EXPECT_EQ(numberOf(session, t, "copies"), "1");
-        EXPECT_EQ(stringOf(session, t, "sides"), "one-sided");
-        EXPECT_EQ(numberOf(session, t, "finishings"), "3");
-        EXPECT_EQ(numberOf(session, t, "media-hole-count"), "0");
-        EXPECT_EQ(stringOf(session, t, "media-type"), "stationery");
-        EXPECT_NE(stringOf(session, t, "requesting-user-name"), "none");
-        EXPECT_NE(sizeOf(session, t), "none");
-        EXPECT_EQ(stringOf(session, t, "page-rotation"), row.rotation);
-        EXPECT_EQ(stringOf(session, t, "media-color"), row.mediaColor);
-        EXPECT_EQ(numberOf(session, t, "x-side1-image-shift"), "0");
-        EXPECT_EQ(numberOf(session, t, "x-side2-image-shift"), row.backShift);
-        EXPECT_EQ(fnCloseSession(&fresh), ZENT_OK);
-    }
+    const Session reader; // takes any settings
+    ZentSessionType fresh = nullptr;
+    ASSERT_EQ(open({28, 2, 1, nullptr, 1}, &fresh), ZENT_OK);
+    TarvoJtSettingsType t = nullptr;
+    ASSERT_EQ(fnGetTarvoJtSettingsFromSession(fresh, &t), ZENT_OK);
+    EXPECT_EQ(numberOf(reader, t, "copies"), "1");
+    EXPECT_EQ(stringOf(reader, t, "media-type"), "stationery");
+    EXPECT_EQ(stringOf(reader, t, "media-color"), "none"); // a printer without media colours
+    EXPECT_NE(stringOf(reader, t, "requesting-user-name"), "none");
+    EXPECT_NE(sizeOf(reader, t), "none");
+    EXPECT_EQ(fnCloseSession(&fresh), ZENT_OK);
 }
 
 TEST(PrinterSessionTest, ATicketTravelsAsABlob) {
@@ -163,28 +135,22 @@ TEST(PrinterSessionTest, ABadBlobLeavesTheSessionAlone) {
     damaged[good.size() / 2] = static_cast<char>(damaged[good.size() / 2] ^ 0x55);
     std::string newer = good;
     newer[4] = 2;
-    struct Row {
-        const char* name;
-        std::string blob;
-        ZentResult result;
-    };
-    const Row rows[] = {
-        {"nothing", "", ZENT_ERR_STATE_FORMAT},
-        {"half a header", good.substr(0, 7), ZENT_ERR_STATE_FORMAT},
-        {"a header alone", good.substr(0, 8), ZENT_ERR_COMPRESSION},
-        {"of a version to come", newer, ZENT_ERR_STATE_FORMAT},
-        {"cut", good.substr(0, good.size() - 1), ZENT_ERR_COMPRESSION},
-        {"damaged", damaged, ZENT_ERR_COMPRESSION},
-        {"a document", "<?xml version=\"1.0\"?><ordo/>", ZENT_ERR_STATE_FORMAT},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, blob, result] : Rows<const char*, std::string, ZentResult>{
+             {"nothing", "", ZENT_ERR_STATE_FORMAT},
+             {"half a header", good.substr(0, 7), ZENT_ERR_STATE_FORMAT},
+             {"a header alone", good.substr(0, 8), ZENT_ERR_COMPRESSION},
+             {"of a version to come", newer, ZENT_ERR_STATE_FORMAT},
+             {"cut", good.substr(0, good.size() - 1), ZENT_ERR_COMPRESSION},
+             {"damaged", damaged, ZENT_ERR_COMPRESSION},
+             {"a document", "<?xml version=\"1.0\"?><ordo/>", ZENT_ERR_STATE_FORMAT},
+         }) {
+        SCOPED_TRACE(name);
         ZentBool problems = 7;
         ZentBool applied = 7;
-        EXPECT_EQ(fnImportJobTicket(session.handle(), row.blob.data(),
-                                    static_cast<std::uint32_t>(row.blob.size()), state, 1, nullptr,
+        EXPECT_EQ(fnImportJobTicket(session.handle(), blob.data(),
+                                    static_cast<std::uint32_t>(blob.size()), state, 1, nullptr,
                                     nullptr, &problems, &applied),
-                  row.result);
+                  result);
         EXPECT_EQ(applied, 7);
         EXPECT_EQ(numberOf(session, session.ticket(), "copies"), "4");
         EXPECT_EQ(session.exported(state), good);
@@ -192,24 +158,17 @@ TEST(PrinterSessionTest, ABadBlobLeavesTheSessionAlone) {
 }
 
 TEST(PrinterSessionTest, ASizeIsTurnedAsThePrinterTakesIt) {
-    struct Row {
-        std::uint32_t model;
-        std::int32_t shortEdge;
-        std::int32_t longEdge;
-        const char* size;
-    };
-    const Row rows[] = {
-        {18, 29700, 42000, "42000x29700"}, // up to 47000 wide
-        {41, 29700, 42000, "29700x42000"}, // up to 32000 wide
-        {33, 21000, 29700, "21000x29700"},
-        {33, 29700, 42000, "42000x29700"}, // neither way: as it stands
-    };
-    for (const Row& row : rows) {
-        const Session session(true, row.model);
-        EXPECT_EQ(
-            fnSetStockSizeValues(session.handle(), session.ticket(), row.shortEdge, row.longEdge),
-            ZENT_OK);
-        EXPECT_EQ(sizeOf(session, session.ticket()), row.size) << row.model;
+    for (const auto& [model, shortEdge, longEdge, size] :
+         Rows<std::uint32_t, std::int32_t, std::int32_t, const char*>{
+             {18, 29700, 42000, "42000x29700"}, // up to 47000 wide
+             {41, 29700, 42000, "29700x42000"}, // up to 32000 wide
+             {33, 21000, 29700, "21000x29700"},
+             {33, 29700, 42000, "42000x29700"}, // neither way: as it stands
+         }) {
+        const Session session(true, model);
+        EXPECT_EQ(fnSetStockSizeValues(session.handle(), session.ticket(), shortEdge, longEdge),
+                  ZENT_OK);
+        EXPECT_EQ(sizeOf(session, session.ticket()), size) << model;
     }
 }
 

@@ -10,6 +10,7 @@
 #include "platform/Files.h"
 #include "platform/PeImage.h"
 #include "platform/ResourceModule.h"
+#include "support/Rows.h"
 
 namespace zent::platform {
 namespace {
@@ -134,60 +135,51 @@ TEST(PeResourceReader, FindsNothingWhereTheTreeIsBroken) {
     constexpr std::uint32_t language = number + 24;
     constexpr std::uint32_t data = language + 8;
     constexpr std::uint32_t directory = 0x80000000;
-    const struct {
-        const char* what;
-        std::size_t place;
-        std::uint32_t value;
-        const char* found;
-    } rows[] = {
-        {"nothing", 0, 0x5A4D, "content"},
-        {"another type", type, 11, "-"},
-        {"a type's name in place of its number", type, directory | 10, "-"},
-        {"a type that leads to data", type + 4, 72, "-"},
-        {"a type that leads outside", type + 4, directory | 0x7FFFFFFF, "-"},
-        {"a type that leads back to the root", type + 4, directory, "-"},
-        {"a number that leads to data", number + 4, 72, "-"},
-        {"a number that leads to itself", number + 4, directory | 24, "-"},
-        {"a number that leads to the section's end", number + 4, directory | 95, "-"},
-        {"a language that leads to a directory", language + 4, directory | 48, "-"},
-        {"a language that leads outside", language + 4, 0x7FFFFFFF, "broken"},
-        {"a language that leads to half an entry", language + 4, 91, "broken"},
-        {"data in no section", data, 0x10, "broken"},
-        {"data behind the section", data, PeImage::resourceAddress + 96, "broken"},
-        {"data at the last address", data, 0xFFFFFFFF, "broken"},
-        {"data longer than the section", data + 4, 9, "broken"},
-        {"data of the largest size", data + 4, 0xFFFFFFFF, "broken"},
-        {"counts that run out of the section", PeImage::resources + 12, 0xFFFFFFFF, "-"},
-    };
-    for (const auto& row : rows) {
+    for (const auto& [what, place, value, found] :
+         test::Rows<const char*, std::size_t, std::uint32_t, const char*>{
+             {"nothing", 0, 0x5A4D, "content"},
+             {"another type", type, 11, "-"},
+             {"a type's name in place of its number", type, directory | 10, "-"},
+             {"a type that leads to data", type + 4, 72, "-"},
+             {"a type that leads outside", type + 4, directory | 0x7FFFFFFF, "-"},
+             {"a type that leads back to the root", type + 4, directory, "-"},
+             {"a number that leads to data", number + 4, 72, "-"},
+             {"a number that leads to itself", number + 4, directory | 24, "-"},
+             {"a number that leads to the section's end", number + 4, directory | 95, "-"},
+             {"a language that leads to a directory", language + 4, directory | 48, "-"},
+             {"a language that leads outside", language + 4, 0x7FFFFFFF, "broken"},
+             {"a language that leads to half an entry", language + 4, 91, "broken"},
+             {"data in no section", data, 0x10, "broken"},
+             {"data behind the section", data, PeImage::resourceAddress + 96, "broken"},
+             {"data at the last address", data, 0xFFFFFFFF, "broken"},
+             {"data longer than the section", data + 4, 9, "broken"},
+             {"data of the largest size", data + 4, 0xFFFFFFFF, "broken"},
+             {"counts that run out of the section", PeImage::resources + 12, 0xFFFFFFFF, "-"},
+         }) {
         File file = image.build();
-        put32(file, row.place, row.value);
+        put32(file, place, value);
         const auto reader = open(file);
-        ASSERT_TRUE(reader) << row.what;
-        EXPECT_EQ(find(*reader, 10, 5), row.found) << row.what;
+        ASSERT_TRUE(reader) << what;
+        EXPECT_EQ(find(*reader, 10, 5), found) << what;
     }
 }
 
 TEST(PeResourceReader, FindsNoStringThatRunsOutOfItsBlock) {
-    const struct {
-        std::uint32_t length;
-        std::vector<std::uint8_t> block;
-    } rows[] = {
-        {0, {}},
-        {0, {1}},
-        {0, {1, 0}},
-        {0, {1, 0, 'a'}},
-        {0, {0xFF, 0xFF, 'a', 0}},
-        {1, {1, 0, 'a', 0}},
-    };
-    for (const auto& row : rows) {
+    for (const auto& [length, block] : test::Rows<std::uint32_t, std::vector<std::uint8_t>>{
+             {0, {}},
+             {0, {1}},
+             {0, {1, 0}},
+             {0, {1, 0, 'a'}},
+             {0, {0xFF, 0xFF, 'a', 0}},
+             {1, {1, 0, 'a', 0}},
+         }) {
         PeImage image;
-        image.add(6, 1, 0, row.block);
+        image.add(6, 1, 0, block);
         image.add(6, 2, 0, {'o', 'u', 't', 's', 'i', 'd', 'e', '!'});
         const File file = image.build();
         const auto reader = open(file);
         ASSERT_TRUE(reader);
-        EXPECT_EQ(findString(*reader, 0).size(), row.length) << row.block.size();
+        EXPECT_EQ(findString(*reader, 0).size(), length) << block.size();
         EXPECT_EQ(findString(*reader, 1), u"");
         EXPECT_EQ(findString(*reader, 15), u"");
     }

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "PrintText.h"
+#include "support/Rows.h"
 #include "support/ScratchPreferences.h"
 
 namespace zent::platform {
@@ -39,24 +40,20 @@ TEST_F(PreferenceStoreTest, KeepsTypesAndBytes) {
     for (std::size_t i = 0; i < all.size(); ++i) {
         all[i] = static_cast<char>(i * 31 / 7);
     }
-    const struct {
-        std::uint32_t type;
-        std::string content;
-    } rows[] = {
-        {registryType::text, std::string("a\0\xE9\0", 4)},
-        {registryType::text, ""},
-        {registryType::text, std::string("e\0n\0d\0\0\0", 8)},
-        {registryType::text, std::string("odd", 3)},
-        {registryType::binary, ""},
-        {registryType::binary, std::string("\0", 1)},
-        {registryType::binary, all},
-        {registryType::number, "\xFF\xFF\xFF\xFF"},
-        {registryType::number, ""},
-    };
     // Each takes the place of the one before.
-    for (const auto& row : rows) {
-        EXPECT_EQ(write(u"a\\key", u"name", row.content, row.type), PreferenceStatus::done);
-        EXPECT_EQ(read(u"a\\key", u"name"), std::to_string(row.type) + ':' + row.content);
+    for (const auto& [type, content] : test::Rows<std::uint32_t, std::string>{
+             {registryType::text, std::string("a\0\xE9\0", 4)},
+             {registryType::text, ""},
+             {registryType::text, std::string("e\0n\0d\0\0\0", 8)},
+             {registryType::text, std::string("odd", 3)},
+             {registryType::binary, ""},
+             {registryType::binary, std::string("\0", 1)},
+             {registryType::binary, all},
+             {registryType::number, "\xFF\xFF\xFF\xFF"},
+             {registryType::number, ""},
+         }) {
+        EXPECT_EQ(write(u"a\\key", u"name", content, type), PreferenceStatus::done);
+        EXPECT_EQ(read(u"a\\key", u"name"), std::to_string(type) + ':' + content);
     }
 }
 

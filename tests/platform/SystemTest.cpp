@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "PrintText.h"
+#include "support/Rows.h"
 
 namespace zent::platform {
 namespace {
@@ -27,20 +28,23 @@ TEST(System, ReadsIntegersFromProfileFiles) {
                            "infra=9\n"
                            "[Debug2]\n"
                            "thread=4\n";
-    const struct {
-        const char16_t* section;
-        const char16_t* key;
-        std::int32_t value;
-    } rows[] = {
-        {u"debug", u"Errors", 5},    {u"DEBUG", u"eRRORS", 5},   {u"debug", u"spaced", 17},
-        {u"debug", u"negative", -3}, {u"debug", u"mixed", 12},   {u"debug", u"word", 0},
-        {u"debug", u"empty", 77},    {u"debug", u"infra", 77},   {u"debug", u"thread", 77},
-        {u"other", u"infra", 9},     {u"debug", u"outside", 77}, {u"none", u"Errors", 77},
-    };
     const CXString file(path.string().c_str());
-    for (const auto& row : rows) {
-        EXPECT_EQ(getProfileInteger(row.section, row.key, 77, file), row.value)
-            << CXString(row.key).toNarrow();
+    for (const auto& [section, key, value] :
+         test::Rows<const char16_t*, const char16_t*, std::int32_t>{
+             {u"debug", u"Errors", 5},
+             {u"DEBUG", u"eRRORS", 5},
+             {u"debug", u"spaced", 17},
+             {u"debug", u"negative", -3},
+             {u"debug", u"mixed", 12},
+             {u"debug", u"word", 0},
+             {u"debug", u"empty", 77},
+             {u"debug", u"infra", 77},
+             {u"debug", u"thread", 77},
+             {u"other", u"infra", 9},
+             {u"debug", u"outside", 77},
+             {u"none", u"Errors", 77},
+         }) {
+        EXPECT_EQ(getProfileInteger(section, key, 77, file), value) << CXString(key).toNarrow();
     }
     std::filesystem::remove(path);
     EXPECT_EQ(getProfileInteger(u"debug", u"Errors", 77, file), 77);

@@ -5,7 +5,6 @@
 #include "ocore/FeatureSettings/FeatureSettings.h"
 #include "plugin_ui/Features/UIFeature.h"
 #include "plugin_ui/MessageProcessorWithChildren.h"
-#include "plugin_ui/ObserverSubject.h"
 
 namespace zent::test {
 namespace {
@@ -128,15 +127,6 @@ TEST(ComponentTreeTest, ConfiguringTakesOutWhatThePrinterLacks) {
     EXPECT_EQ(root.getChildren().size(), 2U);
     root.setParentFeature(feature::pageOverrides);
     EXPECT_EQ(kept.getParentFeature(), feature::pageOverrides);
-}
-
-TEST(ComponentTreeTest, SubjectsHaveNumbersOf16Bits) {
-    const std::uint16_t first = ObserverSubject().getSubjectId();
-    EXPECT_NE(ObserverSubject().getSubjectId(), first);
-    for (std::uint32_t i = 2; i < 65536; ++i) {
-        ObserverSubject();
-    }
-    EXPECT_EQ(ObserverSubject().getSubjectId(), first);
 }
 
 } // namespace

@@ -11,16 +11,16 @@ namespace {
 
 using platform::DialogTemplate;
 
-std::vector<std::byte> templateOf(std::uint32_t count, std::uint32_t style = 0) {
+std::vector<std::byte> templateOf(std::uint32_t count) {
     TemplateBuilder builder(u"Page");
     for (std::uint32_t i = 0; i < count; ++i) {
-        builder.add(static_cast<std::uint16_t>(i), TemplateBuilder::button, style, {});
+        builder.add(static_cast<std::uint16_t>(i), TemplateBuilder::button, 0, {});
     }
     return builder.build();
 }
 
-DialogResource resourceOf(const std::vector<std::byte>& bytes, bool hideItems = false) {
-    DialogResource resource(7, hideItems);
+DialogResource resourceOf(const std::vector<std::byte>& bytes) {
+    DialogResource resource(7, false);
     resource.load(bytes);
     return resource;
 }
@@ -60,17 +60,6 @@ TEST(DialogResourceTest, ItemsAreWholeRecordsWithTheirPadding) {
     }
 }
 
-TEST(DialogResourceTest, HidesItemsWhenAsked) {
-    const auto bytes = templateOf(2, TemplateBuilder::visible | TemplateBuilder::tabStop);
-    for (const bool hides : {false, true}) {
-        const auto parsed = DialogTemplate::read(bytesOf(resourceOf(bytes, hides)));
-        for (const auto& item : parsed->items) {
-            EXPECT_EQ((item.style & TemplateBuilder::visible) == 0, hides);
-            EXPECT_NE(item.style & TemplateBuilder::tabStop, 0U);
-        }
-    }
-}
-
 TEST(DialogResourceTest, MergingAppendsTheItemsUnderTheLeftHeader) {
     DialogResource base =
         resourceOf(TemplateBuilder(u"Base").add(1, TemplateBuilder::button, 0, {}, u"OK").build());
@@ -93,7 +82,7 @@ TEST(DialogResourceTest, MergingAppendsTheItemsUnderTheLeftHeader) {
 
 TEST(DialogResourceTest, AnEmptyLeftSideTakesOverTheRightOne) {
     DialogResource left(3, true);
-    DialogResource right = resourceOf(templateOf(2, TemplateBuilder::visible));
+    DialogResource right = resourceOf(templateOf(2));
     left + right;
     EXPECT_EQ(bytesOf(left), bytesOf(right));
     EXPECT_EQ(left.getResourceId(), 7U);

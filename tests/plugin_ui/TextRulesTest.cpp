@@ -3,6 +3,7 @@
 #include "ocore/Exceptions.h"
 #include "plugin_ui/Controls/CharacterFilter.h"
 #include "plugin_ui/Features/JobTextRules.h"
+#include "support/Rows.h"
 
 namespace zent::test {
 namespace {
@@ -109,53 +110,44 @@ TEST(NumberTextTest, StepsGoAgainstTheSign) {
 
 TEST(JobTextRulesTest, Accounts) {
     using namespace jobText;
-    struct Row {
-        const char* what;
-        CXString text;
-        AccountRule rule;
-        std::uint32_t fault;
-    };
-    const Row rows[] = {
-        {"empty", u"", {2, 3, false}, nothing},
-        {"empty though required", u"", {2, 3, true}, accountMissing},
-        {"too short", u"A", {2, 3, true}, accountTooShort},
-        {"long enough", u"AB", {2, 3, true}, nothing},
-        {"8 is let through", u"A\u0008", {0, 3, false}, nothing},
-        {"7 isn't", u"A\u0007", {0, 3, false}, accountForbidden},
-        {"nor is 9", u"A\t", {0, 3, false}, accountForbidden},
-        {"nor 31", u"A\u001F", {0, 3, false}, accountForbidden},
-        {"32 is", u"A B", {0, 3, false}, nothing},
-        {"low bits of 3", u"A\u0103", {0, 3, false}, accountForbidden},
-        {"low bits of a backslash", u"A\u00DC", {0, 3, false}, accountForbidden},
-        {"backslash", u"A\\", {0, 3, false}, accountForbidden},
-        {"quotation mark", u"\"", {0, 3, false}, accountForbidden},
-        {"last mark", u"a,b", {0, 3, false}, accountForbidden},
-        {"other marks", u"a!#$%&()=~-_.@+", {0, 3, false}, nothing},
-        {"capitals", u"AZ 09#+-/*", {0, 2, false}, nothing},
-        {"lower case", u"aZ", {0, 2, false}, accountNotCapital},
-        {"another mark", u"A_", {0, 2, false}, accountNotCapital},
-        {"no rule", u"a\\\t", {0, 1, false}, nothing},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(findFault(row.text, row.rule), row.fault) << row.what;
+    for (const auto& [what, text, rule, fault] :
+         Rows<const char*, CXString, AccountRule, std::uint32_t>{
+             {"empty", u"", {2, 3, false}, nothing},
+             {"empty though required", u"", {2, 3, true}, accountMissing},
+             {"too short", u"A", {2, 3, true}, accountTooShort},
+             {"long enough", u"AB", {2, 3, true}, nothing},
+             {"8 is let through", u"A\u0008", {0, 3, false}, nothing},
+             {"7 isn't", u"A\u0007", {0, 3, false}, accountForbidden},
+             {"nor is 9", u"A\t", {0, 3, false}, accountForbidden},
+             {"nor 31", u"A\u001F", {0, 3, false}, accountForbidden},
+             {"32 is", u"A B", {0, 3, false}, nothing},
+             {"low bits of 3", u"A\u0103", {0, 3, false}, accountForbidden},
+             {"low bits of a backslash", u"A\u00DC", {0, 3, false}, accountForbidden},
+             {"backslash", u"A\\", {0, 3, false}, accountForbidden},
+             {"quotation mark", u"\"", {0, 3, false}, accountForbidden},
+             {"last mark", u"a,b", {0, 3, false}, accountForbidden},
+             {"other marks", u"a!#$%&()=~-_.@+", {0, 3, false}, nothing},
+             {"capitals", u"AZ 09#+-/*", {0, 2, false}, nothing},
+             {"lower case", u"aZ", {0, 2, false}, accountNotCapital},
+             {"another mark", u"A_", {0, 2, false}, accountNotCapital},
+             {"no rule", u"a\\\t", {0, 1, false}, nothing},
+         }) {
+        EXPECT_EQ(findFault(text, rule), fault) << what;
     }
 }
 
 TEST(JobTextRulesTest, JobNames) {
     using namespace jobText;
-    struct Row {
-        CXString text;
-        JobNameRule rule;
-        std::uint32_t fault;
-    };
-    const Row rows[] = {
-        {u"", {4, 2, false}, nothing},          {u"", {4, 2, true}, nameMissing},
-        {u"abcd", {4, 1, true}, nothing},       {u"abcde", {4, 1, true}, nameTooLong},
-        {u"abc!", {4, 1, true}, nothing},       {u"abc!", {4, 2, true}, nameForbidden},
-        {u"abcd!", {4, 2, false}, nameTooLong},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(findFault(row.text, row.rule), row.fault) << row.text.toNarrow();
+    for (const auto& [text, rule, fault] : Rows<CXString, JobNameRule, std::uint32_t>{
+             {u"", {4, 2, false}, nothing},
+             {u"", {4, 2, true}, nameMissing},
+             {u"abcd", {4, 1, true}, nothing},
+             {u"abcde", {4, 1, true}, nameTooLong},
+             {u"abc!", {4, 1, true}, nothing},
+             {u"abc!", {4, 2, true}, nameForbidden},
+             {u"abcd!", {4, 2, false}, nameTooLong},
+         }) {
+        EXPECT_EQ(findFault(text, rule), fault) << text.toNarrow();
     }
 }
 

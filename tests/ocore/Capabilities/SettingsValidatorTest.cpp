@@ -7,6 +7,7 @@
 #include "resources/UseResourceLibrary.h"
 #include "support/ListCapabilities.h"
 #include "support/ProblemText.h"
+#include "support/Rows.h"
 
 namespace zent::test {
 namespace {
@@ -62,42 +63,41 @@ TEST_F(SettingsValidatorTest, FindsEachProblemInListOrder) {
         "value=sides] "
         "separator-sheets-supported[value=separator-sheets-type] "
         "separator-sheets-type-supported[value=slip] forms-col-supported[value=form-name]");
-    const struct {
-        const char* ticket;
-        const char* problems;
-    } rows[] = {
-        {"", ""},
-        {"copies=9 sides=one-sided !copies=99 unknown=1", "-unknown"},
-        {"copies=10 sides=two", "*copies *sides"},
-        // no "-supported" capability: accepted by name, unless the table knows a set of values
-        {"job-phone-number=text:x toner-saver=none output-bin=x job-name=name:x",
-         "*toner-saver -job-name"},
-        // members of sets go by the name of the set, and each by itself
-        {"finishings[value=enum:3 value=enum:9 value=enum:8]", "*finishings[2] *finishings[3]"},
-        {"sides[value=one-sided value=both]", "*sides[2]"},
-        // members of collections are judged by the outermost collection
-        {"media-col{media-color=white media-type=stationery media-weight-metric=1}",
-         "-media-col/media-weight-metric"},
-        {"media-col{media-size{x-dimension=32000 y-dimension=48770} media-color=name:Mine}", ""},
-        {"media-col{media-size{x-dimension=32000 y-dimension=99999}}", "*media-col/media-size"},
-        {"page-overrides[value{pages[value(lower-bound=1 upper-bound=2)] sides=both "
-         "media-col{media-color=red media-size{x-dimension=99999}}} value{sides=one-sided "
-         "media-tooth=fine finishings[value=enum:3]}]",
-         "*page-overrides[1]/sides *page-overrides[1]/media-col/media-color "
-         "*page-overrides[1]/media-col/media-size -page-overrides[2]/media-tooth "
-         "-page-overrides[2]/finishings"},
-        // an attribute that goes as a whole isn't looked into, nor is one of the user's own
-        {"insert-sheet[value{copies=99}] cover-front{copies=99}", "-insert-sheet"},
-        {"copies[value=1 value[value=99 value=2]]", "*copies[2][1]"},
-        // what collections make no sense without
-        {"separator-sheets{} finishings-col{}", "?separator-sheets/separator-sheets-type "
-                                                "-finishings-col"},
-        {"forms-col[value{form-name=name:a} value{}]", "?forms-col[2]/form-name"},
-        {"separator-sheets{separator-sheets-type=other}",
-         "*separator-sheets/separator-sheets-type"},
-    };
-    for (const auto& row : rows) {
-        EXPECT_EQ(problemsOf(capabilities, row.ticket), row.problems) << row.ticket;
+    for (const auto& [ticket, problems] : Rows<const char*, const char*>{
+             {"", ""},
+             {"copies=9 sides=one-sided !copies=99 unknown=1", "-unknown"},
+             {"copies=10 sides=two", "*copies *sides"},
+             // no "-supported" capability: accepted by name, unless the table knows a set of values
+             {"job-phone-number=text:x toner-saver=none output-bin=x job-name=name:x",
+              "*toner-saver -job-name"},
+             // members of sets go by the name of the set, and each by itself
+             {"finishings[value=enum:3 value=enum:9 value=enum:8]",
+              "*finishings[2] *finishings[3]"},
+             {"sides[value=one-sided value=both]", "*sides[2]"},
+             // members of collections are judged by the outermost collection
+             {"media-col{media-color=white media-type=stationery media-weight-metric=1}",
+              "-media-col/media-weight-metric"},
+             {"media-col{media-size{x-dimension=32000 y-dimension=48770} media-color=name:Mine}",
+              ""},
+             {"media-col{media-size{x-dimension=32000 y-dimension=99999}}",
+              "*media-col/media-size"},
+             {"page-overrides[value{pages[value(lower-bound=1 upper-bound=2)] sides=both "
+              "media-col{media-color=red media-size{x-dimension=99999}}} value{sides=one-sided "
+              "media-tooth=fine finishings[value=enum:3]}]",
+              "*page-overrides[1]/sides *page-overrides[1]/media-col/media-color "
+              "*page-overrides[1]/media-col/media-size -page-overrides[2]/media-tooth "
+              "-page-overrides[2]/finishings"},
+             // an attribute that goes as a whole isn't looked into, nor is one of the user's own
+             {"insert-sheet[value{copies=99}] cover-front{copies=99}", "-insert-sheet"},
+             {"copies[value=1 value[value=99 value=2]]", "*copies[2][1]"},
+             // what collections make no sense without
+             {"separator-sheets{} finishings-col{}", "?separator-sheets/separator-sheets-type "
+                                                     "-finishings-col"},
+             {"forms-col[value{form-name=name:a} value{}]", "?forms-col[2]/form-name"},
+             {"separator-sheets{separator-sheets-type=other}",
+              "*separator-sheets/separator-sheets-type"},
+         }) {
+        EXPECT_EQ(problemsOf(capabilities, ticket), problems) << ticket;
     }
 }
 

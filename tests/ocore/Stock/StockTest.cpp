@@ -143,10 +143,6 @@ TEST(StockTest, TellsUsersWhoseItIs) {
     stock->setKind(static_cast<StockType>(4));
     EXPECT_EQ(raised<UnknownCaseException>([&] { stock->getDisplayString(); }),
               "Stock::getDisplayString(): Unexpected stock type enumeration value of (4)!\r\n");
-
-    EXPECT_EQ(stockTypeToString(StockType::user), u"User");
-    EXPECT_EQ(matchToString(StockMatch::nextBest), u"next best");
-    EXPECT_EQ(matchToString(static_cast<StockMatch>(-1)), u"no match");
 }
 
 TEST(StockTest, IsRepairedUnlessTheUserDeclines) {
