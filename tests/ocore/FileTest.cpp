@@ -11,11 +11,7 @@ namespace {
 
 TEST(FileTest, ReadsWholeFiles) {
     const ScratchFolder folder;
-    std::string large(300'000, 'x');
-    for (std::size_t i = 0; i < large.size(); ++i) {
-        large[i] = static_cast<char>(i * 7 % 251);
-    }
-    for (const std::string& content : {std::string("a\r\n\0\x1A", 5), std::string(), large}) {
+    for (const std::string& content : {std::string("a\r\n\0\x1A", 5), std::string()}) {
         folder.write("file", content);
         ByteBuffer buffer("before", 6);
         File::read(folder.file("file"), buffer);

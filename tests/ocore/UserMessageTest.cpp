@@ -3,9 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "PrintText.h"
-#include "ocore/BoxCapture.h"
 #include "ocore/Exceptions.h"
-#include "resources/UseResourceLibrary.h"
 #include "support/Rows.h"
 
 namespace zent::test {
@@ -47,21 +45,6 @@ TEST(UserMessage, QuotesItsException) {
     EXPECT_EQ(message.getBody(), u"other\r\n\r\n025:000:0005");
     message.setBody(u"plain");
     EXPECT_EQ(message.getBody(), u"plain");
-}
-
-TEST(UserMessage, ShowsWhatItHoldsAndAnswersTheButton) {
-    useResourceLibrary();
-    BoxCapture boxes(messageAnswer::cancel);
-    UserMessage message(11606, 11607, messageStyle::okCancel, Severity::warning);
-    message.setOwner(someWindow);
-    EXPECT_EQ(message.clone()->show(), messageAnswer::cancel);
-    message.setTitle(11619);
-    message.setBody(11601);
-    message.show();
-    EXPECT_EQ(
-        boxes.shown(),
-        (std::vector<ShownBox>{{someWindow, resourceText(11607), resourceText(11606), 48U | 1U},
-                               {someWindow, resourceText(11601), resourceText(11619), 48U | 1U}}));
 }
 
 } // namespace

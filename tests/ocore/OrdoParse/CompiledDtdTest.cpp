@@ -13,6 +13,8 @@
 namespace zent::test {
 namespace {
 
+using testing::AnyOf;
+using testing::HasSubstr;
 using testing::StartsWith;
 
 const std::string copiesOnly =
@@ -35,16 +37,17 @@ protected:
     void writeDtd(const std::string& content) const { m_folder.write("ordo-v02025.dtd", content); }
     auto find() const { return CompiledDtd::find(m_folder.file("ordo-v02025.dtd")); }
 
-    /// What is read from a ticket of copies, or why it isn't.
-    static std::string readCopies() {
-        return ordoFailure([] { readOrdo(ordoTicket("<copies syntax='integer'>1</copies>")); });
+    /// Whether a ticket of copies can be read, and an empty one written: both are validated.
+    static bool isUsable() {
+        const std::string fine = "nothing was raised";
+        const std::string read =
+            ordoFailure([] { readOrdo(ordoTicket("<copies syntax='integer'>1</copies>")); });
+        const std::string written = ordoFailure([] { writeOrdo({}); });
+        EXPECT_THAT(read, AnyOf(fine, StartsWith("2: ")));
+        EXPECT_EQ(written.substr(0, 3), read.substr(0, 3));
+        return read == fine;
     }
 
-    static std::string write() {
-        return ordoFailure([] { writeOrdo({}); });
-    }
-
-    const std::string m_fine = "nothing was raised";
     ScratchFolder m_folder;
 };
 
@@ -53,8 +56,7 @@ TEST_F(CompiledDtdTest, IsKeptAsLongAsTheFileIsTheSame) {
     writeDtd(copiesOnly);
     const auto first = find();
     ASSERT_NE(first, nullptr);
-    EXPECT_EQ(find(), first);
-    EXPECT_EQ(readCopies(), m_fine);
+    EXPECT_TRUE(isUsable());
     EXPECT_EQ(find(), first);
 
     writeDtd(sidesToo);
@@ -67,40 +69,34 @@ TEST_F(CompiledDtdTest, IsKeptAsLongAsTheFileIsTheSame) {
 }
 
 TEST_F(CompiledDtdTest, WhatTheFileSaysNowCounts) {
-    EXPECT_THAT(readCopies(), StartsWith("2: "));
-    EXPECT_THAT(write(), StartsWith("2: ")) << "writing validates too";
-
+    EXPECT_FALSE(isUsable());
+    for (int i = 0; i < 2; ++i) {
+        writeDtd(copiesOnly);
+        EXPECT_TRUE(isUsable());
+        EXPECT_THAT(writeOrdo(listOf("copies=1")), HasSubstr("<copies"));
+        writeDtd("<!ELEMENT ordo (other)><!ATTLIST ordo version CDATA #IMPLIED>\n");
+        EXPECT_FALSE(isUsable());
+    }
     writeDtd(copiesOnly);
-    EXPECT_EQ(readCopies(), m_fine);
-    EXPECT_THAT(writeOrdo(listOf("copies=1")), testing::HasSubstr("<copies"));
-
-    writeDtd("<!ELEMENT ordo (other)><!ATTLIST ordo version CDATA #IMPLIED>\n");
-    EXPECT_THAT(readCopies(), StartsWith("2: "));
-    EXPECT_THAT(write(), StartsWith("2: "));
-
-    writeDtd(copiesOnly);
-    EXPECT_EQ(readCopies(), m_fine);
+    EXPECT_TRUE(isUsable());
     std::filesystem::remove(m_folder.path() / "ordo-v02025.dtd");
-    EXPECT_THAT(readCopies(), StartsWith("2: "));
-    EXPECT_THAT(write(), StartsWith("2: "));
+    EXPECT_FALSE(isUsable());
 }
 
 TEST_F(CompiledDtdTest, OneThatNeedsOtherFilesOrHasFaultsIsReadEachTime) {
     writeDtd("<!ENTITY % rest SYSTEM \"rest.ent\">%rest;");
     m_folder.write("rest.ent", copiesOnly);
     EXPECT_EQ(find(), nullptr);
-    EXPECT_EQ(readCopies(), m_fine);
+    EXPECT_TRUE(isUsable());
     m_folder.write("rest.ent", "<!ELEMENT ordo EMPTY>");
-    EXPECT_THAT(readCopies(), StartsWith("2: ")) << "a change there shows at once";
+    EXPECT_FALSE(isUsable()) << "a change there shows at once";
 
-    writeDtd(copiesOnly + "<!ELEMENT copies EMPTY>");
-    EXPECT_EQ(find(), nullptr);
-    EXPECT_THAT(readCopies(), StartsWith("2: "));
-
-    writeDtd("nonsense");
-    EXPECT_EQ(find(), nullptr);
-    EXPECT_THAT(readCopies(), StartsWith("2: "));
-    EXPECT_THAT(write(), StartsWith("2: "));
+    for (const std::string& faulty :
+         {copiesOnly + "<!ELEMENT copies EMPTY>", std::string("nonsense")}) {
+        writeDtd(faulty);
+        EXPECT_EQ(find(), nullptr);
+        EXPECT_FALSE(isUsable());
+    }
 }
 
 TEST_F(CompiledDtdTest, DocumentsMayNameAnotherOneInTheFolder) {
@@ -111,7 +107,7 @@ TEST_F(CompiledDtdTest, DocumentsMayNameAnotherOneInTheFolder) {
         EXPECT_EQ(textOfList(readOrdo("<!DOCTYPE ordo SYSTEM 'other.dtd'>"
                                       "<ordo><copies>3</copies></ordo>")),
                   "copies=3");
-        EXPECT_EQ(readCopies(), m_fine);
+        EXPECT_TRUE(isUsable());
     }
 }
 
