@@ -82,30 +82,6 @@ TEST(TicketCallsTest, ATicketIsWrittenAsPrintersExpectIt) {
     EXPECT_EQ(sizeOf(other, other.ticket()), "21000x29700");
 }
 
-TEST(TicketCallsTest, EveryFeatureThatIsSetComesBack) {
-    const Session session;
-    const ZentSessionType s = session.handle();
-    const TarvoJtSettingsType t = session.ticket();
-    session.setString("job-name", " <A & \"B\"> ");
-    session.setString("save-location", "file:x");
-    session.setString("form-save-format", "application/pdf");
-    session.setNumber("finishings", 20);
-    session.setNumber("finishings", 1000, 1);
-    session.setString("media-type", "handmade");
-    fnSetResolutionValue(s, t, ZT("printer-resolution"), 600, 300, 3, 0);
-    fnSetStringValue(s, t, ZT("job-account-id"),
-                     std::basic_string<ZentChar>{0x00E4, 0x20AC, 0xD83D, 0xDDA8}.c_str(), 0);
-    const std::string xml = session.exported();
-    EXPECT_THAT(xml, testing::HasSubstr("\xC3\xA4\xE2\x82\xAC\xF0\x9F\x96\xA8"));
-    const Session other;
-    other.import(xml);
-    EXPECT_EQ(other.exported(), xml);
-    EXPECT_EQ(stringOf(other, other.ticket(), "job-name"), " <A & \"B\"> ");
-    EXPECT_EQ(stringOf(other, other.ticket(), "save-location"), "file:x");
-    EXPECT_EQ(numberOf(other, other.ticket(), "finishings", 1), "1000");
-    EXPECT_EQ(resolutionOf(other, other.ticket(), "printer-resolution"), "600x300/3");
-}
-
 TEST(TicketCallsTest, AnImportReplacesTheTicketAndNormalizesIt) {
     const Session session;
     session.setString("job-name", "old");
@@ -126,12 +102,6 @@ TEST(TicketCallsTest, AnImportReplacesTheTicketAndNormalizesIt) {
     ZentBool empty = 0;
     EXPECT_EQ(fnIsEmpty(session.handle(), session.ticket(), &empty), ZENT_OK);
     EXPECT_EQ(empty, 1);
-    for (const std::uint32_t mode : {2U, 3U, 4U, 5U}) {
-        const Imported imported = import(session, copiesDocument(5), 1, mode);
-        EXPECT_EQ(imported.result, ZENT_OK);
-        EXPECT_EQ(imported.problems, 0);
-        EXPECT_EQ(imported.applied, 1);
-    }
 }
 
 TEST(TicketCallsTest, AFailedImportLeavesTheSessionAlone) {

@@ -81,49 +81,41 @@ TEST(PeResourceReader, FindsResourcesInBothFormats) {
 
 TEST(PeResourceReader, RefusesFilesThatAreBrokenAtTheTop) {
     const PeImage image = sample(true);
-    const struct {
-        const char* what;
-        void (*damage)(File& file, const PeImage& image);
-    } rows[] = {
-        {"no DOS signature", [](File& f, const PeImage&) { put16(f, 0, 0x5A4E); }},
-        {"PE header outside", [](File& f, const PeImage&) { put32(f, 0x3C, 0xFFFFFFF0); }},
-        {"no PE signature", [](File& f, const PeImage&) { put32(f, 0x3C, 0x44); }},
-        {"unknown format",
-         [](File& f, const PeImage&) { put16(f, PeImage::optionalHeader, 0x107); }},
-        {"optional header too short for the directory",
-         [](File& f, const PeImage&) { put16(f, PeImage::coffHeader + 16, 112 + 23); }},
-        {"optional header up to the end",
-         [](File& f, const PeImage&) { put16(f, PeImage::coffHeader + 16, 0xFFFF); }},
-        {"too few directories",
-         [](File& f, const PeImage& i) { put32(f, i.directories() - 4, 2); }},
-        {"no resource directory",
-         [](File& f, const PeImage& i) { put32(f, i.directories() + 16, 0); }},
-        {"resource directory in no section",
-         [](File& f, const PeImage& i) { put32(f, i.directories() + 16, 0xFFFFFFFF); }},
-        {"resource directory at the section's end",
-         [](File& f, const PeImage& i) {
-             put32(f, i.directories() + 16,
-                   PeImage::resourceAddress + static_cast<std::uint32_t>(f.size()) -
-                       PeImage::resources - 15);
-         }},
-        {"more sections than fit",
-         [](File& f, const PeImage&) { put16(f, PeImage::coffHeader + 2, 0xFFFF); }},
-        {"no section", [](File& f, const PeImage&) { put16(f, PeImage::coffHeader + 2, 0); }},
-        {"section outside the file",
-         [](File& f, const PeImage& i) { put32(f, i.sectionHeader() + 20, 0xFFFFFF00); }},
-        {"section longer than the file",
-         [](File& f, const PeImage& i) {
-             put32(f, i.sectionHeader() + 8, 0xFFFFFFFF);
-             put32(f, i.sectionHeader() + 16, 0xFFFFFFFF);
-         }},
-        {"section empty in the file",
-         [](File& f, const PeImage& i) { put32(f, i.sectionHeader() + 16, 0); }},
-    };
-    for (const auto& row : rows) {
-        File file = image.build();
-        row.damage(file, image);
-        EXPECT_FALSE(open(file)) << row.what;
+    const File whole = image.build();
+    constexpr std::size_t countOfSections = PeImage::coffHeader + 2;
+    constexpr std::size_t sizeOfOptionalHeader = PeImage::coffHeader + 16;
+    const std::size_t countOfDirectories = image.directories() - 4;
+    const std::size_t resourceDirectory = image.directories() + 16;
+    const std::size_t sizeInFile = image.sectionHeader() + 16;
+    const std::size_t placeInFile = image.sectionHeader() + 20;
+    const auto endOfSection =
+        PeImage::resourceAddress + static_cast<std::uint32_t>(whole.size()) - PeImage::resources;
+    for (const auto& [what, put, place, value] :
+         test::Rows<const char*, decltype(&put16), std::size_t, std::uint32_t>{
+             {"no DOS signature", put16, 0, 0x5A4E},
+             {"PE header outside", put32, 0x3C, 0xFFFFFFF0},
+             {"no PE signature", put32, 0x3C, 0x44},
+             {"unknown format", put16, PeImage::optionalHeader, 0x107},
+             {"optional header too short for the directory", put16, sizeOfOptionalHeader, 112 + 23},
+             {"optional header up to the end", put16, sizeOfOptionalHeader, 0xFFFF},
+             {"too few directories", put32, countOfDirectories, 2},
+             {"no resource directory", put32, resourceDirectory, 0},
+             {"resource directory in no section", put32, resourceDirectory, 0xFFFFFFFF},
+             {"resource directory at the section's end", put32, resourceDirectory,
+              endOfSection - 15},
+             {"more sections than fit", put16, countOfSections, 0xFFFF},
+             {"no section", put16, countOfSections, 0},
+             {"section outside the file", put32, placeInFile, 0xFFFFFF00},
+             {"section empty in the file", put32, sizeInFile, 0},
+         }) {
+        File file = whole;
+        put(file, place, value);
+        EXPECT_FALSE(open(file)) << what;
     }
+    File tooLong = whole;
+    put32(tooLong, image.sectionHeader() + 8, 0xFFFFFFFF);
+    put32(tooLong, sizeInFile, 0xFFFFFFFF);
+    EXPECT_FALSE(open(tooLong)) << "section longer than the file";
 }
 
 TEST(PeResourceReader, FindsNothingWhereTheTreeIsBroken) {

@@ -82,7 +82,7 @@ TEST_F(DialogTest, AFailureIsReportedAndTheDialogGoesOn) {
     m_dialog.setTitle(u"Titled");
     const BoxCapture boxes;
     m_windows.onceOpen([&](Window window) {
-        EXPECT_EQ(m_windows.caption(window), u"Titled");
+        EXPECT_EQ(m_windows.getCaption(window), u"Titled");
         m_windows.click(window, button);
         ASSERT_EQ(boxes.shown().size(), 1U);
         EXPECT_EQ(boxes.shown()[0].owner, window);

@@ -98,8 +98,6 @@ std::vector<std::uint16_t> FakeWindowSystem::shownItems(Window dialog) {
     return shown;
 }
 
-std::u16string FakeWindowSystem::caption(Window dialog) { return findDialog(dialog)->caption; }
-
 // ---- The user's acts ----------------------------------------------------------------------------
 
 void FakeWindowSystem::onceOpen(std::function<void(Window)> acts) {
@@ -175,8 +173,10 @@ void FakeWindowSystem::slide(Window dialog, Id id, std::int32_t position) {
 
 // ---- Dialogs ------------------------------------------------------------------------------------
 
-FakeWindowSystem::Dialog& FakeWindowSystem::make(std::span<const std::byte> dialogTemplate,
-                                                 platform::DialogProcedure& procedure) {
+FakeWindowSystem::Window
+FakeWindowSystem::createModeless(std::span<const std::byte> dialogTemplate,
+                                 const platform::ResourceModule& /*resources*/, Window /*owner*/,
+                                 platform::DialogProcedure& procedure) {
     constexpr std::uint32_t visible = 0x10000000;
     constexpr std::uint32_t disabled = 0x08000000;
     const auto parsed = DialogTemplate::read(dialogTemplate);
@@ -197,23 +197,18 @@ FakeWindowSystem::Dialog& FakeWindowSystem::make(std::span<const std::byte> dial
         made.text = textOf(item.title);
         dialog->items.push_back(std::move(made));
     }
+    Window const window = dialog.get();
     m_dialogs.push_back(std::move(dialog));
-    return *m_dialogs.back();
-}
-
-FakeWindowSystem::Window FakeWindowSystem::open(std::span<const std::byte> dialogTemplate,
-                                                platform::DialogProcedure& procedure) {
-    Dialog& dialog = make(dialogTemplate, procedure);
-    send(&dialog, event::initDialog, 0, 0);
-    return &dialog;
+    send(window, event::initDialog, 0, 0);
+    return window;
 }
 
 std::intptr_t FakeWindowSystem::runModal(std::span<const std::byte> dialogTemplate,
-                                         const platform::ResourceModule& /*resources*/,
-                                         Window /*owner*/, platform::DialogProcedure& procedure) {
+                                         const platform::ResourceModule& resources, Window owner,
+                                         platform::DialogProcedure& procedure) {
     const auto acts = m_acts.empty() ? [](Window) {} : m_acts.front();
     m_acts.erase(m_acts.begin(), m_acts.begin() + (m_acts.empty() ? 0 : 1));
-    Window const window = open(dialogTemplate, procedure);
+    Window const window = createModeless(dialogTemplate, resources, owner, procedure);
     acts(window);
     const Dialog& dialog = *findDialog(window);
     const std::intptr_t value = dialog.isEnded ? dialog.value : 0;

@@ -31,7 +31,6 @@ public:
         bool isChecked = false;
         std::u16string text;
         std::u16string toolTip;
-        std::uint32_t limit = 0;
         platform::CharacterFilter filter;
         std::vector<std::pair<std::u16string, std::uintptr_t>> list;
         std::int32_t selected = -1;
@@ -47,8 +46,6 @@ public:
     /// What the user does once the next modal dialog is open; several run for one dialog each, in
     /// order. A dialog for which there is nothing to do is cancelled.
     void onceOpen(std::function<void(Window)> acts);
-    /// A dialog opened by hand around a procedure, for items of any kind.
-    Window open(std::span<const std::byte> dialogTemplate, platform::DialogProcedure& procedure);
 
     // The user's acts. What is hidden or disabled can't be acted on.
     void type(Window dialog, Id id, std::u16string_view text);
@@ -62,7 +59,6 @@ public:
     const FakeItem& item(Window dialog, Id id) { return at(dialog, id); }
     /// Of all items that are shown.
     std::vector<std::uint16_t> shownItems(Window dialog);
-    std::u16string caption(Window dialog);
     /// How often the dialogs have told of a change.
     std::size_t changesReported() const { return m_changesReported; }
     /// What was drawn last.
@@ -73,10 +69,8 @@ public:
                            const platform::ResourceModule& resources, Window owner,
                            platform::DialogProcedure& procedure) override;
     Window createModeless(std::span<const std::byte> dialogTemplate,
-                          const platform::ResourceModule& /*resources*/, Window /*owner*/,
-                          platform::DialogProcedure& procedure) override {
-        return open(dialogTemplate, procedure);
-    }
+                          const platform::ResourceModule& resources, Window owner,
+                          platform::DialogProcedure& procedure) override;
     void endDialog(Window dialog, std::intptr_t value) override;
     void destroyDialog(Window dialog) override;
     std::intptr_t send(Window dialog, std::uint32_t message, std::uintptr_t wParam,
@@ -112,9 +106,7 @@ public:
     }
     void setNumber(Window dialog, Id id, std::int32_t number, bool isSigned) override;
     std::int32_t getNumber(Window dialog, Id id, bool isSigned) override;
-    void setTextLimit(Window dialog, Id id, std::uint32_t units) override {
-        at(dialog, id).limit = units;
-    }
+    void setTextLimit(Window /*dialog*/, Id /*id*/, std::uint32_t /*units*/) override {}
     void setCharacterFilter(Window dialog, Id id, platform::CharacterFilter filter) override {
         at(dialog, id).filter = std::move(filter);
     }
@@ -201,7 +193,6 @@ private:
     /// One of no dialog's if it isn't there: what is done to it doesn't matter.
     FakeItem& at(Window dialog, Id id);
     std::pair<std::u16string, std::uintptr_t>& entry(Window dialog, Id id, std::int32_t index);
-    Dialog& make(std::span<const std::byte> dialogTemplate, platform::DialogProcedure& procedure);
     void command(Window dialog, Id id, std::uint32_t notification);
     void changeText(Window dialog, FakeItem& item, std::u16string_view text);
 
