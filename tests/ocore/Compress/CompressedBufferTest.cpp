@@ -77,7 +77,8 @@ TEST(CompressedBufferTest, DamageIsFound) {
         {"rubbish" + std::string("\0\0\0\x05", 4) + "COMP", "(Z_DATA_ERROR) from uncompress()"},
     };
     for (const auto& [damaged, part] : rows) {
-        EXPECT_THAT(raised<CompressionException>([&] { expanded(damaged); }), HasSubstr(part));
+        EXPECT_THAT(raised<CompressionException>([&bytes = damaged] { expanded(bytes); }),
+                    HasSubstr(part));
     }
 }
 
@@ -96,7 +97,8 @@ TEST(CompressedBufferTest, AStreamOfUnknownSizeIsExpandedWithinBounds) {
         {"", "deflate()"},
     };
     for (const auto& [stream, part] : rows) {
-        EXPECT_THAT(raised<CompressionException>([&] { expand(stream); }), HasSubstr(part));
+        EXPECT_THAT(raised<CompressionException>([&, &bytes = stream] { expand(bytes); }),
+                    HasSubstr(part));
     }
 }
 
