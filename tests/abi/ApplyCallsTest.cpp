@@ -4,6 +4,7 @@
 #include "abi/MessageBoxes.h"
 #include "abi/Session.h"
 #include "abi/ZentLiteral.h"
+#include "support/Rows.h"
 
 namespace zent::test {
 namespace {
@@ -94,30 +95,27 @@ TEST(ApplyCallsTest, AnImportIsRepairedKeptOrRefused) {
     askTooMuch(source);
     const std::string tickets[] = {source.exported(ZENT_FORMAT_XML),
                                    source.exported(ZENT_FORMAT_STATE)};
-    struct Row {
-        std::uint32_t mode;
-        ZentBool applied;
-        const char* mediaType;
-    };
-    const Row rows[] = {
-        {1, 1, "stationery"}, {2, 1, "handmade"},   {3, 1, "stationery"},
-        {4, 0, "none"},       {5, 1, "stationery"},
-    };
     const MessageBoxes boxes;
-    for (const Row& row : rows) {
+    for (const auto& [mode, isApplied, mediaType] : Rows<std::uint32_t, ZentBool, const char*>{
+             {1, 1, "stationery"},
+             {2, 1, "handmade"},
+             {3, 1, "stationery"},
+             {4, 0, "none"},
+             {5, 1, "stationery"},
+         }) {
         for (const std::uint32_t format : {ZENT_FORMAT_XML, ZENT_FORMAT_STATE}) {
-            SCOPED_TRACE(std::to_string(row.mode) + " " + std::to_string(format));
+            SCOPED_TRACE(std::to_string(mode) + " " + std::to_string(format));
             const std::string& data = tickets[format - 1];
             const Session session;
             ZentBool problems = 7;
             ZentBool applied = 7;
             EXPECT_EQ(fnImportJobTicket(session.handle(), data.data(),
-                                        static_cast<std::uint32_t>(data.size()), format, row.mode,
+                                        static_cast<std::uint32_t>(data.size()), format, mode,
                                         nullptr, ZT(""), &problems, &applied),
                       ZENT_OK);
             EXPECT_EQ(problems, 1);
-            EXPECT_EQ(applied, row.applied);
-            EXPECT_EQ(stringOf(session, session.ticket(), "media-type"), row.mediaType);
+            EXPECT_EQ(applied, isApplied);
+            EXPECT_EQ(stringOf(session, session.ticket(), "media-type"), mediaType);
         }
     }
 }

@@ -87,10 +87,6 @@ TEST_F(PreferenceCallsTest, WellKnownPreferencesKeepTheirType) {
     EXPECT_EQ(fnGetPreferenceBoolValue(s, ZT("TOOL_BAR_PREFERENCE"), &truth, 1),
               ZENT_ERR_PREFERENCE_TYPE);
     EXPECT_EQ(truth, 7);
-    EXPECT_EQ(fnSetPreferenceStringValue(s, ZT("TOOL_BAR_PREFERENCE"), ZT("1")),
-              ZENT_ERR_PREFERENCE_TYPE);
-    EXPECT_EQ(fnGetPreferenceNumberValue(s, ZT("IMAGE_SHIFT_UNIT_PREFERENCE"), &value, 2), ZENT_OK);
-    EXPECT_EQ(value, 2);
     // A free one is of any type, but what is stored has to make sense as what is asked for.
     EXPECT_EQ(fnSetPreferenceDataValue(s, ZT("MINE"), "x", 1), ZENT_OK);
     EXPECT_EQ(fnGetPreferenceNumberValue(s, ZT("MINE"), &value, 3), ZENT_ERR_INTERNAL_OTHER);

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include "ocore/Stock/StockList.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/Raised.h"
 
@@ -117,18 +116,6 @@ TEST_F(CapabilitiesTest, SizesEndInOther) {
     ASSERT_FALSE(sizes.empty());
     EXPECT_EQ(sizes.back().getSize(), StockSize::codeOther);
     EXPECT_EQ(of("").getStockSizeLimits().highestHeight, 36320);
-}
-
-TEST_F(CapabilitiesTest, EachPrinterReportsItsStocks) {
-    EXPECT_EQ(of("").getPrinterStocks()->getCount(), 0U);
-    for (const ModelInfo& model : getModelTable()) {
-        const Capabilities capabilities(PrinterModel(model.model, 2), 1);
-        const auto stocks = capabilities.getPrinterStocks();
-        EXPECT_GE(stocks->getCount(), 4U) << model.model;
-        EXPECT_EQ(stocks->getStockAt(0).getKind(), StockType::printer);
-        EXPECT_EQ(stocks->getStockAt(0).getSource(), StockSource::description);
-        EXPECT_TRUE(stocks->getStockAt(0).hasKey());
-    }
 }
 
 } // namespace

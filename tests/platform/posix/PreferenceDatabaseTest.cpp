@@ -19,6 +19,7 @@
 #include "platform/PreferenceStore.h"
 #include "platform/posix/Environment.h"
 #include "support/Raised.h"
+#include "support/Rows.h"
 
 namespace zent::platform {
 namespace {
@@ -148,31 +149,27 @@ TEST_F(PreferenceDatabaseTest, FailsClearlyWhenBroken) {
     noTree[100] = '\x7F';
     std::string laterFormat = sound;
     laterFormat[47] = 9;
-    const struct {
-        std::string content;
-        const char* error;
-    } rows[] = {
-        {std::string(5000, 'x'), "26 (0x1a)"},
-        {"short", "26 (0x1a)"},
-        {std::string(sound).replace(0, 6, "sqlite"), "26 (0x1a)"},
-        {noTree, "11 (0xb)"},
-        {sound.substr(0, 600), "11 (0xb)"},
-        {laterFormat, "1 (0x1)"},
-    };
     const Registry registry{};
-    for (const auto& row : rows) {
-        writeFile(row.content);
+    for (const auto& [content, error] : test::Rows<std::string, const char*>{
+             {std::string(5000, 'x'), "26 (0x1a)"},
+             {"short", "26 (0x1a)"},
+             {std::string(sound).replace(0, 6, "sqlite"), "26 (0x1a)"},
+             {noTree, "11 (0xb)"},
+             {sound.substr(0, 600), "11 (0xb)"},
+             {laterFormat, "1 (0x1)"},
+         }) {
+        writeFile(content);
         EXPECT_EQ(
             test::raised<RegistryRequestException>([&] { registry.getLongValue(key, u"name", 5); }),
             std::string("Registry::getValue(): Call to RegQueryValueEx(name) failed with "
                         "result of ") +
-                row.error + ".\r\n");
+                error + ".\r\n");
         EXPECT_EQ(
             test::raised<RegistryRequestException>([&] { registry.setLongValue(key, u"name", 5); }),
             std::string("Registry::setValue(): Call to RegCreateKeyEx(a\\key) failed with "
                         "result of ") +
-                row.error + ".\r\n");
-        EXPECT_EQ(contentOf(m_file), row.content) << "is left as it was";
+                error + ".\r\n");
+        EXPECT_EQ(contentOf(m_file), content) << "is left as it was";
     }
     EXPECT_EQ(RegistryRequestException(CXString()).getResultCode(), ResultCode{21});
 }
