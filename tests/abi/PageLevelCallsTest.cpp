@@ -91,15 +91,6 @@ TEST_F(PageLevelCallsTest, ATicketMayBecomeAPageOfItself) {
     EXPECT_EQ(copiesOf("cover-front", 0), "3");
     EXPECT_EQ(copiesOf("page-overrides", 0), "3");
     EXPECT_EQ(rangeOf(session, t, "input-documents"), "1..1"); // shaped as the source
-    // The copy was taken before the override came in.
-    TarvoJtSettingsType page = nullptr;
-    EXPECT_EQ(fnCreateTarvoJtSettingsFromPageLevelFeature(s, t, ZT("page-overrides"), 0, &page),
-              ZENT_OK);
-    EXPECT_EQ(countOf(session, page, "page-overrides"), "0");
-    EXPECT_EQ(countOf(session, page, "cover-front"), "1");
-    EXPECT_EQ(setPage(page, "cover-back", 0, t), ZENT_OK);
-    session.release(page);
-    EXPECT_EQ(countOf(session, t, "cover-back"), "0");
 }
 
 TEST_F(PageLevelCallsTest, WrongFeaturesAreRefused) {
