@@ -142,30 +142,23 @@ TEST_F(FeaturesTest, AValueOfTheUsersOwnIsAskedFor) {
                                 u"Printer default|White|Red|Custom\u2026|[pink (custom)]");
                   }),
               pink);
+    const auto typeOwn = [&](std::u16string_view text, std::u16string_view offered) {
+        return run("", [&](Window window) {
+            m_windows.onceOpen([&](Window asking) {
+                m_windows.type(asking, customEdit, text);
+                m_windows.click(asking, ok);
+            });
+            m_windows.choose(window, combo, 3);
+            EXPECT_EQ(choices(window), offered);
+        });
+    };
     // A text is taken within the printer's limits: 27 characters, no blanks.
-    EXPECT_EQ(
-        run("",
-            [&](Window window) {
-                m_windows.onceOpen([&](Window asking) {
-                    m_windows.type(asking, customEdit, u"sky blue 2 " + std::u16string(30, u'x'));
-                    m_windows.click(asking, ok);
-                });
-                m_windows.choose(window, combo, 3);
-                EXPECT_EQ(choices(window),
-                          u"Printer default|White|Red|Custom\u2026|[skyblue2xxxxxxxxxxxxxxxxxxx "
-                          "(custom)]");
-            }),
-        "media-col{media-color=name:skyblue2xxxxxxxxxxxxxxxxxxx}");
+    EXPECT_EQ(typeOwn(u"sky blue 2 " + std::u16string(30, u'x'),
+                      u"Printer default|White|Red|Custom\u2026|[skyblue2xxxxxxxxxxxxxxxxxxx "
+                      "(custom)]"),
+              "media-col{media-color=name:skyblue2xxxxxxxxxxxxxxxxxxx}");
     // One that names a value of the printer is that one.
-    EXPECT_EQ(run("",
-                  [&](Window window) {
-                      m_windows.onceOpen([&](Window asking) {
-                          m_windows.type(asking, customEdit, u"red");
-                          m_windows.click(asking, ok);
-                      });
-                      m_windows.choose(window, combo, 3);
-                      EXPECT_EQ(choices(window), u"Printer default|White|[Red]|Custom\u2026");
-                  }),
+    EXPECT_EQ(typeOwn(u"red", u"Printer default|White|[Red]|Custom\u2026"),
               "media-col{media-color=red}");
 }
 
