@@ -126,7 +126,7 @@ void CXString::assignNarrow(std::string_view narrow) {
     if (std::all_of(narrow.begin(), narrow.end(), isAscii)) {
         // The same in every ANSI code page, and what nearly all narrow texts are.
         clear();
-        if (narrow.size() > 0) {
+        if (!narrow.empty()) {
             makePrivate(narrow.size());
             std::copy(narrow.begin(), narrow.end(), m_text);
             block()->setLength(narrow.size());
@@ -288,13 +288,14 @@ void CXString::trim() {
 CXString replaceAll(const CXString& source, std::u16string_view search,
                     std::u16string_view replacement) {
     const std::u16string_view text = source.view();
-    std::size_t match = search.empty() ? text.npos : text.find(search);
-    if (match == text.npos || replacement.find(search) != text.npos) {
+    std::size_t match = search.empty() ? std::u16string_view::npos : text.find(search);
+    if (match == std::u16string_view::npos ||
+        replacement.find(search) != std::u16string_view::npos) {
         return source;
     }
     CXString result;
     std::size_t done = 0;
-    for (; match != text.npos; match = text.find(search, done)) {
+    for (; match != std::u16string_view::npos; match = text.find(search, done)) {
         result += text.substr(done, match - done);
         result += replacement;
         done = match + search.size();

@@ -32,7 +32,7 @@ std::string generalWithZeros(double number, std::size_t precision) {
 }
 
 void ensurePoint(std::string& text) {
-    if (text.find('.') == text.npos) {
+    if (text.find('.') == std::string::npos) {
         text.insert(std::min(text.find('e'), text.size()), 1, '.');
     }
 }

@@ -49,7 +49,7 @@ void toUpper(std::string& ascii) {
 }
 
 std::string digitsOf(std::uint64_t number, int base) {
-    std::array<char, 24> digits; // 22 octal digits at most
+    std::array<char, 24> digits{}; // 22 octal digits at most
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number, base).ptr;
     return {digits.data(), end};
 }
@@ -96,7 +96,7 @@ std::optional<FormatSpecifier> FormatSpecifier::parse(std::u16string_view& rest,
     }
     specifier.parseSizes(rest);
     constexpr std::u16string_view conversions = u"cCdiuoxXeEfgGpsSn%";
-    if (rest.empty() || conversions.find(rest.front()) == conversions.npos) {
+    if (rest.empty() || conversions.find(rest.front()) == std::u16string_view::npos) {
         return std::nullopt;
     }
     specifier.m_conversion = rest.front();

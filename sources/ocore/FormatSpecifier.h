@@ -69,7 +69,7 @@ private:
     template <typename Unit>
     struct Field {
         std::string_view prefix; // sign or base
-        std::size_t zeros;       // between prefix and body
+        std::size_t zeros = 0;   // between prefix and body
         std::basic_string_view<Unit> body;
     };
     template <typename Unit>

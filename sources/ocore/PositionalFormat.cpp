@@ -24,7 +24,7 @@ bool takeForm(std::u16string_view& rest, std::u16string_view& form) {
         return true;
     }
     const std::size_t end = rest.find(u'!', 1);
-    if (end == rest.npos) {
+    if (end == std::u16string_view::npos) {
         return false;
     }
     form = rest.substr(1, end - 1);

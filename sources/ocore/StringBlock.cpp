@@ -55,7 +55,7 @@ StringBlock* StringBlock::allocate(std::size_t capacity) {
     if (capacity > maximumCapacity) {
         throw std::bad_alloc();
     }
-    void* memory;
+    void* memory = nullptr;
     if (usesPools && capacity <= largestPooled) {
         const std::size_t classIndex = classOfCapacity[capacity];
         capacity = poolCapacities[classIndex];

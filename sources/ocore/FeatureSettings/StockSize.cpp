@@ -11,8 +11,8 @@
 namespace zent {
 
 struct StockSize::Row {
-    std::uint32_t code;
     const char16_t* name;
+    std::uint32_t code;
     std::int32_t width;
     std::int32_t height;
     std::uint32_t displayStringID;
@@ -21,21 +21,21 @@ struct StockSize::Row {
 // Two sizes alone are wider than high; a search gives them in that orientation.
 // clang-format off
 constexpr StockSize::Row StockSize::rows[] = {
-    { 1, u"SIZE_UNSPECIFIED", 0, 0, 7279},
-    { 2, u"SIZE_8PT5x11", 21600, 27900, 7265},
-    { 3, u"SIZE_8PT5x14", 21600, 35600, 7266},
-    { 4, u"SIZE_17x11", 43200, 27900, 7267},
-    { 5, u"SIZE_9x11", 22900, 27900, 7268},
-    { 6, u"SIZE_8PT5x13", 21600, 33000, 7270},
-    { 7, u"SIZE_223x297", 22300, 29700, 7271},
-    { 8, u"SIZE_A4", 21000, 29700, 7272},
-    { 9, u"SIZE_A3", 42000, 29700, 7273},
-    {10, u"SIZE_ISO_B4", 25000, 35300, 7274},
-    {11, u"SIZE_JIS_B4", 25700, 36400, 7275},
-    {12, u"SIZE_12x18_IN", 30500, 45700, 7382},
-    {13, u"SIZE_SRA3_320x450_MM", 32000, 45000, 7383},
-    {14, u"SIZE_B3_353x500_MM", 35300, 50000, 7384},
-    {15, u"SIZE_OTHER", -1, -1, 7278},
+    {u"SIZE_UNSPECIFIED", 1, 0, 0, 7279},
+    {u"SIZE_8PT5x11", 2, 21600, 27900, 7265},
+    {u"SIZE_8PT5x14", 3, 21600, 35600, 7266},
+    {u"SIZE_17x11", 4, 43200, 27900, 7267},
+    {u"SIZE_9x11", 5, 22900, 27900, 7268},
+    {u"SIZE_8PT5x13", 6, 21600, 33000, 7270},
+    {u"SIZE_223x297", 7, 22300, 29700, 7271},
+    {u"SIZE_A4", 8, 21000, 29700, 7272},
+    {u"SIZE_A3", 9, 42000, 29700, 7273},
+    {u"SIZE_ISO_B4", 10, 25000, 35300, 7274},
+    {u"SIZE_JIS_B4", 11, 25700, 36400, 7275},
+    {u"SIZE_12x18_IN", 12, 30500, 45700, 7382},
+    {u"SIZE_SRA3_320x450_MM", 13, 32000, 45000, 7383},
+    {u"SIZE_B3_353x500_MM", 14, 35300, 50000, 7384},
+    {u"SIZE_OTHER", 15, -1, -1, 7278},
 };
 // clang-format on
 

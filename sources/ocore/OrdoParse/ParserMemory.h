@@ -19,6 +19,7 @@ namespace zent {
 // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): what is handed out needs no zeros
 class ParserMemory final : public xercesc::MemoryManager {
 public:
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the same
     ParserMemory() = default;
     ~ParserMemory() override;
     ParserMemory(const ParserMemory&) = delete;

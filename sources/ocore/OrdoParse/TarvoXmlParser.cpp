@@ -90,7 +90,7 @@ std::shared_ptr<const CompiledDtd> TarvoXmlParser::findDtd() const {
 }
 
 void TarvoXmlParser::parse(std::span<const std::byte> bytes,
-                           std::shared_ptr<const CompiledDtd> dtd) {
+                           const std::shared_ptr<const CompiledDtd>& dtd) {
     m_reporter.resetErrors();
     m_document.emplace();
     if (bytes.size() > xmlLimits::documentBytes) {
@@ -99,7 +99,7 @@ void TarvoXmlParser::parse(std::span<const std::byte> bytes,
                      bytes);
     }
     try {
-        runParser(bytes, std::move(dtd));
+        runParser(bytes, dtd);
     } catch (const XmlTreeBuilder::Refusal&) {
         // The reason has been reported.
     } catch (const xercesc::XMLException& exception) {
@@ -117,7 +117,7 @@ void TarvoXmlParser::parse(std::span<const std::byte> bytes,
 }
 
 void TarvoXmlParser::runParser(std::span<const std::byte> bytes,
-                               std::shared_ptr<const CompiledDtd> dtd) {
+                               const std::shared_ptr<const CompiledDtd>& dtd) {
     xercesc::SecurityManager limits;
     limits.setEntityExpansionLimit(xmlLimits::entityExpansions);
     DtdFolder folder(m_validate ? m_streamName : CXString(), dtd);

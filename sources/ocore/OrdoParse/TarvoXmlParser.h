@@ -46,8 +46,8 @@ public:
 
 private:
     std::shared_ptr<const CompiledDtd> findDtd() const;
-    void parse(std::span<const std::byte> bytes, std::shared_ptr<const CompiledDtd> dtd);
-    void runParser(std::span<const std::byte> bytes, std::shared_ptr<const CompiledDtd> dtd);
+    void parse(std::span<const std::byte> bytes, const std::shared_ptr<const CompiledDtd>& dtd);
+    void runParser(std::span<const std::byte> bytes, const std::shared_ptr<const CompiledDtd>& dtd);
 
     CXString m_streamName;
     bool m_validate;

@@ -41,6 +41,7 @@ std::u16string withAllowedOnly(std::u16string_view text) {
 
 } // namespace
 
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): what is collected is written first
 XmlWriter::XmlWriter(XMLFormatter& formatter, bool formatted)
     : m_formatter(formatter),
       // UTF-8 has every character. To have the formatter ask for each costs as much as the rest.
