@@ -8,11 +8,6 @@ namespace {
 
 constexpr std::uint32_t templateId = 4000;
 
-namespace text {
-constexpr std::uint32_t notice = 11541;
-constexpr std::uint32_t question = 11553;
-} // namespace text
-
 namespace item {
 constexpr std::uint16_t agree = 1;
 constexpr std::uint16_t refuse = 2; // stands alone, for agreeing, where there is no choice
@@ -22,11 +17,9 @@ constexpr std::uint16_t label = 4002;
 
 } // namespace
 
-PrinterLimitationsDialog::PrinterLimitationsDialog(const CXString& title, const CXString& report,
-                                                   bool offersChoice)
-    : m_title(title),
-      m_label(ResourceLibrary().getString(offersChoice ? text::question : text::notice)),
-      m_report(report), m_offersChoice(offersChoice) {}
+PrinterLimitationsDialog::PrinterLimitationsDialog(const CXString& title, const CXString& label,
+                                                   const CXString& report, bool offersChoice)
+    : m_title(title), m_label(label), m_report(report), m_offersChoice(offersChoice) {}
 
 std::intptr_t PrinterLimitationsDialog::run(platform::WindowSystem& system,
                                             platform::WindowHandle owner) {

@@ -13,8 +13,10 @@ public:
     static constexpr std::intptr_t agreed = 1;
     static constexpr std::intptr_t refused = 2;
 
-    /// `offersChoice`: whether the user may refuse. Otherwise there is one button, to agree.
-    PrinterLimitationsDialog(const CXString& title, const CXString& report, bool offersChoice);
+    /// `label` stands above the report. `offersChoice`: whether the user may refuse. Otherwise
+    /// there is one button, to agree.
+    PrinterLimitationsDialog(const CXString& title, const CXString& label, const CXString& report,
+                             bool offersChoice);
 
     /// Over a window that may be null. Gives what ended the dialog, 0 if it was closed by other
     /// means, -1 if it couldn't be made. Raises what ResourceLibrary raises.

@@ -38,6 +38,10 @@ RepairWording SettingsProblemReporter::getWording() const {
     return isChoiceOffered() ? RepairWording::offered : RepairWording::made;
 }
 
+CXString SettingsProblemReporter::getLabel() const {
+    return ResourceLibrary().getString(isChoiceOffered() ? text::question : text::notice);
+}
+
 std::uint32_t SettingsProblemReporter::report(const SettingsProblemList& problems,
                                               const Settings& defaults) const {
     if (problems.isEmpty() || !m_isReporting) {
@@ -52,8 +56,8 @@ std::uint32_t SettingsProblemReporter::report(const SettingsProblemList& problem
 
 bool SettingsProblemReporter::isRefusedInDialog(platform::WindowSystem& system,
                                                 const CXString& text) const {
-    const std::intptr_t answer =
-        PrinterLimitationsDialog(m_title, text, isChoiceOffered()).run(system, m_owner);
+    PrinterLimitationsDialog dialog(m_title, getLabel(), text, isChoiceOffered());
+    const std::intptr_t answer = dialog.run(system, m_owner);
     if (answer != PrinterLimitationsDialog::agreed && answer != PrinterLimitationsDialog::refused) {
         trace::systemErrorText(platform::getLastError(), traceLevel::general);
     }
@@ -61,10 +65,8 @@ bool SettingsProblemReporter::isRefusedInDialog(platform::WindowSystem& system,
 }
 
 bool SettingsProblemReporter::isRefusedInBox(const CXString& text) const {
-    const bool isChoice = isChoiceOffered();
-    const CXString label = ResourceLibrary().getString(isChoice ? text::question : text::notice);
-    const UserMessage message(m_owner, m_title, label + u"\r\n\r\n" + text,
-                              isChoice ? messageStyle::okCancel : 0,
+    const UserMessage message(m_owner, m_title, getLabel() + u"\r\n\r\n" + text,
+                              isChoiceOffered() ? messageStyle::okCancel : 0,
                               UserMessage::Severity::warning);
     return message.show() == messageAnswer::cancel;
 }

@@ -49,6 +49,8 @@ protected:
 private:
     bool isChoiceOffered() const;
     RepairWording getWording() const;
+    /// What introduces the report.
+    CXString getLabel() const;
     bool isRefusedInDialog(platform::WindowSystem& system, const CXString& text) const;
     /// Where no dialog can be shown.
     bool isRefusedInBox(const CXString& text) const;
