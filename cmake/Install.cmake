@@ -24,7 +24,7 @@ zent_install_link(../${home}/jobticket ${CMAKE_INSTALL_BINDIR} jobticket)
 configure_file(cmake/zent27.pc.in ${CMAKE_BINARY_DIR}/zent27.pc @ONLY)
 install(FILES ${CMAKE_BINARY_DIR}/zent27.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
-install(FILES apps/jobticket/jobticket.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 OPTIONAL)
+install(FILES ${CMAKE_BINARY_DIR}/apps/jobticket/jobticket.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES apps/jobticket/jobticket.bash
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME jobticket OPTIONAL)
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME jobticket)
 install(DIRECTORY docs/ examples DESTINATION ${CMAKE_INSTALL_DOCDIR})

@@ -1,8 +1,7 @@
 #include <algorithm>
+#include <array>
 
-#include <CLI/CLI.hpp>
-
-#include "Commands.h"
+#include "CommonOptions.h"
 #include "Listing.h"
 #include "OfferJson.h"
 #include "PrinterOptions.h"
@@ -12,13 +11,6 @@
 namespace jobticket {
 
 namespace {
-
-struct CapabilitiesOptions {
-    PrinterOptions printer;
-    std::string pattern;
-    bool table = false;
-    bool json = false;
-};
 
 using Row = std::vector<std::string>;
 
@@ -172,7 +164,7 @@ void keepMatching(std::vector<Offer>& features, const std::string& pattern) {
     });
 }
 
-ExitStatus list(const CapabilitiesOptions& options) {
+ExitStatus list(const Options& options) {
     Offers offers = getOffers(choosePrinter(options.printer));
     keepMatching(offers.features, options.pattern);
     if (offers.features.empty()) {
@@ -180,31 +172,35 @@ ExitStatus list(const CapabilitiesOptions& options) {
                            offers.printer + " has no feature " + inQuotes(options.pattern));
     }
     std::string text;
-    if (options.json) {
+    if (options.listsJson) {
         text = makeJson(offers);
-    } else if (options.table) {
+    } else if (options.listsTable) {
         text = makeTable(offers.features);
     } else {
         text = (options.pattern.empty() ? listPrinter(offers) + "\n" : "") +
                listFeatures(offers.features);
     }
-    writeFile(std::string(standardStream), text);
+    writeStandardOutput(text);
     return ExitStatus::success;
 }
 
+constexpr std::array options = {
+    Option{.names = "PATTERN",
+           .operand = Operand::feature,
+           .target = in<&Options::pattern>,
+           .help = "A feature, or a part of the names of those to list"},
+    modelOption,
+    languageOption,
+    formOption,
+    Option{.names = "--table",
+           .target = in<&Options::listsTable>,
+           .help = "One line a feature with tabs between the columns, for other programs",
+           .excludes = "--json"},
+    jsonOption};
+
 } // namespace
 
-void addCapabilitiesCommand(CLI::App& program, Action& action) {
-    CLI::App* command = program.add_subcommand("capabilities", "List what a printer offers");
-    const auto options = std::make_shared<CapabilitiesOptions>();
-    command->add_option("PATTERN", options->pattern,
-                        "A feature, or a part of the names of those to list");
-    addPrinterOptions(*command, options->printer);
-    CLI::Option* table =
-        command->add_flag("--table", options->table,
-                          "One line a feature with tabs between the columns, for other programs");
-    command->add_flag("--json", options->json, "The same as JSON")->excludes(table);
-    command->callback([options, &action] { action = [options] { return list(*options); }; });
-}
+const Command capabilitiesCommand = {"capabilities", "List what a printer offers", options, list,
+                                     "jobticket capabilities --model 43 --pdl ps finishings\n"};
 
 } // namespace jobticket

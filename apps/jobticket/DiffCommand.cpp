@@ -1,9 +1,8 @@
 #include <algorithm>
+#include <array>
 #include <map>
 
-#include <CLI/CLI.hpp>
-
-#include "Commands.h"
+#include "CommonOptions.h"
 #include "Listing.h"
 #include "Outline.h"
 #include "TicketDocument.h"
@@ -12,11 +11,6 @@
 namespace jobticket {
 
 namespace {
-
-struct DiffOptions {
-    std::string first;
-    std::string second;
-};
 
 struct Sides {
     const OutlineLine* first = nullptr;
@@ -59,28 +53,27 @@ std::vector<Row> compare(const std::vector<OutlineLine>& first,
     return rows;
 }
 
-ExitStatus diff(const DiffOptions& options) {
-    if (options.first == standardStream && options.second == standardStream) {
+ExitStatus diff(const Options& options) {
+    if (options.ticket == standardStream && options.otherTicket == standardStream) {
         throw ProgramError(ExitStatus::usage, "only one of the two tickets can be standard input");
     }
-    const std::vector<OutlineLine> first = makeOutline(readDocumentFile(options.first));
-    const std::vector<OutlineLine> second = makeOutline(readDocumentFile(options.second));
+    const std::vector<OutlineLine> first = makeOutline(readDocumentFile(options.ticket));
+    const std::vector<OutlineLine> second = makeOutline(readDocumentFile(options.otherTicket));
     const std::vector<Row> rows = compare(first, second);
-    writeFile(std::string(standardStream), layOut(rows));
+    writeStandardOutput(layOut(rows));
     return rows.empty() ? ExitStatus::success : ExitStatus::differences;
 }
 
+constexpr std::array options = {ticketArgument, Option{.names = "OTHER",
+                                                       .operand = Operand::file,
+                                                       .target = in<&Options::otherTicket>,
+                                                       .help = "The ticket to compare it with",
+                                                       .isRequired = true}};
+
 } // namespace
 
-void addDiffCommand(CLI::App& program, Action& action) {
-    CLI::App* command =
-        program.add_subcommand("diff", "Compare two tickets, feature by feature; exit status 1 if "
-                                       "they differ");
-    const auto options = std::make_shared<DiffOptions>();
-    command->add_option("TICKET", options->first, "Ticket file, or - for standard input")
-        ->required();
-    command->add_option("OTHER", options->second, "The ticket to compare it with")->required();
-    command->callback([options, &action] { action = [options] { return diff(*options); }; });
-}
+const Command diffCommand = {
+    "diff", "Compare two tickets, feature by feature; exit status 1 if they differ", options, diff,
+    "jobticket unset report.xml finishings | jobticket diff report.xml -\n"};
 
 } // namespace jobticket

@@ -1,7 +1,6 @@
-#include <CLI/CLI.hpp>
+#include <array>
 
-#include "Commands.h"
-#include "Completion.h"
+#include "CommonOptions.h"
 #include "Feature.h"
 #include "Listing.h"
 #include "Text.h"
@@ -11,12 +10,6 @@
 namespace jobticket {
 
 namespace {
-
-struct FeaturesOptions {
-    std::string pattern;
-    bool table = false;
-    std::string word;
-};
 
 using Row = std::vector<std::string>;
 
@@ -88,50 +81,36 @@ std::string makeTable(const std::vector<Feature>& features) {
     return text;
 }
 
-ExitStatus listOrDescribe(const FeaturesOptions& options) {
+ExitStatus listOrDescribe(const Options& options) {
     const std::vector<Feature> features = findFeatures(options.pattern);
     if (features.empty()) {
         Feature::named(options.pattern); // raises the error that suggests a name
     }
     std::string text;
-    if (options.table) {
+    if (options.listsTable) {
         text = makeTable(features);
     } else {
         text = features.size() == 1 ? describe(features.front()) : listFeatures(features);
     }
-    writeFile(std::string(standardStream), text);
+    writeStandardOutput(text);
     return ExitStatus::success;
 }
 
-ExitStatus complete(const FeaturesOptions& options) {
-    std::string text;
-    for (const std::string& candidate : completeWord(options.word)) {
-        text += candidate + '\n';
-    }
-    writeFile(std::string(standardStream), text);
-    return ExitStatus::success;
-}
+constexpr std::array options = {
+    Option{.names = "PATTERN",
+           .operand = Operand::feature,
+           .target = in<&Options::pattern>,
+           .help = "A feature, to see all about it and its values; or a part of the names of those "
+                   "to list"},
+    Option{.names = "--table",
+           .target = in<&Options::listsTable>,
+           .help = "One line a feature with tabs between the columns, for other programs"}};
 
 } // namespace
 
-void addFeaturesCommand(CLI::App& program, Action& action) {
-    CLI::App* command =
-        program.add_subcommand("features", "List the features that a ticket may hold");
-    const auto options = std::make_shared<FeaturesOptions>();
-    command->add_option("PATTERN", options->pattern,
-                        "A feature, to see all about it and its values; or a part of the names of "
-                        "those to list");
-    command->add_flag("--table", options->table,
-                      "One line a feature with tabs between the columns, for other programs");
-    const CLI::Option* word =
-        command->add_option("--complete", options->word,
-                            "List what FEATURE=VALUE may begin so; for the shell's completion");
-    command->callback([options, word, &action] {
-        const bool completes = word->count() > 0;
-        action = [options, completes] {
-            return completes ? complete(*options) : listOrDescribe(*options);
-        };
-    });
-}
+const Command featuresCommand = {"features", "List the features that a ticket may hold", options,
+                                 listOrDescribe,
+                                 "jobticket features halftone\n"
+                                 "jobticket features finishings\n"};
 
 } // namespace jobticket

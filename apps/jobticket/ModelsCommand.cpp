@@ -1,6 +1,6 @@
-#include <CLI/CLI.hpp>
+#include <array>
 
-#include "Commands.h"
+#include "CommonOptions.h"
 #include "Listing.h"
 #include "Printers.h"
 #include "Text.h"
@@ -9,11 +9,6 @@
 namespace jobticket {
 
 namespace {
-
-struct ModelsOptions {
-    std::string pattern;
-    bool table = false;
-};
 
 using Row = std::vector<std::string>;
 
@@ -58,7 +53,7 @@ std::string makeTable(const std::vector<Model>& models) {
     return text;
 }
 
-ExitStatus list(const ModelsOptions& options) {
+ExitStatus list(const Options& options) {
     const std::vector<Model> models = findModels(options.pattern);
     if (models.empty()) {
         throw ProgramError(ExitStatus::badValue, "there is no printer " +
@@ -66,27 +61,29 @@ ExitStatus list(const ModelsOptions& options) {
                                                      R"(; "jobticket models" lists all)");
     }
     std::string text;
-    if (options.table) {
+    if (options.listsTable) {
         text = makeTable(models);
     } else {
         text = models.size() == 1 ? describe(models.front()) : listModels(models);
     }
-    writeFile(std::string(standardStream), text);
+    writeStandardOutput(text);
     return ExitStatus::success;
 }
 
+constexpr std::array options = {
+    Option{.names = "PATTERN",
+           .operand = Operand::model,
+           .target = in<&Options::pattern>,
+           .help = "A printer's number or name, to see all about it; or a part of the names of "
+                   "those to list"},
+    Option{.names = "--table",
+           .target = in<&Options::listsTable>,
+           .help = "One line a printer with tabs between the columns, for other programs"}};
+
 } // namespace
 
-void addModelsCommand(CLI::App& program, Action& action) {
-    CLI::App* command =
-        program.add_subcommand("models", "List the printers that the library knows");
-    const auto options = std::make_shared<ModelsOptions>();
-    command->add_option("PATTERN", options->pattern,
-                        "A printer's number or name, to see all about it; or a part of the names "
-                        "of those to list");
-    command->add_flag("--table", options->table,
-                      "One line a printer with tabs between the columns, for other programs");
-    command->callback([options, &action] { action = [options] { return list(*options); }; });
-}
+const Command modelsCommand = {"models", "List the printers that the library knows", options, list,
+                               "jobticket models chromaset\n"
+                               "jobticket models 43\n"};
 
 } // namespace jobticket

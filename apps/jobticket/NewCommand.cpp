@@ -1,6 +1,6 @@
-#include <CLI/CLI.hpp>
+#include <array>
 
-#include "Commands.h"
+#include "CommonOptions.h"
 #include "PrinterOptions.h"
 #include "Session.h"
 #include "TicketFile.h"
@@ -9,27 +9,18 @@ namespace jobticket {
 
 namespace {
 
-struct NewOptions {
-    PrinterOptions printer;
-    std::string output = std::string(standardStream);
-};
-
-ExitStatus makeTicket(const NewOptions& options) {
+ExitStatus makeTicket(const Options& options) {
     Session session(choosePrinter(options.printer));
-    writeFile(options.output, session.exportTicket());
+    writeResult(options.output, session.exportTicket());
     return ExitStatus::success;
 }
 
+constexpr std::array options = {modelOption, languageOption, formOption, outputOption};
+
 } // namespace
 
-void addNewCommand(CLI::App& program, Action& action) {
-    CLI::App* command =
-        program.add_subcommand("new", "Make a ticket that holds a printer's defaults");
-    const auto options = std::make_shared<NewOptions>();
-    addPrinterOptions(*command, options->printer);
-    command->add_option("-o,--output", options->output,
-                        "File to write; without it, standard output");
-    command->callback([options, &action] { action = [options] { return makeTicket(*options); }; });
-}
+const Command newCommand = {"new", "Make a ticket that holds a printer's defaults", options,
+                            makeTicket,
+                            "jobticket new --model \"Chromaset 900\" --pdl ps -o report.xml\n"};
 
 } // namespace jobticket

@@ -1,8 +1,7 @@
 #include <algorithm>
+#include <array>
 
-#include <CLI/CLI.hpp>
-
-#include "Commands.h"
+#include "CommonOptions.h"
 #include "Listing.h"
 #include "PreferenceSetOptions.h"
 #include "Preferences.h"
@@ -13,31 +12,24 @@ namespace jobticket {
 
 namespace {
 
-struct PreferencesOptions {
-    PreferenceSetOptions set;
-    std::string name;
-    std::string value;
-    std::string type;
-};
-
 std::optional<WellKnownPreference> findWellKnown(const std::string& name) {
     const std::vector<WellKnownPreference> all = getWellKnownPreferences();
     const auto found = std::ranges::find(all, name, &WellKnownPreference::name);
     return found == all.end() ? std::nullopt : std::optional(*found);
 }
 
-PreferenceType typeOf(const PreferencesOptions& options) {
-    if (!options.type.empty()) {
-        return parsePreferenceType(options.type);
+PreferenceType typeOf(const Options& options) {
+    if (!options.preferenceType.empty()) {
+        return parsePreferenceType(options.preferenceType);
     }
-    const std::optional<WellKnownPreference> wellKnown = findWellKnown(options.name);
+    const std::optional<WellKnownPreference> wellKnown = findWellKnown(options.preference);
     return wellKnown ? wellKnown->type : PreferenceType::text;
 }
 
 std::string printable(const std::string& text) { return toPrintable(fromUtf8(text)); }
 
-ExitStatus list(const PreferencesOptions& options) {
-    const Session session = openSession(options.set);
+ExitStatus list(const Options& options) {
+    const Session session = openSession(options);
     std::vector<std::vector<std::string>> rows;
     for (const WellKnownPreference& preference : getWellKnownPreferences()) {
         const auto stored = Preferences(session).find(preference.name, preference.type);
@@ -45,56 +37,71 @@ ExitStatus list(const PreferencesOptions& options) {
                         printable(stored.value_or(preference.defaultValue)),
                         stored ? "" : "(default)"});
     }
-    writeFile(std::string(standardStream), layOut(rows));
+    writeStandardOutput(layOut(rows));
     return ExitStatus::success;
 }
 
-ExitStatus get(const PreferencesOptions& options) {
-    const Session session = openSession(options.set);
-    const auto stored = Preferences(session).find(options.name, typeOf(options));
-    const auto wellKnown = findWellKnown(options.name);
+ExitStatus get(const Options& options) {
+    const Session session = openSession(options);
+    const auto stored = Preferences(session).find(options.preference, typeOf(options));
+    const auto wellKnown = findWellKnown(options.preference);
     if (!stored && !wellKnown) {
-        throw ProgramError(ExitStatus::badValue,
-                           inQuotes(options.name) + " isn't stored in this set of preferences");
+        throw ProgramError(ExitStatus::badValue, inQuotes(options.preference) +
+                                                     " isn't stored in this set of preferences");
     }
     const std::string& value = stored ? *stored : wellKnown->defaultValue;
-    writeFile(std::string(standardStream), value + "\n");
+    writeStandardOutput(value + "\n");
     return ExitStatus::success;
 }
 
-ExitStatus set(const PreferencesOptions& options) {
-    const Session session = openSession(options.set);
-    Preferences(session).store(options.name, typeOf(options), options.value);
+ExitStatus set(const Options& options) {
+    const Session session = openSession(options);
+    Preferences(session).store(options.preference, typeOf(options), options.preferenceValue);
     return ExitStatus::success;
 }
+
+constexpr Option nameArgument = {.names = "NAME",
+                                 .operand = Operand::preference,
+                                 .target = in<&Options::preference>,
+                                 .help = "The preference",
+                                 .isRequired = true};
+constexpr Option typeOption = {.names = "--type",
+                               .operand = Operand::preferenceType,
+                               .target = in<&Options::preferenceType>,
+                               .help = "bool, number, text or data (hexadecimal): for names of "
+                                       "your own, which are text without it"};
+
+constexpr std::array listOptions = {modelOption, languageOption, preferenceSetOption,
+                                    sharedPreferencesOption};
+constexpr std::array getOptions = {nameArgument,   typeOption,          modelOption,
+                                   languageOption, preferenceSetOption, sharedPreferencesOption};
+constexpr std::array setOptions = {nameArgument,
+                                   Option{.names = "VALUE",
+                                          .operand = Operand::text,
+                                          .target = in<&Options::preferenceValue>,
+                                          .help = "true or false; a number; inches or metric; ...",
+                                          .isRequired = true},
+                                   typeOption,
+                                   modelOption,
+                                   languageOption,
+                                   preferenceSetOption,
+                                   sharedPreferencesOption};
 
 } // namespace
 
-void addPreferencesCommand(CLI::App& program, Action& action) {
-    CLI::App* command = program.add_subcommand(
-        "preferences", "Read and set the user's preferences, which the calls and dialogs go by");
-    command->require_subcommand(1);
-    const auto options = std::make_shared<PreferencesOptions>(); // of whichever command is given
-    const auto add = [&](const char* name, const char* help,
-                         ExitStatus (*run)(const PreferencesOptions&)) {
-        CLI::App* added = command->add_subcommand(name, help);
-        addPreferenceSetOptions(*added, options->set);
-        added->callback(
-            [options, run, &action] { action = [options, run] { return run(*options); }; });
-        return added;
-    };
-    const auto addName = [&](CLI::App& added) {
-        added.add_option("NAME", options->name, "The preference")->required();
-        added.add_option("--type", options->type,
-                         "bool, number, text or data (hexadecimal): for names of your own, which "
-                         "are text without it");
-    };
-    add("list", "List the preferences that the library itself knows", list);
-    addName(*add("get", "Print the value of a preference, or its default", get));
-    CLI::App* setter = add("set", "Store the value of a preference", set);
-    addName(*setter);
-    setter->add_option("VALUE", options->value, "true or false; a number; inches or metric; ...")
-        ->required();
-}
+const Command preferencesCommand = {
+    "preferences",
+    "Read and set the user's preferences, which the calls and dialogs go by",
+    {},
+    nullptr};
+const Command preferencesListCommand = {"preferences list",
+                                        "List the preferences that the library itself knows",
+                                        listOptions, list, "jobticket preferences list\n"};
+const Command preferencesGetCommand = {
+    "preferences get", "Print the value of a preference, or its default", getOptions, get,
+    "jobticket preferences get JOB_NAME_PREFERENCE\n"};
+const Command preferencesSetCommand = {
+    "preferences set", "Store the value of a preference", setOptions, set,
+    "jobticket preferences set USE_LOGON_NAME_PREFERENCE false\n"};
 
 } // namespace jobticket

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include <CLI/CLI.hpp>
-
 #include "ExitStatus.h"
 #include "Printers.h"
 #include "Text.h"
@@ -71,25 +69,6 @@ std::uint32_t chooseForm(const std::string& text) {
 }
 
 } // namespace
-
-void addModelOptions(CLI::App& command, PrinterOptions& options) {
-    command.add_option("-m,--model", options.model,
-                       "The printer, by number or name; \"jobticket models\" lists all");
-    command.add_option("-p,--pdl", options.language,
-                       "The page description language: ps (1), pcl (2) or color-pcl (3); without "
-                       "it, pcl");
-}
-
-void addFormOption(CLI::App& command, PrinterOptions& options) {
-    command.add_option("--form", options.form,
-                       "The form of printing instructions: xml (1), stream (2), or what the model "
-                       "takes (3), which is the default");
-}
-
-void addPrinterOptions(CLI::App& command, PrinterOptions& options) {
-    addModelOptions(command, options);
-    addFormOption(command, options);
-}
 
 PrinterChoice choosePrinter(const PrinterOptions& options, const PrinterOptionNames& names) {
     const Model model = chooseModel(options.model, names.model);

@@ -1,8 +1,7 @@
+#include <array>
 #include <set>
 
-#include <CLI/CLI.hpp>
-
-#include "Commands.h"
+#include "CommonOptions.h"
 #include "OfferJson.h"
 #include "PrinterOptions.h"
 #include "ProblemListing.h"
@@ -12,14 +11,6 @@
 namespace jobticket {
 
 namespace {
-
-struct RetargetOptions {
-    std::string ticket;
-    PrinterOptions from;
-    PrinterOptions to;
-    bool json = false;
-    std::string output = std::string(standardStream);
-};
 
 /// What moving a ticket from one printer to another changes in it.
 struct Move {
@@ -66,38 +57,46 @@ std::string listAsJson(const Move& move) {
         .toText();
 }
 
-ExitStatus retarget(const RetargetOptions& options) {
+ExitStatus retarget(const Options& options) {
     const PrinterChoice from = choosePrinter(options.from, {"--from", "--from-pdl"});
     const PrinterChoice to = choosePrinter(options.to, {"--to", "--to-pdl"});
     const std::string document = readFile(options.ticket);
     const Move move = compare(readDocument(document, options.ticket), from, to);
-    writeFile(options.output, repairTicket(document, options.ticket, to));
-    writeListing(options.json ? listAsJson(move) : listForPeople(move),
-                 options.output == standardStream);
+    writeResult(options.output, repairTicket(document, options.ticket, to));
+    writeListing(options.listsJson ? listAsJson(move) : listForPeople(move),
+                 isStandardStream(options.output));
     return move.lost.empty() && move.others.empty() ? ExitStatus::success : ExitStatus::differences;
 }
 
+constexpr std::array options = {
+    ticketArgument,
+    Option{.names = "--from",
+           .operand = Operand::model,
+           .target = in<&Options::from, &PrinterOptions::model>,
+           .help = "The printer that the ticket was made for, by number or name"},
+    Option{.names = "--from-pdl",
+           .operand = Operand::language,
+           .target = in<&Options::from, &PrinterOptions::language>,
+           .help = "Its page description language; without it, pcl"},
+    Option{.names = "--to",
+           .operand = Operand::model,
+           .target = in<&Options::to, &PrinterOptions::model>,
+           .help = "The printer that is to do the job"},
+    Option{.names = "--to-pdl",
+           .operand = Operand::language,
+           .target = in<&Options::to, &PrinterOptions::language>,
+           .help = "Its page description language; without it, pcl"},
+    withHelp(jsonOption, "List what is lost as JSON, for other programs"),
+    withHelp(outputOption, "File to write the ticket to; without it, standard output, and the list "
+                           "goes to standard error")};
+
 } // namespace
 
-void addRetargetCommand(CLI::App& program, Action& action) {
-    CLI::App* command = program.add_subcommand(
-        "retarget", "Repair a ticket for another printer, and list what is lost; exit status 1 if "
-                    "there is anything");
-    const auto options = std::make_shared<RetargetOptions>();
-    command->add_option("TICKET", options->ticket, "Ticket file, or - for standard input")
-        ->required();
-    command->add_option("--from", options->from.model,
-                        "The printer that the ticket was made for, by number or name");
-    command->add_option("--from-pdl", options->from.language,
-                        "Its page description language; without it, pcl");
-    command->add_option("--to", options->to.model, "The printer that is to do the job");
-    command->add_option("--to-pdl", options->to.language,
-                        "Its page description language; without it, pcl");
-    command->add_flag("--json", options->json, "List what is lost as JSON, for other programs");
-    command->add_option("-o,--output", options->output,
-                        "File to write the ticket to; without it, standard output, and the list "
-                        "goes to standard error");
-    command->callback([options, &action] { action = [options] { return retarget(*options); }; });
-}
+const Command retargetCommand = {
+    "retarget",
+    "Repair a ticket for another printer, and list what is lost; exit status 1 if there is "
+    "anything",
+    options, retarget,
+    "jobticket retarget report.xml --from 43 --to \"Lumaset 430\" -o other.xml\n"};
 
 } // namespace jobticket

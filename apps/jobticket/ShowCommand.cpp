@@ -1,6 +1,6 @@
-#include <CLI/CLI.hpp>
+#include <array>
 
-#include "Commands.h"
+#include "CommonOptions.h"
 #include "Listing.h"
 #include "Outline.h"
 #include "Text.h"
@@ -10,12 +10,6 @@
 namespace jobticket {
 
 namespace {
-
-struct ShowOptions {
-    std::string ticket;
-    bool raw = false;
-    bool json = false;
-};
 
 std::string listForPeople(const std::vector<OutlineLine>& outline) {
     if (outline.empty()) {
@@ -39,30 +33,30 @@ std::string listForPrograms(const std::vector<OutlineLine>& outline) {
     return text;
 }
 
-ExitStatus show(const ShowOptions& options) {
+ExitStatus show(const Options& options) {
     const std::vector<OutlineLine> outline = makeOutline(readDocumentFile(options.ticket));
     std::string text;
-    if (options.json) {
+    if (options.listsJson) {
         text = Json::object().add("features", toJson(outline)).toText();
     } else {
-        text = options.raw ? listForPrograms(outline) : listForPeople(outline);
+        text = options.listsRaw ? listForPrograms(outline) : listForPeople(outline);
     }
-    writeFile(std::string(standardStream), text);
+    writeStandardOutput(text);
     return ExitStatus::success;
 }
 
+constexpr std::array options = {
+    ticketArgument,
+    Option{.names = "--raw",
+           .target = in<&Options::listsRaw>,
+           .help = "List names and values as \"jobticket set\" takes them, one a line",
+           .excludes = "--json"},
+    jsonOption};
+
 } // namespace
 
-void addShowCommand(CLI::App& program, Action& action) {
-    CLI::App* command = program.add_subcommand("show", "List what a ticket says");
-    const auto options = std::make_shared<ShowOptions>();
-    command->add_option("TICKET", options->ticket, "Ticket file, or - for standard input")
-        ->required();
-    CLI::Option* raw = command->add_flag(
-        "--raw", options->raw, "List names and values as \"jobticket set\" takes them, one a line");
-    command->add_flag("--json", options->json, "The same as JSON, for other programs")
-        ->excludes(raw);
-    command->callback([options, &action] { action = [options] { return show(*options); }; });
-}
+const Command showCommand = {"show", "List what a ticket says", options, show,
+                             "jobticket show report.xml\n"
+                             "jobticket show --raw report.xml\n"};
 
 } // namespace jobticket

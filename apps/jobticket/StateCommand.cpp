@@ -1,6 +1,6 @@
-#include <CLI/CLI.hpp>
+#include <array>
 
-#include "Commands.h"
+#include "CommonOptions.h"
 #include "Listing.h"
 #include "PreferenceSetOptions.h"
 #include "StateBlob.h"
@@ -12,37 +12,31 @@ namespace jobticket {
 
 namespace {
 
-struct StateOptions {
-    std::string input;
-    std::string output = std::string(standardStream);
-    PreferenceSetOptions preferences;
-};
-
-ExitStatus pack(const StateOptions& options) {
-    Session session = openSession(options.preferences);
-    importDocumentFile(session, options.input);
-    writeFile(options.output, session.exportState());
+ExitStatus pack(const Options& options) {
+    Session session = openSession(options);
+    importDocumentFile(session, options.ticket);
+    writeResult(options.output, session.exportState());
     return ExitStatus::success;
 }
 
-ExitStatus unpack(const StateOptions& options) {
+ExitStatus unpack(const Options& options) {
     Session session;
-    session.importState(readFile(options.input), nameForMessages(options.input));
-    writeFile(options.output, session.exportTicket());
+    session.importState(readFile(options.ticket), nameForMessages(options.ticket));
+    writeResult(options.output, session.exportTicket());
     return ExitStatus::success;
 }
 
-ExitStatus renew(const StateOptions& options) {
-    Session session = openSession(options.preferences);
-    writeFile(options.output,
-              session.renewState(readFile(options.input), nameForMessages(options.input)));
+ExitStatus renew(const Options& options) {
+    Session session = openSession(options);
+    writeResult(options.output,
+                session.renewState(readFile(options.ticket), nameForMessages(options.ticket)));
     return ExitStatus::success;
 }
 
 std::string yesOrNo(bool flag) { return flag ? "yes" : "no"; }
 
-ExitStatus show(const StateOptions& options) {
-    const StateBlob state = inspectState(readFile(options.input), nameForMessages(options.input));
+ExitStatus show(const Options& options) {
+    const StateBlob state = inspectState(readFile(options.ticket), nameForMessages(options.ticket));
     std::vector<std::vector<std::string>> rows = {
         {"Size", std::to_string(state.size) + " bytes"},
         {"Version", toUtf8(zent::CXString::Format(u"0x%.8lx", state.version))},
@@ -57,40 +51,40 @@ ExitStatus show(const StateOptions& options) {
     } else {
         rows.push_back({"Logon name", "(none in this version: that of whoever reads it)"});
     }
-    writeFile(std::string(standardStream), layOut(rows));
+    writeStandardOutput(layOut(rows));
     return ExitStatus::success;
 }
 
+constexpr Option blobArgument = {.names = "BLOB",
+                                 .operand = Operand::file,
+                                 .target = in<&Options::ticket>,
+                                 .help = "File of a state blob, or - for standard input",
+                                 .isRequired = true};
+
+constexpr std::array packOptions = {ticketArgument, outputOption,        modelOption,
+                                    languageOption, preferenceSetOption, sharedPreferencesOption};
+constexpr std::array unpackOptions = {blobArgument, outputOption};
+constexpr std::array showOptions = {blobArgument};
+constexpr std::array renewOptions = {blobArgument,   outputOption,        modelOption,
+                                     languageOption, preferenceSetOption, sharedPreferencesOption};
+
 } // namespace
 
-void addStateCommand(CLI::App& program, Action& action) {
-    constexpr const char* ticketHelp = "Ticket file, or - for standard input";
-    constexpr const char* blobHelp = "File of a state blob, or - for standard input";
-    CLI::App* command = program.add_subcommand(
-        "state", "Tickets as binary state blobs, which applications keep with a document or queue");
-    command->require_subcommand(1);
-    const auto options = std::make_shared<StateOptions>(); // of whichever command is given
-    const auto add = [&](const char* name, const char* help, const char* input,
-                         const char* inputHelp, ExitStatus (*run)(const StateOptions&)) {
-        CLI::App* added = command->add_subcommand(name, help);
-        added->add_option(input, options->input, inputHelp)->required();
-        added->callback(
-            [options, run, &action] { action = [options, run] { return run(*options); }; });
-        return added;
-    };
-    const auto addOutput = [&](CLI::App& added) {
-        added.add_option("-o,--output", options->output,
-                         "File to write; without it, standard output");
-    };
-    CLI::App* packer = add("pack", "Make a blob of a ticket", "TICKET", ticketHelp, pack);
-    addOutput(*packer);
-    addPreferenceSetOptions(*packer, options->preferences);
-    addOutput(*add("unpack", "Make a ticket of a blob", "BLOB", blobHelp, unpack));
-    add("show", "List what a blob says besides the ticket: version, user", "BLOB", blobHelp, show);
-    CLI::App* renewer =
-        add("renew", "Put the present user and preferences into a blob", "BLOB", blobHelp, renew);
-    addOutput(*renewer);
-    addPreferenceSetOptions(*renewer, options->preferences);
-}
+const Command stateCommand = {
+    "state",
+    "Tickets as binary state blobs, which applications keep with a document or queue",
+    {},
+    nullptr};
+const Command statePackCommand = {"state pack", "Make a blob of a ticket", packOptions, pack,
+                                  "jobticket state pack report.xml -o report.blob\n"};
+const Command stateUnpackCommand = {
+    "state unpack", "Make a ticket of a blob", unpackOptions, unpack,
+    "jobticket state unpack queue.blob | jobticket set - copies=2\n"};
+const Command stateShowCommand = {"state show",
+                                  "List what a blob says besides the ticket: version, user",
+                                  showOptions, show, "jobticket state show queue.blob\n"};
+const Command stateRenewCommand = {"state renew",
+                                   "Put the present user and preferences into a blob", renewOptions,
+                                   renew, "jobticket state renew queue.blob -o queue.blob\n"};
 
 } // namespace jobticket

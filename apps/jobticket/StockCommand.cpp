@@ -1,8 +1,7 @@
 #include <algorithm>
+#include <array>
 
-#include <CLI/CLI.hpp>
-
-#include "Commands.h"
+#include "CommonOptions.h"
 #include "Listing.h"
 #include "MediaLibrary.h"
 #include "Outline.h"
@@ -17,22 +16,12 @@ namespace {
 using zent::Stock;
 using zent::StockType;
 
-struct StockOptions {
-    PrinterOptions printer;
-    std::string folder;
-    std::string name;               // of the stock to add
-    std::vector<std::string> edits; // that say what it is
-    std::vector<std::string> names; // of stocks to remove
-    bool isFavorite = false;
-    bool json = false;
-};
-
-bool hasPrinter(const StockOptions& options) {
+bool hasPrinter(const Options& options) {
     return !options.printer.model.empty() || !options.printer.language.empty();
 }
 
 /// Without a printer, which only list takes, it doesn't matter which one the library is beside.
-MediaLibrary openLibrary(const StockOptions& options) {
+MediaLibrary openLibrary(const Options& options) {
     return {hasPrinter(options) ? choosePrinter(options.printer) : PrinterChoice(), options.folder};
 }
 
@@ -63,7 +52,7 @@ Json toJson(const Stock& stock) {
         .add("features", toJson(describe(stock)));
 }
 
-ExitStatus list(const StockOptions& options) {
+ExitStatus list(const Options& options) {
     MediaLibrary library = openLibrary(options);
     std::vector<const Stock*> stocks = library.getStocks(StockType::user);
     if (hasPrinter(options)) {
@@ -71,7 +60,7 @@ ExitStatus list(const StockOptions& options) {
         stocks.insert(stocks.end(), more.begin(), more.end());
     }
     std::string text;
-    if (options.json) {
+    if (options.listsJson) {
         Json all = Json::array();
         for (const Stock* stock : stocks) {
             all.add(toJson(*stock));
@@ -85,59 +74,68 @@ ExitStatus list(const StockOptions& options) {
         }
         text = rows.empty() ? "The media library is empty.\n" : layOut(std::move(rows));
     }
-    writeFile(std::string(standardStream), text);
+    writeStandardOutput(text);
     return ExitStatus::success;
 }
 
-ExitStatus add(const StockOptions& options) {
+ExitStatus add(const Options& options) {
     std::vector<Assignment> assignments;
     for (const std::string& text : options.edits) {
         assignments.push_back(parseAssignment(text));
         hintAtMisspelling(assignments.back());
     }
     MediaLibrary library = openLibrary(options);
-    library.add(options.name, assignments, options.isFavorite);
+    library.add(options.stock, assignments, options.isFavorite);
     library.save();
     return ExitStatus::success;
 }
 
-ExitStatus remove(const StockOptions& options) {
+ExitStatus remove(const Options& options) {
     MediaLibrary library = openLibrary(options);
-    for (const std::string& name : options.names) {
+    for (const std::string& name : options.stocks) {
         library.remove(name);
     }
     library.save();
     return ExitStatus::success;
 }
 
+constexpr Option folderOption = {
+    .names = "--folder",
+    .operand = Operand::folder,
+    .target = in<&Options::folder>,
+    .help = "The folder of the library's file; without it, the user's profile folder"};
+
+constexpr std::array listOptions = {modelOption, languageOption, jsonOption, folderOption};
+constexpr std::array addOptions = {
+    Option{.names = "NAME",
+           .operand = Operand::text,
+           .target = in<&Options::stock>,
+           .help = "What it is called",
+           .isRequired = true},
+    Option{.names = "FEATURE=VALUE",
+           .operand = Operand::assignment,
+           .target = in<&Options::edits>,
+           .help = "What it is, as in media-color=blue media-size=SIZE_A4; without any it is known "
+                   "by its name alone"},
+    Option{.names = "--favorite",
+           .target = in<&Options::isFavorite>,
+           .help = "Offer it in the short lists of dialogs"},
+    folderOption};
+constexpr std::array removeOptions = {Option{.names = "NAME",
+                                             .operand = Operand::stock,
+                                             .target = in<&Options::stocks>,
+                                             .help = "A stock's name or number, as list has it",
+                                             .isRequired = true},
+                                      folderOption};
+
 } // namespace
 
-void addStockCommand(CLI::App& program, Action& action) {
-    CLI::App* command = program.add_subcommand("stock", "The user's media library");
-    command->require_subcommand(1);
-    const auto options = std::make_shared<StockOptions>(); // of whichever command is given
-    const auto addCommand = [&](const char* name, const char* help,
-                                ExitStatus (*run)(const StockOptions&)) {
-        CLI::App* added = command->add_subcommand(name, help);
-        added->add_option(
-            "--folder", options->folder,
-            "The folder of the library's file; without it, the user's profile folder");
-        added->callback(
-            [options, run, &action] { action = [options, run] { return run(*options); }; });
-        return added;
-    };
-    CLI::App* lister = addCommand("list", "List the stocks: name, favorite, what it is", list);
-    addModelOptions(*lister, options->printer);
-    lister->add_flag("--json", options->json, "The same as JSON, for other programs");
-    CLI::App* adder = addCommand("add", "Add a stock", add);
-    adder->add_option("NAME", options->name, "What it is called")->required();
-    adder->add_option("FEATURE=VALUE", options->edits,
-                      "What it is, as in media-color=blue media-size=SIZE_A4; without any it is "
-                      "known by its name alone");
-    adder->add_flag("--favorite", options->isFavorite, "Offer it in the short lists of dialogs");
-    CLI::App* remover = addCommand("remove", "Remove stocks", remove);
-    remover->add_option("NAME", options->names, "A stock's name or number, as list has it")
-        ->required();
-}
+const Command stockCommand = {"stock", "The user's media library", {}, nullptr};
+const Command stockListCommand = {"stock list", "List the stocks: name, favorite, what it is",
+                                  listOptions, list, "jobticket stock list --model 43\n"};
+const Command stockAddCommand = {"stock add", "Add a stock", addOptions, add,
+                                 "jobticket stock add Letterhead media-size=SIZE_A4 --favorite\n"};
+const Command stockRemoveCommand = {"stock remove", "Remove stocks", removeOptions, remove,
+                                    "jobticket stock remove Letterhead 3\n"};
 
 } // namespace jobticket

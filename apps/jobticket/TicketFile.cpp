@@ -79,6 +79,8 @@ void replaceFile(const fs::path& target, const std::string& name, std::string_vi
     }
 }
 
+} // namespace
+
 void writeStandardOutput(std::string_view bytes) {
     errno = 0;
     const bool isWritten = std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size();
@@ -87,7 +89,13 @@ void writeStandardOutput(std::string_view bytes) {
     }
 }
 
-} // namespace
+bool isStandardStream(const std::optional<std::string>& name) {
+    return !name || *name == standardStream;
+}
+
+void writeResult(const std::optional<std::string>& name, std::string_view bytes) {
+    writeFile(name.value_or(std::string(standardStream)), bytes);
+}
 
 void writeListing(std::string_view text, bool isOutputTaken) {
     if (isOutputTaken) {

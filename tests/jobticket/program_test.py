@@ -20,11 +20,11 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 EXAMPLES = sorted((ROOT / "examples").glob("*.xml"))
 REPORT = ROOT / "examples" / "report.xml"
 COMPLETION = ROOT / "apps" / "jobticket" / "jobticket.bash"
-MANUAL = ROOT / "apps" / "jobticket" / "jobticket.1"
+MANUAL = ROOT / "apps" / "jobticket" / "jobticket.1.in"
 COMMANDS = ["new", "show", "set", "unset", "diff", "check", "retarget", "instructions", "notes",
             "state", "state pack", "state unpack", "state show", "state renew", "features", "models",
             "capabilities", "stock", "stock list", "stock add", "stock remove", "preferences",
-            "preferences list", "preferences get", "preferences set"]
+            "preferences list", "preferences get", "preferences set", "help"]
 
 # Of no user's preferences, so that all have their defaults.
 UNTOUCHED_SET = "jobticket test, never written"
@@ -592,7 +592,13 @@ class Failures(InFolder):
                                    b"</job-template-attributes></ordo>")
         rows = [
             # arguments, standard input, status, what the message says
-            ([], b"", USAGE, "subcommand"),
+            ([], b"", USAGE, "which command"),
+            (["state"], b"", USAGE, "which command of state"),
+            (["--fox"], b"", USAGE, '"--fox"'),
+            (["help", "shaw"], b"", USAGE, '"shaw"'),
+            (["check", "--fox"], b"", USAGE, 'did you mean "--fix"'),
+            (["new", "-m"], b"", USAGE, "--model takes a value"),
+            (["new", "-m", "1", "-m", "1"], b"", USAGE, "--model can be given only once"),
             (["edit", REPORT], b"", USAGE, "edit"),
             (["shaw", REPORT], b"", USAGE, 'did you mean "show"'),
             (["show"], b"", USAGE, "TICKET"),
@@ -750,14 +756,18 @@ class Documents(InFolder):
 
     def test_help_and_manual_tell_all_commands(self):
         general = run("--help").decode()
-        manual = MANUAL.read_text(encoding="utf-8").replace("\\-", "-")
+        manual = re.sub(r"\\f.", "", run("manual", MANUAL).decode().replace("\\-", "-"))
+        self.assertNotIn("@", manual)
+        self.assertLessEqual(max(map(len, general.splitlines())), 80)
         for command in COMMANDS:
             *group, name = command.split()
             listing = run(*group, "--help").decode() if group else general
             self.assertRegex(listing, rf"(?m)^  {name} ")
             self.assertIn(f"jobticket {command}", manual)
             own = run(*command.split(), "--help").decode()
-            for option in set(re.findall(r"--[a-z]+", own)) - {"--complete"}:
+            self.assertEqual(run("help", *command.split()).decode(), own)
+            self.assertLessEqual(max(map(len, own.splitlines())), 80, command)
+            for option in re.findall(r"--[a-z]+", own):
                 self.assertIn(option, manual)
         self.assertRegex(run("--version").decode(), r"^jobticket \d+\.\d+\s*$")
 

@@ -1,0 +1,118 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "ExitStatus.h"
+#include "Options.h"
+
+namespace jobticket {
+
+/// What an option takes, or what stands at an argument's place. Help names it, and the shell's
+/// completion offers it.
+enum class Operand {
+    none, // a flag
+    text,
+    file,
+    folder,
+    model,
+    language,
+    form,
+    feature,
+    path,       // a feature, maybe in another one
+    assignment, // FEATURE=VALUE
+    stock,
+    preference,
+    preferenceType,
+    command,
+};
+
+/// Where in the options a value goes.
+using Target = std::variant<bool& (*)(Options&), std::string& (*)(Options&),
+                            std::optional<std::string>& (*)(Options&),
+                            std::vector<std::string>& (*)(Options&)>;
+
+/// The target that a way of members leads to: in<&Options::from, &PrinterOptions::model>.
+template <auto... members>
+constexpr auto& in(Options& options) {
+    return (options.*....*members);
+}
+
+/// An option ("-o,--output"), or an argument that has its meaning by its place ("TICKET"). Those
+/// whose target is a list take all arguments that are left.
+struct Option {
+    const char* names;
+    Operand operand = Operand::none;
+    Target target;
+    const char* help;
+    bool isRequired = false;
+    const char* excludes = nullptr; // an option that can't be given beside it
+    const char* needs = nullptr;    // an option that must be given as well
+
+    bool isArgument() const { return *names != '-'; }
+    bool takesSeveral() const {
+        return std::holds_alternative<std::vector<std::string>& (*)(Options&)>(target);
+    }
+};
+
+/// The same option, with another text of help.
+constexpr Option withHelp(Option option, const char* help) {
+    option.help = help;
+    return option;
+}
+
+/// One command of the program, or a group of commands, which has no action.
+struct Command {
+    const char* name; // "check", "stock add"
+    const char* help; // one line
+    std::span<const Option> options;
+    ExitStatus (*run)(const Options& options);
+    const char* examples = "";               // a line each
+    std::span<const char* const> about = {}; // what else its help tells
+    bool isHidden = false;                   // from people: other programs use it
+};
+
+/// All commands, in the order in which help lists them; a group stands before its own.
+std::span<const Command* const> getCommands();
+/// Null if there is none of that name.
+const Command* findCommand(std::string_view name);
+/// The names of the commands that people see in a group, without that of the group before them; an
+/// empty text stands for the program itself.
+std::vector<std::string> getCommandNames(std::string_view group);
+
+/// "--output" of "-o,--output".
+std::string getLongestName(const Option& option);
+
+extern const Command newCommand;
+extern const Command showCommand;
+extern const Command setCommand;
+extern const Command unsetCommand;
+extern const Command diffCommand;
+extern const Command checkCommand;
+extern const Command retargetCommand;
+extern const Command instructionsCommand;
+extern const Command notesCommand;
+extern const Command stateCommand;
+extern const Command statePackCommand;
+extern const Command stateUnpackCommand;
+extern const Command stateShowCommand;
+extern const Command stateRenewCommand;
+extern const Command featuresCommand;
+extern const Command modelsCommand;
+extern const Command capabilitiesCommand;
+extern const Command stockCommand;
+extern const Command stockListCommand;
+extern const Command stockAddCommand;
+extern const Command stockRemoveCommand;
+extern const Command preferencesCommand;
+extern const Command preferencesListCommand;
+extern const Command preferencesGetCommand;
+extern const Command preferencesSetCommand;
+extern const Command helpCommand;
+extern const Command manualCommand;
+extern const Command completeCommand;
+
+} // namespace jobticket
