@@ -1,7 +1,6 @@
 // Whether a job is printed or saved, and where to.
 
 #include "ocore/AnlXlate/AjtGroups.h"
-#include "ocore/AnlXlate/AjtValues.h"
 
 namespace zent::ajt {
 
@@ -9,7 +8,7 @@ namespace {
 
 void writeDestination(const Job& job, Output& output) {
     CXString name;
-    if (job.settings.getString(_FI(feature::saveName), &name)) {
+    if (job.ticket.takeString(feature::saveName, &name)) {
         output << (job.traits.unixDestination ? "%TRVdestination: UNIX:" : "%TRVdestination: DOS:")
                << name << "\n";
     }
@@ -18,21 +17,20 @@ void writeDestination(const Job& job, Output& output) {
 } // namespace
 
 void writeDisposition(const Job& job, Output& output) {
-    switch (job.settings.getFeatureValue(_FI(feature::saveDisposition)).getValue()) {
-    case FeatureValue::unspecified:
-    case value::saveNone:
-        output << "%TRVdisposition: PRINT\n";
-        break;
-    case value::saveOnly:
-        output << "%TRVdisposition: SAVE\n";
+    constexpr std::string_view printOnly = "PRINT";
+    static constexpr Word words[] = {
+        {FeatureValue::unspecified, printOnly},
+        {value::saveNone, printOnly},
+        {value::saveOnly, "SAVE"},
+        {value::printSave, "PRINT&SAVE"},
+    };
+    const std::string_view word = job.ticket.takeWord(feature::saveDisposition, words);
+    if (word.empty()) {
+        return;
+    }
+    output << "%TRVdisposition: " << word << "\n";
+    if (word != printOnly) {
         writeDestination(job, output);
-        break;
-    case value::printSave:
-        output << "%TRVdisposition: PRINT&SAVE\n";
-        writeDestination(job, output);
-        break;
-    default:
-        break;
     }
 }
 

@@ -1,9 +1,9 @@
 // What is done to the sheets once they are printed.
 
 #include <algorithm>
+#include <optional>
 
 #include "ocore/AnlXlate/AjtGroups.h"
-#include "ocore/AnlXlate/AjtValues.h"
 
 namespace zent::ajt {
 
@@ -16,13 +16,14 @@ struct Finishing {
     std::string_view booklet;
 };
 
-/// By the numbers of the "finishings" attribute.
-Finishing getFinishing(std::int32_t finishing) {
+/// By the numbers of the "finishings" attribute; nothing for one that the stream doesn't know.
+std::optional<Finishing> findFinishing(std::int32_t finishing) {
     struct Row {
         std::int32_t number = 0;
         Finishing finishing;
     };
     static constexpr Row rows[] = {
+        {3, {}}, // none
         {13, {{}, {}, "True"}},
         {20, {{}, "SinglePortrait", {}}},
         {21, {{}, "SingleLandscape", {}}},
@@ -36,19 +37,23 @@ Finishing getFinishing(std::int32_t finishing) {
         {52, {"right", {}, {}}},
     };
     const auto* const found = std::ranges::find(rows, finishing, &Row::number);
-    return found == std::end(rows) ? Finishing() : found->finishing;
+    return found == std::end(rows) ? std::nullopt : std::optional(found->finishing);
 }
 
 /// A finishing template or slip sheets take the place of all other finishing.
 Finishing writeOrGetFinishing(const Job& job, Output& output) {
     CXString finishingTemplate;
     std::int32_t finishing = 0;
-    if (job.settings.getString(_FI(feature::finishingTemplate), &finishingTemplate)) {
+    if (job.ticket.takeString(feature::finishingTemplate, &finishingTemplate)) {
         output << "%TRVoutputLocation: FinishingBypass " << finishingTemplate << "\n";
-    } else if (job.settings.getFeatureValue(_FI(feature::separatorSheetsType)) != FeatureValue()) {
+    } else if (job.ticket.getFeatureValue(feature::separatorSheetsType) != FeatureValue()) {
+        job.ticket.take(feature::separatorSheetsType);
         output << "%TRVrequirements: slipSheeting\n";
-    } else if (job.settings.getLong(_FI(feature::finishings), &finishing)) {
-        return getFinishing(finishing);
+    } else if (job.ticket.getSettings().getLong(_FI(feature::finishings), &finishing)) {
+        if (const std::optional<Finishing> known = findFinishing(finishing)) {
+            job.ticket.take(feature::finishings);
+            return *known;
+        }
     }
     return {};
 }

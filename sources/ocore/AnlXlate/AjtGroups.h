@@ -3,15 +3,15 @@
 #include "ocore/AnlXlate/AjtOutput.h"
 #include "ocore/AnlXlate/AjtPaper.h"
 #include "ocore/AnlXlate/AjtPrinterTraits.h"
-#include "ocore/FeatureSettings/FeatureSettings.h"
+#include "ocore/AnlXlate/AjtTicketReader.h"
 
 /// The parts of a ticket stream: groups of lines, each about one or a few features of a job.
 namespace zent::ajt {
 
 struct Job {
-    FeatureSettings& settings;
+    TicketReader ticket;
     const AjtPrinterTraits& traits;
-    Paper paper; // of the settings
+    Paper paper; // of the ticket
 };
 
 using WriteGroup = void(const Job& job, Output& output);

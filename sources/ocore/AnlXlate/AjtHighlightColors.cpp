@@ -1,7 +1,6 @@
 // The second colour of a printer that has black and one more.
 
 #include "ocore/AnlXlate/AjtGroups.h"
-#include "ocore/AnlXlate/AjtWords.h"
 
 namespace zent::ajt {
 
@@ -11,15 +10,16 @@ namespace {
 /// are those that it knows.
 void writeColor(const Job& job, std::string_view keyword, FeatureEnum feature, std::int32_t first,
                 std::int32_t last, Output& output) {
-    const FeatureValue color = job.settings.getFeatureValue(_FI(feature));
+    const FeatureValue color = job.ticket.getFeatureValue(feature);
     if (color.getValue() >= first && color.getValue() <= last) {
+        job.ticket.take(feature);
         output << keyword << color.getText() << "\n";
     }
 }
 
 void writeWord(const Job& job, std::string_view keyword, FeatureEnum feature,
                std::span<const Word> words, Output& output) {
-    const std::string_view word = findWord(words, job.settings.getFeatureValue(_FI(feature)));
+    const std::string_view word = job.ticket.takeWord(feature, words);
     if (!word.empty()) {
         output << keyword << word << "\n";
     }

@@ -23,7 +23,7 @@ CXString onOneLine(const CXString& text) {
 
 void writeIfSet(const Job& job, std::string_view keyword, FeatureEnum feature, Output& output) {
     CXString text;
-    if (job.settings.getString(_FI(feature), &text)) {
+    if (job.ticket.takeString(feature, &text)) {
         output << keyword << onOneLine(text) << "\n";
     }
 }
@@ -31,7 +31,7 @@ void writeIfSet(const Job& job, std::string_view keyword, FeatureEnum feature, O
 void writeOrDefault(const Job& job, std::string_view keyword, FeatureEnum feature,
                     std::uint32_t defaultStringID, Output& output) {
     CXString text;
-    const bool isSet = job.settings.getString(_FI(feature), &text);
+    const bool isSet = job.ticket.takeString(feature, &text);
     output << keyword << (isSet ? onOneLine(text) : ResourceLibrary().getString(defaultStringID))
            << "\n";
 }
@@ -40,8 +40,8 @@ void writeOrDefault(const Job& job, std::string_view keyword, FeatureEnum featur
 void writeMessage(const Job& job, Output& output) {
     CXString phoneNumber;
     CXString message;
-    const bool hasPhoneNumber = job.settings.getString(_FI(feature::jobPhoneNumber), &phoneNumber);
-    const bool hasMessage = job.settings.getString(_FI(feature::jobSheetMessage), &message);
+    const bool hasPhoneNumber = job.ticket.takeString(feature::jobPhoneNumber, &phoneNumber);
+    const bool hasMessage = job.ticket.takeString(feature::jobSheetMessage, &message);
     if (hasPhoneNumber || hasMessage) {
         output << "%TRVmessage: " << onOneLine(phoneNumber)
                << (hasPhoneNumber && hasMessage ? " " : "") << onOneLine(message) << "\n";

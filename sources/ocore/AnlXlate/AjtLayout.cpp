@@ -15,7 +15,7 @@ void writeWord(std::string_view keyword, std::string_view word, Output& output) 
 
 void writeShift(const Job& job, std::string_view keyword, FeatureEnum feature, Output& output) {
     std::int32_t shift = 0;
-    if (job.settings.getLong(_FI(feature), &shift)) {
+    if (job.ticket.takeLong(feature, &shift)) {
         output << keyword << inMillimetres(shift) << "\n";
     }
 }
@@ -23,24 +23,18 @@ void writeShift(const Job& job, std::string_view keyword, FeatureEnum feature, O
 } // namespace
 
 void writeSignature(const Job& job, Output& output) {
-    switch (job.settings.getFeatureValue(_FI(feature::impositionTemplate)).getValue()) {
-    case value::impositionSignature:
-        output << "%TRVsignature: True\n";
-        break;
-    case value::impositionNone:
-        output << "%TRVsignature: False\n";
-        break;
-    case FeatureValue::unspecified:
-        output << (job.traits.signatureSizeSwap ? "%TRVsignature: False\n" : "");
-        break;
-    default:
-        break;
-    }
+    static constexpr Word words[] = {
+        {value::impositionSignature, "True"},
+        {value::impositionNone, "False"},
+        {FeatureValue::unspecified, "False"}, // where the line is wanted in any case
+    };
+    const auto table = std::span(words).first(job.traits.signatureSizeSwap ? 3 : 2);
+    writeWord("%TRVsignature: ", job.ticket.takeWord(feature::impositionTemplate, table), output);
 }
 
 void writeCopyCount(const Job& job, Output& output) {
     std::int32_t copies = 0;
-    if (job.settings.getLong(_FI(feature::copies), &copies)) {
+    if (job.ticket.takeLong(feature::copies, &copies)) {
         output << "%TRVcopyCount: " << copies << "\n";
     }
 }
@@ -48,13 +42,13 @@ void writeCopyCount(const Job& job, Output& output) {
 void writePagesToPrint(const Job& job, Output& output) {
     std::int32_t first = 0;
     std::int32_t last = 0;
-    if (job.settings.getRange(_FI(feature::pageRanges), &first, &last)) {
+    if (job.ticket.takeRange(feature::pageRanges, &first, &last)) {
         output << "%TRVpagesToPrint: " << first << " " << last << "\n";
     }
 }
 
 void writePlex(const Job& job, Output& output) {
-    writeWord("%TRVrequirements: ", getPlexWord(job.settings), output);
+    writeWord("%TRVrequirements: ", job.ticket.takePlexWord(), output);
 }
 
 void writeCollation(const Job& job, Output& output) {
@@ -62,21 +56,24 @@ void writeCollation(const Job& job, Output& output) {
         {value::collated, "collated"},
         {value::uncollated, "uncollated"},
     };
-    writeWord("%TRVrequirements: ",
-              findWord(words, job.settings.getFeatureValue(_FI(feature::sheetCollate))), output);
+    writeWord("%TRVrequirements: ", job.ticket.takeWord(feature::sheetCollate, words), output);
 }
 
 void writeRotation(const Job& job, Output& output) {
-    writeWord("%TRVrotation: ", getRotationWord(job.settings), output);
+    writeWord("%TRVrotation: ", job.ticket.takeRotationWord(), output);
 }
 
 void writeImageShifts(const Job& job, Output& output) {
     writeShift(job, "%TRVxImageShift: ", feature::xSide1ImageShift, output);
     writeShift(job, "%TRVyImageShift: ", feature::ySide1ImageShift, output);
-    if (job.settings.getFeatureValue(_FI(feature::sides)).getValue() != value::oneSided) {
-        writeShift(job, "%TRVx2ImageShift: ", feature::xSide2ImageShift, output);
-        writeShift(job, "%TRVy2ImageShift: ", feature::ySide2ImageShift, output);
+    if (job.ticket.getFeatureValue(feature::sides).getValue() == value::oneSided) {
+        // There is no second side to shift, so that nothing is left out.
+        job.ticket.take(feature::xSide2ImageShift);
+        job.ticket.take(feature::ySide2ImageShift);
+        return;
     }
+    writeShift(job, "%TRVx2ImageShift: ", feature::xSide2ImageShift, output);
+    writeShift(job, "%TRVy2ImageShift: ", feature::ySide2ImageShift, output);
 }
 
 } // namespace zent::ajt

@@ -1,7 +1,6 @@
 // Pages that are printed in another manner than the job.
 
 #include "ocore/AnlXlate/AjtGroups.h"
-#include "ocore/AnlXlate/AjtWords.h"
 
 namespace zent::ajt {
 
@@ -21,23 +20,24 @@ public:
     PageExceptions(const Job& job, Output& output) : m_job(job), m_output(output) {
         if (job.traits.fullPageExceptions) {
             m_mediumKeyword = "%TRVpageExceptions: ";
-            m_plex = orDefault(getPlexWord(job.settings), "simplex");
-            m_rotation = orDefault(getRotationWord(job.settings), "0");
+            m_plex = orDefault(job.ticket.takePlexWord(), "simplex");
+            m_rotation = orDefault(job.ticket.takeRotationWord(), "0");
         }
     }
 
-    void write(const FeatureSettings& entry) {
+    void write(const TicketReader& entry) {
         std::int32_t first = 0;
         std::int32_t last = 0;
-        if (!entry.getRange(_FI(feature::pages), &first, &last)) {
+        if (!entry.takeRange(feature::pages, &first, &last)) {
             return;
         }
+        entry.takeAsUnderstood(feature::inputDocuments, 1, 1); // the one that the stream goes with
         m_range = std::to_string(first) + ' ' + std::to_string(last) + ' ';
         m_output << m_mediumKeyword << m_range;
         writeDescription(Paper(entry, m_job.traits), m_job.paper, m_job.traits, m_output);
         m_output << "\n";
-        writeWord("%TRVpageExceptions-plex: ", orDefault(getPlexWord(entry), m_plex));
-        writeWord("%TRVpageExceptions-rotation: ", orDefault(getRotationWord(entry), m_rotation));
+        writeWord("%TRVpageExceptions-plex: ", orDefault(entry.takePlexWord(), m_plex));
+        writeWord("%TRVpageExceptions-rotation: ", orDefault(entry.takeRotationWord(), m_rotation));
         writeShifts(entry, m_xShifts);
         writeShifts(entry, m_yShifts);
     }
@@ -53,13 +53,16 @@ private:
         }
     }
 
-    void writeShifts(const FeatureSettings& entry, SideShifts& shifts) {
+    void writeShifts(const TicketReader& entry, SideShifts& shifts) {
         std::int32_t second = 0;
-        const bool hasFirst = entry.getLong(_FI(shifts.firstFeature), &shifts.first);
-        const bool hasSecond = entry.getLong(_FI(shifts.secondFeature), &second);
+        const bool hasFirst = entry.takeLong(shifts.firstFeature, &shifts.first);
+        const bool hasSecond = entry.getSettings().getLong(_FI(shifts.secondFeature), &second);
         const bool isSame = hasSecond && second == shifts.first;
         if (hasFirst) {
             writeShift(shifts.keyword, shifts.first, isSame ? " ALL\n" : " ODD\n");
+        }
+        if (hasFirst || !isSame) {
+            entry.take(shifts.secondFeature);
         }
         if (hasSecond && !isSame) {
             writeShift(shifts.keyword, second, " EVEN\n");
@@ -86,9 +89,8 @@ private:
 
 void writePageExceptions(const Job& job, Output& output) {
     PageExceptions exceptions(job, output);
-    job.settings.visitNestedSettings(
-        _FI(feature::pageOverrides),
-        [&](const FeatureSettings& entry) { exceptions.write(entry); });
+    job.ticket.visitNested(feature::pageOverrides,
+                           [&](const TicketReader& entry) { exceptions.write(entry); });
 }
 
 } // namespace zent::ajt

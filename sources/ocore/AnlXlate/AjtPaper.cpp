@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "ocore/AnlXlate/AjtGroups.h"
-#include "ocore/AnlXlate/AjtWords.h"
 
 namespace zent::ajt {
 
@@ -16,9 +15,9 @@ using namespace std::string_literals;
 /// blank-separated ones.
 std::string asField(const CXString& name) { return replaceAll(name, u" ", u"\b").toNarrow(); }
 
-std::string textOfNumber(const FeatureSettings& settings, FeatureEnum feature) {
+std::string textOfNumber(const TicketReader& ticket, FeatureEnum feature) {
     std::int32_t number = 0;
-    return settings.getLong(_FI(feature), &number) ? std::to_string(number) : std::string();
+    return ticket.takeLong(feature, &number) ? std::to_string(number) : std::string();
 }
 
 bool fits(const AjtPrinterTraits::MediaSizeLimits& limits, std::int32_t x, std::int32_t y) {
@@ -26,29 +25,28 @@ bool fits(const AjtPrinterTraits::MediaSizeLimits& limits, std::int32_t x, std::
            y <= limits.yMaximum;
 }
 
-bool isSignature(const FeatureSettings& settings) {
-    return settings.getFeatureValue(_FI(feature::impositionTemplate)).getValue() ==
+bool isSignature(const TicketReader& ticket) {
+    return ticket.getFeatureValue(feature::impositionTemplate).getValue() ==
            value::impositionSignature;
 }
 
-std::string sizeText(const FeatureSettings& settings, const AjtPrinterTraits& traits) {
+std::string sizeText(const TicketReader& ticket, const AjtPrinterTraits& traits) {
     constexpr std::int32_t widestSignature = 22900;
     std::int32_t x = 0;
     std::int32_t y = 0;
-    if (!settings.getLong(_FI(feature::xDimension), &x) ||
-        !settings.getLong(_FI(feature::yDimension), &y)) {
+    if (!ticket.takeDimensions(&x, &y)) {
         return {};
     }
     if (!fits(traits.mediaSizeLimits, x, y) && fits(traits.mediaSizeLimits, y, x)) {
         std::swap(x, y);
     }
-    if (traits.signatureSizeSwap && x > widestSignature && isSignature(settings)) {
+    if (traits.signatureSizeSwap && x > widestSignature && isSignature(ticket)) {
         std::swap(x, y);
     }
     return std::to_string(inMillimetres(x)) + ' ' + std::to_string(inMillimetres(y));
 }
 
-std::string colorText(const FeatureSettings& settings) {
+std::string colorText(const TicketReader& ticket) {
     static constexpr Word words[] = {
         {value::mediaNoColor, "noColor"}, {value::mediaWhite, "white"},
         {value::mediaPink, "pink"},       {value::mediaYellow, "yellow"},
@@ -56,16 +54,16 @@ std::string colorText(const FeatureSettings& settings) {
         {value::mediaBuff, "buff"},       {value::mediaGoldenrod, "goldenrod"},
         {value::mediaRed, "red"},
     };
-    const _FI mediaColor(feature::mediaColor);
-    const FeatureValue color = settings.getFeatureValue(mediaColor);
+    const FeatureValue color = ticket.getFeatureValue(feature::mediaColor);
     if (color.getValue() == FeatureValue::unspecified) {
         return {};
     }
     if (const std::string_view word = findWord(words, color); !word.empty()) {
+        ticket.take(feature::mediaColor);
         return std::string(word);
     }
     CXString name;
-    settings.getString(mediaColor, &name);
+    ticket.takeString(feature::mediaColor, &name);
     return asField(name);
 }
 
@@ -80,40 +78,46 @@ std::string opacityText(FeatureValue type) {
     }
 }
 
-bool isDrilled(const FeatureSettings& settings) {
+/// The stream knows paper with three holes and paper without any.
+bool isDrilled(const TicketReader& ticket) {
     constexpr std::int32_t drilledHoles = 3;
     std::int32_t holes = 0;
-    return settings.getLong(_FI(feature::mediaHoleCount), &holes) && holes == drilledHoles;
+    ticket.getSettings().getLong(_FI(feature::mediaHoleCount), &holes);
+    if (holes == 0 || holes == drilledHoles) {
+        ticket.take(feature::mediaHoleCount);
+    }
+    return holes == drilledHoles;
 }
 
 /// The number of tabs in a set.
-std::string orderCountText(const FeatureSettings& settings) {
-    const std::string count = textOfNumber(settings, feature::mediaOrderCount);
+std::string orderCountText(const TicketReader& ticket) {
+    const std::string count = textOfNumber(ticket, feature::mediaOrderCount);
     return count.empty() ? "0" : count;
 }
 
-std::string preFinishText(const FeatureSettings& settings, FeatureValue type) {
+std::string preFinishText(const TicketReader& ticket, FeatureValue type) {
     if (type.getValue() == FeatureValue::unspecified) {
         return {};
     }
-    const bool drilled = isDrilled(settings);
+    ticket.take(feature::mediaType);
+    const bool drilled = isDrilled(ticket);
     switch (type.getValue()) {
     case value::mediaStationery:
     case value::mediaTransparency:
         return drilled ? "PlainDrilled 3 0" : "Plain 0 0";
     case value::mediaPreCutTabs:
     case value::mediaFullCutTabs:
-        return (drilled ? "DrilledPreCutTab 3 "s : "PlainPreCutTab 0 "s) + orderCountText(settings);
+        return (drilled ? "DrilledPreCutTab 3 "s : "PlainPreCutTab 0 "s) + orderCountText(ticket);
     case value::mediaPrePrinted:
         return drilled ? "PreprintedDrilled 3 0" : "Preprinted 0 0";
     default:
         break;
     }
     CXString name;
-    if (!settings.getString(_FI(feature::mediaType), &name)) {
+    if (!ticket.takeString(feature::mediaType, &name)) {
         return {};
     }
-    return asField(name) + (drilled ? " 3 " : " 0 ") + orderCountText(settings);
+    return asField(name) + (drilled ? " 3 " : " 0 ") + orderCountText(ticket);
 }
 
 std::string_view firstOf(std::string_view text, std::string_view otherwise) {
@@ -128,12 +132,12 @@ void writePaperLine(std::string_view keyword, std::string_view text, Output& out
 
 } // namespace
 
-Paper::Paper(const FeatureSettings& settings, const AjtPrinterTraits& traits)
-    : size(sizeText(settings, traits)), color(colorText(settings)),
-      weight(textOfNumber(settings, feature::mediaWeightMetric)) {
-    const FeatureValue type = settings.getFeatureValue(_FI(feature::mediaType));
+Paper::Paper(const TicketReader& ticket, const AjtPrinterTraits& traits)
+    : size(sizeText(ticket, traits)), color(colorText(ticket)),
+      weight(textOfNumber(ticket, feature::mediaWeightMetric)) {
+    const FeatureValue type = ticket.getFeatureValue(feature::mediaType);
     opacity = opacityText(type);
-    preFinish = preFinishText(settings, type);
+    preFinish = preFinishText(ticket, type);
 }
 
 void writeDescription(const Paper& local, const Paper& job, const AjtPrinterTraits& traits,

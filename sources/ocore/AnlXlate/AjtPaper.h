@@ -4,14 +4,14 @@
 
 #include "ocore/AnlXlate/AjtOutput.h"
 #include "ocore/AnlXlate/AjtPrinterTraits.h"
-#include "ocore/FeatureSettings/FeatureSettings.h"
+#include "ocore/AnlXlate/AjtTicketReader.h"
 
 namespace zent::ajt {
 
-/// What some settings say of the paper, of a job or of some of its sheets. Each text is empty where
-/// they say nothing, and in the code page of the stream.
+/// What a ticket or a part of one says of the paper, of a job or of some of its sheets. Each text
+/// is empty where they say nothing, and in the code page of the stream.
 struct Paper {
-    Paper(const FeatureSettings& settings, const AjtPrinterTraits& traits);
+    Paper(const TicketReader& ticket, const AjtPrinterTraits& traits);
 
     std::string size; // in millimetres, turned as the printer takes it
     std::string color;

@@ -1,37 +1,36 @@
 // The sheets that a job has besides its pages, and those that begin a chapter.
 
 #include "ocore/AnlXlate/AjtGroups.h"
-#include "ocore/AnlXlate/AjtWords.h"
 
 namespace zent::ajt {
 
 namespace {
 
-void writePaperOf(const FeatureSettings& sheets, const Job& job, Output& output) {
+void writePaperOf(const TicketReader& sheets, const Job& job, Output& output) {
     writeDescription(Paper(sheets, job.traits), job.paper, job.traits, output);
 }
 
 /// Which sides of a cover are printed is said from the document's inside or outside.
 void writeCover(const Job& job, std::string_view keyword, FeatureEnum feature,
                 std::span<const Word> sides, Output& output) {
-    const FeatureSettings cover = job.settings.getNestedSettings(_FI(feature));
-    if (cover.isEmpty()) {
+    const TicketReader cover = job.ticket.getNested(feature);
+    if (cover.getSettings().isEmpty()) {
         return;
     }
-    const std::string_view printed =
-        findWord(sides, cover.getFeatureValue(_FI(feature::coverType)));
+    const std::string_view printed = findWord(sides, cover.getFeatureValue(feature::coverType));
+    cover.take(feature::coverType);
     output << keyword << (printed.empty() ? "noImage" : printed) << " ";
     writePaperOf(cover, job, output);
     output << "\n";
 }
 
-void writeInsert(const FeatureSettings& insert, const Job& job, Output& output) {
+void writeInsert(const TicketReader& insert, const Job& job, Output& output) {
     std::int32_t page = 0;
     std::int32_t count = 1;
-    if (!insert.getLong(_FI(feature::insertAfterPageNumber), &page)) {
+    if (!insert.takeLong(feature::insertAfterPageNumber, &page)) {
         return;
     }
-    insert.getLong(_FI(feature::insertCount), &count);
+    insert.takeLong(feature::insertCount, &count);
     output << "%TRVblankPageInserts: " << page << " " << count << " ";
     writePaperOf(insert, job, output);
     output << "\n";
@@ -40,7 +39,7 @@ void writeInsert(const FeatureSettings& insert, const Job& job, Output& output) 
 } // namespace
 
 void writeChapterHints(const Job& job, Output& output) {
-    for (const std::int32_t page : job.settings.getLongs(_FI(feature::forceFrontSide))) {
+    for (const std::int32_t page : job.ticket.takeLongs(feature::forceFrontSide)) {
         output << "%TRVchapterStartHint: " << page << "\n";
     }
 }
@@ -61,9 +60,8 @@ void writeCovers(const Job& job, Output& output) {
 }
 
 void writeBlankPageInserts(const Job& job, Output& output) {
-    job.settings.visitNestedSettings(_FI(feature::insertSheet), [&](const FeatureSettings& insert) {
-        writeInsert(insert, job, output);
-    });
+    job.ticket.visitNested(feature::insertSheet,
+                           [&](const TicketReader& insert) { writeInsert(insert, job, output); });
 }
 
 } // namespace zent::ajt

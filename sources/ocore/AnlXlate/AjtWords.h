@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "ocore/AnlXlate/AjtValues.h"
-#include "ocore/FeatureSettings/FeatureSettings.h"
+#include "ocore/FeatureSettings/FeatureValue.h"
 
 namespace zent::ajt {
 
@@ -16,10 +16,5 @@ struct Word {
 
 /// Empty if the table hasn't the value.
 std::string_view findWord(std::span<const Word> table, FeatureValue value);
-
-/// The words of "sides" and "page-rotation", of a job or of some of its pages; empty if they aren't
-/// set.
-std::string_view getPlexWord(const FeatureSettings& settings);
-std::string_view getRotationWord(const FeatureSettings& settings);
 
 } // namespace zent::ajt

@@ -25,12 +25,11 @@ constexpr ajt::WriteGroup* groups[] = {
     ajt::writePageExceptions,
 };
 
-} // namespace
-
-void TarvoAjtTranslator::translate(const AttrNodeList& source, Stream& target) {
+ByteBuffer makeStream(const AttrNodeList& source, const AjtPrinterTraits& traits,
+                      ajt::SpokenNodes* spoken) {
     // A view, so that a long ticket isn't copied; nothing is written through it.
-    FeatureSettings settings(const_cast<AttrNodeList*>(&source));
-    const ajt::Job job{settings, m_traits, ajt::Paper(settings, m_traits)};
+    const ajt::TicketReader ticket(FeatureSettings(const_cast<AttrNodeList*>(&source)), spoken);
+    const ajt::Job job{ticket, traits, ajt::Paper(ticket, traits)};
     ajt::Output output;
     output << "%TRVbegin: 001.0300\n";
     for (ajt::WriteGroup* const writeGroup : groups) {
@@ -38,7 +37,19 @@ void TarvoAjtTranslator::translate(const AttrNodeList& source, Stream& target) {
     }
     output << "%TRVdeleteSource: False\n"
               "%TRVend\n";
-    target.write(output.getBytes());
+    return output.getBytes();
+}
+
+} // namespace
+
+void TarvoAjtTranslator::translate(const AttrNodeList& source, Stream& target) {
+    target.write(makeStream(source, m_traits, nullptr));
+}
+
+std::vector<AjtOmission> TarvoAjtTranslator::findOmissions(const AttrNodeList& source) const {
+    ajt::SpokenNodes spoken;
+    makeStream(source, m_traits, &spoken);
+    return ajt::listOmissions(source, spoken);
 }
 
 } // namespace zent

@@ -1,5 +1,6 @@
 #include "ocore/AnlXlate/TarvoAjtTranslator.h"
 
+#include <algorithm>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -8,6 +9,8 @@
 #include "ocore/AnlXlate/CreateStreamTranslator.h"
 #include "ocore/Capabilities/Capabilities.h"
 #include "ocore/Exceptions.h"
+#include "ocore/FeatureSettings/FeatureTable.h"
+#include "ocore/FeatureSettings/FeatureValueTable.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/ListText.h"
 #include "support/OrdoDocument.h"
@@ -33,18 +36,21 @@ std::string streamOf(const std::string& ticket, const AjtPrinterTraits& traits) 
     return stream.text;
 }
 
-/// The lines that a ticket adds to those of an empty one, without the keywords' common beginning.
-std::string linesOf(const std::string& ticket, const AjtPrinterTraits& traits) {
-    const std::string always = streamOf("", traits);
-    const std::string stream = streamOf(ticket, traits);
+/// The lines of a stream that another hasn't, without the keywords' common beginning.
+std::string linesBeside(const std::string& other, const std::string& stream) {
     std::string lines;
     for (std::size_t start = 0; start < stream.size();) {
         const std::size_t end = stream.find('\n', start) + 1;
         const std::string line = stream.substr(start, end - start);
-        lines += always.find(line) == std::string::npos ? line.substr(4) : "";
+        lines += other.find(line) == std::string::npos ? line.substr(4) : "";
         start = end;
     }
     return lines;
+}
+
+/// The lines that a ticket adds to those of an empty one.
+std::string linesOf(const std::string& ticket, const AjtPrinterTraits& traits) {
+    return linesBeside(streamOf("", traits), streamOf(ticket, traits));
 }
 
 class TarvoAjtTranslatorTest : public testing::Test {
@@ -146,6 +152,173 @@ TEST_F(TarvoAjtTranslatorTest, WeightsOfTheJobCountWhereThePrinterKnowsWeights) 
               "paperType-weight: 90\ncover-front: both 216 279 white opaque Plain 0 0 75\n");
     EXPECT_EQ(linesOf(ticket, full),
               "paperType-weight: 90\ncover-front: both 216 279 white opaque Plain 0 0 90\n");
+}
+
+std::string omissionsOf(const AttrNodeList& ticket, const AjtPrinterTraits& traits) {
+    std::string paths;
+    for (const AjtOmission& omission : TarvoAjtTranslator(traits).findOmissions(ticket)) {
+        paths += (paths.empty() ? "" : " ") + omission.path.toNarrow();
+    }
+    return paths;
+}
+
+TEST_F(TarvoAjtTranslatorTest, OmissionsAreWhatNoLineSpeaksOf) {
+    const Rows<const char*, const char*> rows{
+        {"copies=2 media-col{media-color=red media-type=stationery media-hole-count=0}", ""},
+        {"output-bin=stacker !media-key=a job-offset[value=none]", "output-bin job-offset"},
+        {"page-ranges[value(lower-bound=3 upper-bound=9) value(lower-bound=12 upper-bound=14)]",
+         "page-ranges[2]"},
+        {"page-ranges[value(lower-bound=3)]", "page-ranges"},
+        {"finishings[value=enum:3]", ""},
+        {"finishings[value=enum:20 value=enum:22 value=enum:110]", "finishings[2] finishings[3]"},
+        {"separator-sheets{separator-sheets-type=slip-sheets} finishings[value=enum:20]",
+         "finishings"},
+        {"imposition-template=name:two-up highlight-colorant=use-ready",
+         "imposition-template highlight-colorant"},
+        {"sides=one-sided x-side2-image-shift=100 y-side2-image-shift=100", ""},
+        {"job-save-disposition{save-disposition=none save-info[value{save-name=name:a}]}",
+         "job-save-disposition/save-info"},
+        {"media-col{media-size{x-dimension=100} media-hole-count=2}", "media-col"},
+        {"media-col{media-type=stationery media-hole-count=2 media-order-count=4}",
+         "media-col/media-hole-count media-col/media-order-count"},
+        {"media-col{media-type=labels media-hole-count=3 media-order-count=4}", ""},
+        {"cover-front{copies=1} cover-back{}", "cover-front/copies"},
+        {"insert-sheet[value{insert-count=2} value{insert-after-page-number=4}]",
+         "insert-sheet[1]"},
+        {"page-overrides[value{sides=one-sided}]", "page-overrides"},
+        {"page-overrides[value{input-documents[value(lower-bound=1 upper-bound=1)]"
+         " pages[value(lower-bound=1 upper-bound=2) value(lower-bound=4 upper-bound=4)]"
+         " x-side2-image-shift=0 y-side2-image-shift=1 toner-saver=none}]",
+         "page-overrides[1]/pages[2] page-overrides[1]/x-side2-image-shift "
+         "page-overrides[1]/toner-saver"},
+        {"page-overrides[value{input-documents[value(lower-bound=2 upper-bound=2)]"
+         " pages[value(lower-bound=1 upper-bound=2)]} value{input-documents[value=1]"
+         " pages[value(lower-bound=3 upper-bound=3)]}]",
+         "page-overrides[1]/input-documents page-overrides[2]/input-documents"},
+        {"copies=2 copies=3", "copies"},
+    };
+    for (const auto& [ticket, paths] : rows) {
+        EXPECT_EQ(omissionsOf(listOf(ticket), plain), paths) << ticket;
+    }
+}
+
+/// Gives a feature each value that it is known by, or else one of each of its syntaxes, and hands
+/// over what the settings are then.
+template <typename Visit>
+void visitValuesOf(FeatureEnum feature, const FeatureSettings& settings, const Visit& visit) {
+    const _FI setting(feature);
+    const auto visitText = [&](const CXString& text, const CXString& syntax) {
+        FeatureSettings changed(*settings.getAttrNodeList());
+        changed.setAttribute(setting, text, syntax);
+        visit(changed);
+    };
+    for (const auto& values : {getLowerValueRows(), getUpperValueRows()}) {
+        for (const FeatureValueRow& row : values) {
+            if (std::ranges::find(row.features, feature) != row.features.end()) {
+                visitText(row.text, row.syntax);
+            }
+        }
+    }
+    for (std::uint32_t i = 0; i < setting.getSyntaxes().getSyntaxCount(); ++i) {
+        FeatureSettings changed(*settings.getAttrNodeList());
+        switch (setting.getAVTE(i)) {
+        case AVTE_INTEGER:
+        case AVTE_ENUM:
+            visitText(u"7", setting.getSyntax(i));
+            visitText(u"900", setting.getSyntax(i));
+            break;
+        case AVTE_LIST:
+            if (setting.getSyntax(i) == syntax::rangeOfInteger) {
+                changed.setRange(setting, 2, 5);
+                visit(changed);
+            }
+            break;
+        case AVTE_KEYWORD:
+            break;
+        default:
+            visitText(u"of my own", setting.getSyntax(i));
+        }
+    }
+}
+
+/// The way to the first value of a feature in a part of a ticket, as paths of omissions have it.
+std::string wayTo(FeatureEnum part, FeatureEnum feature) {
+    std::string way;
+    bool isInSet = false;
+    const auto add = [&](const CXString& name, bool isSet) {
+        way += isInSet ? "[1]" : (way.empty() ? "" : "/") + name.toNarrow();
+        isInSet = isSet;
+    };
+    for (const FeatureEnum each : {part, feature}) {
+        if (each != TJTF_ANY) {
+            const NestedAttrID& id = _FI(each).getNestedAttrID();
+            for (std::uint32_t i = id.getDepth(); i > 0; --i) {
+                add(id.getParentName(i - 1), id.getParentSyntax(i - 1) == syntax::setOf);
+            }
+            add(id.getAttrID().getText(), false);
+        }
+    }
+    return way;
+}
+
+// What makes a line is no omission, and what never does is one. Each feature stands in each part of
+// a ticket, alone and beside what some lines depend on.
+TEST_F(TarvoAjtTranslatorTest, OmissionsAgreeWithTheStream) {
+    const std::string beside =
+        "media-col{media-type=pre-cut-tabs media-size{x-dimension=100 y-dimension=200}} "
+        "job-save-disposition{save-disposition=save-only}";
+    const std::string range = "[value(lower-bound=1 upper-bound=2)]";
+    // The part of the ticket, and what it holds at least.
+    const Rows<FeatureEnum, std::string> parts{
+        {TJTF_ANY, ""},
+        {TJTF_ANY, beside},
+        {feature::coverFront, "cover-type=print-both"},
+        {feature::coverBack, beside},
+        {feature::insertSheet, "insert-after-page-number=4"},
+        {feature::insertSheet, "insert-after-page-number=4 " + beside},
+        {feature::pageOverrides, "pages" + range},
+        {feature::pageOverrides, "pages" + range + " " + beside},
+    };
+    const auto inPart = [](FeatureEnum part, const FeatureSettings& settings) {
+        FeatureSettings ticket(settings);
+        if (part != TJTF_ANY) {
+            ticket = FeatureSettings();
+            ticket.setNestedSettings(_FI(part), settings);
+        }
+        return ticket;
+    };
+    TarvoAjtTranslator translator(full);
+    const auto translate = [&](const FeatureSettings& ticket) {
+        Writes stream;
+        translator.translate(*ticket.getAttrNodeList(), stream);
+        return stream.text;
+    };
+    for (const auto& [part, content] : parts) {
+        const FeatureSettings settings(listOf(content));
+        for (const FeatureRow& row : getFeatureRows()) {
+            FeatureSettings without(*settings.getAttrNodeList());
+            without.setFeatureValue(_FI(row.feature), FeatureValue());
+            const std::string streamWithout = translate(inPart(part, without));
+            const std::string way = wayTo(part, row.feature);
+            bool isEverWritten = false;
+            bool isEverTaken = false;
+            visitValuesOf(row.feature, without, [&, part = part](const FeatureSettings& with) {
+                const FeatureSettings ticket = inPart(part, with);
+                const auto omissions = translator.findOmissions(*ticket.getAttrNodeList());
+                const bool isOmitted = std::ranges::any_of(omissions, [&](const auto& one) {
+                    const std::string path = one.path.toNarrow();
+                    return way.starts_with(path) &&
+                           (path.size() == way.size() || way[path.size()] == '/' ||
+                            way[path.size()] == '[');
+                });
+                const bool isWritten = !linesBeside(streamWithout, translate(ticket)).empty();
+                EXPECT_FALSE(isWritten && isOmitted) << textOfList(*ticket.getAttrNodeList());
+                isEverWritten = isEverWritten || isWritten;
+                isEverTaken = isEverTaken || !isOmitted;
+            });
+            EXPECT_EQ(isEverWritten, isEverTaken) << way;
+        }
+    }
 }
 
 TEST_F(TarvoAjtTranslatorTest, AFailureWritesNothing) {
