@@ -18,13 +18,14 @@ std::string describeCount(std::size_t count) {
 
 std::string listForPeople(const TicketCheck& check) {
     return describePrinterForPeople(check.offers) + ": " + describeCount(check.problems.size()) +
-           "\n" + listProblems(check.problems);
+           "\n" + listProblems(check.problems) + listOmissions(check.omissions);
 }
 
 std::string listAsJson(const TicketCheck& check) {
     return Json::object()
         .add("printer", describePrinter(check.offers))
         .add("problems", toJson(check.problems))
+        .add("notes", toJson(check.omissions))
         .toText();
 }
 

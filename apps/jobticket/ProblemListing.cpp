@@ -131,6 +131,24 @@ Json toJson(const Problem& problem) {
     return json.add("repair", describeRepairAsJson(problem));
 }
 
+Json toJson(const Omission& omission) {
+    return Json::object()
+        .add("path", omission.path)
+        .add("feature", omission.feature)
+        .add("name", omission.name)
+        .add("rule", "not-in-stream")
+        .add("found", toJson(omission.value));
+}
+
+template <typename Entry>
+Json toJsonArray(const std::vector<Entry>& entries) {
+    Json list = Json::array();
+    for (const Entry& entry : entries) {
+        list.add(toJson(entry));
+    }
+    return list;
+}
+
 } // namespace
 
 std::string listProblems(const std::vector<Problem>& problems) {
@@ -142,13 +160,23 @@ std::string listProblems(const std::vector<Problem>& problems) {
     return layOut(std::move(rows));
 }
 
-Json toJson(const std::vector<Problem>& problems) {
-    Json list = Json::array();
-    for (const Problem& problem : problems) {
-        list.add(toJson(problem));
+Json toJson(const std::vector<Problem>& problems) { return toJsonArray(problems); }
+
+std::string listOmissions(const std::vector<Omission>& omissions) {
+    if (omissions.empty()) {
+        return "";
     }
-    return list;
+    std::vector<std::vector<std::string>> rows;
+    rows.reserve(omissions.size());
+    for (const Omission& omission : omissions) {
+        rows.push_back({"  " + omission.path, describeValue(omission.value)});
+    }
+    return "note: the printing instructions, a stream of comment lines, leave out " +
+           std::to_string(omissions.size()) + (omissions.size() == 1 ? " setting" : " settings") +
+           ":\n" + layOut(std::move(rows));
 }
+
+Json toJson(const std::vector<Omission>& omissions) { return toJsonArray(omissions); }
 
 std::string describePrinterForPeople(const Offers& offers) {
     return offers.printer + ", " + offers.language;

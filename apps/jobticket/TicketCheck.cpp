@@ -1,12 +1,17 @@
 #include "TicketCheck.h"
 
+#include <algorithm>
+#include <iterator>
 #include <map>
 
 #include "FeaturePath.h"
 #include "Outline.h"
 #include "Text.h"
+#include "ocore/AnlXlate/TarvoAjtTranslator.h"
 #include "ocore/Capabilities/RepairReport.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
+#include "ocore/TarvoException.h"
+#include "zent27.h"
 
 namespace jobticket {
 
@@ -118,15 +123,66 @@ std::vector<const RepairEntry*> leaveEffective(const std::vector<RepairEntry>& e
     return effective;
 }
 
-} // namespace
+zent::NonDriverBasedPrinter makePrinter(const PrinterChoice& choice) {
+    return {choice.model, choice.pdl, choice.form, zent::CXString(), true};
+}
 
-TicketCheck checkTicket(zent::AttrNodeList ticket, const PrinterChoice& choice) {
-    TicketCheck check = {getOffers(choice), {}};
-    zent::NonDriverBasedPrinter printer(choice.model, choice.pdl, choice.form, zent::CXString(),
-                                        true);
+/// As an import does.
+void normalize(zent::AttrNodeList& ticket) {
     zent::FeatureSettings settings(&ticket);
     settings.normalizePageOverrides();
     settings.normalizeImageShift();
+}
+
+Omission makeOmission(const zent::AjtOmission& omission) {
+    const std::string attribute = toUtf8(omission.attribute);
+    return {toPathText(toUtf8(omission.path)), attribute,
+            Feature::exists(attribute) ? Feature::named(attribute).getDisplayName() : attribute,
+            describeAttribute(attribute, omission.node->getAttrValue())};
+}
+
+std::vector<Omission> findOmissions(const zent::AttrNodeList& ticket, zent::Printer& printer) {
+    std::vector<Omission> omissions;
+    if (printer.getInstructionForm() != ZENT_INSTRUCTIONS_XML) {
+        const zent::TarvoAjtTranslator translator(printer.getCapabilities().getAjtPrinterTraits());
+        std::ranges::transform(translator.findOmissions(ticket), std::back_inserter(omissions),
+                               makeOmission);
+    }
+    return omissions;
+}
+
+/// Whether a problem is about what lies at a path, or about what that lies in.
+bool isAbout(const Problem& problem, std::string_view path) {
+    return path.starts_with(problem.path) &&
+           (path.size() == problem.path.size() || path[problem.path.size()] == '.' ||
+            path[problem.path.size()] == '[');
+}
+
+/// Nothing where the ticket holds a value that the instructions can't be made of: that is a
+/// problem, and the first thing to be mended.
+std::vector<Omission> findOmissionsBeside(const std::vector<Problem>& problems,
+                                          const zent::AttrNodeList& ticket,
+                                          zent::Printer& printer) {
+    std::vector<Omission> omissions;
+    try {
+        omissions = findOmissions(ticket, printer);
+    } catch (const zent::TarvoException&) {
+        return omissions;
+    }
+    std::erase_if(omissions, [&](const Omission& omission) {
+        return std::ranges::any_of(
+            problems, [&](const Problem& problem) { return isAbout(problem, omission.path); });
+    });
+    return omissions;
+}
+
+} // namespace
+
+TicketCheck checkTicket(zent::AttrNodeList ticket, const PrinterChoice& choice) {
+    TicketCheck check = {getOffers(choice), {}, {}};
+    zent::NonDriverBasedPrinter printer = makePrinter(choice);
+    normalize(ticket);
+    zent::FeatureSettings settings(&ticket);
     zent::SettingsProblemList problems;
     printer.getCapabilities().validate(settings, problems);
     const zent::RepairReport report(problems, printer.getDefaults().getSettings());
@@ -134,7 +190,14 @@ TicketCheck checkTicket(zent::AttrNodeList ticket, const PrinterChoice& choice) 
     for (const RepairEntry* entry : leaveEffective(report.getEntries())) {
         check.problems.push_back(makeProblem(*entry, offers));
     }
+    check.omissions = findOmissionsBeside(check.problems, ticket, printer);
     return check;
+}
+
+std::vector<Omission> findOmissions(zent::AttrNodeList ticket, const PrinterChoice& choice) {
+    zent::NonDriverBasedPrinter printer = makePrinter(choice);
+    normalize(ticket);
+    return findOmissions(ticket, printer);
 }
 
 } // namespace jobticket

@@ -34,13 +34,28 @@ struct Problem {
     std::shared_ptr<const Offer> offer; // of the feature; null if the printer lacks it
 };
 
+/// Something in a ticket that the printing instructions for a printer don't speak of, since they
+/// are a stream of comment lines, which has no line for it.
+struct Omission {
+    std::string path;    // as "jobticket set" takes it
+    std::string feature; // or the attribute, if it is none
+    std::string name;    // for people
+    ShownValue value;
+};
+
 struct TicketCheck {
     Offers offers;
     std::vector<Problem> problems; // in the order of the library's reports
+    std::vector<Omission>
+        omissions; // without those that are problems anyway; in the ticket's order
 };
 
 /// Finds what a printer can't do of a ticket, which is first brought into the form that an import
 /// gives it.
 TicketCheck checkTicket(zent::AttrNodeList ticket, const PrinterChoice& choice);
+
+/// Finds what the instructions for a printer don't speak of in a ticket, which is first brought
+/// into the form that an import gives it. Nothing for a printer that gets the XML document.
+std::vector<Omission> findOmissions(zent::AttrNodeList ticket, const PrinterChoice& choice);
 
 } // namespace jobticket

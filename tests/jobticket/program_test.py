@@ -369,7 +369,26 @@ class Checking(InFolder):
                  "rule": "missing-feature",
                  "allowed": {"feature": "form-name", "name": "Form name", "unset": False,
                              "own": True, "length": [0, 255]},
-                 "repair": {"action": "remove", "path": "forms-col[0]"}}]})
+                 "repair": {"action": "remove", "path": "forms-col[0]"}}],
+            "notes": []})
+
+    def test_notes_what_the_stream_leaves_out(self):
+        ticket = run("set", "-", "page-ranges=1-5,8-9", "finishings=20,22", "job-offset=offset-set",
+                     "imposition-template=none", "save-disposition=none", data=EMPTY)
+        left_out = ["note: the printing instructions, a stream of comment lines, leave out 2 "
+                    "settings:", "  page-ranges[1]  8-9", "  finishings[1]   22 (Staple, top right)"]
+        printer = ["-m", "1", "-p", "ps"]
+        run("check", "-", *printer, data=run("check", "-", *printer, "--fix", data=ticket,
+                                             status=DIFFERENT))
+        # What is a problem anyway isn't noted as well.
+        lines = run("check", "-", *printer, data=ticket, status=DIFFERENT).decode().splitlines()
+        self.assertEqual([line for line in lines if "job-offset" in line], lines[1:2])
+        self.assertEqual(lines[2:], left_out)
+        found = json.loads(run("check", "-", *printer, "--json", data=ticket, status=DIFFERENT))
+        self.assertEqual(found["notes"][0], {
+            "path": "page-ranges[1]", "feature": "page-ranges", "name": "Page ranges",
+            "rule": "not-in-stream", "found": {"value": "8-9", "text": "8-9"}})
+        self.assertNotIn(b"note", run("check", "-", *printer, "--form", "xml", data=ticket))
 
     def test_json_keeps_texts(self):
         name = 'a"b\\c\t\u009b/\u2028 ü\U0001f600'
