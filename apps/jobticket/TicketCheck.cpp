@@ -128,11 +128,7 @@ zent::NonDriverBasedPrinter makePrinter(const PrinterChoice& choice) {
 }
 
 /// As an import does.
-void normalize(zent::AttrNodeList& ticket) {
-    zent::FeatureSettings settings(&ticket);
-    settings.normalizePageOverrides();
-    settings.normalizeImageShift();
-}
+void normalize(zent::AttrNodeList& ticket) { zent::FeatureSettings(&ticket).normalize(); }
 
 Omission makeOmission(const zent::AjtOmission& omission) {
     const std::string attribute = toUtf8(omission.attribute);

@@ -43,8 +43,7 @@ bool check(ZENTSession& session, FeatureSettings& ticket, const ApplyRequest& re
 
 ZentResult applyCapabilities(ZENTSession& session, FeatureSettings& ticket,
                              const ApplyRequest& request, ZentBool& problems, bool& usable) {
-    bool isChanged = ticket.normalizePageOverrides();
-    isChanged |= ticket.normalizeImageShift();
+    const bool isChanged = ticket.normalize();
     if (request.mode < ZENT_APPLY_SILENT_REPAIR || request.mode > ZENT_APPLY_REPORT_CHOICE) {
         return ZENT_ERR_APPLY_MODE;
     }

@@ -40,8 +40,7 @@ TEST(RepairAmongPrintersTest, ARepairedTicketHasNoProblems) {
                 EXPECT_TRUE(capabilities.applyCapabilitiesToJobTicket(
                     repaired, defaults.getSettings(), hadProblems, problemPolicy::repair));
                 found += hadProblems ? 1 : 0;
-                repaired.normalizePageOverrides(); // as the next import does
-                repaired.normalizeImageShift();
+                repaired.normalize(); // as the next import does
                 SettingsProblemList remaining;
                 EXPECT_TRUE(capabilities.validate(repaired, remaining))
                     << textOfProblems(remaining);

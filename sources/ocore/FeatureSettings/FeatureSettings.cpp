@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "ocore/Attributes/IppList.h"
+#include "ocore/Exceptions.h"
 
 namespace zent {
 
@@ -102,6 +103,20 @@ bool FeatureSettings::shapeAsPageOverride() {
         changed = true;
     }
     return changed;
+}
+
+bool FeatureSettings::normalize() {
+    const auto isChangedBy = [this](bool (FeatureSettings::*normalization)()) {
+        try {
+            return (this->*normalization)();
+        } catch (const UnknownFeatureRequestException&) {
+            return true;
+        } catch (const AttributeTypeMismatchException&) {
+            return true;
+        }
+    };
+    const bool isShaped = isChangedBy(&FeatureSettings::normalizePageOverrides);
+    return isChangedBy(&FeatureSettings::normalizeImageShift) || isShaped;
 }
 
 bool FeatureSettings::normalizePageOverrides() {

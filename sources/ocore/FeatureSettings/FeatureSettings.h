@@ -35,6 +35,10 @@ public:
     void setNestedSettings(const _SI& setting, const FeatureSettings& nested,
                            std::uint32_t instance = 0);
 
+    /// Does both of what follows. What makes no sense at its place, such as a collection for a
+    /// shift, stays as it is, for the check to find: what can be exported can be imported. True if
+    /// anything may have changed.
+    bool normalize();
     /// Gives each page override its shape (see shapeAsPageOverride). True if any changed.
     bool normalizePageOverrides();
     /// Turns the general image shifts, here and in each page override, into those of the sides that

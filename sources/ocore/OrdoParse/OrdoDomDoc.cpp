@@ -25,7 +25,14 @@ XmlNode& OrdoDomDoc::getParentNode(XmlDocument& document, XmlNode& root, const A
     return *element;
 }
 
+/// Each attribute has a syntax, or the document wouldn't be valid: without one are the root and the
+/// categories alone.
 bool OrdoDomDoc::isContainerNode(const XmlNode& element) const {
+    if (element.getParent()->getParent()->isElement()) {
+        raiseOrdoParse(ordoParseCode::errorReportedInParse,
+                       "OrdoDomDoc::isContainerNode(): %s can't stand in %s!\r\n",
+                       CXString(element.getName()), CXString(element.getParent()->getName()));
+    }
     return element.getName() == nameOf(OrdoCategory::operation) ||
            element.getName() == nameOf(OrdoCategory::jobTemplate);
 }

@@ -117,6 +117,11 @@ TEST(FeatureSettingsTest, ImageShiftsGoToTheSidesThatArePrinted) {
     }
     EXPECT_THROW(ticketOf("sides=folded").normalizeImageShift(), UnknownFeatureRequestException);
     EXPECT_THROW(ticketOf("x-image-shift=x").normalizeImageShift(), AttributeTypeMismatchException);
+    for (const char* senseless : {"sides=folded", "x-image-shift=x", "page-overrides[value=1]"}) {
+        FeatureSettings ticket = ticketOf(senseless);
+        EXPECT_TRUE(ticket.normalize());
+        EXPECT_EQ(textOf(ticket), senseless);
+    }
 }
 
 } // namespace
