@@ -7,7 +7,7 @@
 #include <xercesc/validators/DTD/DTDGrammar.hpp>
 
 #include "ocore/OrdoParse/DOMTreeErrorReporter.h"
-#include "ocore/OrdoParse/DtdFolder.h"
+#include "ocore/OrdoParse/OwnDtd.h"
 #include "ocore/OrdoParse/ParserMemory.h"
 #include "platform/Files.h"
 #include "platform/Lock.h"
@@ -88,14 +88,20 @@ void CompiledDtd::forget() {
     kept.clear();
 }
 
+bool CompiledDtd::declaresElement(const CXString& name) const {
+    const xercesc::XMLElementDecl* const declaration =
+        m_grammar->getElemDecl(0, nullptr, name.c_str(), 0);
+    return declaration != nullptr && declaration->isDeclared();
+}
+
 std::shared_ptr<const CompiledDtd> CompiledDtd::compile(const CXString& path) {
-    auto bytes = readEntityFile(path);
+    auto bytes = readDtdFile(path);
     if (!bytes) {
         return nullptr;
     }
     const std::shared_ptr<CompiledDtd> dtd(new CompiledDtd(path, std::move(bytes)));
     DOMTreeErrorReporter reporter;
-    DtdFolder nothingElse(CXString(), nullptr);
+    OwnDtd nothingElse(CXString(), nullptr);
     ParserMemory memory;
     xercesc::XercesDOMParser parser(nullptr, &memory, dtd->m_grammars.get());
     parser.setErrorHandler(&reporter);
@@ -116,7 +122,8 @@ std::shared_ptr<const CompiledDtd> CompiledDtd::compile(const CXString& path) {
     if (grammar == nullptr || parser.getErrorCount() > 0 || !reporter.getMessages().isEmpty()) {
         return nullptr;
     }
-    completeDeclarations(*static_cast<const xercesc::DTDGrammar*>(grammar));
+    dtd->m_grammar = static_cast<const xercesc::DTDGrammar*>(grammar);
+    completeDeclarations(*dtd->m_grammar);
     dtd->m_grammars->lockPool();
     return dtd;
 }

@@ -8,6 +8,10 @@
 #include "ocore/CXString.h"
 #include "ocore/OrdoParse/KeptSkeletons.h"
 
+XERCES_CPP_NAMESPACE_BEGIN
+class DTDGrammar;
+XERCES_CPP_NAMESPACE_END
+
 namespace zent {
 
 /// A document type definition that was read and compiled, to be used by many parses, on any number
@@ -16,7 +20,7 @@ class CompiledDtd {
 public:
     /// The definition as the file is now. One is kept for the process: as long as the file's stamp
     /// is the same, it is given out again. Null if there is no such file, or if it gives the parser
-    /// anything to report or needs other files: then the parser has to read it itself, each time.
+    /// anything to report or needs other files: then the parser tells what is wrong, each time.
     static std::shared_ptr<const CompiledDtd> find(const CXString& path);
     /// Drops what is kept.
     static void forget();
@@ -30,6 +34,8 @@ public:
     /// Locked, and holding all that a parser would otherwise add to it while it reads a document.
     xercesc::XMLGrammarPool& getGrammars() const { return *m_grammars; }
 
+    bool declaresElement(const CXString& name) const;
+
     /// Skeletons that have passed validation. They stay valid as long as the definition does.
     KeptSkeletons& getSkeletons() const { return m_skeletons; }
 
@@ -40,6 +46,7 @@ private:
     CXString m_path;
     std::unique_ptr<ByteBuffer> m_bytes;
     std::unique_ptr<xercesc::XMLGrammarPoolImpl> m_grammars;
+    const xercesc::DTDGrammar* m_grammar = nullptr; // the one among them
     mutable KeptSkeletons m_skeletons;
 };
 

@@ -12,9 +12,9 @@
 #include <xercesc/util/XMLException.hpp>
 
 #include "ocore/OrdoParse/CompiledDtd.h"
-#include "ocore/OrdoParse/DtdFolder.h"
 #include "ocore/OrdoParse/KeptSkeletons.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
+#include "ocore/OrdoParse/OwnDtd.h"
 #include "ocore/OrdoParse/ParseGrammars.h"
 #include "ocore/OrdoParse/ParserMemory.h"
 #include "ocore/OrdoParse/XmlLimits.h"
@@ -120,7 +120,7 @@ void TarvoXmlParser::runParser(std::span<const std::byte> bytes,
                                const std::shared_ptr<const CompiledDtd>& dtd) {
     xercesc::SecurityManager limits;
     limits.setEntityExpansionLimit(xmlLimits::entityExpansions);
-    DtdFolder folder(m_validate ? m_streamName : CXString(), dtd);
+    OwnDtd resolver(m_validate ? m_streamName : CXString(), dtd);
     ParserMemory memory;
     std::optional<ParseGrammars> grammars;
     if (dtd) {
@@ -128,7 +128,7 @@ void TarvoXmlParser::runParser(std::span<const std::byte> bytes,
     }
     XmlTreeBuilder parser(*m_document, memory, grammars ? &*grammars : nullptr);
     parser.setErrorHandler(&m_reporter);
-    parser.setXMLEntityResolver(&folder);
+    parser.setXMLEntityResolver(&resolver);
     parser.setDisableDefaultEntityResolution(true);
     parser.setSecurityManager(&limits);
     parser.setValidationScheme(m_validate ? xercesc::XercesDOMParser::Val_Always
