@@ -29,7 +29,9 @@ std::optional<FeatureSettings> readTicket(const ByteBuffer& data, uint32_t forma
 }
 
 void generateXml(ZENTSession& session, ByteBuffer& target) {
-    OrdoTranslator().anlToBuffer(*session.settings().getAttrNodeList(), &target);
+    const AttrNodeList& list = *session.settings().getAttrNodeList();
+    OrdoTranslator::requireReadable(list);
+    OrdoTranslator().anlToBuffer(list, &target);
 }
 
 void generateState(ZENTSession& session, ByteBuffer& target) {

@@ -12,6 +12,11 @@ public:
     /// separator. Until then it is looked for where driver files lie.
     static void setDtdDirectory(const CXString& directory);
 
+    /// Raises OrdoParseException unless what is written of a list can be read again: a list that
+    /// comes from elsewhere may hold members that the document type doesn't declare, or nest too
+    /// deep.
+    static void requireReadable(const AttrNodeList& list);
+
 protected:
     std::unique_ptr<TarvoXmlFile> createFileStream(const CXString& fileName) override;
     std::unique_ptr<TarvoXmlDataStream> createDataStream() override;

@@ -5,6 +5,7 @@
 #include "ocore/AnlXlate/OrdoTranslator.h"
 #include "support/ListText.h"
 #include "support/OrdoDocument.h"
+#include "support/Rows.h"
 #include "support/ScratchFolder.h"
 
 namespace zent::test {
@@ -51,6 +52,33 @@ TEST(OrdoTranslatorTest, FailuresLeaveWhatWasThere) {
     EXPECT_THROW(OrdoTranslator().anlToBuffer(listOf("copies=1 nobody-knows=2"), &buffer),
                  OrdoParseException);
     EXPECT_EQ(buffer, bytesOf("before"));
+}
+
+TEST(OrdoTranslatorTest, ListsWhoseDocumentCannotBeReadAreKnown) {
+    useOrdoDtd();
+    const auto nested = [](std::size_t levels) {
+        std::string list = "copies=1";
+        for (std::size_t level = 1; level < levels; ++level) {
+            list = "media-col{" + list + "}";
+        }
+        return list;
+    };
+    const Rows<std::string, std::string> rows{
+        {"copies=1 !nobody-knows=1 media-col{!nobody-knows{copies=1} media-color=a}", ""},
+        {"media-col{nobody-knows=1}", "7: OrdoTranslator::requireReadable(): The document type "
+                                      "doesn't declare nobody-knows!\r\n"},
+        {nested(98), ""}, // within root and category
+        {nested(99), "4: OrdoTranslator::requireReadable(): Elements would be nested deeper than "
+                     "100 levels.\r\n"},
+    };
+    const std::string fine = "nothing was raised";
+    for (const auto& [text, failure] : rows) {
+        const AttrNodeList list = listOf(text);
+        EXPECT_EQ(ordoFailure([&] { OrdoTranslator::requireReadable(list); }),
+                  failure.empty() ? fine : failure);
+        const std::string document = writeOrdo(list);
+        EXPECT_EQ(ordoFailure([&] { readOrdo(document); }) == fine, failure.empty()) << text;
+    }
 }
 
 } // namespace
