@@ -30,11 +30,13 @@ constexpr Option preferenceSetOption = {.names = "--set",
                                         .operand = Operand::text,
                                         .target = in<&Options::preferenceSet>,
                                         .help = "The set of preferences of that name"};
-constexpr Option sharedPreferencesOption = {
-    .names = "--generic",
-    .target = in<&Options::sharesPreferences>,
-    .help = "The set that all printers share, which is the default; with --model it is that of the "
-            "printer's driver"};
+constexpr Option printerPreferencesOption = {
+    .names = "--printer-preferences",
+    .target = in<&Options::usesPrinterPreferences>,
+    .help = "The set of preferences of the printer's driver, in place of the one that all printers "
+            "share",
+    .excludes = "--set",
+    .needs = "--model"};
 constexpr Option outputOption = {.names = "-o,--output",
                                  .operand = Operand::file,
                                  .target = in<&Options::output>,

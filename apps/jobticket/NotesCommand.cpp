@@ -31,7 +31,7 @@ constexpr std::array options = {
     modelOption,
     languageOption,
     preferenceSetOption,
-    sharedPreferencesOption,
+    printerPreferencesOption,
     withHelp(outputOption,
              "File to write, or - for standard output; without it, the ticket itself")};
 

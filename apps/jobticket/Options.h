@@ -25,12 +25,13 @@ struct Options {
     PrinterOptions to;
 
     std::string preferenceSet;
-    bool sharesPreferences = false;
+    bool usesPrinterPreferences = false;
     std::string preference;
     std::string preferenceValue;
     std::string preferenceType;
 
     std::string document;
+    bool keepsNames = false;
     bool repairs = false;
     bool showsDialog = false;
     bool removesAll = false;

@@ -5,7 +5,8 @@
 
 namespace jobticket {
 
-/// A session with the set that is meant; without any option, the one that all printers share.
+/// A session with the set of preferences that is meant; without any option for it, whatever the
+/// printer, that is the one that all printers share.
 /// Raises as choosePrinter() does.
 Session openSession(const Options& options);
 

@@ -72,9 +72,9 @@ constexpr Option typeOption = {.names = "--type",
                                        "your own, which are text without it"};
 
 constexpr std::array listOptions = {modelOption, languageOption, preferenceSetOption,
-                                    sharedPreferencesOption};
+                                    printerPreferencesOption};
 constexpr std::array getOptions = {nameArgument,   typeOption,          modelOption,
-                                   languageOption, preferenceSetOption, sharedPreferencesOption};
+                                   languageOption, preferenceSetOption, printerPreferencesOption};
 constexpr std::array setOptions = {nameArgument,
                                    Option{.names = "VALUE",
                                           .operand = Operand::text,
@@ -85,7 +85,7 @@ constexpr std::array setOptions = {nameArgument,
                                    modelOption,
                                    languageOption,
                                    preferenceSetOption,
-                                   sharedPreferencesOption};
+                                   printerPreferencesOption};
 
 } // namespace
 

@@ -61,4 +61,14 @@ StateBlob inspectState(std::string_view bytes, const std::string& name) {
     }
 }
 
+std::string withoutLogonNames(std::string_view bytes) {
+    zent::PersistentSettings settings(ByteBuffer(bytes.data(), bytes.size()), true);
+    zent::UserContext user = settings.getUserContext();
+    user.useLogonName = false;
+    user.useLogonNameRecipient = false;
+    settings.setUserContext(user);
+    const ByteBuffer blob = settings.getBuffer();
+    return {reinterpret_cast<const char*>(blob.data()), blob.size()};
+}
+
 } // namespace jobticket

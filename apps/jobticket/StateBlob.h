@@ -22,4 +22,8 @@ struct StateBlob {
 /// what is none; `name` is for messages.
 StateBlob inspectState(std::string_view bytes, const std::string& name);
 
+/// A blob of the present form anew, by which the logon name is neither the sender nor the
+/// recipient.
+std::string withoutLogonNames(std::string_view bytes);
+
 } // namespace jobticket

@@ -62,11 +62,11 @@ constexpr Option blobArgument = {.names = "BLOB",
                                  .isRequired = true};
 
 constexpr std::array packOptions = {ticketArgument, outputOption,        modelOption,
-                                    languageOption, preferenceSetOption, sharedPreferencesOption};
+                                    languageOption, preferenceSetOption, printerPreferencesOption};
 constexpr std::array unpackOptions = {blobArgument, outputOption};
 constexpr std::array showOptions = {blobArgument};
 constexpr std::array renewOptions = {blobArgument,   outputOption,        modelOption,
-                                     languageOption, preferenceSetOption, sharedPreferencesOption};
+                                     languageOption, preferenceSetOption, printerPreferencesOption};
 
 } // namespace
 

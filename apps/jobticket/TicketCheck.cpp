@@ -9,6 +9,7 @@
 #include "Text.h"
 #include "ocore/AnlXlate/TarvoAjtTranslator.h"
 #include "ocore/Capabilities/RepairReport.h"
+#include "ocore/Capabilities/SettingsProblemFixer.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
 #include "ocore/TarvoException.h"
 #include "zent27.h"
@@ -147,29 +148,17 @@ std::vector<Omission> findOmissions(const zent::AttrNodeList& ticket, zent::Prin
     return omissions;
 }
 
-/// Whether a problem is about what lies at a path, or about what that lies in.
-bool isAbout(const Problem& problem, std::string_view path) {
-    return path.starts_with(problem.path) &&
-           (path.size() == problem.path.size() || path[problem.path.size()] == '.' ||
-            path[problem.path.size()] == '[');
-}
-
-/// Nothing where the ticket holds a value that the instructions can't be made of: that is a
-/// problem, and the first thing to be mended.
-std::vector<Omission> findOmissionsBeside(const std::vector<Problem>& problems,
-                                          const zent::AttrNodeList& ticket,
-                                          zent::Printer& printer) {
-    std::vector<Omission> omissions;
+/// What would still be left out of a ticket without its problems. Nothing where it holds a value
+/// that instructions can't be made of.
+std::vector<Omission> findOmissionsAfterRepair(zent::SettingsProblemList& problems,
+                                               const zent::AttrNodeList& ticket,
+                                               zent::Printer& printer) {
     try {
-        omissions = findOmissions(ticket, printer);
+        zent::SettingsProblemFixer(printer.getDefaults().getSettings()).fix(problems);
+        return findOmissions(ticket, printer);
     } catch (const zent::TarvoException&) {
-        return omissions;
+        return {};
     }
-    std::erase_if(omissions, [&](const Omission& omission) {
-        return std::ranges::any_of(
-            problems, [&](const Problem& problem) { return isAbout(problem, omission.path); });
-    });
-    return omissions;
 }
 
 } // namespace
@@ -186,7 +175,10 @@ TicketCheck checkTicket(zent::AttrNodeList ticket, const PrinterChoice& choice) 
     for (const RepairEntry* entry : leaveEffective(report.getEntries())) {
         check.problems.push_back(makeProblem(*entry, offers));
     }
-    check.omissions = findOmissionsBeside(check.problems, ticket, printer);
+    check.omissions = findOmissionsAfterRepair(problems, ticket, printer);
+    std::erase_if(check.omissions, [&](const Omission& omission) {
+        return std::ranges::count(check.problems, omission.path, &Problem::path) > 0;
+    });
     return check;
 }
 

@@ -45,9 +45,8 @@ struct Omission {
 
 struct TicketCheck {
     Offers offers;
-    std::vector<Problem> problems; // in the order of the library's reports
-    std::vector<Omission>
-        omissions; // without those that are problems anyway; in the ticket's order
+    std::vector<Problem> problems;   // in the order of the library's reports
+    std::vector<Omission> omissions; // once the problems are repaired, in the ticket's order
 };
 
 /// Finds what a printer can't do of a ticket, which is first brought into the form that an import
