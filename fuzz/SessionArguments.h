@@ -26,12 +26,12 @@ inline const std::vector<Text>& getValues(FeatureEnum feature) {
         std::array<std::vector<Text>, 256> found;
         const FeatureValueDataBase table;
         for (std::int32_t value = 0; value < FeatureValueDataBase::firstRunTimeValue; ++value) {
-            if (!table.hasValue(value)) {
+            const FeatureValueReference info = table.findFeatureValueInfo(value);
+            if (!info) {
                 continue;
             }
-            const FeatureValueInfo& info = table.getFeatureValueInfo(value);
-            for (const FeatureEnum taker : info.m_features) {
-                found.at(taker).push_back(wide(info.m_text));
+            for (const FeatureEnum taker : info->m_features) {
+                found.at(taker).push_back(wide(info->m_text));
             }
         }
         return found;

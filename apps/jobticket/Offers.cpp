@@ -127,9 +127,8 @@ private:
             const _CI set = capability(zent::CAPTYPE_SUPPORTED_FEATURES);
             zent::CXString keyword;
             for (std::uint32_t index = 0; settings().getString(set, &keyword, index); ++index) {
-                if (zent::FeatureValue::isKnownValue(m_feature.getNumber(), keyword)) {
-                    values.push_back(
-                        toNamedValue(zent::FeatureValue(m_feature.getNumber(), keyword)));
+                if (const auto known = zent::FeatureValue::find(m_feature.getNumber(), keyword)) {
+                    values.push_back(toNamedValue(*known));
                 }
             }
         }

@@ -80,10 +80,11 @@ ShownValue showPrimitive(const AttrValue& value, const std::optional<Feature>& f
     if (value.getAttrValueType() == zent::AVTE_NULL) {
         return bothWays("(of the syntax " + toUtf8(value.getIppSyntax()) + ")");
     }
-    if (feature && feature->getKind() != ValueKind::text &&
-        zent::FeatureValue::isKnownValue(feature->getNumber(), text)) {
-        const zent::FeatureValue known(feature->getNumber(), text);
-        shown.text = toUtf8(known.getDisplayString());
+    const auto known = feature && feature->getKind() != ValueKind::text
+                           ? zent::FeatureValue::find(feature->getNumber(), text)
+                           : std::nullopt;
+    if (known) {
+        shown.text = toUtf8(known->getDisplayString());
     } else if (feature && value.isPrimitiveInteger()) {
         shown.text = withUnit(static_cast<const zent::PrimitiveInteger&>(value).getValue(),
                               feature->getUnit());

@@ -19,8 +19,8 @@ ZentResult changing(ZentSessionType handle, TarvoJtSettingsType settings, const 
 }
 
 void setText(FeatureSettings& ticket, const _FI& feature, const CXString& text, uint32_t index) {
-    if (FeatureValue::isKnownValue(feature.getFeature(), text)) {
-        ticket.setFeatureValue(feature, FeatureValue(feature.getFeature(), text), index);
+    if (const auto known = FeatureValue::find(feature.getFeature(), text)) {
+        ticket.setFeatureValue(feature, *known, index);
     } else {
         ticket.setString(feature, text, index);
     }

@@ -3,6 +3,9 @@
 
 #include <array>
 #include <atomic>
+#include <cstdlib>
+#include <fstream>
+#include <string>
 #include <thread>
 
 #include <gtest/gtest.h>
@@ -29,10 +32,9 @@ std::string withOwnColor(std::string ticket, std::uint32_t number) {
 
 /// The whole main job, for different printers and both forms: a ticket comes in, is repaired, goes
 /// out in all ways, and its instructions too. Gives the number of calls that failed.
-int runJobs(std::uint32_t thread, const std::string& document) {
+int runJobs(std::uint32_t thread, const std::string& document, std::string& output) {
     int failures = 0;
     const auto expectOk = [&](ZentResult result) { failures += result == ZENT_OK ? 0 : 1; };
-    std::string output(1 << 16, '\0');
     const auto room = [&] { return static_cast<std::uint32_t>(output.size()); };
     for (std::uint32_t round = 0; round < 6; ++round) {
         const std::string ticket = withOwnColor(document, round * 4 + thread % 4);
@@ -64,18 +66,113 @@ int runJobs(std::uint32_t thread, const std::string& document) {
     return failures;
 }
 
-TEST(ThreadsTest, SessionsOfEightThreadsDontDisturbEachOther) {
-    const ScratchPreferences scratch;
-    const std::string ticket = readTestFile("../examples/exception-pages-with-inserts.xml");
+std::string nameOf(std::uint32_t ticket, std::uint32_t page) {
+    return "ink" + std::to_string(ticket) + "." + std::to_string(page);
+}
+
+/// A ticket with a sheet colour of its own for each of many pages. No two tickets share one.
+std::string makeTicketOfNames(std::uint32_t ticket, std::uint32_t names) {
+    const auto range = [](const std::string& name, const std::string& page) {
+        return "<" + name +
+               " syntax=\"1setOf\"><value syntax=\"rangeOfInteger\"><lower-bound "
+               "syntax=\"integer\">" +
+               page + "</lower-bound><upper-bound syntax=\"integer\">" + page +
+               "</upper-bound></value></" + name + ">";
+    };
+    std::string overrides;
+    for (std::uint32_t page = 1; page <= names; ++page) {
+        overrides += "<value syntax=\"collection\">" + range("input-documents", "1") +
+                     range("pages", std::to_string(page)) +
+                     "<media-col syntax=\"collection\"><media-color syntax=\"name\" "
+                     "xml:space=\"preserve\">" +
+                     nameOf(ticket, page) + "</media-color></media-col></value>";
+    }
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!DOCTYPE ordo SYSTEM "
+           "\"ordo-v02025.dtd\">\n<ordo><job-template-attributes><page-overrides "
+           "syntax=\"1setOf\">" +
+           overrides + "</page-overrides></job-template-attributes></ordo>";
+}
+
+/// Gives the number of calls that failed.
+int runTicketOfNames(std::uint32_t number, std::uint32_t names, std::string& output) {
+    int failures = 0;
+    const auto expectOk = [&](ZentResult result) { failures += result == ZENT_OK ? 0 : 1; };
+    const std::string ticket = makeTicketOfNames(number, names);
+    ZentSessionType session = nullptr;
+    ZentBool problems = 0;
+    ZentBool applied = 0;
+    expectOk(fnOpenSession(27, 1, 2, ZENT_INSTRUCTIONS_STREAM, 1, nullptr, 1, &session));
+    expectOk(fnImportJobTicket(session, ticket.data(), static_cast<std::uint32_t>(ticket.size()),
+                               ZENT_FORMAT_XML, ZENT_APPLY_SILENT_KEEP, nullptr, nullptr, &problems,
+                               &applied));
+    auto size = static_cast<std::uint32_t>(output.size());
+    expectOk(fnGetPrintInstructions(session, output.data(), &size, "document"));
+    const std::string line = ' ' + nameOf(number, names) + " opaque ";
+    failures += output.substr(0, size).find(line) == std::string::npos ? 1 : 0;
+    expectOk(fnCloseSession(&session));
+    return failures;
+}
+
+/// For `work`, which takes a number and a buffer for output and gives its failures, one number
+/// each.
+template <typename Work>
+int onEightThreads(std::uint32_t count, Work work) {
     std::atomic<int> failures{0};
+    std::atomic<std::uint32_t> next{0};
     std::array<std::thread, 8> threads;
-    for (std::uint32_t i = 0; i < threads.size(); ++i) {
-        threads[i] = std::thread([&, i] { failures += runJobs(i, ticket); });
+    for (std::thread& thread : threads) {
+        thread = std::thread([&] {
+            std::string output(1 << 20, '\0');
+            for (std::uint32_t number = next++; number < count; number = next++) {
+                failures += work(number, output);
+            }
+        });
     }
     for (std::thread& thread : threads) {
         thread.join();
     }
-    EXPECT_EQ(failures, 0);
+    return failures;
+}
+
+/// In KiB; 0 where the system doesn't tell.
+std::int64_t readMemoryInUse() {
+    std::ifstream status("/proc/self/status");
+    std::string word;
+    while (status >> word && word != "VmRSS:") {
+    }
+    std::int64_t size = 0;
+    status >> size;
+    return size;
+}
+
+/// ZENT_TEST_NAMES plays this with more than a quick run has time for: with a million names the
+/// memory doesn't grow either.
+TEST(ThreadsTest, TicketsBringAnyNumberOfNamesOfTheirOwn) {
+    const ScratchPreferences scratch;
+    const char* const wanted = std::getenv("ZENT_TEST_NAMES");
+    constexpr std::uint32_t namesOfTicket = 250;
+    const std::uint32_t quarter =
+        (wanted == nullptr ? 4000 : static_cast<std::uint32_t>(std::atoi(wanted))) / namesOfTicket /
+        4;
+    std::int64_t memoryOfFirst = 0;
+    for (std::uint32_t first = 0; first < 4 * quarter; first += quarter) {
+        EXPECT_EQ(onEightThreads(quarter,
+                                 [&](std::uint32_t number, std::string& output) {
+                                     return runTicketOfNames(first + number, namesOfTicket, output);
+                                 }),
+                  0);
+        memoryOfFirst = first == 0 ? readMemoryInUse() : memoryOfFirst;
+    }
+    EXPECT_LT(readMemoryInUse() - memoryOfFirst, 16 << 10);
+}
+
+TEST(ThreadsTest, SessionsOfEightThreadsDontDisturbEachOther) {
+    const ScratchPreferences scratch;
+    const std::string ticket = readTestFile("../examples/exception-pages-with-inserts.xml");
+    EXPECT_EQ(
+        onEightThreads(8, [&](std::uint32_t number,
+                              std::string& output) { return runJobs(number, ticket, output); }),
+        0);
 }
 
 } // namespace

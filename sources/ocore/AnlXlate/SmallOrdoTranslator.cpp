@@ -60,8 +60,8 @@ public:
         if (text.view().starts_with(mark) || m_values.hasAbbreviation(text)) {
             value.setIppValue(mark + text);
         } else if (current != noFeature) {
-            const FeatureValueInfo* const known = m_values.findFeatureValueInfo(current, text);
-            if (known != nullptr && !known->m_abbreviation.isEmpty()) {
+            const FeatureValueReference known = m_values.findFeatureValueInfo(current, text);
+            if (known && !known->m_abbreviation.isEmpty()) {
                 value.setIppValue(known->m_abbreviation);
             }
         }

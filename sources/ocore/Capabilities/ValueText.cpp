@@ -38,10 +38,8 @@ private:
         if (!m_isForUsers || !_FI::isFeatureName(attribute)) {
             return text;
         }
-        const FeatureEnum feature = _FI(attribute).getFeature();
-        return FeatureValue::isKnownValue(feature, text)
-                   ? FeatureValue(feature, text).getDisplayString()
-                   : text;
+        const auto known = FeatureValue::find(_FI(attribute).getFeature(), text);
+        return known ? known->getDisplayString() : text;
     }
 
     static bool areNumbers(const AttrNodeList& members) {

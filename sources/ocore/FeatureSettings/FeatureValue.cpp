@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <atomic>
+#include <limits>
 
 #include "ocore/Exceptions.h"
-#include "ocore/FeatureSettings/FeatureValueDataBase.h"
 #include "ocore/OwnedCriticalResource.h"
 #include "ocore/ResourceLibrary.h"
 
@@ -23,14 +23,12 @@ std::vector<FeatureEnum> withRelated(FeatureEnum feature) {
     return features;
 }
 
-/// Draws a number that is never given back. Beyond the last one the counter stays where it is, so
-/// that it can't run over.
+/// Draws a number that is never given out again. Beyond the last one the counter stays where it is,
+/// so that it can't run over.
 std::int32_t drawRunTimeValue(FeatureEnum feature, const CXString& text) {
-    constexpr std::int32_t end =
-        FeatureValueDataBase::firstRunTimeValue + FeatureValueDataBase::maximumRunTimeValues;
     std::int32_t number = nextRunTimeValue.load();
     do {
-        if (number >= end) {
+        if (number == std::numeric_limits<std::int32_t>::max()) {
             FeatureValueDataBase::raiseUnknownValue(feature, text);
         }
     } while (!nextRunTimeValue.compare_exchange_weak(number, number + 1));
@@ -39,16 +37,27 @@ std::int32_t drawRunTimeValue(FeatureEnum feature, const CXString& text) {
 
 } // namespace
 
+FeatureValue::FeatureValue(std::int32_t value)
+    : m_value(value), m_info(FeatureValueDataBase().findFeatureValueInfo(value)) {}
+
 FeatureValue::FeatureValue(FeatureEnum feature, const CXString& text)
-    : m_value(FeatureValueDataBase().getFeatureValueInfo(feature, text).m_value) {}
+    : FeatureValue(FeatureValueDataBase().getFeatureValueInfo(feature, text)) {}
 
 FeatureValue FeatureValue::createFromAbbreviation(const CXString& abbreviation) {
-    return FeatureValue(
-        FeatureValueDataBase().getFeatureValueInfoByAbbreviation(abbreviation).m_value);
+    return FeatureValue(FeatureValueReference(
+        FeatureValueDataBase().getFeatureValueInfoByAbbreviation(abbreviation)));
+}
+
+std::optional<FeatureValue> FeatureValue::find(FeatureEnum feature, const CXString& text) {
+    FeatureValueReference info = FeatureValueDataBase().findFeatureValueInfo(feature, text);
+    return info ? std::optional(FeatureValue(std::move(info))) : std::nullopt;
 }
 
 const FeatureValueInfo& FeatureValue::getInfo() const {
-    return FeatureValueDataBase().getFeatureValueInfo(m_value);
+    if (!m_info) {
+        FeatureValueDataBase::raiseUnknownValue(m_value);
+    }
+    return *m_info;
 }
 
 CXString FeatureValue::getDisplayString() const {
@@ -92,9 +101,7 @@ FeatureValue FeatureValue::convertToFeature(const _FI& feature) const {
     if (belongsToAny()) {
         return *this;
     }
-    const CXString& text = getText();
-    return isKnownValue(feature.getFeature(), text) ? FeatureValue(feature.getFeature(), text)
-                                                    : FeatureValue();
+    return find(feature.getFeature(), getText()).value_or(FeatureValue());
 }
 
 bool FeatureValue::isKnownValue(FeatureEnum feature, const CXString& text) {
@@ -109,14 +116,14 @@ bool FeatureValue::isValidAbbreviation(const CXString& abbreviation) {
     return FeatureValueDataBase().hasAbbreviation(abbreviation);
 }
 
-std::int32_t FeatureValue::createNewValueEnum(FeatureEnum feature, const CXString& text,
+FeatureValue FeatureValue::createNewValueEnum(FeatureEnum feature, const CXString& text,
                                               const CXString& syntax, std::uint32_t type,
                                               std::uint32_t displayStringID,
                                               std::uint32_t imageID) {
     if (text.length() > FeatureValueDataBase::maximumRunTimeLength) {
         FeatureValueDataBase::raiseUnknownValue(feature, text);
     }
-    const OwnedCriticalResource hold(FeatureValueDataBase::getCriticalResource());
+    const OwnedCriticalResource hold(RunTimeValues::getCriticalResource());
     std::vector<FeatureEnum> features = withRelated(feature);
     for (const FeatureEnum sharing : features) {
         if (isKnownValue(sharing, text)) {
@@ -132,9 +139,8 @@ std::int32_t FeatureValue::createNewValueEnum(FeatureEnum feature, const CXStrin
             "FeatureValue::createNewValueEnum(): duplicate FVDB entry for value %d.\r\n", number);
     }
     const AVTE kind = type == 0 ? syntaxToAVTE(syntax) : static_cast<AVTE>(type);
-    FeatureValueDataBase().addValue(
-        {number, std::move(features), text, {}, displayStringID, imageID, syntax, kind});
-    return number;
+    return FeatureValue(FeatureValueDataBase().addValue(
+        {number, std::move(features), text, {}, displayStringID, imageID, syntax, kind}));
 }
 
 FeatureValue FeatureValue::fromAttrValue(const _FI& feature, const AttrValue& value) {
@@ -150,14 +156,16 @@ FeatureValue FeatureValue::fromText(const _FI& feature, const CXString& text) {
 FeatureValue FeatureValue::findOrCreate(const _FI& feature, const CXString& text, bool mayCreate,
                                         const CXString& syntax) {
     const FeatureEnum number = feature.getFeature();
-    if (mayCreate && !isKnownValue(number, text)) {
-        // Another thread may bring the same text along.
-        const OwnedCriticalResource hold(FeatureValueDataBase::getCriticalResource());
-        if (!isKnownValue(number, text)) {
-            return FeatureValue(createNewValueEnum(number, text, syntax, 0, 0, 0));
-        }
+    if (!mayCreate) {
+        return {number, text};
     }
-    return {number, text};
+    if (auto known = find(number, text)) {
+        return *std::move(known);
+    }
+    // Another thread may bring the same text along.
+    const OwnedCriticalResource hold(RunTimeValues::getCriticalResource());
+    auto known = find(number, text);
+    return known ? *std::move(known) : createNewValueEnum(number, text, syntax, 0, 0, 0);
 }
 
 } // namespace zent

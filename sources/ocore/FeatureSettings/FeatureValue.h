@@ -1,30 +1,39 @@
 #pragma once
 
+#include <optional>
+
 #include "ocore/Attributes/AttrValue.h"
 #include "ocore/FeatureSettings/FeatureIdentifier.h"
-#include "ocore/FeatureSettings/FeatureValueInfo.h"
+#include "ocore/FeatureSettings/FeatureValueDataBase.h"
 
 namespace zent {
 
-/// One value of a feature, by number: passed and copied freely. Every query goes to the value table
-/// and raises UnknownFeatureRequestException for a number that it doesn't know.
+/// One value of a feature, by number: passed and copied freely. A value of the run time stays in
+/// the value table for as long as a handle of it lives; a later one of the same text may have
+/// another number, but no number comes twice. Every query raises UnknownFeatureRequestException if
+/// the table didn't know the number when the handle was made.
 class FeatureValue {
 public:
     /// No value, or the printer's default.
     static constexpr std::int32_t unspecified = 1;
 
     /// Not checked.
-    explicit FeatureValue(std::int32_t value = unspecified) : m_value(value) {}
+    explicit FeatureValue(std::int32_t value = unspecified);
     /// Raises UnknownFeatureRequestException if the feature has no such value.
     FeatureValue(FeatureEnum feature, const CXString& text);
     static FeatureValue createFromAbbreviation(const CXString& abbreviation);
+    /// Nothing if the feature has no such value.
+    static std::optional<FeatureValue> find(FeatureEnum feature, const CXString& text);
 
     std::int32_t getValue() const { return m_value; }
-    const CXString& getText() const { return getInfo().m_text; }
-    const CXString& getAbbreviation() const { return getInfo().m_abbreviation; }
+    const CXString& getText() const& { return getInfo().m_text; }
+    CXString getText() && { return getInfo().m_text; }
+    const CXString& getAbbreviation() const& { return getInfo().m_abbreviation; }
+    CXString getAbbreviation() && { return getInfo().m_abbreviation; }
     std::uint32_t getDisplayStringID() const { return getInfo().m_displayStringID; }
     std::uint32_t getImageID() const { return getInfo().m_imageID; }
-    const CXString& getSyntax() const { return getInfo().m_syntax; }
+    const CXString& getSyntax() const& { return getInfo().m_syntax; }
+    CXString getSyntax() && { return getInfo().m_syntax; }
     AVTE getType() const { return getInfo().m_type; }
     /// For users: from the resource library, or the text itself of a run-time value.
     CXString getDisplayString() const;
@@ -37,7 +46,7 @@ public:
     bool isShared() const;
     bool isRunTimeValue() const;
 
-    bool operator==(const FeatureValue& other) const = default;
+    bool operator==(const FeatureValue& other) const { return m_value == other.m_value; }
     /// Fixed values in table order, then run-time values by the names that users see.
     bool operator<(const FeatureValue& other) const;
     /// The same content, maybe under another number.
@@ -52,11 +61,11 @@ public:
     static bool isUserSyntax(const CXString& syntax) { return isUserType(syntaxToAVTE(syntax)); }
     static bool isUserType(AVTE type) { return type == AVTE_NAME || type == AVTE_URI; }
 
-    /// Adds a run-time value for a feature and its related ones, and gives its number. A `type` of
-    /// 0 is derived from the syntax. Raises DuplicateFeatureValueDBEntryException if one of the
-    /// features has the text already, UnknownFeatureRequestException if no more values, or none of
-    /// that length, can be taken.
-    static std::int32_t createNewValueEnum(FeatureEnum feature, const CXString& text,
+    /// Adds a run-time value for a feature and its related ones, and gives it with a new number. A
+    /// `type` of 0 is derived from the syntax. Raises DuplicateFeatureValueDBEntryException if one
+    /// of the features has the text already, UnknownFeatureRequestException if no value of that
+    /// length can be taken, or all numbers have been given out.
+    static FeatureValue createNewValueEnum(FeatureEnum feature, const CXString& text,
                                            const CXString& syntax, std::uint32_t type,
                                            std::uint32_t displayStringID, std::uint32_t imageID);
     /// The value that an attribute holds; a new one if it is of a free-text type that the feature
@@ -66,11 +75,14 @@ public:
     static FeatureValue fromText(const _FI& feature, const CXString& text);
 
 private:
+    explicit FeatureValue(FeatureValueReference info)
+        : m_value(info->m_value), m_info(std::move(info)) {}
     static FeatureValue findOrCreate(const _FI& feature, const CXString& text, bool mayCreate,
                                      const CXString& syntax);
     const FeatureValueInfo& getInfo() const;
 
     std::int32_t m_value;
+    FeatureValueReference m_info; // none of a number that the table doesn't know
 };
 
 } // namespace zent

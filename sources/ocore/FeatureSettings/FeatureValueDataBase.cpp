@@ -7,22 +7,25 @@
 #include "ocore/Exceptions.h"
 #include "ocore/FeatureSettings/FeatureDataBase.h"
 #include "ocore/FeatureSettings/FeatureValueTable.h"
-#include "ocore/OwnedCriticalResource.h"
+#include "ocore/SharedTable.h"
 
 namespace zent {
 
 namespace {
 
-/// The texts that the keys refer to belong to the rows, which never move.
+/// The fixed rows. The texts that the keys refer to are theirs.
 struct ValueStore {
     using ByText = std::map<std::u16string_view, const FeatureValueInfo*>;
 
-    std::map<std::int32_t, FeatureValueInfo> byNumber;
-    std::vector<ByText> byText; // for each feature its own, of a few values mostly
+    std::vector<FeatureValueInfo> byNumber; // number 0 where there is no value
+    std::vector<ByText> byText;             // for each feature its own, of a few values mostly
     ByText byAbbreviation;
 
-    void add(const FeatureValueInfo& added) {
-        const FeatureValueInfo& row = byNumber.emplace(added.m_value, added).first->second;
+    ValueStore() { byNumber.resize(FeatureValueInfo::firstRunTimeValue); }
+
+    void add(FeatureValueInfo&& added) {
+        FeatureValueInfo& row = byNumber[static_cast<std::size_t>(added.m_value)];
+        row = std::move(added);
         for (const FeatureEnum feature : row.m_features) {
             if (feature >= byText.size()) {
                 byText.resize(feature + 1);
@@ -65,7 +68,7 @@ void addMediaNames(ValueStore& store) {
     }
 }
 
-std::unique_ptr<ValueStore> buildStore() {
+std::unique_ptr<const ValueStore> buildStore() {
     auto built = std::make_unique<ValueStore>();
     for (const FeatureValueRow& row : getLowerValueRows()) {
         built->add(makeInfo(row));
@@ -77,56 +80,49 @@ std::unique_ptr<ValueStore> buildStore() {
     return built;
 }
 
-CriticalResource criticalResource(u"FeatureValueDataBase");
+SharedTable<ValueStore> sharedStore(u"FeatureValueDataBase");
 
-/// The store, for as long as the lock is held; the first to come builds it.
-class LockedStore {
-public:
-    LockedStore() : m_hold(criticalResource) {
-        if (stored == nullptr) {
-            stored = buildStore();
-        }
-    }
-    ValueStore* operator->() const { return stored.get(); }
+const ValueStore& store() { return *sharedStore; }
 
-private:
-    static inline std::unique_ptr<ValueStore> stored;
-    OwnedCriticalResource m_hold;
-};
-
-const FeatureValueInfo* findByNumber(std::int32_t value) {
-    const LockedStore store;
-    const auto found = store->byNumber.find(value);
-    return found == store->byNumber.end() ? nullptr : &found->second;
+const FeatureValueInfo* findFixed(std::int32_t value) {
+    const auto& rows = store().byNumber;
+    const auto index = static_cast<std::uint32_t>(value);
+    const bool isThere = index < rows.size() && rows[index].m_value != 0;
+    return isThere ? &rows[index] : nullptr;
 }
 
-const FeatureValueInfo* findByText(FeatureEnum feature, const CXString& text) {
-    const LockedStore store;
-    if (feature >= store->byText.size()) {
+const FeatureValueInfo* findFixed(FeatureEnum feature, const CXString& text) {
+    if (feature >= store().byText.size()) {
         return nullptr;
     }
-    const ValueStore::ByText& values = store->byText[feature];
+    const ValueStore::ByText& values = store().byText[feature];
     const auto found = values.find(text.view());
     return found == values.end() ? nullptr : found->second;
 }
 
 const FeatureValueInfo* findByAbbreviation(const CXString& abbreviation) {
-    const LockedStore store;
-    const auto found = store->byAbbreviation.find(abbreviation.view());
-    return found == store->byAbbreviation.end() ? nullptr : found->second;
+    const auto& rows = store().byAbbreviation;
+    const auto found = rows.find(abbreviation.view());
+    return found == rows.end() ? nullptr : found->second;
 }
 
 } // namespace
 
-const FeatureValueInfo& FeatureValueDataBase::getFeatureValueInfo(std::int32_t value) const {
-    const FeatureValueInfo* const info = findByNumber(value);
-    if (info == nullptr) {
-        Raise<UnknownFeatureRequestException>()(
-            "FeatureValueDataBase::getFeatureValueInfo( ValueEnum ) could not find requested "
-            "ValueEnum %ld\r\n",
-            value);
+FeatureValueDataBase::FeatureValueDataBase() { sharedStore.get(buildStore); }
+
+FeatureValueReference FeatureValueDataBase::getFeatureValueInfo(std::int32_t value) const {
+    FeatureValueReference info = findFeatureValueInfo(value);
+    if (!info) {
+        raiseUnknownValue(value);
     }
-    return *info;
+    return info;
+}
+
+void FeatureValueDataBase::raiseUnknownValue(std::int32_t value) {
+    Raise<UnknownFeatureRequestException>()(
+        "FeatureValueDataBase::getFeatureValueInfo( ValueEnum ) could not find requested "
+        "ValueEnum %ld\r\n",
+        value);
 }
 
 void FeatureValueDataBase::raiseUnknownValue(FeatureEnum feature, const CXString& text) {
@@ -140,13 +136,13 @@ void FeatureValueDataBase::raiseUnknownValue(FeatureEnum feature, const CXString
         text, feature, name);
 }
 
-const FeatureValueInfo& FeatureValueDataBase::getFeatureValueInfo(FeatureEnum feature,
-                                                                  const CXString& text) const {
-    const FeatureValueInfo* const info = findByText(feature, text);
-    if (info == nullptr) {
+FeatureValueReference FeatureValueDataBase::getFeatureValueInfo(FeatureEnum feature,
+                                                                const CXString& text) const {
+    FeatureValueReference info = findFeatureValueInfo(feature, text);
+    if (!info) {
         raiseUnknownValue(feature, text);
     }
-    return *info;
+    return info;
 }
 
 const FeatureValueInfo&
@@ -161,9 +157,18 @@ FeatureValueDataBase::getFeatureValueInfoByAbbreviation(const CXString& abbrevia
     return *info;
 }
 
-const FeatureValueInfo* FeatureValueDataBase::findFeatureValueInfo(FeatureEnum feature,
-                                                                   const CXString& text) const {
-    return findByText(feature, text);
+FeatureValueReference FeatureValueDataBase::findFeatureValueInfo(std::int32_t value) const {
+    if (value >= firstRunTimeValue) {
+        return RunTimeValues::find(value);
+    }
+    const FeatureValueInfo* const fixed = findFixed(value);
+    return fixed == nullptr ? FeatureValueReference() : FeatureValueReference(*fixed);
+}
+
+FeatureValueReference FeatureValueDataBase::findFeatureValueInfo(FeatureEnum feature,
+                                                                 const CXString& text) const {
+    const FeatureValueInfo* const fixed = findFixed(feature, text);
+    return fixed == nullptr ? RunTimeValues::find(feature, text) : FeatureValueReference(*fixed);
 }
 
 const FeatureValueInfo*
@@ -172,19 +177,19 @@ FeatureValueDataBase::findFeatureValueInfoByAbbreviation(const CXString& abbrevi
 }
 
 bool FeatureValueDataBase::hasValue(std::int32_t value) const {
-    return findByNumber(value) != nullptr;
+    return static_cast<bool>(findFeatureValueInfo(value));
 }
 
 bool FeatureValueDataBase::hasFeatureValue(FeatureEnum feature, const CXString& text) const {
-    return findByText(feature, text) != nullptr;
+    return static_cast<bool>(findFeatureValueInfo(feature, text));
 }
 
 bool FeatureValueDataBase::hasAbbreviation(const CXString& abbreviation) const {
     return findByAbbreviation(abbreviation) != nullptr;
 }
 
-CriticalResource& FeatureValueDataBase::getCriticalResource() { return criticalResource; }
-
-void FeatureValueDataBase::addValue(const FeatureValueInfo& info) { LockedStore()->add(info); }
+FeatureValueReference FeatureValueDataBase::addValue(const FeatureValueInfo& info) {
+    return RunTimeValues::add(info);
+}
 
 } // namespace zent

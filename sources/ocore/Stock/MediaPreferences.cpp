@@ -110,7 +110,7 @@ void MediaPreferences::markNamed(const AttrNodeList& favorites, StockList& stock
     std::map<std::u16string_view, Stock*> stockOfKey; // the first one of each key
     for (std::uint32_t i = 0; i < stocks.getCount(); ++i) {
         Stock& stock = stocks.getStockAt(i);
-        stockOfKey.emplace(stock.getKey().getText().view(), &stock); // a text that never goes
+        stockOfKey.emplace(stock.getKey().getText().view(), &stock); // a text that the stock holds
     }
     for (std::uint32_t i = 0; i < favorites.getNumberOfNodes(); ++i) {
         const AttrNode& favorite = favorites.getNodeAt(i);
@@ -134,7 +134,7 @@ AttrNodeList MediaPreferences::listOf(const StockList& stocks) const {
     AttrNodeList& printerFavorites = *list.addSetOf(AttrID(printerFavoritesAttribute));
     for (std::uint32_t i = 0; i < stocks.getCount(); ++i) {
         const Stock& stock = stocks.getStockAt(i);
-        const FeatureValue key = stock.getKey();
+        const FeatureValue& key = stock.getKey();
         if (stock.getKind() == StockType::user) {
             *userStocks.addCollection(attrNames::value()) = stock.getAttrNodeList();
         }

@@ -40,7 +40,7 @@ public:
     static std::unique_ptr<Stock> createFromSettings(const FeatureSettings& settings,
                                                      StockType kind);
 
-    FeatureValue getKey() const { return m_key; }
+    const FeatureValue& getKey() const { return m_key; }
     bool hasKey() const { return m_key.getValue() != FeatureValue::unspecified; }
     void setKey(FeatureValue key);
     /// A value that isn't known yet becomes one; empty text takes the key away.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "ocore/ResourceLibrary.h"
+#include "platform/KeepForever.h"
 #include "plugin_ui/Features/CustomStringUIDialog.h"
 
 namespace zent {
@@ -14,13 +15,13 @@ constexpr std::uint32_t customValueText = 10604;
 
 /// The value that stands for the custom item of all features in the process. Its text is that of
 /// the feature which needs it first.
-FeatureValue customItem(const _FI& feature, std::uint32_t labelId) {
-    static const FeatureValue value = [&] {
+const FeatureValue& customItem(const _FI& feature, std::uint32_t labelId) {
+    static const FeatureValue& value = keepForever<FeatureValue>([&] {
         const ResourceLibrary library;
         const CXString label = labelId != 0 ? library.getString(labelId) : CXString();
         return FeatureValue::fromText(
             feature, CXString::FormatResource(library.getModule(), customItemText, label));
-    }();
+    }());
     return value;
 }
 
@@ -47,7 +48,7 @@ KeyWordListUIFeature::KeyWordListUIFeature(UIConfiguration& configuration, std::
 
 bool KeyWordListUIFeature::isSupported() { return isFeatureSupported(m_feature); }
 
-FeatureValue KeyWordListUIFeature::getCustomItem() const {
+const FeatureValue& KeyWordListUIFeature::getCustomItem() const {
     return customItem(m_feature, m_customLabelId);
 }
 
@@ -66,6 +67,7 @@ void KeyWordListUIFeature::initializeFeature() {
         m_comboBox.addItem(value.getDisplayString(), codeOf(value));
     }
     showDefaultText();
+    m_customValues.clear();
     m_lastCustomValue.reset();
     m_customAllowed = getCapabilities().isUserDefinable(m_feature);
     if (m_customAllowed && m_replaceCustomItem) {
@@ -87,6 +89,7 @@ void KeyWordListUIFeature::addCustomValue(const FeatureValue& value) {
         m_comboBox.setItemText(index, text);
     } else {
         appendItem(text, value);
+        m_customValues.push_back(value);
     }
     m_lastCustomValue = value;
 }

@@ -45,7 +45,7 @@ private:
     static std::uint32_t codeOf(const FeatureValue& value) {
         return static_cast<std::uint32_t>(value.getValue());
     }
-    FeatureValue getCustomItem() const;
+    const FeatureValue& getCustomItem() const;
     bool isOffered(const FeatureValue& value) const;
     bool isCustomChoice(const FeatureValue& value) const;
     void addCustomValue(const FeatureValue& value);
@@ -66,6 +66,7 @@ private:
     bool m_replaceCustomItem = false;
     bool m_decorateValues = true;
     bool m_customAllowed = false;
+    std::vector<FeatureValue> m_customValues; // whose items stand in the box by their numbers
     std::optional<FeatureValue> m_lastCustomValue;
     std::uint32_t m_defaultTextId = 0;
     bool m_initialised = false;

@@ -66,7 +66,7 @@ TEST_F(CapabilitiesTest, ValuesAreSortedAndUnknownOnesLeftOut) {
         of(setOf("sides-supported", {"two-sided-long-edge", "both", "one-sided"}) +
            setOf("imposition-template-supported", {"none"}));
     std::vector<std::int32_t> numbers;
-    for (const FeatureValue value :
+    for (const FeatureValue& value :
          capabilities.getFeatureCapabilities(_FI(feature::sides), true)) {
         numbers.push_back(value.getValue());
     }

@@ -83,7 +83,8 @@ TEST(FeatureTablesTest, ValuesAreThoseOfTheTable) {
     ASSERT_EQ(rows.size(), 551U);
     for (const ExpectedRow& row : rows) {
         SCOPED_TRACE(row.text("number") + " " + row.text("text"));
-        const FeatureValueInfo& info = values.getFeatureValueInfo(row.number("number"));
+        const FeatureValueReference found = values.getFeatureValueInfo(row.number("number"));
+        const FeatureValueInfo& info = *found;
         row.expect({{"number", info.m_value},
                     {"features", info.m_features},
                     {"text", info.m_text},
@@ -95,7 +96,7 @@ TEST(FeatureTablesTest, ValuesAreThoseOfTheTable) {
         // Each key finds the same row: so no text stands twice for a feature, and no abbreviation
         // twice at all.
         for (const FeatureEnum feature : info.m_features) {
-            EXPECT_EQ(&values.getFeatureValueInfo(feature, info.m_text), &info) << feature;
+            EXPECT_EQ(&*values.getFeatureValueInfo(feature, info.m_text), &info) << feature;
         }
         EXPECT_TRUE(info.m_abbreviation.isEmpty() ||
                     &values.getFeatureValueInfoByAbbreviation(info.m_abbreviation) == &info);

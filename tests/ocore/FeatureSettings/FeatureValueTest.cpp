@@ -1,4 +1,3 @@
-#include <cstdlib>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -18,7 +17,7 @@ namespace {
 using Unknown = UnknownFeatureRequestException;
 using Duplicate = DuplicateFeatureValueDBEntryException;
 
-std::int32_t create(FeatureEnum feature, const CXString& text) {
+FeatureValue create(FeatureEnum feature, const CXString& text) {
     return FeatureValue::createNewValueEnum(feature, text, syntax::name, 0, 0, 0);
 }
 
@@ -67,13 +66,12 @@ TEST(FeatureValueTest, ConvertsToTheSameTextOfAnotherFeature) {
 }
 
 TEST(FeatureValueTest, NewValuesAreSharedByRelatedFeatures) {
-    const std::int32_t number = create(97, u"foo");
-    EXPECT_GE(number, 553);
-    EXPECT_EQ(create(21, u"bar"), number + 1);
+    const FeatureValue value = create(97, u"foo");
+    EXPECT_GE(value.getValue(), 553);
+    EXPECT_EQ(create(21, u"bar").getValue(), value.getValue() + 1);
     for (const FeatureEnum feature : {97U, 98U, 104U}) {
-        EXPECT_EQ(FeatureValue(feature, u"foo").getValue(), number);
+        EXPECT_EQ(FeatureValue(feature, u"foo"), value);
     }
-    const FeatureValue value(number);
     EXPECT_TRUE(value.isRunTimeValue());
     EXPECT_FALSE(FeatureValue(552).isRunTimeValue());
     EXPECT_EQ(value.getType(), AVTE_NAME); // by its syntax
@@ -90,8 +88,8 @@ TEST(FeatureValueTest, NewValuesAreSharedByRelatedFeatures) {
 }
 
 TEST(FeatureValueTest, FixedValuesComeBeforeThoseOfTheRunTime) {
-    const FeatureValue z(create(21, u"order-z"));
-    const FeatureValue y(create(21, u"order-y"));
+    const FeatureValue z = create(21, u"order-z");
+    const FeatureValue y = create(21, u"order-y");
     EXPECT_LT(y, z); // by name, though it is the newer
     EXPECT_FALSE(z < y);
     EXPECT_LT(FeatureValue(552), y);
@@ -129,21 +127,28 @@ TEST(FeatureValueTest, NewValuesAreOfBoundedLength) {
     EXPECT_THROW(FeatureValue::fromText(_FI(21), CXString(longest + u"y")), Unknown);
 }
 
-/// In a process of its own, which it leaves without a number for anyone.
-TEST(FeatureValueDeathTest, NewValuesAreOfBoundedNumber) {
-    const auto exhaust = [] {
-        std::int32_t count = 0;
-        try {
-            for (; count < 100000; ++count) {
-                create(21, CXString::Format(u"%d", count));
-            }
-        } catch (const Unknown&) {
-            const bool isKept = FeatureValue(21, u"0").isRunTimeValue();
-            std::exit(count > 65000 && count <= 65536 && isKept ? 0 : 1);
-        }
-        std::exit(2);
-    };
-    EXPECT_EXIT(exhaust(), testing::ExitedWithCode(0), "");
+TEST(FeatureValueTest, WhatNothingHoldsIsForgottenLeastRecentlyUsedFirst) {
+    const FeatureValue held = create(21, u"held");
+    const FeatureValue copy = FeatureValue(FeatureValue(held)); // the others go at once
+    const std::int32_t used = create(21, u"used").getValue();
+    const std::int32_t unused = create(21, u"unused").getValue();
+    constexpr std::int32_t others = 70000;
+    const auto name = [](std::int32_t i) { return CXString::Format(u"other %d", i); };
+    for (std::int32_t i = 0; i < others; ++i) {
+        create(21, name(i));
+        ASSERT_EQ(FeatureValue(21, u"used").getValue(), used) << i;
+    }
+    EXPECT_EQ(FeatureValue(21, u"held"), held);
+    EXPECT_EQ(held.getText(), u"held");
+    EXPECT_FALSE(FeatureValue::isKnownValue(21, u"unused"));
+    EXPECT_FALSE(FeatureValue::isValidNumber(unused));
+    EXPECT_THROW(FeatureValue(unused).getText(), Unknown);
+    // The latest are those that are remembered, "used" among them.
+    EXPECT_TRUE(FeatureValue::isKnownValue(21, name(others - 16383)));
+    EXPECT_FALSE(FeatureValue::isKnownValue(21, name(others - 16384)));
+    // A number never comes again, nor does that of a text which does.
+    const FeatureValue last = FeatureValue::fromText(_FI(21), u"last");
+    EXPECT_GT(FeatureValue::fromText(_FI(21), u"unused").getValue(), last.getValue());
 }
 
 } // namespace
