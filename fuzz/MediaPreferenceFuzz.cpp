@@ -154,7 +154,7 @@ void saveAndReadAgain(Library& library) {
     StockList all(library.printerStocks);
     all.addAll(library.userStocks);
     try {
-        library.preferences.save(all);
+        library.preferences.save(all, *MediaPreferences::lock(library.preferences.getFolder()));
     } catch (const OrdoParseException&) {
         require(setting().read("omedpref.omp") == before);
         return;

@@ -40,9 +40,6 @@ protected:
 
 /// Removes a file; false on failure.
 bool deleteFile(const CXString& path);
-/// Gives a file the name of another, in whose place it comes in one step, if there is one. Both
-/// lie in one folder. False on failure, which leaves both as they were.
-bool replaceFile(const CXString& source, const CXString& target);
 
 /// What tells one state of a file from another without reading it. All zero if there is no file.
 struct FileStamp {

@@ -46,21 +46,6 @@ TEST(Files, WritesReadsAndDeletes) {
     }
 }
 
-TEST(Files, ReplacesOneFileByAnother) {
-    const CXString source = temporary(u"FilesTest new.tmp");
-    const CXString target = temporary(u"FilesTest old.tmp");
-    ASSERT_TRUE(writeFile(target, "the old one"));
-    EXPECT_FALSE(replaceFile(source, target)) << "there is none";
-    EXPECT_EQ(getFileStamp(target).size, 11U);
-    for (const char* const content : {"the new one, once", "the new one, again"}) {
-        ASSERT_TRUE(writeFile(source, content));
-        EXPECT_TRUE(replaceFile(source, target));
-        EXPECT_EQ(getFileStamp(target).size, std::string(content).size());
-        EXPECT_FALSE(getFileStamp(source).exists);
-        deleteFile(target);
-    }
-}
-
 TEST(Files, RefusesPlacesThatAreNoFiles) {
     const CXString folder(testing::TempDir().c_str());
     EXPECT_FALSE(OpenFile::openForReading(folder));

@@ -23,19 +23,22 @@ constexpr const char16_t* userStocksAttribute = u"media-user-defined";
 constexpr const char16_t* userFavoritesAttribute = u"media-favorites-user-defined";
 constexpr const char16_t* printerFavoritesAttribute = u"media-favorites-printer";
 
-/// A file beside another one, gone at the end unless it has taken its place.
-class FileBeside {
-public:
-    explicit FileBeside(const CXString& path) : m_path(path + u".new") {}
-    ~FileBeside() { platform::deleteFile(m_path); }
-    FileBeside(const FileBeside&) = delete;
-    FileBeside& operator=(const FileBeside&) = delete;
+CXString pathOf(const CXString& folder, const char16_t* fileName) {
+    return folder + platform::pathSeparator + fileName;
+}
 
-    const CXString& getPath() const { return m_path; }
-
-private:
-    CXString m_path;
-};
+/// Whether there is a file. One that the system can't tell anything of isn't taken for missing,
+/// since the next save() would put the default library in its place.
+bool isThere(const CXString& path) {
+    const platform::FileKind kind = platform::getFileKind(path);
+    if (kind == platform::FileKind::unknown) {
+        trace::systemErrorText(platform::getLastError(), traceLevel::xmlLayer);
+        raiseOrdoParse(ordoParseCode::openForReadingFailed,
+                       "MediaPreferences::MediaPreferences(): Failed to find out about %s.\r\n",
+                       path);
+    }
+    return kind != platform::FileKind::missing;
+}
 
 void addFavorite(AttrNodeList& favorites, const CXString& key, AVTE type) {
     favorites.addNode(
@@ -58,10 +61,10 @@ void markFirst(const AttrNodeList& favorites, StockList& stocks, StockType kind)
 MediaPreferences::MediaPreferences(const CXString& folder) : m_folder(folder) {
     // A file that is there but can't be read fails the reading. Taken for missing, it would be lost
     // by the next save().
-    if (platform::getFileStamp(pathOf(currentFile)).exists) {
-        m_path = pathOf(currentFile);
-    } else if (platform::getFileStamp(pathOf(olderFile)).exists) {
-        m_path = pathOf(olderFile);
+    if (isThere(pathOf(folder, currentFile))) {
+        m_path = pathOf(folder, currentFile);
+    } else if (isThere(pathOf(folder, olderFile))) {
+        m_path = pathOf(folder, olderFile);
         m_isOldFile = true;
     }
     if (!m_path.isEmpty()) {
@@ -70,8 +73,15 @@ MediaPreferences::MediaPreferences(const CXString& folder) : m_folder(folder) {
     }
 }
 
-CXString MediaPreferences::pathOf(const char16_t* fileName) const {
-    return m_folder + platform::pathSeparator + fileName;
+std::unique_ptr<platform::LockedFile> MediaPreferences::lock(const CXString& folder) {
+    const CXString path = pathOf(folder, currentFile);
+    auto lock = platform::LockedFile::lock(path);
+    if (lock == nullptr) {
+        trace::systemErrorText(platform::getLastError(), traceLevel::xmlLayer);
+        raiseOrdoParse(ordoParseCode::openForWritingFailed,
+                       "MediaPreferences::lock(): Failed to lock %s.\r\n", path);
+    }
+    return lock;
 }
 
 std::unique_ptr<StockList> MediaPreferences::getUserStocks() {
@@ -150,26 +160,21 @@ AttrNodeList MediaPreferences::listOf(const StockList& stocks) const {
     return list;
 }
 
-void MediaPreferences::save(const StockList& stocks) {
+void MediaPreferences::save(const StockList& stocks, platform::LockedFile& lock) {
     AttrNodeList list = listOf(stocks);
-    const CXString path = pathOf(currentFile);
-    write(list, path);
-    m_list = std::make_unique<AttrNodeList>(std::move(list));
-    m_path = path;
-    m_isOldFile = false;
-}
-
-/// Writes a file beside, which takes the place of the old one only when it is complete.
-void MediaPreferences::write(const AttrNodeList& list, const CXString& path) {
-    const FileBeside beside(path);
-    OmpTranslator().anlToFile(list, beside.getPath());
-    if (!platform::replaceFile(beside.getPath(), path)) {
+    const CXString path = pathOf(m_folder, currentFile);
+    ByteBuffer document;
+    OmpTranslator().anlToBuffer(list, &document);
+    if (!lock.replace(document.data(), document.size())) {
         trace::systemErrorText(platform::getLastError(), traceLevel::xmlLayer);
         raiseOrdoParse(ordoParseCode::openForWritingFailed,
                        "MediaPreferences::save(): Failed to put the new file into the place of "
                        "%s.\r\n",
                        path);
     }
+    m_list = std::make_unique<AttrNodeList>(std::move(list));
+    m_path = path;
+    m_isOldFile = false;
 }
 
 } // namespace zent

@@ -6,6 +6,7 @@
 #include "ocore/Attributes/AttrNodeList.h"
 #include "ocore/Stock/StockList.h"
 #include "ocore/User.h"
+#include "platform/LockedFile.h"
 
 namespace zent {
 
@@ -14,11 +15,18 @@ namespace zent {
 ///
 /// The file is "omedpref.omp" in the user's profile directory. Where there is none, its predecessor
 /// "omedpr35.omp" is read; it is never written. Failures of the XML layer reach the caller.
+///
+/// Who changes the file locks it first, and reads it only then, so that two writers at a time don't
+/// undo each other's changes. To read it alone needs no lock.
 class MediaPreferences {
 public:
     /// Reads the file of a folder, if there is one.
     explicit MediaPreferences(const CXString& folder = User::getProfileDirectoryPath());
 
+    /// Waits until nobody else changes the file of a folder. Raises OrdoParseException.
+    static std::unique_ptr<platform::LockedFile> lock(const CXString& folder);
+
+    const CXString& getFolder() const { return m_folder; }
     /// The file that was read, or written since; empty if there is none.
     const CXString& getPath() const { return m_path; }
     bool isOldFile() const { return m_isOldFile; }
@@ -30,8 +38,8 @@ public:
     /// since the favourites to keep are those of printers alone.
     void applyPrinterFavorites(StockList& printerStocks);
     /// Writes the user's stocks and the favourites, those of the printer included, in the current
-    /// form. A failure leaves the file as it was.
-    void save(const StockList& stocks);
+    /// form. A failure leaves the file as it was. The lock is that of the same folder.
+    void save(const StockList& stocks, platform::LockedFile& lock);
 
 private:
     /// A favourite that names no stock at hand.
@@ -40,11 +48,9 @@ private:
         AVTE type;
     };
 
-    CXString pathOf(const char16_t* fileName) const;
     void applyFavorites(const char16_t* attribute, StockList& stocks, StockType kind);
     void markNamed(const AttrNodeList& favorites, StockList& stocks);
     AttrNodeList listOf(const StockList& stocks) const;
-    static void write(const AttrNodeList& list, const CXString& path);
 
     CXString m_folder;
     CXString m_path;

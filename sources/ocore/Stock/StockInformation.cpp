@@ -1,6 +1,7 @@
 #include "ocore/Stock/StockInformation.h"
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
 #include "ocore/Attributes/IppList.h"
@@ -17,6 +18,68 @@ bool asksTwice(const AttrNodeList& level) {
            level.countNodes(_FI(feature::mediaCol).getAttrID()) > 1;
 }
 
+using StocksById = std::map<std::uint32_t, const Stock*>;
+
+StocksById mapById(const StockList& stocks) {
+    StocksById map;
+    for (std::uint32_t i = 0; i < stocks.getCount(); ++i) {
+        map.emplace(stocks.getStockAt(i).getLogicalID(), &stocks.getStockAt(i));
+    }
+    return map;
+}
+
+/// The one of a logical id that is of the same kind as another; null if there is none.
+const Stock* findSame(const StocksById& map, const Stock& other) {
+    const auto found = map.find(other.getLogicalID());
+    return found == map.end() || found->second->getKind() != other.getKind() ? nullptr
+                                                                             : found->second;
+}
+
+/// The stocks of a media library that another one has read or written, by kind and key.
+class Library {
+public:
+    explicit Library(StockList& stocks) : m_stocks(stocks) {
+        for (std::uint32_t i = 0; i < stocks.getCount(); ++i) {
+            Stock& stock = stocks.getStockAt(i);
+            m_byKey.emplace(keyOf(stock), &stock);
+        }
+    }
+
+    Stock* find(const Stock& other) const {
+        const auto found = m_byKey.find(keyOf(other));
+        return found == m_byKey.end() ? nullptr : found->second;
+    }
+    Stock& add(const Stock& stock) {
+        Stock* const added = m_stocks.addStock(stock);
+        m_byKey.emplace(keyOf(*added), added);
+        return *added;
+    }
+    void remove(const Stock& other) {
+        if (const Stock* const stock = find(other)) {
+            m_byKey.erase(keyOf(other));
+            m_stocks.removeStock(stock);
+        }
+    }
+    /// The lowest number that is no user's stock's key yet.
+    void number(Stock& stock) const {
+        for (std::uint32_t number = 1; find(stock) != nullptr; ++number) {
+            stock.setKey(
+                FeatureValue::fromText(_FI(feature::media), CXString::Format(u"%u", number)));
+        }
+    }
+
+private:
+    using Key = std::pair<StockType, std::int32_t>;
+    static Key keyOf(const Stock& stock) { return {stock.getKind(), stock.getKey().getValue()}; }
+
+    StockList& m_stocks;
+    std::map<Key, Stock*> m_byKey;
+};
+
+bool isStoredAlike(const Stock& a, const Stock& b) {
+    return a.isFavorite() == b.isFavorite() && a.getAttrNodeList() == b.getAttrNodeList();
+}
+
 } // namespace
 
 StockInformation::StockInformation(Printer& printer, MediaPreferences preferences)
@@ -28,6 +91,7 @@ StockInformation::StockInformation(Printer& printer, MediaPreferences preference
         insert(m_printerStocks, printerStocks->getStockAt(i));
     }
     addUserStocks(*userStocks);
+    m_saved = getAll();
 }
 
 // Stocks
@@ -129,10 +193,51 @@ bool StockInformation::hasKey(FeatureValue key, bool ofAnyKind, StockType kind) 
     return ofAnyKind ? m_index.hasKey(key) : m_index.hasKey(key, kind);
 }
 
-void StockInformation::save() {
+StockList StockInformation::getAll() const {
     StockList all(m_printerStocks);
     all.addAll(m_stocks);
-    m_preferences.save(all);
+    return all;
+}
+
+void StockInformation::save() { save(*MediaPreferences::lock(m_preferences.getFolder())); }
+
+void StockInformation::save(platform::LockedFile& lock) {
+    StockInformation present(m_printer, MediaPreferences(m_preferences.getFolder()));
+    StockList library = present.getAll();
+    layChangesOver(library);
+    present.m_preferences.save(library, lock);
+    m_preferences = std::move(present.m_preferences);
+    m_saved = getAll();
+}
+
+/// A stock is the same one here by its logical id, and in the library by its kind and key.
+void StockInformation::layChangesOver(StockList& stocks) const {
+    Library library(stocks);
+    const StockList all = getAll();
+    const StocksById present = mapById(all);
+    const StocksById saved = mapById(m_saved);
+    for (const auto& [id, stock] : saved) {
+        if (stock->getKind() == StockType::user && findSame(present, *stock) == nullptr) {
+            library.remove(*stock);
+        }
+    }
+    for (const auto& [id, stock] : present) {
+        const Stock* const before = findSame(saved, *stock);
+        if (stock->getKind() == StockType::transient ||
+            (before != nullptr && isStoredAlike(*before, *stock))) {
+            continue;
+        }
+        Stock* const there = library.find(before == nullptr ? *stock : *before);
+        if (there == nullptr) {
+            library.add(*stock);
+        } else if (before != nullptr || !m_generatedKeys.contains(stock->getKey().getValue())) {
+            *there = *stock;
+        } else { // another one got the same number meanwhile
+            Stock numbered(*stock);
+            library.number(numbered);
+            library.add(numbered);
+        }
+    }
 }
 
 // Usage

@@ -68,8 +68,14 @@ public:
     /// Raises NodeAccessOutOfBoundsException at the end.
     const Stock* getNextStockByType();
 
-    /// Writes the media library.
+    /// The folder of the media library.
+    const CXString& getFolder() const { return m_preferences.getFolder(); }
+    /// Lays what was changed here over the media library, as it is by now, and writes it. What
+    /// others have changed meanwhile stays, unless it is the same stock: then the last one wins.
+    /// Their changes don't show here.
     void save();
+    /// The same for who holds the lock of the library's folder.
+    void save(platform::LockedFile& lock);
 
 private:
     struct Usage {
@@ -78,6 +84,8 @@ private:
     };
 
     void addUserStocks(const StockList& stocks);
+    StockList getAll() const;
+    void layChangesOver(StockList& stocks) const;
     Stock* insert(StockList& list, const Stock& stock);
     void nameStock(Stock& stock);
     void forget(const Stock& stock);
@@ -96,6 +104,7 @@ private:
     StockList m_printerStocks;
     StockList m_stocks;
     StockIndex m_index; // of both lists
+    StockList m_saved;  // both, as they were when the library was read or written
     FeatureSettings* m_settings = nullptr;
     std::map<const Stock*, Usage> m_usage;
     std::set<std::int32_t> m_generatedKeys;

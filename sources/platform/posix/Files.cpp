@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <climits>
-#include <cstdio>
 #include <cstdlib>
 #include <string>
 
@@ -123,10 +122,6 @@ std::unique_ptr<OpenFile> OpenFile::createForWriting(const CXString& path) {
 }
 
 bool deleteFile(const CXString& path) { return unlink(path.toNarrow().c_str()) == 0; }
-
-bool replaceFile(const CXString& source, const CXString& target) {
-    return std::rename(source.toNarrow().c_str(), target.toNarrow().c_str()) == 0;
-}
 
 FileStamp getFileStamp(const CXString& path) {
     struct stat status = {};

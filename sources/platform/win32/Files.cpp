@@ -131,11 +131,6 @@ std::unique_ptr<OpenFile> OpenFile::createForWriting(const CXString& path) {
 
 bool deleteFile(const CXString& path) { return DeleteFileW(wide(path)) != FALSE; }
 
-bool replaceFile(const CXString& source, const CXString& target) {
-    return MoveFileExW(wide(source), wide(target),
-                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
-}
-
 FileStamp getFileStamp(const CXString& path) {
     WIN32_FILE_ATTRIBUTE_DATA found = {};
     if (GetFileAttributesExW(wide(path), GetFileExInfoStandard, &found) == FALSE) {

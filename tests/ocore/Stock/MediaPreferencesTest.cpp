@@ -34,6 +34,10 @@ std::string keysOf(const StockList& stocks) {
     return keys;
 }
 
+void save(MediaPreferences& preferences, const StockList& stocks) {
+    preferences.save(stocks, *MediaPreferences::lock(preferences.getFolder()));
+}
+
 class MediaPreferencesTest : public testing::Test {
 protected:
     MediaPreferencesTest() { useResourceLibrary(); }
@@ -50,12 +54,12 @@ TEST_F(MediaPreferencesTest, WithoutAFileTheDefaultLibraryServes) {
     EXPECT_EQ(first.getPath(), u"");
     const auto stocks = first.getUserStocks();
     EXPECT_EQ(stocks->getCount(), 10U);
-    first.save(*stocks);
+    save(first, *stocks);
     EXPECT_EQ(first.getPath(), m_folder.file(current));
 
     MediaPreferences second = preferences();
     EXPECT_EQ(second.getUserStocks()->getCount(), 10U);
-    second.save(StockList());
+    save(second, StockList());
     EXPECT_NE(m_folder.read(current).find("<media-user-defined syntax=\"1setOf\"/>"),
               std::string::npos);
     EXPECT_EQ(preferences().getUserStocks()->getCount(), 0U) << "an empty library is one";
@@ -81,9 +85,8 @@ TEST_F(MediaPreferencesTest, LibrariesAreWrittenAsTheyWereRead) {
     ordered.addStock(printers.getStockAt(2));
     ordered.addStock(printers.getStockAt(0));
     ordered.addStock(printers.getStockAt(1));
-    preferences.save(ordered);
+    save(preferences, ordered);
     EXPECT_EQ(m_folder.read(current), golden);
-    EXPECT_FALSE(std::filesystem::exists(m_folder.path() / "omedpref.omp.new"));
 }
 
 TEST_F(MediaPreferencesTest, OlderFilesAreTakenOver) {
@@ -100,7 +103,7 @@ TEST_F(MediaPreferencesTest, OlderFilesAreTakenOver) {
     EXPECT_TRUE(preferences.isOldFile());
     const auto stocks = preferences.getUserStocks();
     EXPECT_EQ(keysOf(*stocks), "plain* bond") << "the first one, whatever the favourite describes";
-    preferences.save(*stocks);
+    save(preferences, *stocks);
     EXPECT_FALSE(preferences.isOldFile());
     EXPECT_EQ(m_folder.read(older), before);
     EXPECT_EQ(keysOf(*this->preferences().getUserStocks()), "plain* bond");
@@ -116,7 +119,7 @@ TEST_F(MediaPreferencesTest, FavoritesThatAreNoKeysArePassedOver) {
     MediaPreferences preferences = this->preferences();
     StockList none;
     preferences.applyPrinterFavorites(none);
-    preferences.save(none);
+    save(preferences, none);
     const std::string saved = m_folder.read(current);
     EXPECT_NE(saved.find("<media-favorites-printer syntax=\"1setOf\">\r\n\t<value "
                          "syntax=\"keyword\">e</value>\r\n</media-favorites-printer>"),
@@ -131,17 +134,16 @@ TEST_F(MediaPreferencesTest, FailuresLoseNothing) {
     MediaPreferences preferences = this->preferences();
     // A name that no document can hold.
     StockList unwritable = stocksOf("value{media-color=red 1=2}", StockType::user);
-    EXPECT_EQ(ordoFailure([&] { preferences.save(unwritable); }).substr(0, 2), "6:");
+    EXPECT_EQ(ordoFailure([&] { save(preferences, unwritable); }).substr(0, 2), "6:");
     EXPECT_EQ(m_folder.read(current), libraryOf(""));
     // The place of the file beside is taken, then that of the file.
-    std::filesystem::create_directory(m_folder.path() / "omedpref.omp.new");
-    EXPECT_EQ(ordoFailure([&] { preferences.save(StockList()); }).substr(0, 3), "17:");
+    std::filesystem::create_directory(m_folder.path() / ".omedpref.omp.zent-new");
+    EXPECT_EQ(ordoFailure([&] { save(preferences, StockList()); }).substr(0, 3), "17:");
     EXPECT_EQ(m_folder.read(current), libraryOf(""));
-    std::filesystem::remove(m_folder.path() / "omedpref.omp.new");
+    std::filesystem::remove(m_folder.path() / ".omedpref.omp.zent-new");
     std::filesystem::remove(m_folder.path() / current);
     std::filesystem::create_directory(m_folder.path() / current);
-    EXPECT_EQ(ordoFailure([&] { preferences.save(StockList()); }).substr(0, 3), "17:");
-    EXPECT_FALSE(std::filesystem::exists(m_folder.path() / "omedpref.omp.new"));
+    EXPECT_EQ(ordoFailure([&] { save(preferences, StockList()); }).substr(0, 3), "17:");
     EXPECT_EQ(ordoFailure([&] { this->preferences(); }).substr(0, 3), "15:")
         << "there, but not to be read";
 }

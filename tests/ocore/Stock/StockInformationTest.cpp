@@ -1,5 +1,8 @@
 #include "ocore/Stock/StockInformation.h"
 
+#include <array>
+#include <thread>
+
 #include <gtest/gtest.h>
 
 #include "PrintText.h"
@@ -173,6 +176,65 @@ TEST_F(StockInformationTest, FavoritesOfThePrinterAreSaved) {
     next.resetStocksByType(StockType::printer);
     EXPECT_TRUE(next.getNextStockByType()->isFavorite());
     EXPECT_FALSE(next.getNextStockByType()->isFavorite());
+}
+
+TEST_F(StockInformationTest, WhatOthersSavedMeanwhileStays) {
+    StockInformation other(m_printer, MediaPreferences(folderName()));
+    const auto change = [](StockInformation& stocks, const char* name, const char* removed,
+                           const char* favorite) {
+        Stock added = *stockOf("media-col{media-color=red}");
+        added.setKeyFromText(CXString(name));
+        stocks.addStock(added);
+        stocks.addStock(*stockOf("media-col{media-color=blue}")); // gets a number
+        stocks.resetStocksByType(StockType::user);
+        while (stocks.hasMoreStocksByType()) {
+            const Stock& stock = *stocks.getNextStockByType();
+            const CXString key = stock.getKey().getText();
+            stocks.setFavorite(stock, stock.isFavorite() != (key == CXString(favorite)));
+            if (key == CXString(removed)) {
+                stocks.removeStock(stock);
+            }
+        }
+    };
+    change(m_stocks, "mine", "2", "1");
+    change(other, "yours", "3", "4");
+    m_stocks.save();
+    other.save();
+    m_stocks.save(); // has changed nothing since
+    StockInformation both(m_printer, MediaPreferences(folderName()));
+    std::string listed;
+    both.resetStocksByType(StockType::user);
+    while (both.hasMoreStocksByType()) {
+        const Stock& stock = *both.getNextStockByType();
+        listed += stock.getKey().getText().toNarrow() + (stock.isFavorite() ? "* " : " ");
+    }
+    EXPECT_EQ(listed, "1 4 5* 6* 7* 8* 9* 10* mine 11 yours 2 ");
+}
+
+TEST_F(StockInformationTest, WritersAtATimeLoseNothing) {
+    constexpr std::size_t writers = 8;
+    constexpr int adds = 25;
+    std::array<std::thread, writers> threads;
+    for (std::size_t writer = 0; writer < writers; ++writer) {
+        threads[writer] = std::thread([this, writer] {
+            NonDriverBasedPrinter printer(6, 2, 1, u"", true);
+            for (int count = 0; count < adds; ++count) {
+                StockInformation stocks(printer, MediaPreferences(folderName()));
+                Stock stock = *stockOf("media-col{media-color=red}");
+                stock.setKeyFromText(
+                    CXString::Format(u"%d of %d", count, static_cast<int>(writer)));
+                stocks.addStock(stock);
+                stocks.save();
+            }
+        });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    MediaPreferences preferences(folderName());
+    EXPECT_EQ(preferences.getUserStocks()->getCount(), 10U + writers * adds);
+    EXPECT_EQ(std::ranges::distance(std::filesystem::directory_iterator(m_folder.path())), 1)
+        << "no file is left beside it";
 }
 
 TEST_F(StockInformationTest, ThousandsOfPapersTakeNoSquareOfTime) {

@@ -1,0 +1,199 @@
+#include "platform/LockedFile.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/win32/WideText.h"
+
+namespace zent::platform {
+
+namespace {
+
+class Handle {
+public:
+    explicit Handle(HANDLE handle) : m_handle(handle) {}
+    ~Handle() { reset(); }
+    Handle(Handle&& other) noexcept
+        : m_handle(std::exchange(other.m_handle, INVALID_HANDLE_VALUE)) {}
+    Handle(const Handle&) = delete;
+    Handle& operator=(const Handle&) = delete;
+    Handle& operator=(Handle&&) = delete;
+
+    bool isOpen() const { return m_handle != INVALID_HANDLE_VALUE; }
+    HANDLE get() const { return m_handle; }
+    /// What went wrong before is still the last error.
+    void reset() {
+        const DWORD error = GetLastError();
+        if (isOpen()) {
+            CloseHandle(std::exchange(m_handle, INVALID_HANDLE_VALUE));
+        }
+        SetLastError(error);
+    }
+
+private:
+    HANDLE m_handle;
+};
+
+const wchar_t* wide(const std::u16string& text) { return platform::wide(text.c_str()); }
+
+/// Removes a file; what went wrong before is still the last error.
+void removeQuietly(const std::u16string& path) {
+    const DWORD error = GetLastError();
+    DeleteFileW(wide(path));
+    SetLastError(error);
+}
+
+Handle openToAsk(const std::u16string& path) {
+    return Handle(CreateFileW(wide(path), FILE_READ_ATTRIBUTES,
+                              FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                              OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+}
+
+/// The file that a path leads to. Systems before links have no function that follows them.
+std::u16string followLinks(const std::u16string& path) {
+    using GetPath = DWORD(WINAPI*)(HANDLE, wchar_t*, DWORD, DWORD);
+    const DWORD attributes = GetFileAttributesW(wide(path));
+    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) {
+        return path;
+    }
+    const auto getPath = reinterpret_cast<GetPath>(reinterpret_cast<void*>(
+        GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "GetFinalPathNameByHandleW")));
+    const Handle file = openToAsk(path);
+    if (getPath == nullptr || !file.isOpen()) {
+        return path;
+    }
+    std::vector<wchar_t> buffer(32'768); // no path is longer
+    const DWORD length = getPath(file.get(), buffer.data(), static_cast<DWORD>(buffer.size()), 0);
+    return length == 0 || length >= buffer.size() ? path
+                                                  : std::u16string(units(buffer.data()), length);
+}
+
+/// What the names of the files begin with that stand beside a file for its sake. Files whose names
+/// are so long that nothing could be added to them share it.
+std::u16string makeStem(const std::u16string& path) {
+    constexpr std::size_t longest = 180; // of the 255 units that a name may have
+    const std::u16string folder = path.substr(0, path.find_last_of(u"\\/:") + 1);
+    return folder + u'.' + path.substr(folder.size(), longest) + u".zent-";
+}
+
+/// The lock, once it is held; closed on failure. Nobody else can open the file meanwhile.
+Handle acquire(const std::u16string& path) {
+    constexpr DWORD pause = 5; // all in milliseconds
+    constexpr DWORD longestWait = 30'000;
+    constexpr DWORD longestRemoval = 1'000; // a file that is about to go can't be opened either
+    for (DWORD waited = 0;; waited += pause) {
+        Handle file(CreateFileW(wide(path), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+                                FILE_ATTRIBUTE_NORMAL, nullptr));
+        const DWORD error = GetLastError();
+        const bool mayBeFreeLater = (error == ERROR_SHARING_VIOLATION && waited < longestWait) ||
+                                    (error == ERROR_ACCESS_DENIED && waited < longestRemoval);
+        if (file.isOpen() || !mayBeFreeLater) {
+            return file;
+        }
+        Sleep(pause);
+    }
+}
+
+/// Who may do what with a file; empty if there is none.
+std::vector<char> readProtection(const std::u16string& path) {
+    DWORD size = 0;
+    GetFileSecurityW(wide(path), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    std::vector<char> descriptor(size);
+    const bool isRead = size > 0 && GetFileSecurityW(wide(path), DACL_SECURITY_INFORMATION,
+                                                     descriptor.data(), size, &size) != FALSE;
+    return isRead ? descriptor : std::vector<char>();
+}
+
+bool writeAll(const Handle& file, const void* bytes, std::size_t size) {
+    constexpr std::size_t mostAtOnce = 0x40000000;
+    const auto* rest = static_cast<const std::byte*>(bytes);
+    while (size > 0) {
+        DWORD written = 0;
+        if (WriteFile(file.get(), rest, static_cast<DWORD>(std::min(size, mostAtOnce)), &written,
+                      nullptr) == FALSE) {
+            return false;
+        }
+        rest += written;
+        size -= written;
+    }
+    return true;
+}
+
+class WindowsLockedFile final : public LockedFile {
+public:
+    WindowsLockedFile(std::u16string path, Handle lock)
+        : m_path(std::move(path)), m_stem(makeStem(m_path)), m_lock(std::move(lock)) {}
+
+    ~WindowsLockedFile() override {
+        // A file of that name that isn't empty is somebody's own. One that another has opened by
+        // now stays for him to remove.
+        const bool isEmpty = GetFileSize(m_lock.get(), nullptr) == 0;
+        m_lock.reset();
+        if (isEmpty) {
+            removeQuietly(lockOf(m_stem));
+        }
+    }
+
+    static std::u16string lockOf(const std::u16string& stem) { return stem + u"lock"; }
+
+    bool replace(const void* bytes, std::size_t size) override {
+        const std::u16string temporary = m_stem + u"new";
+        removeQuietly(temporary); // nobody else writes while the lock is held
+        Handle file = createTemporary(temporary);
+        if (!file.isOpen()) {
+            return false;
+        }
+        const bool isWritten = writeAll(file, bytes, size) && FlushFileBuffers(file.get()) != FALSE;
+        file.reset();
+        const bool isReplaced =
+            isWritten && MoveFileExW(wide(temporary), wide(m_path),
+                                     MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
+        if (!isReplaced) {
+            removeQuietly(temporary);
+        }
+        return isReplaced;
+    }
+
+private:
+    /// With the protection of the old file, so that nobody reads more of the new one.
+    Handle createTemporary(const std::u16string& path) const {
+        std::vector<char> protection = readProtection(m_path);
+        SECURITY_ATTRIBUTES attributes = {sizeof attributes, protection.data(), FALSE};
+        return Handle(CreateFileW(wide(path), GENERIC_WRITE, 0,
+                                  protection.empty() ? nullptr : &attributes, CREATE_NEW,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr));
+    }
+
+    std::u16string m_path;
+    std::u16string m_stem;
+    Handle m_lock;
+};
+
+} // namespace
+
+FileKind getFileKind(std::u16string_view path) {
+    const std::u16string name(path);
+    const DWORD attributes = GetFileAttributesW(wide(name));
+    if (attributes == INVALID_FILE_ATTRIBUTES) {
+        const DWORD error = GetLastError();
+        const bool isMissing = error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
+        return isMissing ? FileKind::missing : FileKind::unknown;
+    }
+    if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        return FileKind::folder;
+    }
+    const Handle file = openToAsk(name);
+    const bool isDevice = file.isOpen() && GetFileType(file.get()) != FILE_TYPE_DISK;
+    return isDevice ? FileKind::device : FileKind::regular;
+}
+
+std::unique_ptr<LockedFile> LockedFile::lock(std::u16string_view path) {
+    const std::u16string target = followLinks(std::u16string(path));
+    Handle lock = acquire(WindowsLockedFile::lockOf(makeStem(target)));
+    return lock.isOpen() ? std::make_unique<WindowsLockedFile>(target, std::move(lock)) : nullptr;
+}
+
+} // namespace zent::platform
