@@ -16,9 +16,13 @@ namespace {
 using zent::Stock;
 using zent::StockType;
 
+zent::CXString toPath(const std::string& folder) {
+    return folder.empty() ? zent::User::getProfileDirectoryPath()
+                          : zent::CXString(fromUtf8(folder));
+}
+
 zent::MediaPreferences readPreferences(const std::string& folder, std::string& file) {
-    const zent::CXString path =
-        folder.empty() ? zent::User::getProfileDirectoryPath() : zent::CXString(fromUtf8(folder));
+    const zent::CXString path = toPath(folder);
     try {
         zent::MediaPreferences preferences(path);
         file = toUtf8(preferences.getPath());
@@ -26,6 +30,13 @@ zent::MediaPreferences readPreferences(const std::string& folder, std::string& f
     } catch (const zent::TarvoException& exception) {
         failToRead(exception, "the media library in " + toUtf8(path), "is damaged");
     }
+}
+
+[[noreturn]] void failToWrite(const zent::CXString& folder) {
+    throw ProgramError(
+        ExitStatus::unwritable,
+        "can't write the media library in " + toUtf8(folder) + ": " +
+            toUtf8(zent::platform::getSystemErrorText(zent::platform::getLastError())));
 }
 
 void checkBelongsToStock(const Assignment& assignment) {
@@ -65,9 +76,22 @@ Stock makeStock(const std::vector<Assignment>& assignments) {
 
 } // namespace
 
-MediaLibrary::MediaLibrary(const PrinterChoice& printer, const std::string& folder)
-    : m_printer(printer.model, printer.pdl, printer.form, zent::CXString(), true),
+MediaLibrary::MediaLibrary(const PrinterChoice& printer, const std::string& folder, Lock lock)
+    : m_lock(std::move(lock)),
+      m_printer(printer.model, printer.pdl, printer.form, zent::CXString(), true),
       m_stocks(m_printer, readPreferences(folder, m_file)) {}
+
+MediaLibrary MediaLibrary::openForChange(const PrinterChoice& printer, const std::string& folder) {
+    const zent::CXString path = toPath(folder);
+    const auto lock = [&] {
+        try {
+            return zent::MediaPreferences::lock(path);
+        } catch (const zent::TarvoException&) {
+            failToWrite(path);
+        }
+    };
+    return {printer, folder, lock()};
+}
 
 std::vector<const Stock*> MediaLibrary::getStocks(StockType kind) {
     std::vector<const Stock*> stocks;
@@ -108,9 +132,9 @@ void MediaLibrary::remove(const std::string& name) {
 
 void MediaLibrary::save() {
     try {
-        m_stocks.save();
+        m_stocks.save(*m_lock);
     } catch (const zent::TarvoException&) {
-        throw ProgramError(ExitStatus::unwritable, "the media library can't be written");
+        failToWrite(m_stocks.getFolder());
     }
 }
 

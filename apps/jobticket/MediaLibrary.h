@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -7,6 +8,7 @@
 #include "Session.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
 #include "ocore/Stock/StockInformation.h"
+#include "platform/LockedFile.h"
 
 namespace jobticket {
 
@@ -16,7 +18,11 @@ class MediaLibrary {
 public:
     /// Reads the library of a folder; without one, of the user's profile folder. Raises
     /// ProgramError (invalidTicket) for a file that is none.
-    MediaLibrary(const PrinterChoice& printer, const std::string& folder);
+    MediaLibrary(const PrinterChoice& printer, const std::string& folder)
+        : MediaLibrary(printer, folder, nullptr) {}
+    /// The same to change it: until the object goes, nobody else does. Raises ProgramError
+    /// (unwritable) as well.
+    static MediaLibrary openForChange(const PrinterChoice& printer, const std::string& folder);
 
     /// The path of the file; empty if there is none yet.
     const std::string& getFile() const { return m_file; }
@@ -28,12 +34,16 @@ public:
     void add(const std::string& name, const std::vector<Assignment>& assignments, bool isFavorite);
     /// Raises ProgramError (badValue) if no stock of the user's has the name.
     void remove(const std::string& name);
-    /// Writes the file. Raises ProgramError (unwritable).
+    /// Writes the file, of a library that was opened for change. Raises ProgramError (unwritable).
     void save();
 
 private:
+    using Lock = std::unique_ptr<zent::platform::LockedFile>;
+
+    MediaLibrary(const PrinterChoice& printer, const std::string& folder, Lock lock);
     const zent::Stock* find(const std::string& name);
 
+    Lock m_lock;
     zent::NonDriverBasedPrinter m_printer;
     std::string m_file;
     zent::StockInformation m_stocks;

@@ -20,7 +20,6 @@ bool hasPrinter(const Options& options) {
     return !options.printer.model.empty() || !options.printer.language.empty();
 }
 
-/// Without a printer, which only list takes, it doesn't matter which one the library is beside.
 MediaLibrary openLibrary(const Options& options) {
     return {hasPrinter(options) ? choosePrinter(options.printer) : PrinterChoice(), options.folder};
 }
@@ -84,14 +83,14 @@ ExitStatus add(const Options& options) {
         assignments.push_back(parseAssignment(text));
         hintAtMisspelling(assignments.back());
     }
-    MediaLibrary library = openLibrary(options);
+    MediaLibrary library = MediaLibrary::openForChange({}, options.folder);
     library.add(options.stock, assignments, options.isFavorite);
     library.save();
     return ExitStatus::success;
 }
 
 ExitStatus remove(const Options& options) {
-    MediaLibrary library = openLibrary(options);
+    MediaLibrary library = MediaLibrary::openForChange({}, options.folder);
     for (const std::string& name : options.stocks) {
         library.remove(name);
     }

@@ -5,11 +5,13 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <random>
 #include <system_error>
 
 #include "ExitStatus.h"
 #include "Platform.h"
+#include "Text.h"
+#include "platform/LockedFile.h"
+#include "platform/System.h"
 
 namespace jobticket {
 
@@ -44,39 +46,18 @@ std::string readStream(std::istream& stream, const std::string& name) {
     return bytes;
 }
 
-/// A name that nobody can foresee, in the folder of the file.
-fs::path temporaryBeside(const fs::path& file) {
-    std::random_device random;
-    return file.parent_path() /
-           (".jobticket-" + std::to_string(random()) + std::to_string(random()) + ".tmp");
+/// Why the last call of the system failed.
+std::string lastSystemReason() {
+    return toUtf8(zent::platform::getSystemErrorText(zent::platform::getLastError()));
 }
 
 /// True if the whole of it has reached the system.
-bool writeBytes(const fs::path& path, std::string_view bytes) {
+bool writeIntoDevice(const fs::path& path, std::string_view bytes) {
     errno = 0;
-    std::ofstream stream(path, std::ios::binary | std::ios::trunc);
+    std::ofstream stream(path, std::ios::binary);
     stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     stream.close();
     return stream.good();
-}
-
-void replaceFile(const fs::path& target, const std::string& name, std::string_view bytes) {
-    const fs::path temporary = temporaryBeside(target);
-    std::error_code ignored;
-    if (!writeBytes(temporary, bytes)) {
-        const std::string reason = lastReason();
-        fs::remove(temporary, ignored);
-        fail(ExitStatus::unwritable, "write", name, reason);
-    }
-    if (const fs::file_status status = fs::status(target, ignored); fs::exists(status)) {
-        fs::permissions(temporary, status.permissions(), ignored);
-    }
-    std::error_code error;
-    fs::rename(temporary, target, error);
-    if (error) {
-        fs::remove(temporary, ignored);
-        fail(ExitStatus::unwritable, "write", name, error.message());
-    }
 }
 
 } // namespace
@@ -131,20 +112,22 @@ void writeFile(const std::string& name, std::string_view bytes) {
         writeStandardOutput(bytes);
         return;
     }
-    fs::path path = platform::toPath(name);
-    std::error_code error;
-    const fs::file_status status = fs::status(path, error);
-    if (fs::exists(status)) {
-        if (!fs::is_regular_file(status)) { // a device or a pipe is written to, not replaced
-            if (!writeBytes(path, bytes)) {
-                fail(ExitStatus::unwritable, "write", name,
-                     fs::is_directory(status) ? "it is a folder" : lastReason());
-            }
-            return;
+    const std::u16string path = fromUtf8(name);
+    switch (zent::platform::getFileKind(path)) {
+    case zent::platform::FileKind::folder:
+        fail(ExitStatus::unwritable, "write", name, "it is a folder");
+    case zent::platform::FileKind::device: // is written to, not replaced
+        if (!writeIntoDevice(platform::toPath(name), bytes)) {
+            fail(ExitStatus::unwritable, "write", name, lastReason());
         }
-        path = fs::canonical(path); // a link stays, and what it points to is replaced
+        return;
+    default:
+        break;
     }
-    replaceFile(path, name, bytes);
+    const auto file = zent::platform::LockedFile::lock(path);
+    if (file == nullptr || !file->replace(bytes.data(), bytes.size())) {
+        fail(ExitStatus::unwritable, "write", name, lastSystemReason());
+    }
 }
 
 } // namespace jobticket

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Runs the program jobticket as its users do, and looks at what it writes, says and returns."""
 import argparse
+import concurrent.futures
 import json
 import os
 import pathlib
@@ -259,6 +260,14 @@ class Files(InFolder):
         run("set", REPORT, "-o", "/dev/null")
         self.assertTrue(stat.S_ISCHR(os.stat("/dev/null").st_mode))
         run("set", REPORT, "-o", "/dev/full", status=UNWRITABLE)
+
+    def test_a_killed_write_leaves_nothing_for_good(self):
+        ticket = self.folder / "ticket.xml"
+        shutil.copy(REPORT, ticket)
+        for name in ("lock", "new"):
+            (self.folder / f".ticket.xml.zent-{name}").touch()
+        run("set", ticket, "copies=2", "-o", ticket)
+        self.assertEqual([file.name for file in self.folder.iterdir()], [ticket.name])
 
     def test_takes_standard_streams(self):
         self.assertEqual(run("set", "-", data=REPORT.read_bytes()), document(REPORT))
@@ -558,6 +567,15 @@ class Stocks(InFolder):
         of_printer = self.stocks("-m", "43")
         self.assertEqual(list(of_printer)[:10], list(after))
         self.assertEqual(of_printer["iso-a4-white"]["kind"], "printer")
+
+    def test_adds_at_a_time_lose_nothing(self):
+        def add(process):
+            for count in range(8):
+                run("stock", "add", f"{count} of {process}", "--folder", self.folder)
+        with concurrent.futures.ThreadPoolExecutor(4) as pool:
+            list(pool.map(add, range(4)))
+        self.assertEqual(len(self.stocks()), 10 + 32)
+        self.assertEqual([file.name for file in self.folder.iterdir()], ["omedpref.omp"])
 
     def test_leaves_the_library_alone_on_failure(self):
         file = self.folder / "omedpref.omp"
