@@ -100,7 +100,7 @@ using CharacterFilter = std::function<bool(std::u16string_view text, std::int32_
 /// for send(), which is what it says. event::destroy comes last, when the items still stand.
 ///
 /// Text crosses the port as plain UTF-16, since an adapter may be a library of its own. Lines in it
-/// end with CR LF, in edit items of several lines too.
+/// end with CR LF, in edit items of several lines too; those of one line keep what they are given.
 ///
 /// An operation on an item that the dialog doesn't have, or on one of another kind, or without a
 /// dialog (null) does nothing, and gives an empty, zero or false answer: pages leave out what they
@@ -118,6 +118,8 @@ public:
     WindowSystem& operator=(const WindowSystem&) = delete;
 
     // ---- Dialogs -------------------------------------------------------------------------------
+
+    // A dialog without an owner stands in the middle of the screen unless its procedure moves it.
 
     /// Runs a dialog from template bytes (DLGTEMPLATE and its items) modally on its owner, which
     /// may be null, until endDialog; gives the value that ended it, -1 if it couldn't be made, 0 if
@@ -191,18 +193,23 @@ public:
     /// The number that the text begins with, behind blanks; 0 if it is none or too large. "-" is
     /// part of it only if signed.
     virtual std::int32_t getNumber(WindowHandle dialog, std::uint16_t item, bool isSigned) = 0;
+    /// How much the user can enter, in UTF-16 units: of what would go beyond, as many whole
+    /// characters as there is room for. 0 for as much as the window system takes.
     virtual void setTextLimit(WindowHandle dialog, std::uint16_t item, std::uint32_t units) = 0;
-    /// Asked for each character that is typed or pasted; what it refuses is dropped in silence.
-    /// Backspace, Escape and the keys of the keyboard's own editing are never refused.
-    virtual void setCharacterFilter(WindowHandle dialog, std::uint16_t item,
+    /// Asked for each character that is typed or pasted, for one of two units twice, and takes both
+    /// or none; what it refuses is dropped in silence. Backspace, Escape and the keys of the
+    /// keyboard's own editing are never refused. False if the window system can't do it.
+    virtual bool setCharacterFilter(WindowHandle dialog, std::uint16_t item,
                                     CharacterFilter filter) = 0;
     virtual void selectText(WindowHandle dialog, std::uint16_t item, std::int32_t start,
                             std::int32_t end) = 0;
     /// Lets a read-only edit item look like part of the page.
     virtual void setTransparent(WindowHandle dialog, std::uint16_t item) = 0;
 
-    // ---- Check boxes and radio buttons ---------------------------------------------------------
+    // ---- Buttons, check boxes and radio buttons ------------------------------------------------
 
+    /// Makes a push button the one that Enter presses, in place of the one that was.
+    virtual void setDefaultButton(WindowHandle dialog, std::uint16_t item) = 0;
     virtual void setChecked(WindowHandle dialog, std::uint16_t item, bool isChecked) = 0;
     virtual bool isChecked(WindowHandle dialog, std::uint16_t item) = 0;
 
@@ -264,8 +271,10 @@ public:
     // ---- Pictures ------------------------------------------------------------------------------
 
     /// Shows a bitmap resource in a static item; what has the colour of its top left pixel stays
-    /// out. 0 shows none.
-    virtual void setBitmap(WindowHandle dialog, std::uint16_t item, std::uint32_t bitmap) = 0;
+    /// out. 0 shows none. `clearsGround`: unless it is set, what was shown there before may stay
+    /// under the bitmap until the item is drawn again.
+    virtual void setBitmap(WindowHandle dialog, std::uint16_t item, std::uint32_t bitmap,
+                           bool clearsGround) = 0;
     /// Draws a bitmap resource, masked likewise, during event::drawItem.
     virtual void drawBitmap(WindowHandle dialog, const DrawRequest& request,
                             std::uint32_t bitmap) = 0;

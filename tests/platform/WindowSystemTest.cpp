@@ -1,5 +1,6 @@
 #include "platform/WindowSystem.h"
 
+#include <cstdlib>
 #include <stdexcept>
 #include <utility>
 
@@ -119,6 +120,16 @@ TEST_F(WindowSystemTest, TakesWhatTheFilterPasses) {
     };
     run([&](WindowHandle dialog) {
         const auto text = [&] { return windows().getText(dialog, number); };
+        for (const std::u16string_view refused : {u"x", u"\u20ac", u"\t"}) {
+            EXPECT_EQ(told([&] { user::type(dialog, number, refused); }), "");
+            EXPECT_EQ(told([&] { user::paste(dialog, number, refused); }), "");
+            EXPECT_EQ(text(), u""); // also in an empty box
+        }
+        user::paste(dialog, number, std::u16string(5000, u'7'));
+        EXPECT_EQ(text(), u"77777");
+        windows().selectText(dialog, number, 0, -1);
+        user::press(dialog, Key::remove);
+        m_recorder.log.clear();
         EXPECT_EQ(told([&] { user::type(dialog, number, u"1a2-"); }),
                   "command 10 768; command 10 768");
         EXPECT_EQ(text(), u"12");
@@ -134,6 +145,47 @@ TEST_F(WindowSystemTest, TakesWhatTheFilterPasses) {
         EXPECT_EQ(told([&] { windows().setText(dialog, number, u"free text"); }), "command 10 768");
         EXPECT_EQ(told([&] { windows().setText(dialog, number, u"free text"); }), "");
         EXPECT_EQ(text(), u"free text");
+    });
+}
+
+TEST_F(WindowSystemTest, TakesWholeCharactersWithinTheLimit) {
+    constexpr std::u16string_view emoji = u"\U0001F600";
+    run([&](WindowHandle dialog) {
+        const auto entered = [&](std::uint16_t item, auto enter, std::u16string_view text) {
+            windows().setText(dialog, item, u"");
+            enter(dialog, item, text);
+            return windows().getText(dialog, item);
+        };
+        for (const auto& enter : {user::type, user::paste}) {
+            for (const std::uint16_t item : {number, notes}) {
+                windows().setTextLimit(dialog, item, 4);
+                EXPECT_EQ(entered(item, enter, u"abc\U0001F600"), u"abc");
+                EXPECT_EQ(entered(item, enter, u"ab\U0001F600d"), u"ab\U0001F600");
+            }
+        }
+        EXPECT_EQ(entered(number, user::paste, u"abc\U0001F600d"), u"abc"); // and no gap
+        // A filter that passes but one half passes none.
+        windows().setCharacterFilter(dialog, number, [&](auto, auto, auto, char16_t character) {
+            return character != emoji.back();
+        });
+        EXPECT_EQ(entered(number, user::type, emoji), u"");
+        EXPECT_EQ(entered(number, user::paste, emoji), u"");
+    });
+}
+
+TEST_F(WindowSystemTest, ALineIsTakenUpToItsEnd) {
+    run([&](WindowHandle dialog) {
+        windows().setText(dialog, number, u"4711-FIN");
+        user::type(dialog, number, u"");
+        windows().selectText(dialog, number, 0, -1);
+        user::paste(dialog, number, u"4711\r\nFIN");
+        EXPECT_EQ(windows().getText(dialog, number), u"4711");
+        // What the program sets stays as it is, line ends of one-line items included.
+        windows().setText(dialog, number, u"a\nb");
+        EXPECT_EQ(windows().getText(dialog, number), u"a\nb");
+        windows().setText(dialog, notes, u"");
+        user::paste(dialog, notes, u"a\nb\r\nc");
+        EXPECT_EQ(windows().getText(dialog, notes), u"a\r\nb\r\nc");
     });
 }
 
@@ -315,6 +367,54 @@ TEST_F(WindowSystemTest, IsUsedByKeyboard) {
     });
 }
 
+/// As of templates that are merged, each with a default button.
+TEST_F(WindowSystemTest, EnterPressesTheDefaultButton) {
+    using T = TemplateBuilder;
+    constexpr std::uint32_t stop = T::visible | T::tabStop;
+    constexpr std::uint16_t hidden = 30;
+    const auto bytes = T(u"Defaults")
+                           .add(number, T::edit, stop, {5, 5, 40, 12})
+                           .add(hidden, T::button, T::tabStop | 1, {5, 25, 50, 14}, u"Page")
+                           .add(ok, T::button, stop, {60, 25, 50, 14}, u"OK")
+                           .add(cancel, T::button, stop | 1, {115, 25, 50, 14}, u"Cancel")
+                           .build();
+    user::onceOpen([&](WindowHandle dialog) {
+        windows().setDefaultButton(dialog, ok);
+        EXPECT_EQ(user::focused(dialog), number);
+        EXPECT_EQ(told([&] { user::press(dialog, Key::enter); }), "command 1 0");
+        keepScreenshot(dialog, "default-button");
+        windows().focusItem(dialog, cancel); // which Enter presses as long as it has the focus
+        EXPECT_EQ(told([&] { user::press(dialog, Key::enter); }), "command 2 0");
+        windows().endDialog(dialog, 1);
+    });
+    m_recorder.onCommand[cancel] = [](WindowHandle) {};
+    windows().runModal(bytes, m_resources, nullptr, m_recorder);
+}
+
+TEST_F(WindowSystemTest, WithoutAnOwnerDialogsStandInTheMiddle) {
+    constexpr std::int32_t tolerance = 40; // of window managers, and of frames
+    const auto isInTheMiddle = [](WindowHandle dialog) {
+        const Rectangle place = windows().getWindowRectangle(dialog);
+        const Rectangle area = windows().getWorkArea(dialog);
+        return std::abs(place.left + place.right - area.left - area.right) < 2 * tolerance &&
+               std::abs(place.top + place.bottom - area.top - area.bottom) < 2 * tolerance;
+    };
+    m_recorder.onInit = [](WindowHandle dialog) { // by its size alone, as fitting does
+        Rectangle place = windows().getWindowRectangle(dialog);
+        place.right -= 200;
+        windows().moveWindow(dialog, place);
+    };
+    run([&](WindowHandle dialog) { EXPECT_TRUE(isInTheMiddle(dialog)); });
+    m_recorder.onInit = [](WindowHandle dialog) {
+        Rectangle place = windows().getWindowRectangle(dialog);
+        windows().moveWindow(dialog, {3, 4, 3 + place.width(), 4 + place.height()});
+    };
+    run([&](WindowHandle dialog) {
+        EXPECT_EQ(windows().getWindowRectangle(dialog).left, 3);
+        EXPECT_EQ(windows().getWindowRectangle(dialog).top, 4);
+    });
+}
+
 TEST_F(WindowSystemTest, ClosesByCommand) {
     const auto escape = [](WindowHandle dialog) { user::press(dialog, Key::escape); };
     for (const auto& act : {std::function<void(WindowHandle)>(escape), {user::close}}) {
@@ -431,7 +531,7 @@ std::size_t countPixels(const std::string& file, std::uint32_t colour) {
 TEST_F(WindowSystemTest, ShowsPicturesWithoutTheirGround) {
     const ScratchFolder folder;
     m_recorder.onInit = [&](WindowHandle dialog) {
-        windows().setBitmap(dialog, picture, redPicture);
+        windows().setBitmap(dialog, picture, redPicture, true);
         windows().enableItem(dialog, drawn, false);
     };
     m_recorder.onDraw = [&](WindowHandle dialog, const DrawRequest& request) {
@@ -446,7 +546,7 @@ TEST_F(WindowSystemTest, ShowsPicturesWithoutTheirGround) {
         };
         EXPECT_EQ(count(0xFF0000), 32U); // in both items
         EXPECT_EQ(count(0x0000FF), 0U);
-        windows().setBitmap(dialog, picture, 0);
+        windows().setBitmap(dialog, picture, 0, true);
         EXPECT_EQ(count(0xFF0000), 16U);
         windows().setListViewStyle(dialog, table, WindowSystem::ListViewStyle::icons);
         windows().addRow(dialog, table, u"row", redPicture, 0);

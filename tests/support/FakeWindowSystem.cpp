@@ -48,6 +48,7 @@ struct FakeWindowSystem::Dialog {
     std::u16string caption;
     Rectangle window;
     std::vector<FakeItem> items;
+    std::uint16_t defaultButton = 0;
     bool isEnded = false;
     std::intptr_t value = 0;
 };
@@ -185,7 +186,7 @@ FakeWindowSystem::createModeless(std::span<const std::byte> dialogTemplate,
     }
     const Rectangle client = pixelsOf(parsed->place);
     auto dialog = std::make_unique<Dialog>(Dialog{
-        procedure, parsed->title, {100, 50, 110 + client.width(), 80 + client.height()}, {}});
+        procedure, parsed->title, {100, 50, 110 + client.width(), 80 + client.height()}, {}, 0});
     for (const DialogTemplate::Item& item : parsed->items) {
         FakeItem made;
         made.windowClass = textOf(item.windowClass);
@@ -283,6 +284,12 @@ std::int32_t FakeWindowSystem::getNumber(Window dialog, Id id, bool isSigned) {
     } catch (const std::logic_error&) {
         return 0;
     }
+}
+void FakeWindowSystem::setDefaultButton(Window dialog, Id id) {
+    findDialog(dialog)->defaultButton = id;
+}
+std::uint16_t FakeWindowSystem::defaultButton(Window dialog) {
+    return findDialog(dialog)->defaultButton;
 }
 void FakeWindowSystem::clearList(Window dialog, Id id) {
     at(dialog, id).list.clear();

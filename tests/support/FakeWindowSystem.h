@@ -38,6 +38,7 @@ public:
         std::int32_t upper = 0;
         std::int32_t position = 0;
         std::uint32_t bitmap = 0;
+        bool isGroundCleared = false;
     };
 
     FakeWindowSystem();
@@ -63,6 +64,10 @@ public:
     std::size_t changesReported() const { return m_changesReported; }
     /// What was drawn last.
     std::uint32_t drawnBitmap() const { return m_drawnBitmap; }
+    /// Which button is the default one; 0 for none.
+    std::uint16_t defaultButton(Window dialog);
+    /// Whether filters of characters can be set.
+    void setCanFilter(bool canFilter) { m_canFilter = canFilter; }
 
     // The port: dialogs.
     std::intptr_t runModal(std::span<const std::byte> dialogTemplate,
@@ -107,11 +112,13 @@ public:
     void setNumber(Window dialog, Id id, std::int32_t number, bool isSigned) override;
     std::int32_t getNumber(Window dialog, Id id, bool isSigned) override;
     void setTextLimit(Window /*dialog*/, Id /*id*/, std::uint32_t /*units*/) override {}
-    void setCharacterFilter(Window dialog, Id id, platform::CharacterFilter filter) override {
+    bool setCharacterFilter(Window dialog, Id id, platform::CharacterFilter filter) override {
         at(dialog, id).filter = std::move(filter);
+        return m_canFilter;
     }
     void selectText(Window /*dialog*/, Id /*id*/, std::int32_t, std::int32_t) override {}
     void setTransparent(Window /*dialog*/, Id /*id*/) override {}
+    void setDefaultButton(Window dialog, Id id) override;
     void setChecked(Window dialog, Id id, bool isChecked) override {
         at(dialog, id).isChecked = isChecked;
     }
@@ -165,8 +172,9 @@ public:
         at(dialog, id).position = position;
     }
     std::int32_t getPosition(Window dialog, Id id) override { return at(dialog, id).position; }
-    void setBitmap(Window dialog, Id id, std::uint32_t bitmap) override {
+    void setBitmap(Window dialog, Id id, std::uint32_t bitmap, bool clearsGround) override {
         at(dialog, id).bitmap = bitmap;
+        at(dialog, id).isGroundCleared = clearsGround;
     }
     void drawBitmap(Window, const platform::DrawRequest&, std::uint32_t bitmap) override {
         m_drawnBitmap = bitmap;
@@ -200,6 +208,7 @@ private:
     std::vector<std::function<void(Window)>> m_acts;
     std::size_t m_changesReported = 0;
     std::uint32_t m_drawnBitmap = 0;
+    bool m_canFilter = true;
     FakeItem m_nothing;
     WindowSystemReplacement m_replacement{this};
 };

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "platform/Surrogates.h"
+
 namespace zent::platform {
 
 namespace {
@@ -81,9 +83,6 @@ void encode(char32_t value, std::string& out) {
         putFollowing(0);
     }
 }
-
-bool isHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
-bool isLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
 } // namespace
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/InputRule.h"
+#include "platform/InputRule.h"
 #include "platform/qt/Item.h"
 
 namespace zent::platform::qt {
@@ -16,8 +16,8 @@ public:
     std::int32_t number(bool isSigned) const;
     /// 0 for none.
     void setLimit(std::uint32_t units);
-    /// Positions count a line end as two, as the text of the port has it; an `end` of -1 stands for
-    /// the end of the text.
+    /// Positions count a line end of several lines as two, as the text of the port has it; an `end`
+    /// of -1 stands for the end of the text.
     virtual void select(std::int32_t start, std::int32_t end) = 0;
     virtual void setTransparent() = 0;
     void leaveFocus() override;

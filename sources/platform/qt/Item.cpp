@@ -101,4 +101,8 @@ Item::Item(Dialog& dialog, const DialogTemplate::Item& source, QWidget& widget)
     }
 }
 
+std::u16string Item::contents() const { return fromQt(text()); }
+
+void Item::setContents(std::u16string_view contents) { setText(toQt(contents)); }
+
 } // namespace zent::platform::qt

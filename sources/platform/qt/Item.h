@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
+#include <string_view>
 
 #include <QString>
 #include <QWidget>
@@ -41,6 +43,9 @@ public:
 
     virtual QString text() const { return {}; }
     virtual void setText(const QString& /*text*/) {}
+    /// The text as the port has it.
+    virtual std::u16string contents() const;
+    virtual void setContents(std::u16string_view contents);
     /// As WindowSystem::Item tells it.
     virtual bool isMarkedButton() const { return false; }
     /// The keyboard's focus went elsewhere.

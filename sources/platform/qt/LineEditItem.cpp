@@ -2,88 +2,123 @@
 
 #include <algorithm>
 #include <limits>
+#include <memory>
 
-#include <QScopedValueRollback>
-#include <QValidator>
+#include <QAction>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QMouseEvent>
 
 #include "platform/qt/Dialog.h"
 #include "platform/qt/EditStyle.h"
+#include "platform/qt/Typing.h"
 
 namespace zent::platform::qt {
 
-namespace {
-
-/// How many characters two texts begin with alike.
-qsizetype commonStart(QStringView a, QStringView b) {
-    return std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first - a.begin();
-}
-
-} // namespace
-
-/// Sees each change of the text, however it is entered, and takes out what the rule refuses.
-class LineEditItem::Entry final : public QValidator {
+/// Offers what is entered to the item's rule, whichever way it comes: by keys, an input method, the
+/// clipboard, the selection of the mouse's middle button, or a drop.
+class LineEditItem::Entry final : public QLineEdit {
 public:
-    explicit Entry(LineEditItem& item) : QValidator(&item.m_edit), m_item(item) {}
+    explicit Entry(QWidget* parent) : QLineEdit(parent) {}
+    void setItem(LineEditItem& item) { m_item = &item; }
 
-    State validate(QString& text, int& cursor) const override {
-        if (m_item.m_isProgramsChange) {
-            return Acceptable;
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        const QString typed = isReadOnly() || isEnter ? QString() : typedBy(*event);
+        if (event->matches(QKeySequence::Paste)) {
+            pasteFrom(QClipboard::Clipboard);
+        } else if (typed.isEmpty()) {
+            QLineEdit::keyPressEvent(event);
+        } else {
+            enter(typed);
         }
-        // The cursor stands behind what was entered; what was selected before it is gone.
-        const QString& before = m_item.m_before;
-        const QStringView rest = QStringView(text).mid(cursor);
-        if (!before.endsWith(rest)) {
-            return Acceptable; // nothing was entered: an undone change
+    }
+
+    void inputMethodEvent(QInputMethodEvent* event) override {
+        if (!event->commitString().isEmpty()) {
+            event->setCommitString(m_item->accept(event->commitString()), event->replacementStart(),
+                                   event->replacementLength());
         }
-        const qsizetype end = before.size() - rest.size();
-        const qsizetype start =
-            commonStart(QStringView(before).left(end), QStringView(text).left(cursor));
-        const QStringView entered = QStringView(text).mid(start, cursor - start);
-        const std::u16string taken =
-            m_item.rule().accept(view(before), static_cast<std::size_t>(start),
-                                 static_cast<std::size_t>(end), view(entered));
-        if (taken.size() == static_cast<std::size_t>(entered.size())) {
-            return Acceptable;
+        QLineEdit::inputMethodEvent(event);
+    }
+
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::MiddleButton) {
+            deselect();
+            pasteFrom(QClipboard::Selection);
+        } else {
+            QLineEdit::mouseReleaseEvent(event);
         }
-        if (taken.empty()) {
-            return Invalid;
+    }
+
+    void dropEvent(QDropEvent* event) override {
+        deselect();
+        setCursorPosition(cursorPositionAt(event->position().toPoint()));
+        enter(event->mimeData()->text());
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+    }
+
+    void contextMenuEvent(QContextMenuEvent* event) override {
+        QMenu* const menu = createStandardContextMenu();
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        for (QAction* const action : menu->actions()) {
+            if (action->text().startsWith(QLineEdit::tr("&Paste"))) {
+                action->disconnect(this);
+                connect(action, &QAction::triggered, this,
+                        [this] { pasteFrom(QClipboard::Clipboard); });
+            }
         }
-        text = before.left(start) + QString::fromStdU16String(taken) + before.mid(end);
-        cursor = static_cast<int>(start) + static_cast<int>(taken.size());
-        return Acceptable;
+        menu->popup(event->globalPos());
     }
 
 private:
-    static std::u16string_view view(QStringView text) {
-        return {text.utf16(), static_cast<std::size_t>(text.size())};
+    void pasteFrom(QClipboard::Mode mode) {
+        const QClipboard& clipboard = *QGuiApplication::clipboard();
+        if (mode == QClipboard::Clipboard || clipboard.supportsSelection()) {
+            enter(clipboard.text(mode));
+        }
     }
 
-    LineEditItem& m_item;
+    void enter(const QString& text) {
+        const QString taken = isReadOnly() ? QString() : m_item->accept(text);
+        if (!taken.isEmpty()) {
+            insert(taken);
+        }
+    }
+
+    LineEditItem* m_item = nullptr;
 };
 
 LineEditItem::LineEditItem(Dialog& dialog, const DialogTemplate::Item& source)
-    : LineEditItem(dialog, source, *new QLineEdit(&dialog)) {}
+    : LineEditItem(dialog, source, *new Entry(&dialog)) {}
 
-LineEditItem::LineEditItem(Dialog& dialog, const DialogTemplate::Item& source, QLineEdit& edit)
+LineEditItem::LineEditItem(Dialog& dialog, const DialogTemplate::Item& source, Entry& edit)
     : EditItem(dialog, source, edit), m_edit(edit) {
+    edit.setItem(*this);
     edit.setMaxLength(std::numeric_limits<int>::max());
     edit.setReadOnly(hasStyle(editStyle::readOnly));
     edit.setEchoMode(hasStyle(editStyle::password) ? QLineEdit::Password : QLineEdit::Normal);
     edit.setAlignment(alignment() | Qt::AlignVCenter);
-    edit.setValidator(new Entry(*this));
     setText(textOf(source.title));
-    QObject::connect(&edit, &QLineEdit::textChanged, &edit, [this](const QString& text) {
-        m_before = text;
-        tellChanged();
-    });
+    QObject::connect(&edit, &QLineEdit::textChanged, &edit, [this] { tellChanged(); });
 }
 
 void LineEditItem::setText(const QString& text) {
     if (text != m_edit.text()) { // else the cursor and what can be undone stay
-        const QScopedValueRollback guard(m_isProgramsChange, true);
-        m_before = text;
         m_edit.setText(text);
     }
+}
+
+void LineEditItem::setContents(std::u16string_view contents) {
+    setText(QString::fromUtf16(contents.data(), static_cast<qsizetype>(contents.size())));
 }
 
 void LineEditItem::select(std::int32_t start, std::int32_t end) {
@@ -101,6 +136,15 @@ void LineEditItem::setTransparent() {
     QPalette palette = m_edit.palette();
     palette.setColor(QPalette::Base, Qt::transparent);
     m_edit.setPalette(palette);
+}
+
+QString LineEditItem::accept(const QString& entered) const {
+    const bool hasSelection = m_edit.hasSelectedText();
+    const auto start =
+        static_cast<std::size_t>(hasSelection ? m_edit.selectionStart() : m_edit.cursorPosition());
+    const auto end = hasSelection ? static_cast<std::size_t>(m_edit.selectionEnd()) : start;
+    return QString::fromStdU16String(
+        rule().accept(contents(), start, end, entered.toStdU16String()));
 }
 
 } // namespace zent::platform::qt

@@ -6,24 +6,25 @@
 
 namespace zent::platform::qt {
 
-/// An edit item of one line.
+/// An edit item of one line. Line ends in a text that the program sets stay as they are.
 class LineEditItem final : public EditItem {
 public:
     LineEditItem(Dialog& dialog, const DialogTemplate::Item& source);
 
     QString text() const override { return m_edit.text(); }
     void setText(const QString& text) override;
+    std::u16string contents() const override { return m_edit.text().toStdU16String(); }
+    void setContents(std::u16string_view contents) override;
     void select(std::int32_t start, std::int32_t end) override;
     void setTransparent() override;
 
 private:
     class Entry;
 
-    LineEditItem(Dialog& dialog, const DialogTemplate::Item& source, QLineEdit& edit);
+    LineEditItem(Dialog& dialog, const DialogTemplate::Item& source, Entry& edit);
+    QString accept(const QString& entered) const;
 
     QLineEdit& m_edit;
-    QString m_before; // the text before the change at hand
-    bool m_isProgramsChange = false;
 };
 
 } // namespace zent::platform::qt

@@ -202,12 +202,11 @@ void QtWindowSystem::removeItem(WindowHandle dialog, std::uint16_t item) {
 }
 
 void QtWindowSystem::setText(WindowHandle dialog, std::uint16_t item, std::u16string_view text) {
-    onItem<AnyItem>(dialog, item, [&](AnyItem& found) { found.setText(qt::toQt(text)); });
+    onItem<AnyItem>(dialog, item, [&](AnyItem& found) { found.setContents(text); });
 }
 
 std::u16string QtWindowSystem::getText(WindowHandle dialog, std::uint16_t item) {
-    return onItem<AnyItem>(dialog, item,
-                           [](const AnyItem& found) { return qt::fromQt(found.text()); });
+    return onItem<AnyItem>(dialog, item, [](const AnyItem& found) { return found.contents(); });
 }
 
 void QtWindowSystem::setToolTip(WindowHandle dialog, std::uint16_t item, std::u16string_view text) {
@@ -236,9 +235,10 @@ void QtWindowSystem::setTextLimit(WindowHandle dialog, std::uint16_t item, std::
     onItem<EditItem>(dialog, item, [&](EditItem& found) { found.setLimit(units); });
 }
 
-void QtWindowSystem::setCharacterFilter(WindowHandle dialog, std::uint16_t item,
+bool QtWindowSystem::setCharacterFilter(WindowHandle dialog, std::uint16_t item,
                                         CharacterFilter filter) {
     onItem<EditItem>(dialog, item, [&](EditItem& found) { found.setFilter(std::move(filter)); });
+    return true;
 }
 
 void QtWindowSystem::selectText(WindowHandle dialog, std::uint16_t item, std::int32_t start,
@@ -250,7 +250,11 @@ void QtWindowSystem::setTransparent(WindowHandle dialog, std::uint16_t item) {
     onItem<EditItem>(dialog, item, [](EditItem& found) { found.setTransparent(); });
 }
 
-// ---- Check boxes and radio buttons -------------------------------------------------------------
+// ---- Buttons, check boxes and radio buttons ----------------------------------------------------
+
+void QtWindowSystem::setDefaultButton(WindowHandle dialog, std::uint16_t item) {
+    onItem<ButtonItem>(dialog, item, [](ButtonItem& found) { found.makeDefault(); });
+}
 
 void QtWindowSystem::setChecked(WindowHandle dialog, std::uint16_t item, bool isChecked) {
     onItem<ButtonItem>(dialog, item, [&](ButtonItem& found) { found.setChecked(isChecked); });
@@ -401,7 +405,8 @@ std::int32_t QtWindowSystem::getPosition(WindowHandle dialog, std::uint16_t item
 
 // ---- Pictures ----------------------------------------------------------------------------------
 
-void QtWindowSystem::setBitmap(WindowHandle dialog, std::uint16_t item, std::uint32_t bitmap) {
+void QtWindowSystem::setBitmap(WindowHandle dialog, std::uint16_t item, std::uint32_t bitmap,
+                               bool /*clearsGround*/) {
     onItem<StaticItem>(dialog, item, [&](StaticItem& found) { found.setBitmap(bitmap); });
 }
 

@@ -51,14 +51,15 @@ public:
                    bool isSigned) override;
     std::int32_t getNumber(WindowHandle dialog, std::uint16_t item, bool isSigned) override;
     void setTextLimit(WindowHandle dialog, std::uint16_t item, std::uint32_t units) override;
-    void setCharacterFilter(WindowHandle dialog, std::uint16_t item,
+    bool setCharacterFilter(WindowHandle dialog, std::uint16_t item,
                             CharacterFilter filter) override;
     void selectText(WindowHandle dialog, std::uint16_t item, std::int32_t start,
                     std::int32_t end) override;
     void setTransparent(WindowHandle dialog, std::uint16_t item) override;
 
-    // ---- Check boxes and radio buttons ---------------------------------------------------------
+    // ---- Buttons, check boxes and radio buttons ------------------------------------------------
 
+    void setDefaultButton(WindowHandle dialog, std::uint16_t item) override;
     void setChecked(WindowHandle dialog, std::uint16_t item, bool isChecked) override;
     bool isChecked(WindowHandle dialog, std::uint16_t item) override;
 
@@ -108,7 +109,8 @@ public:
 
     // ---- Pictures ------------------------------------------------------------------------------
 
-    void setBitmap(WindowHandle dialog, std::uint16_t item, std::uint32_t bitmap) override;
+    void setBitmap(WindowHandle dialog, std::uint16_t item, std::uint32_t bitmap,
+                   bool clearsGround) override;
     void drawBitmap(WindowHandle dialog, const DrawRequest& request, std::uint32_t bitmap) override;
 
     // ---- Beside dialogs ------------------------------------------------------------------------

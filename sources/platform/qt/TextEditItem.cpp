@@ -9,6 +9,7 @@
 #include "platform/qt/Dialog.h"
 #include "platform/qt/EditStyle.h"
 #include "platform/qt/Text.h"
+#include "platform/qt/Typing.h"
 
 namespace zent::platform::qt {
 
@@ -16,20 +17,6 @@ namespace {
 
 bool isEnter(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
-
-/// The character that a key types; empty for a key that does something else.
-QString typedBy(const QKeyEvent& event) {
-    if (isEnter(event)) {
-        return QStringLiteral("\n");
-    }
-    const Qt::KeyboardModifiers held =
-        event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    // Control and Alt together are the AltGr of some keyboards.
-    const bool isCommand =
-        held != Qt::NoModifier && held != (Qt::ControlModifier | Qt::AltModifier);
-    const QString text = event.text();
-    return text.isEmpty() || isCommand || !text.front().isPrint() ? QString() : text;
 }
 
 /// The place in Qt's text, whose line ends are one character, of one in the port's.
@@ -55,7 +42,9 @@ protected:
             event->ignore(); // for the dialog's default button
             return;
         }
-        const QString typed = isReadOnly() ? QString() : typedBy(*event);
+        const QString typed = isReadOnly()      ? QString()
+                              : isEnter(*event) ? QStringLiteral("\n")
+                                                : typedBy(*event);
         if (typed.isEmpty()) {
             QPlainTextEdit::keyPressEvent(event);
         } else {
@@ -135,7 +124,7 @@ QString TextEditItem::accept(const QString& entered) const {
     const QTextCursor cursor = m_edit.textCursor();
     const auto place = [&](int position) { return fromQt(text.left(position)).size(); };
     return toQt(rule().accept(fromQt(text), place(cursor.selectionStart()),
-                              place(cursor.selectionEnd()), fromQt(entered)));
+                              place(cursor.selectionEnd()), entered.toStdU16String()));
 }
 
 /// Qt tells changes of the text's look as well.

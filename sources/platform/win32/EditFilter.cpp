@@ -1,7 +1,10 @@
 #include "platform/win32/EditFilter.h"
 
 #include <cwchar>
+#include <utility>
 
+#include "platform/InputRule.h"
+#include "platform/Surrogates.h"
 #include "platform/win32/WideText.h"
 #include "platform/win32/WindowText.h"
 
@@ -9,10 +12,8 @@ namespace zent::platform {
 
 namespace {
 
-bool isLineEnd(char16_t character) { return character == u'\r' || character == u'\n'; }
-
 /// Backspace, Escape, and the Control key with a letter. Enter is a character like others.
-bool isControl(char16_t character) { return character < u' ' && !isLineEnd(character); }
+bool isControl(char16_t unit) { return unit < u' ' && unit != u'\r' && unit != u'\n'; }
 
 /// The clipboard, open as long as the object lives.
 class Clipboard {
@@ -46,7 +47,8 @@ private:
 } // namespace
 
 LRESULT EditFilter::process(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_CHAR && !acceptsTyped(static_cast<char16_t>(wParam))) {
+    if (message == WM_CHAR && !isControl(static_cast<char16_t>(wParam))) {
+        type(static_cast<char16_t>(wParam), lParam);
         return 0;
     }
     if (message == WM_PASTE && !hasStyle(ES_READONLY)) {
@@ -56,60 +58,47 @@ LRESULT EditFilter::process(UINT message, WPARAM wParam, LPARAM lParam) {
     return SubclassedItem::process(message, wParam, lParam);
 }
 
-EditFilter::Selection EditFilter::getSelection() const {
-    Selection selection;
-    SendMessageW(window(), EM_GETSEL, reinterpret_cast<WPARAM>(&selection.start),
-                 reinterpret_cast<LPARAM>(&selection.end));
-    return selection;
-}
-
 bool EditFilter::hasStyle(LONG style) const {
     return (GetWindowLongW(window(), GWL_STYLE) & style) != 0;
 }
 
-bool EditFilter::accepts(std::u16string_view text, Selection selection, char16_t character) const {
-    return m_filter(text, static_cast<std::int32_t>(selection.start),
-                    static_cast<std::int32_t>(selection.end), character);
-}
-
-bool EditFilter::acceptsTyped(char16_t character) const {
-    return isControl(character) || accepts(getWindowText(window()), getSelection(), character);
+/// The halves of a surrogate pair come as two messages, and are taken as one character.
+void EditFilter::type(char16_t unit, LPARAM key) {
+    const char16_t first = std::exchange(m_highSurrogate, u'\0');
+    if (isHighSurrogate(unit)) {
+        m_highSurrogate = unit;
+        return;
+    }
+    std::u16string typed(1, unit);
+    if (first != u'\0' && isLowSurrogate(unit)) {
+        typed.insert(typed.begin(), first);
+    }
+    if (!accept(typed).empty()) {
+        for (const char16_t each : typed) {
+            SubclassedItem::process(WM_CHAR, each, key);
+        }
+    }
 }
 
 void EditFilter::paste() const {
-    const std::u16string text = pick(Clipboard(window()).getText());
+    const std::u16string text = accept(Clipboard(window()).getText());
     if (!text.empty()) {
         SendMessageW(window(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
     }
 }
 
-/// What of a text would come in if it were typed, one character after the other.
-std::u16string EditFilter::pick(std::u16string_view pasted) const {
-    const bool hasLines = hasStyle(ES_MULTILINE);
-    const auto limit = static_cast<std::size_t>(SendMessageW(window(), EM_GETLIMITTEXT, 0, 0));
-    Selection selection = getSelection();
-    std::u16string text = getWindowText(window());
-    std::u16string picked;
-    for (const char16_t character : pasted) {
-        if (isLineEnd(character) && !hasLines) {
-            break; // as the item itself does
-        }
-        // A line ends with CR LF there, and with Enter here.
-        if (character == u'\n' || isControl(character) || !accepts(text, selection, character)) {
-            continue;
-        }
-        const std::u16string_view taken =
-            character == u'\r' ? u"\r\n" : std::u16string_view(&character, 1);
-        const std::size_t replaced = selection.end - selection.start;
-        if (text.size() - replaced + taken.size() > limit) {
-            break;
-        }
-        text.replace(selection.start, replaced, taken);
-        selection.start += static_cast<DWORD>(taken.size());
-        selection.end = selection.start;
-        picked += taken;
-    }
-    return picked;
+/// What is taken of a text that is to stand in place of the selection.
+std::u16string EditFilter::accept(std::u16string_view entered) const {
+    DWORD start = 0;
+    DWORD end = 0;
+    SendMessageW(window(), EM_GETSEL, reinterpret_cast<WPARAM>(&start),
+                 reinterpret_cast<LPARAM>(&end));
+    const InputRule rule{
+        .filter = m_filter,
+        .limit = static_cast<std::size_t>(SendMessageW(window(), EM_GETLIMITTEXT, 0, 0)),
+        .hasLines = hasStyle(ES_MULTILINE),
+        .isNumber = hasStyle(ES_NUMBER)};
+    return rule.accept(getWindowText(window()), start, end, entered);
 }
 
 } // namespace zent::platform

@@ -9,11 +9,11 @@
 
 namespace zent::platform {
 
-/// Asks a filter for each character that is typed into an edit item, or pasted.
+/// Lets in what an edit item takes of what is typed or pasted: within its limit, and what its
+/// filter passes, if it has one.
 class EditFilter final : public SubclassedItem {
 public:
-    EditFilter(HWND edit, CharacterFilter filter)
-        : SubclassedItem(edit), m_filter(std::move(filter)) {}
+    explicit EditFilter(HWND edit) : SubclassedItem(edit) {}
 
     void setFilter(CharacterFilter filter) { m_filter = std::move(filter); }
 
@@ -21,19 +21,13 @@ protected:
     LRESULT process(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
-    /// Places in the text, [start, end).
-    struct Selection {
-        DWORD start = 0;
-        DWORD end = 0;
-    };
-    Selection getSelection() const;
     bool hasStyle(LONG style) const;
-    bool accepts(std::u16string_view text, Selection selection, char16_t character) const;
-    bool acceptsTyped(char16_t character) const;
+    void type(char16_t unit, LPARAM key);
     void paste() const;
-    std::u16string pick(std::u16string_view pasted) const;
+    std::u16string accept(std::u16string_view entered) const;
 
     CharacterFilter m_filter;
+    char16_t m_highSurrogate = u'\0'; // that waits for the other half of its character
 };
 
 } // namespace zent::platform

@@ -19,14 +19,18 @@ void redrawWithPage(HWND item) {
 
 } // namespace
 
-void Picture::setBitmap(const ResourceModule& resources, std::uint32_t id) {
+void Picture::setBitmap(const ResourceModule& resources, std::uint32_t id, bool clearsGround) {
     const auto number = static_cast<std::uintptr_t>(id);
     if (GetPropW(window(), bitmapProperty) == reinterpret_cast<HANDLE>(number)) {
         return;
     }
     SetPropW(window(), bitmapProperty, reinterpret_cast<HANDLE>(number));
     m_bitmap = MaskedBitmap(id == 0 ? nullptr : createBitmap(resources, id));
-    redrawWithPage(window());
+    if (clearsGround) {
+        redrawWithPage(window());
+    } else {
+        RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_NOERASE);
+    }
 }
 
 LRESULT Picture::process(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -13,8 +13,8 @@ class Picture final : public SubclassedItem {
 public:
     explicit Picture(HWND item) : SubclassedItem(item) {}
 
-    /// A bitmap resource, 0 for none.
-    void setBitmap(const ResourceModule& resources, std::uint32_t id);
+    /// A bitmap resource, 0 for none. Without `clearsGround` it is drawn over what is there.
+    void setBitmap(const ResourceModule& resources, std::uint32_t id, bool clearsGround);
 
 protected:
     LRESULT process(UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -22,7 +22,7 @@ LONG_PTR setProcedure(HWND window, WNDPROC procedure) {
 
 } // namespace
 
-void SubclassedItem::attach(std::unique_ptr<SubclassedItem> item) {
+bool SubclassedItem::attach(std::unique_ptr<SubclassedItem> item) {
     const HWND window = item->window();
     // The properties stand before the first message can come.
     const LONG_PTR own = GetWindowLongPtrW(window, GWLP_WNDPROC);
@@ -31,9 +31,10 @@ void SubclassedItem::attach(std::unique_ptr<SubclassedItem> item) {
         SetPropW(window, itemProperty, item.get()) != FALSE;
     if (isReady && setProcedure(window, &procedure) != 0) {
         static_cast<void>(item.release()); // the window's, until its last message
-        return;
+        return true;
     }
     item->detach();
+    return false;
 }
 
 SubclassedItem* SubclassedItem::of(HWND window) {

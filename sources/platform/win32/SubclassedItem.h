@@ -14,8 +14,9 @@ public:
     SubclassedItem(const SubclassedItem&) = delete;
     SubclassedItem& operator=(const SubclassedItem&) = delete;
 
-    /// Puts an object before its window's procedure. Without effect if the system refuses.
-    static void attach(std::unique_ptr<SubclassedItem> item);
+    /// Puts an object before its window's procedure. False, and without effect, if the system
+    /// refuses.
+    static bool attach(std::unique_ptr<SubclassedItem> item);
     /// The object before a window's procedure, or null.
     static SubclassedItem* of(HWND window);
 

@@ -23,6 +23,14 @@ HWND getEditPart(const DialogItem& item) {
                : item.window();
 }
 
+/// What stands before an edit item's procedure; null if the system refuses.
+EditFilter* findOrAttachFilter(HWND edit) {
+    if (SubclassedItem::of(edit) == nullptr) {
+        SubclassedItem::attach(std::make_unique<EditFilter>(edit));
+    }
+    return static_cast<EditFilter*>(SubclassedItem::of(edit));
+}
+
 /// The number that a text begins with, 0 if it is none or lies beyond a limit.
 std::int64_t parseNumber(std::u16string_view text, bool isSigned) {
     const std::size_t start = std::min(text.find_first_not_of(u" \t"), text.size());
@@ -61,23 +69,22 @@ std::int32_t Win32WindowSystem::getNumber(WindowHandle dialog, std::uint16_t ite
 
 void Win32WindowSystem::setTextLimit(WindowHandle dialog, std::uint16_t item, std::uint32_t units) {
     if (const DialogItem found(dialog, item, edits); found) {
-        SendMessageW(getEditPart(found), EM_SETLIMITTEXT, units, 0);
+        const HWND edit = getEditPart(found);
+        SendMessageW(edit, EM_SETLIMITTEXT, units, 0);
+        findOrAttachFilter(edit); // by itself the item would cut a character of two units in half
         found.dialog().setProperty(found.window(), u"SC_MAX", units);
     }
 }
 
-void Win32WindowSystem::setCharacterFilter(WindowHandle dialog, std::uint16_t item,
+bool Win32WindowSystem::setCharacterFilter(WindowHandle dialog, std::uint16_t item,
                                            CharacterFilter filter) {
     const DialogItem found(dialog, item, edits);
     const HWND edit = found ? getEditPart(found) : nullptr;
-    if (edit == nullptr) {
-        return;
-    }
-    if (auto* const present = static_cast<EditFilter*>(SubclassedItem::of(edit))) {
+    EditFilter* const present = edit != nullptr ? findOrAttachFilter(edit) : nullptr;
+    if (present != nullptr) {
         present->setFilter(std::move(filter));
-    } else {
-        SubclassedItem::attach(std::make_unique<EditFilter>(edit, std::move(filter)));
     }
+    return edit == nullptr || present != nullptr;
 }
 
 void Win32WindowSystem::selectText(WindowHandle dialog, std::uint16_t item, std::int32_t start,

@@ -1,4 +1,4 @@
-// Items of any kind, check boxes, sliders and pictures.
+// Items of any kind, buttons, check boxes, sliders and pictures.
 
 #include "platform/win32/DialogItem.h"
 #include "platform/win32/Picture.h"
@@ -23,6 +23,8 @@ bool isMarkedButton(const WindowsDialog::Item& item) {
     return item.kind == ItemKind::button &&
            (GetWindowLongW(item.window, GWL_STYLE) & lowestBits) != 0;
 }
+
+LONG getButtonType(HWND button) { return GetWindowLongW(button, GWL_STYLE) & BS_TYPEMASK; }
 
 constexpr std::initializer_list<ItemKind> ranges = {ItemKind::slider, ItemKind::scrollBar,
                                                     ItemKind::spin};
@@ -139,6 +141,20 @@ void Win32WindowSystem::setProperty(WindowHandle dialog, std::uint16_t item,
     }
 }
 
+void Win32WindowSystem::setDefaultButton(WindowHandle dialog, std::uint16_t item) {
+    const DialogItem found(dialog, item, {ItemKind::button});
+    if (!found || getButtonType(found.window()) > BS_DEFPUSHBUTTON) {
+        return;
+    }
+    for (const WindowsDialog::Item& other : found.dialog().items()) {
+        if (other.kind == ItemKind::button && getButtonType(other.window) == BS_DEFPUSHBUTTON) {
+            SendMessageW(other.window, BM_SETSTYLE, BS_PUSHBUTTON, TRUE);
+        }
+    }
+    SendMessageW(found.window(), BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
+    SendMessageW(found.dialog().window(), DM_SETDEFID, item, 0);
+}
+
 void Win32WindowSystem::setChecked(WindowHandle dialog, std::uint16_t item, bool isChecked) {
     DialogItem(dialog, item, {ItemKind::button})
         .send(BM_SETCHECK, isChecked ? BST_CHECKED : BST_UNCHECKED);
@@ -202,7 +218,8 @@ std::int32_t Win32WindowSystem::getPosition(WindowHandle dialog, std::uint16_t i
     }
 }
 
-void Win32WindowSystem::setBitmap(WindowHandle dialog, std::uint16_t item, std::uint32_t bitmap) {
+void Win32WindowSystem::setBitmap(WindowHandle dialog, std::uint16_t item, std::uint32_t bitmap,
+                                  bool clearsGround) {
     const DialogItem found(dialog, item, {ItemKind::label});
     if (!found) {
         return;
@@ -211,7 +228,7 @@ void Win32WindowSystem::setBitmap(WindowHandle dialog, std::uint16_t item, std::
         SubclassedItem::attach(std::make_unique<Picture>(found.window()));
     }
     if (auto* const picture = static_cast<Picture*>(SubclassedItem::of(found.window()))) {
-        picture->setBitmap(found.dialog().resources(), bitmap);
+        picture->setBitmap(found.dialog().resources(), bitmap, clearsGround);
     }
 }
 

@@ -195,9 +195,33 @@ void WindowsDialog::open() {
         m_self = shared_from_this();
         m_keys = std::make_unique<ModelessKeys>(m_window);
     }
+    RECT created = {};
+    GetWindowRect(m_window, &created);
     std::intptr_t result = 0;
     deliver(event::initDialog, 0, 0, result);
+    RECT place = {};
+    GetWindowRect(m_window, &place);
+    const bool isPlaced = place.left != created.left || place.top != created.top;
+    if (!isPlaced && GetWindow(m_window, GW_OWNER) == nullptr) {
+        placeInTheMiddle();
+    }
     focusFirstItem();
+}
+
+/// Of the screen, where the system would leave a dialog without an owner in the corner.
+void WindowsDialog::placeInTheMiddle() {
+    MONITORINFO info = {};
+    info.cbSize = sizeof(info);
+    GetMonitorInfoW(MonitorFromWindow(m_window, MONITOR_DEFAULTTOPRIMARY), &info);
+    const RECT& area = info.rcWork;
+    RECT place = {};
+    GetWindowRect(m_window, &place);
+    // What is larger than the screen shows its top left.
+    const LONG left =
+        area.left + std::max(area.right - area.left - (place.right - place.left), 0L) / 2;
+    const LONG top =
+        area.top + std::max(area.bottom - area.top - (place.bottom - place.top), 0L) / 2;
+    SetWindowPos(m_window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void WindowsDialog::listItems() {

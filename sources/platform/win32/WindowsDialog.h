@@ -94,6 +94,7 @@ private:
     void loadImages();
     void loadImage(HWND label, std::uint32_t type, std::uint16_t resource);
     void focusFirstItem();
+    void placeInTheMiddle();
     bool raisesEvents() const { return m_silences == 0 && !m_hasEnded; }
     bool onCommand(std::uint16_t id, std::uint32_t code, HWND control);
     bool onClick(std::uint16_t id);

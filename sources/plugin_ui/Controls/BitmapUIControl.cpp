@@ -4,6 +4,12 @@
 
 namespace zent {
 
+namespace {
+
+constexpr std::uint32_t overWhatIsThere = 1010; // drawn without clearing the ground
+
+} // namespace
+
 void BitmapUIControl::setBitmap(std::uint32_t bitmap) {
     m_bitmap = bitmap;
     displayControl();
@@ -11,7 +17,8 @@ void BitmapUIControl::setBitmap(std::uint32_t bitmap) {
 
 void BitmapUIControl::displayControl() {
     if (hasWindow()) {
-        windowSystem().setBitmap(getWindow(), getItemIds().front(), m_bitmap);
+        windowSystem().setBitmap(getWindow(), getItemIds().front(), m_bitmap,
+                                 m_bitmap != overWhatIsThere);
     }
 }
 

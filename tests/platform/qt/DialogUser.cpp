@@ -159,11 +159,12 @@ void press(WindowHandle dialog, Key key) {
 
 void type(WindowHandle dialog, std::uint16_t item, std::u16string_view text) {
     auto* const entry = focusForText(dialog, item);
-    for (const char16_t unit : text) {
+    const QString typed = QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+    for (const char32_t character : typed.toUcs4()) {
         if (entry != nullptr) {
-            const bool isLineEnd = unit == u'\r';
-            QTest::sendKeyEvent(QTest::Click, entry, isLineEnd ? Qt::Key_Return : Qt::Key_unknown,
-                                QString(isLineEnd ? QChar(u'\r') : QChar(unit)), Qt::NoModifier);
+            QTest::sendKeyEvent(QTest::Click, entry,
+                                character == U'\r' ? Qt::Key_Return : Qt::Key_unknown,
+                                QString::fromUcs4(&character, 1), Qt::NoModifier);
         }
     }
 }

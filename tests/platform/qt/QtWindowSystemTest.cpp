@@ -2,7 +2,14 @@
 #include <thread>
 
 #include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QFileDialog>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMimeData>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -61,6 +68,55 @@ TEST_F(QtWindowSystemTest, MnemonicsOfLabelsAndGroupsLeadToTheItemBehind) {
         EXPECT_EQ(user::focused(dialog), 6);
         EXPECT_FALSE(windows().isChecked(dialog, 6));
     });
+}
+
+TEST_F(QtWindowSystemTest, AllWaysIntoABoxAreFiltered) {
+    using Way = void (*)(QLineEdit&);
+    const Way ways[] = {
+        [](QLineEdit& edit) {
+            QInputMethodEvent event;
+            event.setCommitString(QStringLiteral("1a2"));
+            QApplication::sendEvent(&edit, &event);
+        },
+        [](QLineEdit& edit) {
+            QApplication::clipboard()->setText(QStringLiteral("1a2"));
+            QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5),
+                                    edit.mapToGlobal(QPoint(5, 5)));
+            QApplication::sendEvent(&edit, &event);
+            auto* const menu = edit.findChild<QMenu*>();
+            ASSERT_NE(menu, nullptr);
+            for (QAction* const action : menu->actions()) {
+                if (action->text().startsWith(QLineEdit::tr("&Paste"))) {
+                    action->trigger();
+                }
+            }
+            menu->close();
+        },
+        [](QLineEdit& edit) {
+            QMimeData data;
+            data.setText(QStringLiteral("1a2"));
+            QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton,
+                                  Qt::NoModifier);
+            QApplication::sendEvent(&edit, &enter);
+            QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(&edit, &event);
+        },
+    };
+    TemplateBuilder builder(u"Ways");
+    builder.add(3, TemplateBuilder::edit, stop, {5, 5, 60, 12});
+    for (const Way way : ways) {
+        run(builder, [&](WindowHandle dialog) {
+            windows().setTextLimit(dialog, 3, 3);
+            windows().setCharacterFilter(dialog, 3, [](auto, auto, auto, char16_t character) {
+                return character >= u'0' && character <= u'9';
+            });
+            auto& edit = *static_cast<QWidget*>(dialog)->findChild<QLineEdit*>(QStringLiteral("3"));
+            way(edit);
+            EXPECT_EQ(windows().getText(dialog, 3), u"12");
+            edit.undo();
+            EXPECT_EQ(windows().getText(dialog, 3), u"");
+        });
+    }
 }
 
 TEST_F(QtWindowSystemTest, SpinsServeTheirBuddies) {

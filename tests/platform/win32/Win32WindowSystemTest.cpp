@@ -7,6 +7,7 @@
 #include "platform/PeImage.h"
 #include "platform/ResourceType.h"
 #include "platform/WindowSystem.h"
+#include "platform/win32/EditFilter.h"
 #include "platform/win32/ResourceImages.h"
 #include "support/DialogUser.h"
 #include "support/Rows.h"
@@ -127,7 +128,7 @@ TEST_F(Win32WindowSystemTest, WindowsKeepWhatStandsBehindThem) {
         own = GetWindowLongPtrW(itemOf(dialog, number), GWLP_WNDPROC);
         windows().setCharacterFilter(dialog, number,
                                      [filtered](auto, auto, auto, auto) { return true; });
-        windows().setBitmap(dialog, drawing, bitmap);
+        windows().setBitmap(dialog, drawing, bitmap, true);
         windows().setProperty(dialog, number, u"SC_TYPE", 2);
         windows().setTextLimit(dialog, number, 7);
     };
@@ -148,6 +149,15 @@ TEST_F(Win32WindowSystemTest, WindowsKeepWhatStandsBehindThem) {
     });
     EXPECT_EQ(windows().runModal(sample(), m_resources, nullptr, m_procedure), 1);
     EXPECT_EQ(filtered.use_count(), 1);
+}
+
+/// What the system refuses is told.
+TEST_F(Win32WindowSystemTest, NothingStandsBeforeAWindowThatIsGone) {
+    const HWND edit = CreateWindowExW(0, L"Edit", L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr,
+                                      nullptr, nullptr);
+    EXPECT_TRUE(SubclassedItem::attach(std::make_unique<EditFilter>(edit)));
+    DestroyWindow(edit);
+    EXPECT_FALSE(SubclassedItem::attach(std::make_unique<EditFilter>(edit)));
 }
 
 /// Such as the application's, which doesn't know of the dialog.

@@ -8,7 +8,7 @@
 
 #include "platform/WindowSystem.h"
 
-namespace zent::platform::qt {
+namespace zent::platform {
 
 /// What an edit item takes of the characters that a user types or pastes.
 struct InputRule {
@@ -17,13 +17,14 @@ struct InputRule {
     bool hasLines = false;
     bool isNumber = false; // decimal digits alone
 
-    /// What is taken of `entered`, which is to stand in place of a part of `text`, [start, end).
+    /// What is taken of `entered`, which is to stand in place of a part of `text`, [start, end). A
+    /// surrogate pair is taken as a whole or not at all, and a single surrogate never.
     std::u16string accept(std::u16string_view text, std::size_t start, std::size_t end,
                           std::u16string_view entered) const;
 
 private:
     bool accepts(std::u16string_view text, std::size_t start, std::size_t end,
-                 char16_t character) const;
+                 std::u16string_view character) const;
 };
 
-} // namespace zent::platform::qt
+} // namespace zent::platform
