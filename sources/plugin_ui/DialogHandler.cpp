@@ -3,6 +3,7 @@
 #include "ocore/CurrentWindowSystem.h"
 #include "ocore/ExceptionReport.h"
 #include "ocore/Stock/StockInformation.h"
+#include "plugin_ui/FirstFailure.h"
 
 namespace zent {
 
@@ -10,6 +11,11 @@ namespace {
 
 constexpr std::uint32_t titleOfWindow = 0; // reports are titled as their dialog
 constexpr std::uint32_t noFurtherText = 0;
+
+std::intptr_t resultOfFailure(std::uint32_t message) {
+    const bool isValidation = message == UIM_VALIDATE || message == UIM_VALIDATE_FOR_SAVE;
+    return isValidation ? validation::refused : 0;
+}
 
 const CXString& location() {
     static const CXString name(u"DialogHandler::windowProc()");
@@ -35,22 +41,35 @@ bool DialogHandler::processEvent(platform::WindowHandle dialog, std::uint32_t me
             throw;
         }
     }
+    result = resultOfFailure(message);
     return false;
 }
 
 void DialogHandler::startTree(platform::WindowHandle window, std::intptr_t& result) {
+    FirstFailure failure;
+    const auto deliver = [&](const DialogMessage& message) {
+        failure.attempt([&] { processMessage(message, result); });
+    };
+    m_startedReadOnly = getConfiguration().readOnly;
     if (m_bindStockInformation) {
         getConfiguration().stockInformation->setSettings(&m_workingSettings);
     }
-    onDialogCreated(window);
+    failure.attempt([&] { onDialogCreated(window); });
     const auto settings = reinterpret_cast<std::intptr_t>(&m_workingSettings);
-    processMessage(DialogMessage(window, platform::event::initDialog, 0, settings), result);
-    onDialogReady(window);
-    processMessage(DialogMessage(window, UIM_SHOW), result);
-    DialogMessage(window, UIM_SETTINGS_CHANGED).resend();
+    deliver(DialogMessage(window, platform::event::initDialog, 0, settings));
+    failure.attempt([&] { onDialogReady(window); });
+    deliver(DialogMessage(window, UIM_SHOW));
+    deliver(DialogMessage(window, UIM_SETTINGS_CHANGED));
     if (getConfiguration().readOnly) {
-        DialogMessage(window, UIM_LOCK).resend();
+        deliver(DialogMessage(window, UIM_LOCK));
     }
+    failure.raise();
+}
+
+bool DialogHandler::onDestroy(const DialogMessage& message, std::intptr_t& result) {
+    const bool isHandled = processChildren(message, result);
+    getConfiguration().readOnly = m_startedReadOnly;
+    return isHandled;
 }
 
 void DialogHandler::setTarget(FeatureSettings& settings) {

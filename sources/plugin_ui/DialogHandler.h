@@ -17,7 +17,8 @@ public:
           m_bindStockInformation(bindStockInformation) {}
 
     /// Exceptions of the library and the standard are shown to the user, and the event is over; any
-    /// other leaves only if the user wants to stop.
+    /// other leaves only if the user wants to stop. A validation that fails is a refusal. At the
+    /// dialog's start one failure is shown, and the rest of the start still happens.
     bool processEvent(platform::WindowHandle dialog, std::uint32_t message, std::uintptr_t wParam,
                       std::intptr_t lParam, std::intptr_t& result) override;
 
@@ -25,6 +26,8 @@ public:
     virtual void onDialogCreated(platform::WindowHandle /*window*/) {}
     /// The tree is ready, and nothing is shown yet.
     virtual void onDialogReady(platform::WindowHandle /*window*/) {}
+    /// The configuration is as read-only again as it was at the start.
+    bool onDestroy(const DialogMessage& message, std::intptr_t& result) override;
     /// Copies the working settings over the caller's.
     virtual void commitSettings();
 
@@ -40,6 +43,7 @@ private:
     FeatureSettings* m_targetSettings = nullptr;
     FeatureSettings m_workingSettings;
     bool m_bindStockInformation;
+    bool m_startedReadOnly = false;
 };
 
 } // namespace zent

@@ -2,7 +2,27 @@
 
 #include <algorithm>
 
+#include "plugin_ui/FirstFailure.h"
+
 namespace zent {
+
+namespace {
+
+/// Whether the nodes after one that fails are to hear of a message all the same.
+bool isForEachNode(const DialogMessage& message) {
+    switch (message.getMessage()) {
+    case platform::event::initDialog:
+    case platform::event::destroy:
+    case UIM_SHOW:
+    case UIM_SETTINGS_CHANGED:
+    case UIM_LOCK:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
 
 MessageProcessorWithChildren::MessageProcessorWithChildren() {
     constexpr std::size_t usualCount = 10;
@@ -12,12 +32,20 @@ MessageProcessorWithChildren::MessageProcessorWithChildren() {
 // By index: a handler may add children.
 bool MessageProcessorWithChildren::processChildren(const DialogMessage& message,
                                                    std::intptr_t& result) {
-    for (std::size_t i = 0; i < m_children.size(); ++i) {
-        if (m_children[i]->processMessage(message, result)) {
-            return true;
+    FirstFailure failure;
+    bool isHandled = false;
+    for (std::size_t i = 0; i < m_children.size() && !isHandled; ++i) {
+        try {
+            isHandled = m_children[i]->processMessage(message, result);
+        } catch (...) {
+            if (!isForEachNode(message)) {
+                throw;
+            }
+            failure.keepCurrent();
         }
     }
-    return false;
+    failure.raise();
+    return isHandled;
 }
 
 void MessageProcessorWithChildren::addChild(std::unique_ptr<MessageProcessor> child) {

@@ -11,6 +11,8 @@ class MessageProcessorWithChildren : public MessageProcessor {
 public:
     MessageProcessorWithChildren();
 
+    /// A failure ends the walk, but for messages of a dialog's start and end and for a change of
+    /// the settings: those reach each child, and the first failure is raised after them.
     bool processChildren(const DialogMessage& message, std::intptr_t& result) override;
     /// The child, which mustn't be null, becomes a component as well.
     virtual void addChild(std::unique_ptr<MessageProcessor> child);

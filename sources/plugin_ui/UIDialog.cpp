@@ -79,6 +79,7 @@ void UIDialog::onDialogReady(platform::WindowHandle window) {
         system.moveWindow(window, placePopup(system.getWindowRectangle(window), m_screenX,
                                              m_screenY, system.getWorkArea(window)));
     }
+    system.setDefaultButton(window, m_okId); // a template merged in may have brought another
     system.showItem(window, m_okId, true);
     system.showItem(window, m_cancelId, true);
 }
@@ -120,7 +121,7 @@ void UIDialog::closeModeless() {
 }
 
 bool UIDialog::onDestroy(const DialogMessage& message, std::intptr_t& result) {
-    const bool isHandled = processChildren(message, result);
+    const bool isHandled = DialogHandler::onDestroy(message, result);
     m_dialogWindow = nullptr;
     m_modelessWindow = nullptr; // it may have been closed by its frame
     return isHandled;

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "dialogs/DialogSession.h"
@@ -190,6 +192,53 @@ TEST(JobNotesTest, BoxesTakeNoMoreThanThePrinter) {
                                 "job-account-id=name:1234567890AB");
 }
 
+TEST(JobNotesTest, BoxesShowWhatTheyTake) {
+    const DialogSession job(capitalAccount);
+    user::onceOpen([](WindowHandle dialog) {
+        const auto shown = [&](std::uint16_t item) { return windowSystem().getText(dialog, item); };
+        user::type(dialog, item::phone, u"\t");
+        user::paste(dialog, item::phone, u"\r\n");
+        EXPECT_EQ(shown(item::phone), u"");
+        user::paste(dialog, item::phone, std::u16string(5000, u'5'));
+        EXPECT_EQ(shown(item::phone), std::u16string(19, u'5'));
+        retype(dialog, item::jobName, std::u16string(39, u'n') + u"\U0001F600");
+        EXPECT_EQ(shown(item::jobName), std::u16string(39, u'n'));
+        user::click(dialog, item::ok);
+    });
+    EXPECT_EQ(job.invoke(), ZENT_OK);
+    EXPECT_EQ(job.ticket(), "job-phone-number=text:" + std::string(19, '5') +
+                                " job-name=name:" + std::string(39, 'n'));
+}
+
+TEST(JobNotesTest, WhatNobodyTouchesStaysAsItWas) {
+    const DialogSession job(plainAccount);
+    const CXString twoLines(u"one\ntwo\r\nthree");
+    const CXString tooLong(std::u16string(300, u'r'));
+    job.settings().setString(_FI(feature::jobMessageToOperator), twoLines);
+    job.settings().setString(_FI(feature::jobRecipientName), tooLong);
+    const std::string before = job.ticket();
+    user::onceOpen([&](WindowHandle dialog) {
+        EXPECT_EQ(windowSystem().getText(dialog, item::operatorMessage), twoLines.view());
+        EXPECT_EQ(windowSystem().getText(dialog, item::recipient), tooLong.view());
+        user::click(dialog, item::ok); // in vain
+        EXPECT_EQ(job.boxes().size(), 1U);
+        user::click(dialog, item::cancel);
+    });
+    EXPECT_EQ(job.invoke(), ZENT_OK);
+    EXPECT_EQ(job.ticket(), before);
+    ASSERT_EQ(job.boxes().size(), 1U);
+    EXPECT_EQ(job.boxes()[0].title, u"Recipient");
+    EXPECT_GT(job.boxes()[0].body.find(u"no more than"), 0);
+    user::onceOpen([](WindowHandle dialog) {
+        retype(dialog, item::recipient, u"r");
+        user::click(dialog, item::ok);
+    });
+    EXPECT_EQ(job.invoke(), ZENT_OK);
+    CXString message;
+    job.settings().getString(_FI(feature::jobMessageToOperator), &message);
+    EXPECT_EQ(message, twoLines);
+}
+
 TEST(JobNotesTest, PreferencesFillBoxesAndLockThem) {
     const DialogSession job;
     job.prefer(u"JOB_NAME_PREFERENCE");
@@ -229,6 +278,14 @@ TEST(JobNotesTest, EachPrinterHasThem) {
         bool isOpened = false;
         user::onceOpen([&](WindowHandle dialog) {
             isOpened = true;
+            // What a printer lacks leaves no hole between boxes that it has.
+            for (const auto& group : {std::vector{item::jobName, item::account},
+                                      {item::sender, item::recipient, item::phone},
+                                      {item::banner, item::operatorMessage}}) {
+                EXPECT_TRUE(std::ranges::is_partitioned(group, [&](std::uint16_t edit) {
+                    return windowSystem().isItemShown(dialog, edit);
+                }));
+            }
             user::click(dialog, item::ok);
         });
         EXPECT_EQ(job.invoke(), ZENT_OK);

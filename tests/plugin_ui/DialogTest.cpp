@@ -2,6 +2,7 @@
 
 #include "ocore/BoxCapture.h"
 #include "ocore/Exceptions.h"
+#include "plugin_ui/Controls/NumberBoxUIControl.h"
 #include "plugin_ui/Controls/PushButtonUIControl.h"
 #include "plugin_ui/DialogFitting.h"
 #include "plugin_ui/Features/DialogLaunchButtonUIFeature.h"
@@ -94,6 +95,81 @@ TEST_F(DialogTest, AFailureIsReportedAndTheDialogGoesOn) {
     EXPECT_GE(m_windows.changesReported(), 5U);
 }
 
+/// Fails at what it is told to.
+class FailingAt : public UIFeature {
+public:
+    enum class Moment { initialization, update, validation };
+    FailingAt(UIConfiguration& configuration, Moment moment)
+        : UIFeature(configuration), m_moment(moment) {}
+    bool isSupported() override { return true; }
+    void initializeFeature() override { failAt(Moment::initialization); }
+    void updateFeatureWithNewSettings() override { failAt(Moment::update); }
+    bool validate(platform::WindowHandle /*window*/) override {
+        failAt(Moment::validation);
+        return true;
+    }
+    void handleSubjectUpdate(std::uint16_t /*subjectId*/) override {}
+
+private:
+    void failAt(Moment moment) const {
+        if (moment == m_moment) {
+            Raise<IndexOutOfBoundsException>{}("nothing there\r\n");
+        }
+    }
+
+    Moment m_moment;
+};
+
+TEST_F(DialogTest, AFailureAtTheStartLeavesTheRestOfTheDialog) {
+    for (const auto moment : {FailingAt::Moment::initialization, FailingAt::Moment::update}) {
+        TestDialog dialog(m_configuration, items());
+        dialog.makeChild<FailingAt>(m_configuration, moment)
+            .makeChild<FailingAt>(m_configuration, moment);
+        dialog.makeChild<TextEntryUIFeature>(m_configuration, std::uint16_t{0}, label, edit,
+                                             feature::jobSheetMessage);
+        m_ticket.setAttrNodeList(listOf("job-sheet-message=text:a"));
+        m_configuration.readOnly = moment == FailingAt::Moment::update;
+        const BoxCapture boxes;
+        m_windows.onceOpen([&](Window window) {
+            EXPECT_EQ(m_windows.shownItems(window),
+                      (std::vector<std::uint16_t>{label, edit, ok, cancel}));
+            EXPECT_EQ(m_windows.getText(window, edit), u"a");
+            m_windows.type(window, edit, u"b");
+            m_windows.click(window, ok);
+        });
+        EXPECT_TRUE(dialog.runModal(nullptr, m_ticket));
+        EXPECT_EQ(boxes.shown().size(), 1U); // of two failures
+        EXPECT_EQ(ticket(), m_configuration.readOnly ? "job-sheet-message=text:a"
+                                                     : "job-sheet-message=text:ab");
+    }
+}
+
+TEST_F(DialogTest, AFailureInAValidationIsARefusal) {
+    addEntry(); // which accepts, before
+    m_dialog.makeChild<FailingAt>(m_configuration, FailingAt::Moment::validation);
+    const BoxCapture boxes;
+    m_windows.onceOpen([&](Window window) { m_windows.click(window, ok); });
+    EXPECT_FALSE(m_dialog.runModal(nullptr, m_ticket));
+    EXPECT_EQ(boxes.shown().size(), 1U);
+}
+
+TEST_F(DialogTest, ABoxThatCantBeFilteredIsAFault) {
+    m_dialog.makeChild<NumberBoxUIControl>(edit);
+    addEntry();
+    m_windows.setCanFilter(false);
+    const BoxCapture boxes;
+    m_windows.onceOpen([&](Window window) { EXPECT_TRUE(m_windows.isItemShown(window, ok)); });
+    m_dialog.runModal(nullptr, m_ticket);
+    EXPECT_EQ(boxes.shown().size(), 1U);
+}
+
+TEST_F(DialogTest, EnterAccepts) {
+    constexpr std::uint16_t accepts = 30;
+    m_dialog.setButtonIds(accepts, cancel);
+    m_windows.onceOpen([&](Window window) { EXPECT_EQ(m_windows.defaultButton(window), accepts); });
+    m_dialog.runModal(nullptr, m_ticket);
+}
+
 TEST_F(DialogTest, AModelessDialogCommitsAtOKAndTells) {
     addEntry();
     Counter counter;
@@ -140,6 +216,20 @@ TEST_F(DialogTest, WhatIsLockedStaysDisabledUntilItIsUnlocked) {
         [&](Window window) { isInnerLocked = !m_windows.isItemEnabled(window, edit); });
     EXPECT_FALSE(m_dialog.runModal(nullptr, m_ticket));
     EXPECT_TRUE(isInnerLocked);
+
+    // Another run begins unlocked, however the one before ended.
+    m_configuration.readOnly = false;
+    for (int run = 0; run < 2; ++run) {
+        m_windows.onceOpen([&](Window window) {
+            EXPECT_TRUE(m_windows.isItemEnabled(window, edit));
+            entry.getTextBox().disable();
+            entry.getTextBox().enable();
+            EXPECT_TRUE(m_windows.isItemEnabled(window, edit));
+            m_windows.send(window, UIM_LOCK, 0, 0);
+        });
+        EXPECT_FALSE(m_dialog.runModal(nullptr, m_ticket));
+        EXPECT_FALSE(m_configuration.readOnly);
+    }
 }
 
 TEST_F(DialogTest, NoTemplateNoDialog) {

@@ -124,6 +124,7 @@ TEST_F(FeaturesTest, AValueOfTheUsersOwnIsAskedFor) {
                       EXPECT_EQ(choices(window),
                                 u"Printer default|White|Red|Custom\u2026|[pink (custom)]");
                       EXPECT_EQ(m_windows.item(window, picture).bitmap, 1010U);
+                      EXPECT_FALSE(m_windows.item(window, picture).isGroundCleared);
                       m_windows.choose(window, combo, 2);
                       EXPECT_EQ(choices(window),
                                 u"Printer default|White|[Red]|Custom\u2026|pink (custom)");
@@ -157,6 +158,19 @@ TEST_F(FeaturesTest, AValueOfTheUsersOwnIsAskedFor) {
                       u"Printer default|White|Red|Custom\u2026|[skyblue2xxxxxxxxxxxxxxxxxxx "
                       "(custom)]"),
               "media-col{media-color=name:skyblue2xxxxxxxxxxxxxxxxxxx}");
+    // One that the ticket brings along may be too long, and isn't taken as it is.
+    const std::string longColor = "media-col{media-color=name:" + std::string(40, 'y') + "}";
+    const BoxCapture boxes;
+    EXPECT_EQ(run(longColor,
+                  [&](Window window) {
+                      m_windows.onceOpen([&](Window asking) {
+                          EXPECT_EQ(m_windows.getText(asking, customEdit).size(), 40U);
+                          m_windows.click(asking, ok);
+                          EXPECT_EQ(boxes.shown().size(), 1U);
+                      });
+                      m_windows.choose(window, combo, 3);
+                  }),
+              longColor);
     // One that names a value of the printer is that one.
     EXPECT_EQ(typeOwn(u"red", u"Printer default|White|[Red]|Custom\u2026"),
               "media-col{media-color=red}");
@@ -261,6 +275,13 @@ TEST_F(ControlsTest, NumberBoxes) {
         EXPECT_EQ(m_windows.getText(window, number), u"1.49");
         m_windows.spin(window, spin, -100); // beyond the bound: stays
         EXPECT_EQ(control.getValue(), 1.49);
+
+        // What is shown is less than what is held, and doesn't come back.
+        m_notified = 0;
+        control.setValue(1.254);
+        EXPECT_EQ(m_windows.getText(window, number), u"1.25");
+        EXPECT_EQ(control.getValue(), 1.254);
+        EXPECT_EQ(m_notified, 0);
 
         control.setNumberType(NumberType::unsignedInteger);
         control.setValue(4294967295.0);

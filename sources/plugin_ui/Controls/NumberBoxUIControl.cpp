@@ -64,6 +64,7 @@ void NumberBoxUIControl::displayControl() {
     if (!hasWindow()) {
         return;
     }
+    const Showing showing(*this);
     platform::WindowSystem& system = windowSystem();
     if (m_isEmpty) {
         system.setText(getWindow(), m_editId, u"");
@@ -93,17 +94,23 @@ void NumberBoxUIControl::setControlCallBack() {
     system.setProperty(getWindow(), m_editId, u"SC_TYPE",
                        static_cast<std::uintptr_t>(m_numberType));
     system.setTextLimit(getWindow(), m_editId, m_maxLength);
-    system.setCharacterFilter(
+    const bool isFiltered = system.setCharacterFilter(
         getWindow(), m_editId,
         [this](std::u16string_view text, std::int32_t start, std::int32_t end, char16_t character) {
             return acceptsNumberCharacter(m_numberType, {text, start, end, m_maxLength}, character);
         });
+    if (!isFiltered) {
+        Raise<UnknownCaseException>{}("NumberBoxUIControl::setControlCallBack() Unknown ANL value "
+                                      "for disposition.\r\n");
+    }
 }
 
 bool NumberBoxUIControl::processControlMessage(const DialogMessage& message,
                                                std::intptr_t& result) {
     if (message.isCommand(m_editId, platform::notification::editChanged)) {
-        handleChange();
+        if (!isShowing()) {
+            handleChange();
+        }
         return true;
     }
     if (message.isCommand(m_editId, platform::notification::editLeft)) {

@@ -27,6 +27,7 @@ void TextBoxUIControl::setMaxLength(std::uint32_t length) {
 
 void TextBoxUIControl::displayControl() {
     if (hasWindow()) {
+        const Showing showing(*this);
         windowSystem().setText(getWindow(), m_editId, m_text);
     }
 }
@@ -40,11 +41,15 @@ void TextBoxUIControl::setControlCallBack() {
     system.setProperty(getWindow(), m_editId, u"SC_TYPE",
                        static_cast<std::uintptr_t>(m_filterMode));
     system.setTextLimit(getWindow(), m_editId, m_maxLength);
-    system.setCharacterFilter(
+    const bool isFiltered = system.setCharacterFilter(
         getWindow(), m_editId,
         [this](std::u16string_view text, std::int32_t start, std::int32_t end, char16_t character) {
             return acceptsTextCharacter(m_filterMode, {text, start, end, m_maxLength}, character);
         });
+    if (!isFiltered) {
+        Raise<UnknownCaseException>{}("TextBoxUIControl::setControlCallBack() Unknown ANL value "
+                                      "for disposition.\r\n");
+    }
     if (m_isTransparent) {
         system.setTransparent(getWindow(), m_editId);
     }
@@ -55,9 +60,10 @@ bool TextBoxUIControl::processControlMessage(const DialogMessage& message,
     if (!message.isCommand(m_editId, platform::notification::editChanged)) {
         return false;
     }
-    const CXString shown(windowSystem().getText(getWindow(), m_editId));
-    m_text = shown.left(static_cast<std::int32_t>(m_maxLength));
-    notifyObservers();
+    if (!isShowing()) {
+        m_text = windowSystem().getText(getWindow(), m_editId);
+        notifyObservers();
+    }
     return true;
 }
 

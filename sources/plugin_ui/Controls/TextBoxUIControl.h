@@ -14,9 +14,13 @@ public:
     TextBoxUIControl(std::uint16_t edit, std::initializer_list<std::uint16_t> labels,
                      std::uint32_t maximumLength, FilterMode mode = FilterMode::all);
 
+    /// What stands in the box: what was set, until the user changes it.
     const CXString& getText() const { return m_text; }
     void setText(const CXString& text);
+    /// How much the user can enter; a text that is set may be longer.
     void setMaxLength(std::uint32_t length);
+    std::uint32_t getMaxLength() const { return m_maxLength; }
+    bool isTooLong() const { return m_text.view().size() > m_maxLength; }
     void setFilterMode(FilterMode mode) { m_filterMode = mode; }
     /// Makes a read-only box look like part of the page.
     void setTransparent(bool isTransparent) { m_isTransparent = isTransparent; }

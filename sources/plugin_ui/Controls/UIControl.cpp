@@ -1,6 +1,7 @@
 #include "plugin_ui/Controls/UIControl.h"
 
 #include "ocore/CurrentWindowSystem.h"
+#include "plugin_ui/FirstFailure.h"
 
 namespace zent {
 
@@ -18,14 +19,18 @@ bool UIControl::onInitDialog(const DialogMessage& message, std::intptr_t& result
     if (!m_itemIds.empty() && system.hasItem(m_window, m_itemIds.front())) {
         m_isEnabled = system.isItemEnabled(m_window, m_itemIds.front());
     }
-    setControlCallBack();
+    FirstFailure failure;
+    failure.attempt([this] { setControlCallBack(); });
     if (m_isLocked) {
         enableItems(false);
     }
     if (!m_toolTipText.isEmpty()) {
         system.setToolTip(m_window, m_toolTipItem, m_toolTipText);
     }
-    return processChildren(message, result);
+    bool isHandled = false;
+    failure.attempt([&] { isHandled = processChildren(message, result); });
+    failure.raise();
+    return isHandled;
 }
 
 bool UIControl::onCommand(const DialogMessage& message, std::intptr_t& result) {
@@ -82,6 +87,7 @@ bool UIControl::onUnlock(const DialogMessage& /*message*/, std::intptr_t& /*resu
 bool UIControl::onDestroy(const DialogMessage& message, std::intptr_t& result) {
     const bool isHandled = processChildren(message, result);
     m_window = nullptr;
+    m_isLocked = false;
     return isHandled;
 }
 

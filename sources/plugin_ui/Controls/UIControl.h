@@ -36,7 +36,7 @@ public:
     bool onHide(const DialogMessage& message, std::intptr_t& result) override;
     bool onEnable(const DialogMessage& message, std::intptr_t& result) override;
     bool onDisable(const DialogMessage& message, std::intptr_t& result) override;
-    /// Disables until onUnlock(), which enables whatever was before.
+    /// Disables until onUnlock(), which enables whatever was before, or until the dialog's end.
     bool onLock(const DialogMessage& message, std::intptr_t& result) override;
     bool onUnlock(const DialogMessage& message, std::intptr_t& result) override;
     bool onDestroy(const DialogMessage& message, std::intptr_t& result) override;
@@ -61,6 +61,20 @@ protected:
     platform::WindowHandle getWindow() const { return m_window; }
     bool hasWindow() const { return m_window != nullptr; }
 
+    /// While it lives the control shows its value: what its items tell of that is no act of the
+    /// user's.
+    class Showing {
+    public:
+        explicit Showing(UIControl& control) : m_control(control) { ++m_control.m_showings; }
+        ~Showing() { --m_control.m_showings; }
+        Showing(const Showing&) = delete;
+        Showing& operator=(const Showing&) = delete;
+
+    private:
+        UIControl& m_control;
+    };
+    bool isShowing() const { return m_showings != 0; }
+
 private:
     void deliver(std::uint32_t message);
     void showItems(bool isShown);
@@ -71,6 +85,7 @@ private:
     bool m_isEnabled = true;
     bool m_isLocked = false;
     bool m_forwardCommands = false;
+    int m_showings = 0;
     std::uint16_t m_toolTipItem;
     CXString m_toolTipText;
 };

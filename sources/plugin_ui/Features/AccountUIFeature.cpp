@@ -18,6 +18,9 @@ bool AccountUIFeature::isRequired() const {
 }
 
 bool AccountUIFeature::validate(platform::WindowHandle window) {
+    if (!TextEntryUIFeature::validate(window)) {
+        return false;
+    }
     AccountRule rule;
     std::int32_t upper = 0;
     getCapabilities().getFeatureCapabilities(getFeature(), rule.minimumLength, upper);

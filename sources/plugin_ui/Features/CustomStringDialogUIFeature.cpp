@@ -1,5 +1,7 @@
 #include "plugin_ui/Features/CustomStringDialogUIFeature.h"
 
+#include "plugin_ui/Features/TextLength.h"
+
 namespace zent {
 
 namespace {
@@ -43,8 +45,8 @@ void CustomStringDialogUIFeature::handleSubjectUpdate(std::uint16_t /*subjectId*
 
 void CustomStringDialogUIFeature::enableAcceptance() { m_okButton.setEnabled(!m_text.isEmpty()); }
 
-bool CustomStringDialogUIFeature::validate(platform::WindowHandle /*window*/) {
-    return !m_text.isEmpty();
+bool CustomStringDialogUIFeature::validate(platform::WindowHandle window) {
+    return !m_text.isEmpty() && validateLength(window, m_textBox, m_feature);
 }
 
 } // namespace zent

@@ -1,6 +1,7 @@
 #include "plugin_ui/Features/PersonNameUIFeature.h"
 
 #include "ocore/User.h"
+#include "platform/Surrogates.h"
 
 namespace zent {
 
@@ -13,7 +14,8 @@ bool PersonNameUIFeature::isLogonNamePreferred() const {
 void PersonNameUIFeature::updateFeatureWithNewSettings() {
     const bool isPreferred = isLogonNamePreferred();
     if (isPreferred) {
-        writeText(User::getLogonName());
+        const CXString name = User::getLogonName();
+        writeText(CXString(platform::wholeStart(name, getTextBox().getMaxLength())));
     }
     getTextBox().setText(readText());
     getTextBox().setEnabled(!isPreferred);

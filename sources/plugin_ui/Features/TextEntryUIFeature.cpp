@@ -1,5 +1,7 @@
 #include "plugin_ui/Features/TextEntryUIFeature.h"
 
+#include "plugin_ui/Features/TextLength.h"
+
 namespace zent {
 
 namespace {
@@ -31,6 +33,10 @@ void TextEntryUIFeature::updateFeatureWithNewSettings() { m_textBox.setText(read
 void TextEntryUIFeature::handleSubjectUpdate(std::uint16_t /*subjectId*/) {
     writeText(m_textBox.getText());
     reportChanged();
+}
+
+bool TextEntryUIFeature::validate(platform::WindowHandle window) {
+    return validateLength(window, m_textBox, m_feature);
 }
 
 CXString TextEntryUIFeature::readText() {

@@ -17,6 +17,8 @@ public:
     void initializeFeature() override;
     void updateFeatureWithNewSettings() override;
     void handleSubjectUpdate(std::uint16_t subjectId) override;
+    /// Refuses a text that is too long for the printer: what the ticket brings along may be.
+    bool validate(platform::WindowHandle window) override;
 
     const _FI& getFeature() const { return m_feature; }
     TextBoxUIControl& getTextBox() { return m_textBox; }

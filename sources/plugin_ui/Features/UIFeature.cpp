@@ -2,20 +2,28 @@
 
 #include "ocore/CurrentWindowSystem.h"
 #include "plugin_ui/Controls/StaticUIControl.h"
+#include "plugin_ui/FirstFailure.h"
 
 namespace zent {
 
 bool UIFeature::onInitDialog(const DialogMessage& message, std::intptr_t& result) {
     m_window = message.getWindow();
     m_settings = message.getObject<FeatureSettings>();
-    const bool isHandled = processChildren(message, result);
-    initializeFeature();
+    bool isHandled = false;
+    FirstFailure failure;
+    failure.attempt([&] { isHandled = processChildren(message, result); });
+    failure.attempt([this] { initializeFeature(); });
+    failure.raise();
     return isHandled;
 }
 
 bool UIFeature::onSettingsChanged(const DialogMessage& message, std::intptr_t& result) {
-    updateFeatureWithNewSettings();
-    return processChildren(message, result);
+    bool isHandled = false;
+    FirstFailure failure;
+    failure.attempt([this] { updateFeatureWithNewSettings(); });
+    failure.attempt([&] { isHandled = processChildren(message, result); });
+    failure.raise();
+    return isHandled;
 }
 
 bool UIFeature::onDestroy(const DialogMessage& message, std::intptr_t& result) {
