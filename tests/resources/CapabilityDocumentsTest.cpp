@@ -9,6 +9,7 @@
 
 #include "expected/ExpectedTable.h"
 #include "ocore/Attributes/IppList.h"
+#include "ocore/Capabilities/Capabilities.h"
 #include "ocore/Capabilities/ResourceCapabilities.h"
 #include "ocore/FeatureSettings/CapabilityDataBase.h"
 #include "ocore/FeatureSettings/CapabilityIdentifier.h"
@@ -151,7 +152,8 @@ TEST(CapabilityDocumentsTest, NamesSyntaxesAndValuesAreKnown) {
             const std::string name = node.getName().toNarrow();
             SCOPED_TRACE(std::to_string(resource) + ' ' + name);
             EXPECT_TRUE(seen.insert(name).second) << "stands twice";
-            if (name == "media-col-database" || name == "media-size-supported") {
+            if (name == "media-col-database" || name == "media-size-supported" ||
+                name.ends_with("-allowable-char-limit")) {
                 continue; // looked at by tests of their own
             }
             ASSERT_EQ(rows.count(name), 1U);
@@ -256,6 +258,22 @@ TEST(CapabilityDocumentsTest, FamiliesOfferWhatThePrinterTablesSay) {
         }
     }
     EXPECT_EQ(used.size(), documents().size()); // none is there for nothing
+}
+
+TEST(CapabilityDocumentsTest, TextsThatUsersInventHaveALimit) {
+    constexpr std::uint32_t postScript = 2;
+    for (std::uint32_t model = 1; model <= 51; ++model) {
+        for (const std::uint32_t form : {1U, 2U}) {
+            const Capabilities capabilities(PrinterModel(model, postScript), form);
+            for (FeatureEnum number = 2; number <= lastFeature; ++number) {
+                const _FI feature(number);
+                if (capabilities.isUserDefinable(feature)) {
+                    SCOPED_TRACE(testing::Message() << "model " << model << ", " << number);
+                    EXPECT_GT(capabilities.getUpperLimit(feature), 0U);
+                }
+            }
+        }
+    }
 }
 
 TEST(CapabilityDocumentsTest, StreamFormOffersOnlyWhatTheStreamCanSay) {

@@ -18,6 +18,12 @@ const AttrNodeList* findSet(const Settings& settings, const _CI& set) {
     return set.getNestedAttrID().findList(*settings.getAttrNodeList());
 }
 
+[[noreturn]] void raiseMissing(CapabilityType type, const char* operation) {
+    Raise<MissingCapabilityDataException>()(
+        "Capabilities::%S(): Could not find the %s capability.\r\n", operation,
+        getCapabilityTypeText(type));
+}
+
 } // namespace
 
 Capabilities::Capabilities(const PrinterModel& model, std::uint32_t form)
@@ -149,15 +155,24 @@ std::uint32_t Capabilities::getNumber(const _FI& feature, CapabilityType type,
     const _CI capability(feature.getFeature(), type);
     std::int32_t number = 0;
     if (!m_settings.getLong(capability, &number)) {
-        Raise<MissingCapabilityDataException>()(
-            "Capabilities::%S(): Could not find the %s capability.\r\n", operation,
-            getCapabilityTypeText(type));
+        raiseMissing(type, operation);
     }
     return static_cast<std::uint32_t>(number);
 }
 
 std::uint32_t Capabilities::getUpperLimit(const _FI& feature) const {
-    return getNumber(feature, CAPTYPE_INT_UPPER_LIMIT, "getUpperLimit");
+    constexpr const char* operation = "getUpperLimit";
+    if (_CI::hasCapability(feature.getFeature(), CAPTYPE_INT_UPPER_LIMIT)) {
+        return getNumber(feature, CAPTYPE_INT_UPPER_LIMIT, operation);
+    }
+    // The capability table has no row for some features whose values users may invent. The
+    // documents name their limits like the others.
+    const AttrID limit(feature.getName() + u"-allowable-char-limit");
+    std::int32_t number = 0;
+    if (!m_settings.getAttrNodeList()->OrdoAttrToLong(&number, limit)) {
+        raiseMissing(CAPTYPE_INT_UPPER_LIMIT, operation);
+    }
+    return static_cast<std::uint32_t>(number);
 }
 
 std::uint32_t Capabilities::getPrecision(const _FI& feature) const {
