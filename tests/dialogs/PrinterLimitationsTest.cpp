@@ -55,7 +55,8 @@ TEST(PrinterLimitationsTest, TheUserAgreesToARepairOrNot) {
         user::onceOpen([&](WindowHandle dialog) {
             platform::WindowSystem& system = windowSystem();
             EXPECT_EQ(system.getCaption(dialog), u"Mine");
-            EXPECT_EQ(system.getText(dialog, item::label), resourceText(11553).view());
+            EXPECT_EQ(system.getText(dialog, item::label),
+                      resourceText(row.mode == 4 ? 11557 : 11553).view());
             const std::u16string report = system.getText(dialog, item::report);
             EXPECT_NE(report.find(u"\tMedia type"), std::u16string::npos);
             EXPECT_EQ(report.find(u"->") != std::u16string::npos, row.mode != 4);

@@ -176,7 +176,6 @@ TEST_F(WindowSystemTest, TakesWholeCharactersWithinTheLimit) {
 TEST_F(WindowSystemTest, ALineIsTakenUpToItsEnd) {
     run([&](WindowHandle dialog) {
         windows().setText(dialog, number, u"4711-FIN");
-        user::type(dialog, number, u"");
         windows().selectText(dialog, number, 0, -1);
         user::paste(dialog, number, u"4711\r\nFIN");
         EXPECT_EQ(windows().getText(dialog, number), u"4711");
@@ -184,6 +183,7 @@ TEST_F(WindowSystemTest, ALineIsTakenUpToItsEnd) {
         windows().setText(dialog, number, u"a\nb");
         EXPECT_EQ(windows().getText(dialog, number), u"a\nb");
         windows().setText(dialog, notes, u"");
+        windows().setTextLimit(dialog, notes, 100);
         user::paste(dialog, notes, u"a\nb\r\nc");
         EXPECT_EQ(windows().getText(dialog, notes), u"a\r\nb\r\nc");
     });

@@ -61,8 +61,8 @@ TEST(StringTableTest, TextsFitForUsers) {
                             std::isdigit(static_cast<unsigned char>(text.front())) != 0;
         EXPECT_TRUE(begins || text.starts_with("sRGB")) << text;
         // Sentences end in a full stop, names don't.
-        const bool sentence = id == 11541 || id == 11553 || id == 11601 || id == 11602 ||
-                              (id >= 11607 && id <= 11639 && id != 11619);
+        const bool sentence = id == 11541 || id == 11553 || id == 11557 || id == 11601 ||
+                              id == 11602 || (id >= 11607 && id <= 11639 && id != 11619);
         EXPECT_EQ(text.back() == '.', sentence) << text;
     }
 }

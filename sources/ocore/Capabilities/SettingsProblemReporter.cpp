@@ -14,6 +14,7 @@ namespace {
 namespace text {
 constexpr std::uint32_t notice = 11541;
 constexpr std::uint32_t question = 11553;
+constexpr std::uint32_t nothingChanges = 11557;
 } // namespace text
 
 } // namespace
@@ -39,7 +40,9 @@ RepairWording SettingsProblemReporter::getWording() const {
 }
 
 CXString SettingsProblemReporter::getLabel() const {
-    return ResourceLibrary().getString(isChoiceOffered() ? text::question : text::notice);
+    const std::uint32_t question =
+        m_mode == reportMode::reportKeep ? text::nothingChanges : text::question;
+    return ResourceLibrary().getString(isChoiceOffered() ? question : text::notice);
 }
 
 std::uint32_t SettingsProblemReporter::report(const SettingsProblemList& problems,
