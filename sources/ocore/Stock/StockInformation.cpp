@@ -76,8 +76,30 @@ private:
     std::map<Key, Stock*> m_byKey;
 };
 
+bool isSame(const AttrNodeList& a, const AttrNodeList& b);
+
+bool isSame(const AttrNode& a, const AttrNode& b) {
+    const AttrValue& first = a.getAttrValue();
+    const AttrValue& second = b.getAttrValue();
+    if (a.getAttrID() != b.getAttrID() || first.getIppSyntax() != second.getIppSyntax()) {
+        return false;
+    }
+    return first.isList() ? isSame(static_cast<const IppList&>(first).getAttrNodeList(),
+                                   static_cast<const IppList&>(second).getAttrNodeList())
+                          : first.getIppValue() == second.getIppValue();
+}
+
+/// Lists themselves compare by their lengths alone.
+bool isSame(const AttrNodeList& a, const AttrNodeList& b) {
+    bool same = a.getNumberOfNodes() == b.getNumberOfNodes();
+    for (std::uint32_t i = 0; same && i < a.getNumberOfNodes(); ++i) {
+        same = isSame(a.getNodeAt(i), b.getNodeAt(i));
+    }
+    return same;
+}
+
 bool isStoredAlike(const Stock& a, const Stock& b) {
-    return a.isFavorite() == b.isFavorite() && a.getAttrNodeList() == b.getAttrNodeList();
+    return a.isFavorite() == b.isFavorite() && isSame(a.getAttrNodeList(), b.getAttrNodeList());
 }
 
 } // namespace

@@ -196,6 +196,13 @@ TEST_F(StockInformationTest, WhatOthersSavedMeanwhileStays) {
             }
         }
     };
+    m_stocks.resetStocksByType(StockType::user);
+    Stock changed = *m_stocks.getNextStockByType();
+    while (changed.getKey().getText() != u"5") {
+        changed = *m_stocks.getNextStockByType();
+    }
+    changed.getSettings().setStockSize(StockSize(12345, 23456)); // as many attributes as before
+    m_stocks.replaceStock(changed);
     change(m_stocks, "mine", "2", "1");
     change(other, "yours", "3", "4");
     m_stocks.save();
@@ -209,6 +216,7 @@ TEST_F(StockInformationTest, WhatOthersSavedMeanwhileStays) {
         listed += stock.getKey().getText().toNarrow() + (stock.isFavorite() ? "* " : " ");
     }
     EXPECT_EQ(listed, "1 4 5* 6* 7* 8* 9* 10* mine 11 yours 2 ");
+    EXPECT_NE(m_folder.read("omedpref.omp").find(">12345<"), std::string::npos);
 }
 
 TEST_F(StockInformationTest, WritersAtATimeLoseNothing) {
