@@ -44,5 +44,7 @@ constexpr Option outputOption = {.names = "-o,--output",
 constexpr Option jsonOption = {.names = "--json",
                                .target = in<&Options::listsJson>,
                                .help = "The same as JSON, for other programs"};
+constexpr Option quietOption = {
+    .names = "-q,--quiet", .target = in<&Options::isQuiet>, .help = "No notes on standard error"};
 
 } // namespace jobticket

@@ -17,16 +17,19 @@ struct Sides {
     const OutlineLine* second = nullptr;
 };
 
-using Row = std::vector<std::string>;
+struct Difference {
+    std::string path;
+    Sides sides; // of which one may be null
+};
 
 std::string valueOf(const OutlineLine* line) {
     return line == nullptr ? "(not set)" : joinValues(line->values);
 }
 
-/// One row for each feature that the two tickets don't agree on, in the order of the first ticket
+/// The features that the two tickets don't agree on, in the order of the first ticket
 /// and then of the second. The order of features says nothing about the job, so it isn't compared.
-std::vector<Row> compare(const std::vector<OutlineLine>& first,
-                         const std::vector<OutlineLine>& second) {
+std::vector<Difference> compare(const std::vector<OutlineLine>& first,
+                                const std::vector<OutlineLine>& second) {
     std::map<std::string, Sides> byPath;
     std::vector<std::string> order;
     const auto note = [&](const OutlineLine& line, const OutlineLine* Sides::*side) {
@@ -41,16 +44,39 @@ std::vector<Row> compare(const std::vector<OutlineLine>& first,
     std::for_each(second.begin(), second.end(),
                   [&](const auto& line) { note(line, &Sides::second); });
 
-    std::vector<Row> rows;
+    std::vector<Difference> differences;
     for (const std::string& path : order) {
         const Sides& sides = byPath[path];
-        const std::string before = valueOf(sides.first);
-        const std::string after = valueOf(sides.second);
-        if (sides.first == nullptr || sides.second == nullptr || before != after) {
-            rows.push_back({path, before + " -> " + after});
+        if (sides.first == nullptr || sides.second == nullptr ||
+            joinValues(sides.first->values) != joinValues(sides.second->values)) {
+            differences.push_back({path, sides});
         }
     }
-    return rows;
+    return differences;
+}
+
+std::string listForPeople(const std::vector<Difference>& differences) {
+    std::vector<std::vector<std::string>> rows;
+    rows.reserve(differences.size());
+    for (const auto& [path, sides] : differences) {
+        rows.push_back({path, valueOf(sides.first) + " -> " + valueOf(sides.second)});
+    }
+    return layOut(rows);
+}
+
+std::string listAsJson(const std::vector<Difference>& differences) {
+    Json list = Json::array();
+    for (const auto& [path, sides] : differences) {
+        Json json = Json::object().add("path", path);
+        if (sides.first != nullptr) {
+            json.add("first", toJson(sides.first->values));
+        }
+        if (sides.second != nullptr) {
+            json.add("second", toJson(sides.second->values));
+        }
+        list.add(json);
+    }
+    return Json::object().add("differences", list).toText();
 }
 
 ExitStatus diff(const Options& options) {
@@ -59,16 +85,22 @@ ExitStatus diff(const Options& options) {
     }
     const std::vector<OutlineLine> first = makeOutline(readDocumentFile(options.ticket));
     const std::vector<OutlineLine> second = makeOutline(readDocumentFile(options.otherTicket));
-    const std::vector<Row> rows = compare(first, second);
-    writeStandardOutput(layOut(rows));
-    return rows.empty() ? ExitStatus::success : ExitStatus::differences;
+    const std::vector<Difference> differences = compare(first, second);
+    if (!options.isQuiet) {
+        writeStandardOutput(options.listsJson ? listAsJson(differences)
+                                              : listForPeople(differences));
+    }
+    return differences.empty() ? ExitStatus::success : ExitStatus::differences;
 }
 
-constexpr std::array options = {ticketArgument, Option{.names = "OTHER",
-                                                       .operand = Operand::file,
-                                                       .target = in<&Options::otherTicket>,
-                                                       .help = "The ticket to compare it with",
-                                                       .isRequired = true}};
+constexpr std::array options = {ticketArgument,
+                                Option{.names = "OTHER",
+                                       .operand = Operand::file,
+                                       .target = in<&Options::otherTicket>,
+                                       .help = "The ticket to compare it with",
+                                       .isRequired = true},
+                                jsonOption,
+                                withHelp(quietOption, "No list: the exit status says all")};
 
 } // namespace
 

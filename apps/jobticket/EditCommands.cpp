@@ -23,10 +23,11 @@ constexpr const char* aboutValues = R"(Values:
               text
   name, text  any text; quote it for the shell
   number      a 32-bit number; lengths and shifts in hundredths of a millimetre
-              (500), or in millimetres (5mm)
+              (500), or with a unit: 5mm, 0.5cm, 0.2in, 14pt
   range       3-7, or 3 for a single one
   resolution  600dpi, 600x1200dpi, 240dpcm: across the feed, along it, the unit
-  size        21000x29700 in hundredths of a millimetre, 210x297mm, or SIZE_A4
+  size        A4, Letter, SRA3; 210x297mm, 8.5x11in, 21x29.7cm, 595x842pt; or
+              21000x29700 in hundredths of a millimetre
   A feature that holds a set takes several with commas between them:
   page-ranges=1-5,8-9.
 )";

@@ -1,7 +1,9 @@
+#include <algorithm>
 #include <array>
 
 #include "CommonOptions.h"
 #include "Feature.h"
+#include "Json.h"
 #include "Listing.h"
 #include "Text.h"
 #include "TicketFile.h"
@@ -13,6 +15,16 @@ namespace {
 
 using Row = std::vector<std::string>;
 
+/// Whether a value has the text in one of its names.
+bool hasValue(const Feature& feature, const std::string& pattern) {
+    const std::vector<NamedValue> values = getNamedValues(feature);
+    return std::ranges::any_of(values, [&](const NamedValue& value) {
+        return containsIgnoringCase(value.name, pattern) ||
+               containsIgnoringCase(value.displayName, pattern) ||
+               containsIgnoringCase(getAlias(feature, value.name), pattern);
+    });
+}
+
 std::vector<Feature> findFeatures(const std::string& pattern) {
     if (Feature::exists(pattern)) {
         return {Feature::named(pattern)};
@@ -20,7 +32,7 @@ std::vector<Feature> findFeatures(const std::string& pattern) {
     std::vector<Feature> found;
     for (const Feature& feature : Feature::all()) {
         if (containsIgnoringCase(feature.getName(), pattern) ||
-            containsIgnoringCase(feature.getDisplayName(), pattern)) {
+            containsIgnoringCase(feature.getDisplayName(), pattern) || hasValue(feature, pattern)) {
             found.push_back(feature);
         }
     }
@@ -60,7 +72,8 @@ std::string describe(const Feature& feature) {
     std::string text = layOut(rows);
     rows.clear();
     for (const NamedValue& value : getNamedValues(feature)) {
-        rows.push_back({"  " + value.name, value.displayName});
+        rows.push_back(
+            {"  " + value.name, value.displayName, std::string(getAlias(feature, value.name))});
     }
     return text + (rows.empty() ? "" : "Values\n" + layOut(rows));
 }
@@ -81,13 +94,38 @@ std::string makeTable(const std::vector<Feature>& features) {
     return text;
 }
 
+Json toJson(const Feature& feature) {
+    Json values = Json::array();
+    for (const NamedValue& value : getNamedValues(feature)) {
+        values.add(Json::object().add("value", value.name).add("text", value.displayName));
+    }
+    return Json::object()
+        .add("number", static_cast<std::uint32_t>(feature.getNumber()))
+        .add("feature", feature.getName())
+        .add("name", feature.getDisplayName())
+        .add("type", feature.describeKind())
+        .add("set", feature.takesSeveral())
+        .add("liesIn", locationOf(feature))
+        .add("values", values);
+}
+
+std::string makeJson(const std::vector<Feature>& features) {
+    Json list = Json::array();
+    for (const Feature& feature : features) {
+        list.add(toJson(feature));
+    }
+    return Json::object().add("features", list).toText();
+}
+
 ExitStatus listOrDescribe(const Options& options) {
     const std::vector<Feature> features = findFeatures(options.pattern);
     if (features.empty()) {
         Feature::named(options.pattern); // raises the error that suggests a name
     }
     std::string text;
-    if (options.listsTable) {
+    if (options.listsJson) {
+        text = makeJson(features);
+    } else if (options.listsTable) {
         text = makeTable(features);
     } else {
         text = features.size() == 1 ? describe(features.front()) : listFeatures(features);
@@ -101,16 +139,19 @@ constexpr std::array options = {
            .operand = Operand::feature,
            .target = in<&Options::pattern>,
            .help = "A feature, to see all about it and its values; or a part of the names of those "
-                   "to list"},
+                   "to list, or of their values"},
     Option{.names = "--table",
            .target = in<&Options::listsTable>,
-           .help = "One line a feature with tabs between the columns, for other programs"}};
+           .help = "One line a feature with tabs between the columns, for other programs",
+           .excludes = "--json"},
+    jsonOption};
 
 } // namespace
 
 const Command featuresCommand = {"features", "List the features that a ticket may hold", options,
                                  listOrDescribe,
                                  "jobticket features halftone\n"
-                                 "jobticket features finishings\n"};
+                                 "jobticket features finishings\n"
+                                 "jobticket features staple\n"};
 
 } // namespace jobticket

@@ -50,7 +50,7 @@ ExitStatus writeInstructions(const Options& options) {
     const PrinterChoice printer = choosePrinter(options.printer);
     const std::string document = readFile(options.ticket);
     const zent::AttrNodeList ticket = readDocument(document, options.ticket);
-    Session session = openSession(options);
+    Session session = openSession(options, printer);
     if (session.importTicket(document, nameForMessages(options.ticket))) {
         note("note: the printer can't do all of the ticket; \"jobticket check\" lists what, and "
              "--fix repairs it\n");

@@ -1,6 +1,7 @@
 #include <array>
 
 #include "CommonOptions.h"
+#include "Json.h"
 #include "Listing.h"
 #include "Printers.h"
 #include "Text.h"
@@ -53,6 +54,27 @@ std::string makeTable(const std::vector<Model>& models) {
     return text;
 }
 
+Json toJson(const Model& model) {
+    Json drivers = Json::array();
+    for (const Driver& driver : model.drivers) {
+        drivers.add(Json::object().add("pdl", driver.language.name).add("name", driver.name));
+    }
+    return Json::object()
+        .add("model", model.number)
+        .add("name", model.name)
+        .add("family", model.family)
+        .add("form", formOf(model))
+        .add("drivers", drivers);
+}
+
+std::string makeJson(const std::vector<Model>& models) {
+    Json list = Json::array();
+    for (const Model& model : models) {
+        list.add(toJson(model));
+    }
+    return Json::object().add("models", list).toText();
+}
+
 ExitStatus list(const Options& options) {
     const std::vector<Model> models = findModels(options.pattern);
     if (models.empty()) {
@@ -61,7 +83,9 @@ ExitStatus list(const Options& options) {
                                                      R"(; "jobticket models" lists all)");
     }
     std::string text;
-    if (options.listsTable) {
+    if (options.listsJson) {
+        text = makeJson(models);
+    } else if (options.listsTable) {
         text = makeTable(models);
     } else {
         text = models.size() == 1 ? describe(models.front()) : listModels(models);
@@ -78,7 +102,9 @@ constexpr std::array options = {
                    "those to list"},
     Option{.names = "--table",
            .target = in<&Options::listsTable>,
-           .help = "One line a printer with tabs between the columns, for other programs"}};
+           .help = "One line a printer with tabs between the columns, for other programs",
+           .excludes = "--json"},
+    jsonOption};
 
 } // namespace
 

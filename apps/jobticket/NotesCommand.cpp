@@ -11,8 +11,7 @@ namespace jobticket {
 namespace {
 
 ExitStatus editNotes(const Options& options) {
-    choosePrinter(options.printer); // it says what the dialog offers
-    Session session = openSession(options);
+    Session session = openSession(options, choosePrinter(options.printer));
     importDocumentFile(session, options.ticket);
     const std::string before = session.exportTicket();
     session.showJobNotes();

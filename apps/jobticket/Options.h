@@ -33,6 +33,7 @@ struct Options {
     std::string document;
     bool keepsNames = false;
     bool repairs = false;
+    bool checksAllPrinters = false;
     bool showsDialog = false;
     bool removesAll = false;
 
@@ -40,6 +41,7 @@ struct Options {
     bool listsRaw = false;
     bool listsJson = false;
     bool listsTable = false;
+    bool isQuiet = false;
 
     std::string folder;
     std::string stock;

@@ -94,12 +94,10 @@ Json toJson(const std::vector<OutlineLine>& outline) {
         if (line.isHeading) {
             continue;
         }
-        Json values = Json::array();
-        for (const ShownValue& value : line.values) {
-            values.add(toJson(value));
-        }
-        features.add(
-            Json::object().add("path", line.path).add("name", line.label).add("values", values));
+        features.add(Json::object()
+                         .add("path", line.path)
+                         .add("name", line.label)
+                         .add("values", toJson(line.values)));
     }
     return features;
 }

@@ -2,8 +2,9 @@
 
 #include "Platform.h"
 
+#include <cstdlib>
+
 #ifdef _WIN32
-#include <cstdio>
 #include <memory>
 #include <string_view>
 
@@ -15,6 +16,8 @@
 #include <shellapi.h>
 
 #include "Text.h"
+#else
+#include <unistd.h>
 #endif
 
 namespace jobticket::platform {
@@ -40,6 +43,14 @@ void prepareStandardStreams() {
     SetConsoleOutputCP(CP_UTF8);
 }
 
+bool isTerminal(std::FILE* stream) { return _isatty(_fileno(stream)) != 0; }
+
+std::optional<std::string> getVariable(const char* name) {
+    const std::wstring wide(name, name + std::char_traits<char>::length(name));
+    const wchar_t* const value = _wgetenv(wide.c_str());
+    return value == nullptr ? std::nullopt : std::optional(toUtf8(fromZent(value)));
+}
+
 #else
 
 std::vector<std::string> getArguments(int count, char** arguments) {
@@ -49,6 +60,13 @@ std::vector<std::string> getArguments(int count, char** arguments) {
 }
 
 void prepareStandardStreams() {}
+
+bool isTerminal(std::FILE* stream) { return isatty(fileno(stream)) != 0; }
+
+std::optional<std::string> getVariable(const char* name) {
+    const char* const value = std::getenv(name);
+    return value == nullptr ? std::nullopt : std::optional<std::string>(value);
+}
 
 #endif
 

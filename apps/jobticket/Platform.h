@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdio>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,6 +13,12 @@ std::vector<std::string> getArguments(int count, char** arguments);
 
 /// Makes the standard streams pass bytes on as they are, and a console show UTF-8.
 void prepareStandardStreams();
+
+/// Whether a person reads what is written there.
+bool isTerminal(std::FILE* stream);
+
+/// A variable of the environment.
+std::optional<std::string> getVariable(const char* name);
 
 /// The path that an argument names.
 std::filesystem::path toPath(const std::string& argument);

@@ -6,7 +6,10 @@ namespace jobticket {
 
 Session openSession(const Options& options) {
     const bool hasPrinter = !options.printer.model.empty() || !options.printer.language.empty();
-    const PrinterChoice printer = hasPrinter ? choosePrinter(options.printer) : PrinterChoice();
+    return openSession(options, hasPrinter ? choosePrinter(options.printer) : PrinterChoice());
+}
+
+Session openSession(const Options& options, const PrinterChoice& printer) {
     return Session(printer, {options.preferenceSet, !options.usesPrinterPreferences});
 }
 

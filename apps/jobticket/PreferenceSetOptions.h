@@ -9,5 +9,7 @@ namespace jobticket {
 /// printer, that is the one that all printers share.
 /// Raises as choosePrinter() does.
 Session openSession(const Options& options);
+/// The same for a command that goes by a printer in any case.
+Session openSession(const Options& options, const PrinterChoice& printer);
 
 } // namespace jobticket

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "ExitStatus.h"
+#include "Platform.h"
+#include "Preferences.h"
 #include "Printers.h"
 #include "Text.h"
 
@@ -11,14 +13,15 @@ namespace jobticket {
 namespace {
 
 [[noreturn]] void fail(const std::string& message) {
-    throw ProgramError(ExitStatus::usage, message);
+    throw ProgramError(ExitStatus::badValue, message);
 }
 
 Model chooseModel(const std::string& text, const std::string& option) {
     constexpr std::size_t mostListed = 6;
     if (text.empty()) {
-        fail("which printer? " + option +
-             " takes its number or name; \"jobticket models\" lists all");
+        throw ProgramError(ExitStatus::usage,
+                           "which printer? " + option +
+                               " takes its number or name; \"jobticket models\" lists all");
     }
     const std::vector<Model> models = findModels(text);
     if (models.empty()) {
@@ -65,15 +68,41 @@ std::uint32_t chooseForm(const std::string& text) {
     if (text == "stream" || text == "2") {
         return ZENT_INSTRUCTIONS_STREAM;
     }
-    fail("--form: " + inQuotes(text) + " is none of xml (1), stream (2), model (3)");
+    throw ProgramError(ExitStatus::usage,
+                       "--form: " + inQuotes(text) + " is none of xml (1), stream (2), model (3)");
+}
+
+/// What stands for a printer that isn't given: in the environment, or else in the preferences that
+/// all printers share. The language may follow after a colon: "43:ps".
+std::string getDefaultPrinter() {
+    constexpr const char* name = "JOBTICKET_PRINTER";
+    if (auto variable = platform::getVariable(name)) {
+        return *variable;
+    }
+    const Session session;
+    return Preferences(session).find(name, PreferenceType::text).value_or("");
+}
+
+/// The same options, with the default printer where none is named.
+PrinterOptions withDefault(PrinterOptions options) {
+    if (options.model.empty()) {
+        const std::string text = getDefaultPrinter();
+        const std::size_t colon = std::min(text.find(':'), text.size());
+        options.model = text.substr(0, colon);
+        if (options.language.empty() && colon < text.size()) {
+            options.language = text.substr(colon + 1);
+        }
+    }
+    return options;
 }
 
 } // namespace
 
 PrinterChoice choosePrinter(const PrinterOptions& options, const PrinterOptionNames& names) {
-    const Model model = chooseModel(options.model, names.model);
-    return {model.number, chooseLanguage(model, options.language, names.language),
-            chooseForm(options.form)};
+    const PrinterOptions chosen = names.hasDefault ? withDefault(options) : options;
+    const Model model = chooseModel(chosen.model, names.model);
+    return {model.number, chooseLanguage(model, chosen.language, names.language),
+            chooseForm(chosen.form)};
 }
 
 } // namespace jobticket

@@ -11,10 +11,12 @@ namespace jobticket {
 struct PrinterOptionNames {
     std::string model = "--model";
     std::string language = "--pdl";
+    bool hasDefault = true;
 };
 
-/// The printer that is meant. Raises ProgramError (usage), telling what there is, if no model is
-/// given, or none of that name exists, or not with that language.
+/// The printer that is meant, or the user's default one. Raises ProgramError, telling what there
+/// is: usage if there is none of both, badValue for one that doesn't exist, or not with that
+/// language.
 PrinterChoice choosePrinter(const PrinterOptions& options, const PrinterOptionNames& names = {});
 
 } // namespace jobticket

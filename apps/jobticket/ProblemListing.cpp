@@ -14,8 +14,10 @@ bool isNumber(const std::string& value) {
     return std::ranges::all_of(value, [](char c) { return c >= '0' && c <= '9'; });
 }
 
-/// Numbers that stand for something are told by name as well: "20 (Staple, top left)".
-std::string withMeaning(const std::string& value, const std::string& text) {
+/// Numbers that stand for something are told by name as well: "20 (Staple, top left)". A text that
+/// two values have tells the number itself.
+std::string withMeaning(const std::string& value, const std::string& shown) {
+    const std::string text = shown.substr(0, shown.rfind(" (" + value + ")"));
     return isNumber(value) && !text.starts_with(value) ? value + " (" + text + ")" : value;
 }
 
@@ -59,7 +61,9 @@ std::string describeValues(const Offer& offer) {
     std::string text;
     for (std::size_t index = 0; index < std::min(count, mostListed); ++index) {
         const NamedValue& value = offer.values[index];
-        text += (index == 0 ? "" : ", ") + withMeaning(value.name, value.displayName);
+        const std::string_view alias = getAlias(offer.feature, value.name);
+        text += (index == 0 ? "" : ", ") +
+                withMeaning(value.name, alias.empty() ? value.displayName : std::string(alias));
     }
     text += count > mostListed ? " and " + std::to_string(count - mostListed) + " more" : "";
     const std::string ranges = describeRanges(offer);
@@ -84,7 +88,7 @@ std::string describeAllowed(const Problem& problem) {
         return describeLimits(problem);
     }
     if (problem.rule == "embedded-spaces") {
-        return "no blanks";
+        return "no spaces";
     }
     if (problem.rule == "missing-feature") {
         return "required";

@@ -58,8 +58,8 @@ std::string listAsJson(const Move& move) {
 }
 
 ExitStatus retarget(const Options& options) {
-    const PrinterChoice from = choosePrinter(options.from, {"--from", "--from-pdl"});
-    const PrinterChoice to = choosePrinter(options.to, {"--to", "--to-pdl"});
+    const PrinterChoice from = choosePrinter(options.from, {"--from", "--from-pdl", true});
+    const PrinterChoice to = choosePrinter(options.to, {"--to", "--to-pdl", false});
     const std::string document = readFile(options.ticket);
     const Move move = compare(readDocument(document, options.ticket), from, to);
     writeResult(options.output, repairTicket(document, options.ticket, to));

@@ -1,5 +1,7 @@
 #include "ShownValue.h"
 
+#include <algorithm>
+
 #include "Text.h"
 #include "Value.h"
 #include "ocore/Attributes/AttrNames.h"
@@ -74,6 +76,14 @@ std::optional<ShownValue> showSize(const AttrNodeList& dimensions) {
     return ShownValue{textOf(width) + "x" + textOf(height), text};
 }
 
+/// Whether another value of the feature has the same text for people.
+bool hasTwin(const Feature& feature, const zent::FeatureValue& value) {
+    const std::vector<zent::FeatureValue> values = feature.getValues();
+    return std::ranges::any_of(values, [&](const zent::FeatureValue& other) {
+        return other != value && other.getDisplayString() == value.getDisplayString();
+    });
+}
+
 ShownValue showPrimitive(const AttrValue& value, const std::optional<Feature>& feature) {
     const zent::CXString text = value.getIppValue();
     ShownValue shown = bothWays(toUtf8(text));
@@ -85,6 +95,9 @@ ShownValue showPrimitive(const AttrValue& value, const std::optional<Feature>& f
                            : std::nullopt;
     if (known) {
         shown.text = toUtf8(known->getDisplayString());
+        if (hasTwin(*feature, *known)) {
+            shown.text += " (" + shown.value + ")";
+        }
     } else if (feature && value.isPrimitiveInteger()) {
         shown.text = withUnit(static_cast<const zent::PrimitiveInteger&>(value).getValue(),
                               feature->getUnit());
@@ -141,6 +154,14 @@ std::optional<std::vector<ShownValue>> showValues(const AttrValue& value,
 
 Json toJson(const ShownValue& value) {
     return Json::object().add("value", value.value).add("text", value.text);
+}
+
+Json toJson(const std::vector<ShownValue>& values) {
+    Json list = Json::array();
+    for (const ShownValue& value : values) {
+        list.add(toJson(value));
+    }
+    return list;
 }
 
 std::string joinValues(const std::vector<ShownValue>& values) {

@@ -21,6 +21,7 @@ std::optional<std::vector<ShownValue>> showValues(const zent::AttrValue& value,
                                                   const std::optional<Feature>& feature);
 
 Json toJson(const ShownValue& value);
+Json toJson(const std::vector<ShownValue>& values);
 
 /// "20,22": as "jobticket set" takes them.
 std::string joinValues(const std::vector<ShownValue>& values);

@@ -23,6 +23,25 @@ std::size_t editDistance(std::string_view a, std::string_view b) {
     return row.back();
 }
 
+/// Of the names that begin with a text, or else hold it, the shortest; empty if there is none.
+std::string findShortestWith(std::string_view text, const std::vector<std::string>& names) {
+    constexpr std::size_t leastPart = 3; // what is shorter stands in many names by chance
+    std::string found;
+    bool isStart = false;
+    for (const std::string& name : names) {
+        const bool starts = name.starts_with(text);
+        if (text.size() < (starts ? leastPart - 1 : leastPart) ||
+            name.find(text) == std::string::npos || (isStart && !starts)) {
+            continue;
+        }
+        if (found.empty() || (starts && !isStart) || name.size() < found.size()) {
+            found = name;
+            isStart = starts;
+        }
+    }
+    return found;
+}
+
 } // namespace
 
 std::string findNearest(std::string_view text, const std::vector<std::string>& names) {
@@ -30,6 +49,9 @@ std::string findNearest(std::string_view text, const std::vector<std::string>& n
     const bool isNumber = text.find_first_not_of("0123456789") == std::string_view::npos;
     if (isNumber || text.size() > longestText) {
         return {};
+    }
+    if (const std::string name = findShortestWith(text, names); !name.empty()) {
+        return name;
     }
     std::string nearest;
     std::size_t best = text.size() / 3 + 2; // a slip in every third letter, and one more

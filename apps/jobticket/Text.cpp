@@ -90,6 +90,20 @@ std::string toPrintable(std::u16string_view text) {
     return result;
 }
 
+std::string toLine(std::u16string_view message) {
+    constexpr std::size_t longest = 240;
+    const std::size_t end = message.find_last_not_of(u" \r\n\t") + 1;
+    if (end <= longest) {
+        return toPrintable(message.substr(0, end));
+    }
+    const std::size_t sentence = message.rfind(u". ", longest);
+    if (sentence != std::u16string_view::npos && sentence > longest / 4) {
+        return toPrintable(message.substr(0, sentence + 1));
+    }
+    const std::size_t word = message.rfind(u' ', longest);
+    return toPrintable(message.substr(0, std::min(word, longest))) + " ...";
+}
+
 std::string toPrintable(std::string_view text) { return toPrintable(fromUtf8(text)); }
 
 std::string shorten(const std::string& text, std::size_t length) {
@@ -106,6 +120,10 @@ std::string shorten(const std::string& text, std::size_t length) {
 }
 
 std::string inQuotes(std::string_view argument) { return '"' + toPrintable(argument) + '"'; }
+
+bool equalsIgnoringCase(std::string_view a, std::string_view b) {
+    return std::ranges::equal(a, b, {}, toLower, toLower);
+}
 
 bool containsIgnoringCase(std::string_view text, std::string_view part) {
     return std::search(text.begin(), text.end(), part.begin(), part.end(),

@@ -25,12 +25,17 @@ std::string toPrintable(std::u16string_view text);
 /// The same of UTF-8.
 std::string toPrintable(std::string_view text);
 
+/// The same of a message: what ends its lines goes, and of a longer one no word is cut.
+std::string toLine(std::u16string_view message);
+
 /// UTF-8 of at most so many UTF-16 units; what is longer ends in "...".
 std::string shorten(const std::string& text, std::size_t length);
 
 /// An argument in quotation marks for a message, printable.
 std::string inQuotes(std::string_view argument);
 
+/// Compares texts, ASCII letters without regard to case.
+bool equalsIgnoringCase(std::string_view a, std::string_view b);
 /// Whether the text holds another, ASCII letters compared without regard to case.
 bool containsIgnoringCase(std::string_view text, std::string_view part);
 

@@ -31,7 +31,7 @@ std::vector<std::string> parserMessages(const zent::CXString& message) {
         if (const std::size_t start =
                 std::min(line.find(u"Error at line"), line.find(u"Fatal error at line"));
             start != std::u16string_view::npos) {
-            lines.push_back(toPrintable(line.substr(start)));
+            lines.push_back(toLine(line.substr(start)));
         }
         rest.remove_prefix(end == std::u16string_view::npos ? rest.size() : end + 2);
     }

@@ -1,6 +1,7 @@
 #include "Value.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <optional>
@@ -44,21 +45,38 @@ std::optional<Number> parseNumber(std::string_view text) {
     return isWhole ? std::optional(number) : std::nullopt;
 }
 
-/// Hundredths from a number of millimetres with at most two decimals.
-std::optional<std::int32_t> parseMillimetres(std::string_view text) {
-    constexpr double largest = 20'000'000;
-    const std::optional<double> number = parseNumber<double>(text);
-    if (!number || !(std::abs(*number) < largest)) {
+struct LengthUnit {
+    std::string_view name;
+    double hundredths; // of a millimetre
+};
+constexpr std::array<LengthUnit, 5> lengthUnits = {{
+    {"mm", 100},
+    {"cm", 1000},
+    {"in", 2540},
+    {"\"", 2540},
+    {"pt", 2540.0 / 72},
+}};
+
+/// Takes a unit of length off the end of a text; null if there is none.
+const LengthUnit* removeUnit(std::string_view& text) {
+    const auto unit = std::ranges::find_if(
+        lengthUnits, [&](const LengthUnit& each) { return removeSuffix(text, each.name); });
+    return unit == lengthUnits.end() ? nullptr : &*unit;
+}
+
+/// Hundredths of a millimetre from a number of units.
+std::optional<std::int32_t> parseLength(std::string_view text, const LengthUnit& unit) {
+    constexpr double largest = 2'000'000'000;
+    const std::optional<double> number = parseNumber<double>(trimmed(text));
+    if (!number || !(std::abs(*number * unit.hundredths) < largest)) {
         return std::nullopt;
     }
-    return static_cast<std::int32_t>(std::lround(*number * 100));
+    return static_cast<std::int32_t>(std::lround(*number * unit.hundredths));
 }
 
 std::optional<std::int32_t> parseQuantity(const Feature& feature, std::string_view text) {
-    if (isLength(feature.getUnit()) && removeSuffix(text, "mm")) {
-        return parseMillimetres(trimmed(text));
-    }
-    return parseNumber<std::int32_t>(text);
+    const LengthUnit* const unit = isLength(feature.getUnit()) ? removeUnit(text) : nullptr;
+    return unit == nullptr ? parseNumber<std::int32_t>(text) : parseLength(text, *unit);
 }
 
 void checkLowest(const Feature& feature, std::string_view text, std::int32_t number) {
@@ -119,13 +137,30 @@ DotDensity parseResolution(const Feature& feature, std::string_view text) {
     return {pair->lower, pair->upper, isMetric ? dotsPerCentimetre : dotsPerInch};
 }
 
+/// "A4" and "SIZE_A4", "Letter" and "SIZE_8PT5x11" name the same.
 std::optional<Size> findNamedSize(std::string_view name) {
+    constexpr std::string_view prefix = "SIZE_";
     for (const zent::StockSize& size : getNamedSizes()) {
-        if (toUtf8(size.getSizeName()) == name) {
+        const std::string code = toUtf8(size.getSizeName());
+        const std::string display = toUtf8(size.getDisplayName());
+        if (equalsIgnoringCase(name, code) ||
+            equalsIgnoringCase(name, code.substr(prefix.size())) ||
+            equalsIgnoringCase(name, display.substr(0, display.find(" (")))) {
             return Size{size.getShortEdge(), size.getLongEdge()};
         }
     }
     return std::nullopt;
+}
+
+/// Without a unit the numbers are hundredths of a millimetre, and small ones are a slip.
+void checkSizeIsMeant(const Feature& feature, std::string_view text, const Range& sides) {
+    constexpr std::int32_t smallest = 1000;
+    if (std::min(sides.lower, sides.upper) < smallest) {
+        fail(feature, text,
+             "is smaller than 10 x 10 mm: without a unit the numbers are hundredths of a "
+             "millimetre; did you mean " +
+                 inQuotes(std::string(text) + "mm") + "?");
+    }
 }
 
 Size parseSize(const Feature& feature, std::string_view text) {
@@ -133,11 +168,20 @@ Size parseSize(const Feature& feature, std::string_view text) {
         return *named;
     }
     std::string_view numbers = text;
-    const std::optional<Range> pair = removeSuffix(numbers, "mm")
-                                          ? parsePair(trimmed(numbers), parseMillimetres)
+    const LengthUnit* const unit = removeUnit(numbers);
+    // A unit may stand with each side; that of the second one is there in any case.
+    const auto parseSide = [unit](std::string_view side) {
+        const LengthUnit* const own = removeUnit(side);
+        return parseLength(side, own == nullptr ? *unit : *own);
+    };
+    const std::optional<Range> pair = unit != nullptr
+                                          ? parsePair(numbers, parseSide)
                                           : parsePair(numbers, parseNumber<std::int32_t>);
     if (!pair) {
         fail(feature, text, "isn't " + describeSyntax(feature));
+    }
+    if (unit == nullptr) {
+        checkSizeIsMeant(feature, text, *pair);
     }
     checkLowest(feature, text, std::min(pair->lower, pair->upper));
     return {pair->lower, pair->upper};
@@ -161,23 +205,64 @@ std::vector<std::string> getValueNames(const Feature& feature) {
     return names;
 }
 
+struct FinishingName {
+    std::string_view number;
+    std::string_view name;
+};
+// As the Internet Printing Protocol names the numbers (PWG 5100.1). Programs of the finisher, from
+// 110 on, have numbers alone.
+constexpr std::array<FinishingName, 14> finishingNames = {{
+    {"3", "none"},
+    {"7", "bind"},
+    {"13", "booklet-maker"},
+    {"14", "jog-offset"},
+    {"20", "staple-top-left"},
+    {"21", "staple-bottom-left"},
+    {"22", "staple-top-right"},
+    {"23", "staple-bottom-right"},
+    {"28", "staple-dual-left"},
+    {"29", "staple-dual-top"},
+    {"30", "staple-dual-right"},
+    {"31", "staple-dual-bottom"},
+    {"50", "bind-left"},
+    {"52", "bind-right"},
+}};
+
+/// The names by which values may be typed, each with the value; of those without a name the value
+/// itself.
+std::vector<std::string> getTypedNames(const Feature& feature) {
+    std::vector<std::string> names;
+    for (const std::string& value : getValueNames(feature)) {
+        const std::string_view name = getAlias(feature, value);
+        names.push_back(name.empty() ? value : std::string(name));
+    }
+    return names;
+}
+
 std::string listValues(const Feature& feature, std::string_view text) {
     constexpr std::size_t mostListed = 24;
-    const std::vector<std::string> names = getValueNames(feature);
+    const std::vector<std::string> names = getTypedNames(feature);
+    const std::vector<std::string> values = getValueNames(feature);
     const std::string nearest = findNearest(text, names);
     std::string result = nearest.empty() ? "" : "; did you mean " + inQuotes(nearest) + "?";
     if (names.size() > mostListed) {
         return result + " (\"jobticket features " + feature.getName() + "\" lists the values)";
     }
     result += " (allowed:";
-    for (const std::string& name : names) {
-        result += (name == names.front() ? " " : ", ") + name;
+    for (std::size_t index = 0; index < names.size(); ++index) {
+        result += (index == 0 ? " " : ", ") + names[index];
+        result += names[index] == values[index] ? "" : " or " + values[index];
     }
     return result + ")";
 }
 
 std::u16string parseKnownValue(const Feature& feature, std::string_view text) {
-    std::u16string units = fromUtf8(text);
+    const auto named = std::ranges::find_if(finishingNames, [&](const FinishingName& row) {
+        return equalsIgnoringCase(row.name, text);
+    });
+    const bool isNamed =
+        feature.getNumber() == zent::feature::finishings && named != finishingNames.end();
+    std::u16string units = fromUtf8(isNamed ? named->number : text);
     if (!zent::FeatureValue::isKnownValue(feature.getNumber(), zent::CXString(units))) {
         fail(feature, text, "is none of its values" + listValues(feature, text));
     }
@@ -246,6 +331,14 @@ std::vector<Value> parseValues(const Feature& feature, std::string_view text) {
     }
 }
 
+std::string_view getAlias(const Feature& feature, std::string_view value) {
+    if (feature.getNumber() != zent::feature::finishings) {
+        return {};
+    }
+    const auto row = std::ranges::find(finishingNames, value, &FinishingName::number);
+    return row == finishingNames.end() ? std::string_view() : row->name;
+}
+
 std::vector<zent::StockSize> getNamedSizes() {
     std::vector<zent::StockSize> sizes;
     for (std::uint32_t code = zent::StockSize::codeUnspecified + 1;
@@ -301,14 +394,16 @@ std::string describeSyntax(const Feature& feature) {
         return "a text of your own";
     case ValueKind::number:
         return isLength(feature.getUnit())
-                   ? "a number of hundredths of a millimetre (500), or of millimetres (5mm)"
+                   ? "a length: 500 (hundredths of a millimetre), 5mm, 0.5cm, 0.2in or 14pt"
                    : "a number";
     case ValueKind::range:
         return "a range of numbers, as 3-7 or 3";
     case ValueKind::resolution:
         return "a resolution, as 600dpi, 600x1200dpi or 240dpcm";
     case ValueKind::size:
-        return "a size, as 21000x29700 (hundredths of a millimetre), 210x297mm or SIZE_A4";
+        return "a size, as A4, Letter, 210x297mm, 8.5x11in, 595x842pt or 21000x29700 (hundredths "
+               "of a "
+               "millimetre)";
     case ValueKind::collection:
         break;
     }

@@ -39,6 +39,10 @@ constexpr std::int32_t dotsPerCentimetre = 4;
 /// ProgramError (badValue), telling what is allowed.
 std::vector<Value> parseValues(const Feature& feature, std::string_view text);
 
+/// The name by which a value may be typed in place of a number: "staple-top-left" for the finishing
+/// 20. Empty if it has none.
+std::string_view getAlias(const Feature& feature, std::string_view value);
+
 /// The media sizes that have a name.
 std::vector<zent::StockSize> getNamedSizes();
 

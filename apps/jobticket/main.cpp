@@ -33,7 +33,7 @@ int main(int count, char** arguments) {
         return jobticket::fail(error.getStatus(), error.what());
     } catch (const zent::TarvoException& exception) {
         return jobticket::fail(ExitStatus::libraryFailure,
-                               jobticket::toPrintable(exception.getMessage()));
+                               jobticket::toLine(exception.getMessage()));
     } catch (const std::exception& exception) {
         return jobticket::fail(ExitStatus::libraryFailure, exception.what());
     }

@@ -160,6 +160,15 @@ class Editing(InFolder):
             (["sides=two-sided-short-edge"], {"sides": "two-sided-short-edge"}),
             (["media-size=297x210mm"], {"media-size": "21000x29700"}),
             (["media-size=SIZE_17x11"], {"media-size": "27900x43200"}),
+            (["media-size=letter"], {"media-size": "21600x27900"}),
+            (["media-size=sra3"], {"media-size": "32000x45000"}),
+            (["media-size=8.5inx11in"], {"media-size": "21590x27940"}),
+            (["media-size=21 x 29.7 cm"], {"media-size": "21000x29700"}),
+            (['media-size=612x792pt'], {"media-size": "21590x27940"}),
+            (["x-side1-image-shift=-0.5cm", 'y-side1-image-shift=0.25"', "y-side2-image-shift=72pt"],
+             {"x-side1-image-shift": "-500", "y-side1-image-shift": "635",
+              "y-side2-image-shift": "2540"}),
+            (["finishings=Staple-Top-Left,22"], {"finishings": "20,22"}),
             (["printer-resolution=600dpi"], {"printer-resolution": "600x600dpi"}),
             (["printer-resolution=240x120dpcm"], {"printer-resolution": "240x120dpcm"}),
             (["finishings=20,22"], {"finishings": "20,22"}),
@@ -284,6 +293,24 @@ class Printers(InFolder):
                                    "ps=Tarvo Lumaset 540 PS3 C3", "pcl=Tarvo Lumaset 540 PCL5e"])
         self.assertEqual(len(run("models", "chromaset").splitlines()), 1 + 9)
         self.assertIn(b"color-pcl  Tarvo Chromaset 900 PCL5c", run("models", "43"))
+        listed = json.loads(run("models", "4", "--json"))["models"]
+        self.assertEqual(listed, [{"model": 4, "name": "Tarvo Lumaset 540", "family": 17,
+                                   "form": "stream", "drivers": [
+                                       {"pdl": "ps", "name": "Tarvo Lumaset 540 PS3 C3"},
+                                       {"pdl": "pcl", "name": "Tarvo Lumaset 540 PCL5e"}]}])
+
+    def test_there_may_be_a_default_printer(self):
+        self.enterContext(unittest.mock.patch.dict(os.environ, XDG_CONFIG_HOME=str(self.folder)))
+        if not is_windows:
+            run("preferences", "set", "JOBTICKET_PRINTER", "43:ps")
+            self.assertIn(b"<opi-image-insertion", run("new"))
+        with unittest.mock.patch.dict(os.environ, JOBTICKET_PRINTER="lumaset 540"):
+            self.assertEqual(run("new"), run("new", "-m", "4"))
+            self.assertEqual(run("new", "-p", "ps"), run("new", "-m", "4", "-p", "ps"))
+            self.assertEqual(run("new", "-m", "1"), run("new", "-m", "1", "-p", "pcl"))
+            run("retarget", REPORT, "--from", "1", status=USAGE)
+        with unittest.mock.patch.dict(os.environ, JOBTICKET_PRINTER="43:x"):
+            run("new", status=BAD_VALUE)
 
     def test_a_new_ticket_holds_the_defaults_of_its_printer(self):
         common = raw(run("new", "--model", "16"))
@@ -357,8 +384,8 @@ class Checking(InFolder):
             "media-color": ["a b -> white",
                             "allowed: white, pink, yellow, blue, green, buff, goldenrod"],
             "finishings[1]": ["50 (Bind, left) -> 3 (No finishing)",
-                              "allowed: 3 (No finishing), 20 (Staple, top left), 21 (Staple, "
-                              "bottom left), 22 (Staple, top right), 23 (Staple, bottom right)"],
+                              "allowed: 3 (none), 20 (staple-top-left), 21 (staple-bottom-left), "
+                              "22 (staple-top-right), 23 (staple-bottom-right)"],
             "job-name": [f"{'ö' * 44} -> {'ö' * 40}", "length: 0-40"],
             "page-overrides[0].media-type": ["my own -> removed", "allowed: stationery"],
             "save-disposition": ["(not set) -> none", "required"]})
@@ -707,10 +734,10 @@ class Failures(InFolder):
             (["models", "zzz"], b"", BAD_VALUE, "zzz"),
             (["capabilities", "zzz", "-m", "1"], b"", BAD_VALUE, "Tarvo Lumaset 510"),
             (["new"], b"", USAGE, "which printer"),
-            (["new", "--model", "52"], b"", USAGE, '"52"'),
-            (["new", "--model", "lumaset 61"], b"", USAGE, "may be Tarvo Lumaset 610, Tarvo"),
-            (["new", "--model", "1", "--pdl", "3"], b"", USAGE, "it has ps, pcl"),
-            (["new", "--model", "1", "--pdl", "x"], b"", USAGE, "color-pcl (3)"),
+            (["new", "--model", "52"], b"", BAD_VALUE, '"52"'),
+            (["new", "--model", "lumaset 61"], b"", BAD_VALUE, "may be Tarvo Lumaset 610, Tarvo"),
+            (["new", "--model", "1", "--pdl", "3"], b"", BAD_VALUE, "it has ps, pcl"),
+            (["new", "--model", "1", "--pdl", "x"], b"", BAD_VALUE, "color-pcl (3)"),
             (["new", "--model", "1", "--form", "0"], b"", USAGE, "stream (2)"),
             (["set", REPORT, "copies=0"], b"", BAD_VALUE, "lowest is 1"),
             (["set", REPORT, "copies=2.5"], b"", BAD_VALUE, "isn't a number"),
@@ -723,8 +750,13 @@ class Failures(InFolder):
             (["set", REPORT, "page-ranges=5-3"], b"", BAD_VALUE, "ends before"),
             (["set", REPORT, "page-ranges=0-3"], b"", BAD_VALUE, "lowest is 1"),
             (["set", REPORT, "printer-resolution=600"], b"", BAD_VALUE, "600x1200dpi"),
-            (["set", REPORT, "media-size=A4"], b"", BAD_VALUE, "SIZE_A4"),
-            (["set", REPORT, "media-size=0x0"], b"", BAD_VALUE, "lowest is 1"),
+            (["set", REPORT, "media-size=A9"], b"", BAD_VALUE, "8.5x11in"),
+            (["set", REPORT, "media-size=210x297"], b"", BAD_VALUE, '"210x297mm"'),
+            (["set", REPORT, "media-size=0x0mm"], b"", BAD_VALUE, "lowest is 1"),
+            (["set", REPORT, "x-image-shift=5ft"], b"", BAD_VALUE, "0.2in"),
+            (["set", REPORT, "finishings=staple-top"], b"", BAD_VALUE,
+             'did you mean "staple-top-left"? (allowed: none or 3, bind or 7'),
+            (["set", REPORT, "collate=1"], b"", BAD_VALUE, 'did you mean "sheet-collate"'),
             (["set", REPORT, "x-image-shift=999999999mm"], b"", BAD_VALUE, "x-image-shift"),
             (["set", REPORT, "job-name=a\x01b"], b"", BAD_VALUE, "a\\x01b"),
             (["set", REPORT, "media-col=blue"], b"", BAD_VALUE, "media-key=..."),
@@ -746,7 +778,7 @@ class Failures(InFolder):
             (["check", "-", "-m", "1"], b"no XML", INVALID, "line 1, column 1"),
             (["check", REPORT, "-m", "1", "-o", "x"], b"", USAGE, "--fix"),
             (["retarget", REPORT, "--from", "1"], b"", USAGE, "--to takes"),
-            (["retarget", REPORT, "--from", "1", "--to", "1", "--to-pdl", "3"], b"", USAGE,
+            (["retarget", REPORT, "--from", "1", "--to", "1", "--to-pdl", "3"], b"", BAD_VALUE,
              "--to-pdl: "),
             (["check", REPORT, "-m", "1", "--json", "--dialog"], b"", USAGE, "--json"),
             (["notes", REPORT], b"", USAGE, "which printer"),
@@ -789,6 +821,11 @@ class Diff(InFolder):
         other = self.folder / "other.xml"
         run("set", "-", "sides=one-sided", "copies=2", "-o", other, data=EMPTY)
         self.assertEqual(run("diff", "-", other, data=one), b"")
+        run("unset", other, "copies", "-o", other)
+        listed = json.loads(run("diff", "-", other, "--json", data=one, status=DIFFERENT))
+        self.assertEqual(listed, {"differences": [
+            {"path": "copies", "first": [{"value": "2", "text": "2"}]}]})
+        self.assertEqual(run("diff", "-q", "-", other, data=one, status=DIFFERENT), b"")
 
 
 class Looking(InFolder):
@@ -807,6 +844,8 @@ class Looking(InFolder):
         ]:
             self.assertEqual(lines.get(line), indent, line)
         self.assertEqual(run("show", "-", data=EMPTY), b"The ticket is empty.\n")
+        twins = run("set", "-", "separator-sheets-type=none", data=EMPTY)
+        self.assertIn(b"Slip sheet mode (none)\n", run("show", "-", data=twins))
         self.assertEqual(run("show", "--raw", "-", data=EMPTY), b"")
 
     def test_show_lists_what_is_no_feature(self):
@@ -833,6 +872,12 @@ class Looking(InFolder):
         self.assertEqual({line.split()[0] for line in run("features", "HALFTONE").splitlines()},
                          {b"halftone-graphics", b"halftone-images", b"halftone-text"})
         self.assertIn(b"two-sided-long-edge   Two-sided, long edge", run("features", "sides"))
+        self.assertEqual([line.split()[0] for line in run("features", "staple-dual").splitlines()[:2]],
+                         [b"Feature", b"Name"])
+        listed = json.loads(run("features", "sides", "--json"))["features"]
+        self.assertEqual([(row["number"], row["type"], row["set"]) for row in listed],
+                         [(4, "keyword", False)])
+        self.assertIn({"value": "one-sided", "text": "One-sided"}, listed[0]["values"])
 
 
 class Documents(InFolder):
