@@ -28,16 +28,21 @@ std::optional<FeatureSettings> readTicket(const ByteBuffer& data, uint32_t forma
     }
 }
 
-void generateXml(ZENTSession& session, ByteBuffer& target) {
+/// A document goes behind what the cache holds, and what a failure leaves of it has the key too.
+void cacheXml(ZENTSession& session, CachedOutput& cache) {
     const AttrNodeList& list = *session.settings().getAttrNodeList();
     OrdoTranslator::requireReadable(list);
-    OrdoTranslator().anlToBuffer(list, &target);
+    cache.setKeyFromNumber(ZENT_FORMAT_XML);
+    OrdoTranslator().anlToBuffer(list, &cache.buffer());
 }
 
-void generateState(ZENTSession& session, ByteBuffer& target) {
+/// A blob takes the place of what the cache holds, and only once it is there as a whole.
+void cacheState(ZENTSession& session, CachedOutput& cache) {
     PersistentSettings& state = session.currentState();
     session.updateUserContext(state);
-    target = state.getBuffer();
+    ByteBuffer blob = state.getBuffer();
+    cache.setKeyFromNumber(ZENT_FORMAT_STATE);
+    cache.buffer().swap(blob);
 }
 
 } // namespace
@@ -76,9 +81,8 @@ ZentResult ZENT_CALL fnExportJobTicket(ZentSessionType session, void* buffer, ui
         uint32_t& bytes = required(size);
         CachedOutput& cache = opened.exportCache();
         if (!cache.isFor(format)) {
-            cache.setKeyFromNumber(format);
-            const auto generate = format == ZENT_FORMAT_XML ? generateXml : generateState;
-            generate(opened, cache.buffer());
+            const auto generate = format == ZENT_FORMAT_XML ? cacheXml : cacheState;
+            generate(opened, cache);
         }
         return cache.handOut(buffer, bytes);
     });

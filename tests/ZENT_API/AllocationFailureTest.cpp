@@ -10,6 +10,7 @@
 #include "ocore/CurrentWindowSystem.h"
 #include "ocore/UserMessage.h"
 #include "support/AllocationFailure.h"
+#include "support/Rows.h"
 #include "support/ScratchPreferences.h"
 #include "support/TestFile.h"
 #include "zent27.h"
@@ -19,7 +20,8 @@ namespace {
 
 constexpr std::uint32_t manyAllocations = 200000;
 
-/// All that the calls need, made beforehand, so that only their own allocations count.
+/// All that the calls need, made beforehand, so that only their own allocations count. The ticket
+/// has problems, so that there is something to repair.
 struct Job {
     ZentSessionType s = nullptr;
     TarvoJtSettingsType t = nullptr;
@@ -34,14 +36,24 @@ struct Job {
     Job() {
         EXPECT_EQ(open(&s), ZENT_OK);
         EXPECT_EQ(fnGetTarvoJtSettingsFromSession(s, &t), ZENT_OK);
-        blob = xml;
-        EXPECT_EQ(import(blob, ZENT_FORMAT_XML, ZENT_APPLY_SILENT_KEEP), ZENT_OK);
+        renew();
         EXPECT_EQ(exportAs(ZENT_FORMAT_STATE), ZENT_OK);
-        blob.assign(output, 0, size);
+        blob = fetched();
+        EXPECT_EQ(exportAs(ZENT_FORMAT_XML), ZENT_OK);
+        xml = fetched();
     }
     ~Job() { EXPECT_EQ(fnCloseSession(&s), ZENT_OK); }
     Job(const Job&) = delete;
     Job& operator=(const Job&) = delete;
+
+    /// Brings the session back to the ticket that it began with. No result waits to be fetched
+    /// then.
+    void renew() {
+        ASSERT_EQ(import(xml, ZENT_FORMAT_XML, ZENT_APPLY_SILENT_KEEP), ZENT_OK);
+        ASSERT_EQ(fnSetNumberValue(s, t, ZT("copies"), 70000, 0), ZENT_OK);
+    }
+    /// What the last call handed out.
+    std::string fetched() const { return output.substr(0, size); }
 
     static ZentResult open(ZentSessionType* opened) {
         return fnOpenSession(27, 6, 2, ZENT_INSTRUCTIONS_STREAM, 1, nullptr, 1, opened);
@@ -63,6 +75,7 @@ struct Job {
 struct Call {
     const char* name;
     std::function<ZentResult(Job&)> call;
+    bool handsOut = false; // bytes, the same ones each time
 };
 
 std::vector<Call> allCalls() {
@@ -82,29 +95,22 @@ std::vector<Call> allCalls() {
         {"import", [](Job& j) { return j.import(j.xml, ZENT_FORMAT_XML, 1); }},
         {"import, reported", [](Job& j) { return j.import(j.xml, ZENT_FORMAT_XML, 5); }},
         {"import of a blob", [](Job& j) { return j.import(j.blob, ZENT_FORMAT_STATE, 2); }},
-        {"export",
-         [](Job& j) {
-             fnSetNumberValue(j.s, j.t, ZT("copies"), 2, 0);
-             return j.exportAs(ZENT_FORMAT_XML);
-         }},
-        {"export of a blob",
-         [](Job& j) {
-             fnSetNumberValue(j.s, j.t, ZT("copies"), 2, 0);
-             return j.exportAs(ZENT_FORMAT_STATE);
-         }},
+        {"export", [](Job& j) { return j.exportAs(ZENT_FORMAT_XML); }, true},
+        {"export of a blob", [](Job& j) { return j.exportAs(ZENT_FORMAT_STATE); }, true},
         {"apply",
          [](Job& j) {
              return fnApplyPrinterCapabilitiesToSettings(j.s, 1, nullptr, ZT("Problems"), &j.flag,
                                                          &j.flag2);
          }},
-        {"instructions", [](Job& j) { return j.instructions("document"); }},
+        {"instructions", [](Job& j) { return j.instructions("document"); }, true},
         {"user context",
          [](Job& j) {
              j.size = static_cast<std::uint32_t>(j.output.size());
              return fnUpdateUserContextInformation(j.s, j.blob.data(),
                                                    static_cast<std::uint32_t>(j.blob.size()),
                                                    j.output.data(), &j.size);
-         }},
+         },
+         true},
         {"dialog", [](Job& j) { return fnInvokeTarvoJobTicketDialog(j.s, 0, nullptr, 0); }},
         {"get settings", [](Job& j) { return fnGetTarvoJtSettingsFromSession(j.s, &j.t); }},
         {"is empty", [](Job& j) { return fnIsEmpty(j.s, j.t, &j.flag); }},
@@ -202,15 +208,24 @@ bool isRightResult(ZentResult result) {
     }
 }
 
+/// Each round begins with the same session, or what one leaves behind could spare the next its
+/// work.
 void exhaust(Job& job, const Call& call) {
     SCOPED_TRACE(call.name);
+    job.renew();
+    call.call(job);
+    const std::string handedOut = job.fetched();
     for (std::uint32_t before = 0; before < manyAllocations; ++before) {
+        job.renew();
         ZentResult result = ZENT_OK;
         bool hasHappened = false;
         {
             const AllocationFailure failure(before);
             result = call.call(job);
             hasHappened = failure.hasHappened();
+        }
+        if (call.handsOut && result == ZENT_OK) {
+            EXPECT_EQ(job.fetched(), handedOut) << "at allocation " << before;
         }
         if (!hasHappened) {
             EXPECT_TRUE(result == ZENT_OK || result == ZENT_ERR_DIALOG_KIND) << result;
@@ -237,6 +252,26 @@ TEST(AllocationFailureTest, EveryCallReportsItAndTheLibraryGoesOn) {
         }
     }
     UserMessage::setPresenter(nullptr);
+}
+
+TEST(AllocationFailureTest, AFailedStateBlobLeavesTheDocumentThatWaits) {
+    const ScratchPreferences scratch;
+    Job job;
+    for (const auto& [next, expected] : Rows<std::uint32_t, const std::string&>{
+             {ZENT_FORMAT_XML, job.xml}, {ZENT_FORMAT_STATE, job.blob}}) {
+        bool hasHappened = true;
+        for (std::uint32_t before = 0; hasHappened; ++before) {
+            job.renew();
+            EXPECT_EQ(fnExportJobTicket(job.s, nullptr, &job.size, ZENT_FORMAT_XML), ZENT_OK);
+            {
+                const AllocationFailure failure(before);
+                job.exportAs(ZENT_FORMAT_STATE);
+                hasHappened = failure.hasHappened();
+            }
+            EXPECT_EQ(job.exportAs(next), ZENT_OK);
+            EXPECT_EQ(job.fetched(), expected) << "at allocation " << before;
+        }
+    }
 }
 
 } // namespace
