@@ -175,7 +175,8 @@ enum ZentInstructionForm {
  *                          gives ZENT_ERR_INTERNAL_INDEX
  *   pdl                    a ZentPageLanguage. One that the model doesn't have is noticed only with
  *                          the preferences of the printer's driver: ZENT_ERR_INTERNAL_INDEX
- *   instructionForm        a ZentInstructionForm; any other number counts as the stream
+ *   instructionForm        a ZentInstructionForm. Any other number gives the stream, and goes by
+ *                          what the printer can do in the XML form: don't use one
  *   silent                 not 0: no failure is shown to the user
  *   preferencesName        the name of the preference set; with null or an empty name the next
  *                          argument decides

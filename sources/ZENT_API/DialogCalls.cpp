@@ -1,3 +1,5 @@
+#include <memory>
+
 #include "ZENT_API/CallFrame.h"
 #include "ocore/CurrentWindowSystem.h"
 #include "ocore/Stock/StockInformation.h"
@@ -10,17 +12,25 @@ namespace {
 /// Dialogs that work on the ticket as a whole have their stocks counted.
 constexpr bool countsStocks = true;
 
-ZentResult runJobNotes(ZENTSession& session, platform::WindowHandle owner) {
+/// What the components of a dialog share, and what it points to.
+struct DialogContext {
+    explicit DialogContext(ZENTSession& session)
+        : stocks(session), printerStocks(session.getCapabilities().getPrinterStocks()),
+          configuration{.capabilities = &session.getCapabilities(),
+                        .stockList = printerStocks.get(),
+                        .preferences = *session.getUserPreferences(),
+                        .stockInformation = &stocks} {}
+
+    StockInformation stocks;
+    std::unique_ptr<StockList> printerStocks;
+    UIConfiguration configuration;
+};
+
+ZentResult runJobNotes(ZENTSession& session, platform::WindowHandle owner,
+                       UIConfiguration& configuration) {
     if (findWindowSystem() == nullptr) {
         return ZENT_ERR_DIALOG_START;
     }
-    const Capabilities& capabilities = session.getCapabilities();
-    StockInformation stocks(session);
-    const std::unique_ptr<StockList> printerStocks = capabilities.getPrinterStocks();
-    UIConfiguration configuration{.capabilities = &capabilities,
-                                  .stockList = printerStocks.get(),
-                                  .preferences = *session.getUserPreferences(),
-                                  .stockInformation = &stocks};
     JobNotesUIDialog dialog(configuration, countsStocks, ConfigurableUIComponent::jobLevel);
     if (!dialog.configure()) {
         return ZENT_ERR_DIALOG_START;
@@ -35,18 +45,20 @@ ZentResult runJobNotes(ZENTSession& session, platform::WindowHandle owner) {
 
 extern "C" {
 
-// Of the known kinds that there is no dialog for, each refuses to start.
+// The context comes before the kind: what fails in it is told for any kind. Of the known kinds that
+// there is no dialog for, each refuses to start.
 ZentResult ZENT_CALL fnInvokeTarvoJobTicketDialog(ZentSessionType session, uint32_t kind,
                                                   ZentWindow owner, uint32_t /*reserved*/) {
     return inSession(session, u"ZENT::fnInvokeTarvoJobTicketDialog()",
                      [&](ZENTSession& opened) -> ZentResult {
+                         DialogContext context(opened);
                          if (kind < ZENT_DIALOG_JOB_TICKET || kind > ZENT_DIALOG_JOB_NOTES) {
                              return ZENT_ERR_DIALOG_KIND;
                          }
                          if (kind != ZENT_DIALOG_JOB_NOTES) {
                              return ZENT_ERR_DIALOG_START;
                          }
-                         return runJobNotes(opened, owner);
+                         return runJobNotes(opened, owner, context.configuration);
                      });
 }
 

@@ -52,7 +52,8 @@ struct FileStamp {
 FileStamp getFileStamp(const CXString& path);
 
 /// The full path of the file that this code was loaded from: the library, or the program that the
-/// library's objects are linked into. Empty if the system can't tell; cut to 260 units.
+/// library's objects are linked into. Empty if the system can't tell. Windows cuts it to
+/// 260 units.
 CXString getModulePath();
 
 /// The folder of printer drivers, with a trailing separator: where driver files lie when no

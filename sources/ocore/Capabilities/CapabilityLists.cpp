@@ -16,6 +16,7 @@ void addFeatureValue(std::vector<FeatureValue>& values, const _FI& feature,
     try {
         values.push_back(FeatureValue::fromAttrValue(feature, member));
     } catch (const std::exception&) {
+        trace::output(u"Capabilities::getFeatureCapabilities(list of values)");
         trace::output(CXString::Format(
             u"Tried to create FeatureValue with value '%s' & syntax '%s' for feature '%s'. This is "
             u"not a fatal error. The value is being ignored and it is safe to continue.\r\n",
@@ -51,6 +52,9 @@ std::vector<_FI> Capabilities::getMemberFeatures(const _FI& feature) const {
         if (_FI::isFeatureName(name)) {
             features.emplace_back(name);
         } else {
+            trace::output(
+                CXString::Format(u"Capabilities::getFeatureCapabilities(list of features for '%s')",
+                                 feature.getName()));
             trace::output(CXString::Format(
                 u"Tried to create a FeatureID for the '%s' feature name, but it is unknown. This "
                 u"is not a fatal error. The value is being ignored and it is safe to continue.\r\n",

@@ -137,9 +137,8 @@ FileStamp getFileStamp(const CXString& path) {
 }
 
 CXString getModulePath() {
-    constexpr std::int32_t longestPath = 260;
     const std::string& path = loadedFrom();
-    return CXString(path.data(), path.size()).left(longestPath);
+    return {path.data(), path.size()};
 }
 
 CXString getDriverDirectory(const CXString& /*printerName*/) {

@@ -2,10 +2,12 @@
 
 #include <string>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "resources/UseResourceLibrary.h"
 #include "support/Raised.h"
+#include "support/TraceCapture.h"
 
 namespace zent::test {
 namespace {
@@ -66,10 +68,16 @@ TEST_F(CapabilitiesTest, ValuesAreSortedAndUnknownOnesLeftOut) {
         of(setOf("sides-supported", {"two-sided-long-edge", "both", "one-sided"}) +
            setOf("imposition-template-supported", {"none"}));
     std::vector<std::int32_t> numbers;
+    const TraceCapture trace;
     for (const FeatureValue& value :
          capabilities.getFeatureCapabilities(_FI(feature::sides), true)) {
         numbers.push_back(value.getValue());
     }
+    EXPECT_THAT(TraceCapture::text(),
+                testing::HasSubstr("Capabilities::getFeatureCapabilities(list of values)Tried to "
+                                   "create FeatureValue with value 'both' & syntax 'keyword' for "
+                                   "feature 'sides'. This is not a fatal error. The value is being "
+                                   "ignored and it is safe to continue.\r\n"));
     EXPECT_EQ(numbers, (std::vector<std::int32_t>{FeatureValue::unspecified, value::oneSided, 5}));
     // A feature of the class that never offers the default has its values alone.
     EXPECT_EQ(capabilities.getFeatureCapabilities(_FI(feature::impositionTemplate), true).size(),
@@ -80,7 +88,8 @@ TEST_F(CapabilitiesTest, FeaturesAreSupportedByNameByFlagOrThroughTheirParents) 
     const Capabilities capabilities =
         of(setOf("job-creation-attributes-supported", {"copies", "media-col", "separator-sheets"}) +
            setOf("media-col-supported", {"media-color", "media-size"}) +
-           setOf("separator-sheets-supported", {"separator-sheets-type", "media", "media-col"}) +
+           setOf("separator-sheets-supported",
+                 {"separator-sheets-type", "media", "media-col", "no-such"}) +
            "<job-phone-number-supported syntax='boolean'>true</job-phone-number-supported>");
     for (const FeatureEnum supported :
          {feature::copies, feature::jobPhoneNumber, feature::mediaColor, feature::mediaSize,
@@ -91,9 +100,16 @@ TEST_F(CapabilitiesTest, FeaturesAreSupportedByNameByFlagOrThroughTheirParents) 
         EXPECT_FALSE(capabilities.isFeatureSupported(_FI(lacking))) << lacking;
     }
     EXPECT_TRUE(capabilities.isUserDefinable(_FI(feature::mediaKey)));
+    const TraceCapture trace;
     const std::vector<_FI> members = capabilities.getMemberFeatures(_FI(feature::separatorSheets));
     ASSERT_EQ(members.size(), 1U);
     EXPECT_EQ(members[0].getName(), u"separator-sheets-type");
+    EXPECT_THAT(
+        TraceCapture::text(),
+        testing::HasSubstr(
+            "Capabilities::getFeatureCapabilities(list of features for 'separator-sheets')Tried "
+            "to create a FeatureID for the 'no-such' feature name, but it is unknown. This is not "
+            "a fatal error. The value is being ignored and it is safe to continue.\r\n"));
 }
 
 TEST_F(CapabilitiesTest, WhatTheLanguageLacksIsGoneAtAllDepths) {

@@ -3,31 +3,14 @@
 #include <gtest/gtest.h>
 
 #include "ocore/Capabilities/PrivateCapabilityCheck.h"
-#include "ocore/Trace.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/ListCapabilities.h"
 #include "support/ProblemText.h"
 #include "support/Rows.h"
+#include "support/TraceCapture.h"
 
 namespace zent::test {
 namespace {
-
-/// Gathers what is traced, as long as it lives.
-class TraceCapture {
-public:
-    TraceCapture() {
-        s_text.clear();
-        trace::setOutput(&append);
-    }
-    ~TraceCapture() { trace::setOutput(nullptr); }
-    TraceCapture(const TraceCapture&) = delete;
-    TraceCapture& operator=(const TraceCapture&) = delete;
-    static std::string text() { return s_text.toNarrow(); }
-
-private:
-    static void append(std::u16string_view text) noexcept { s_text += text; }
-    inline static CXString s_text;
-};
 
 class SettingsValidatorTest : public testing::Test {
 protected:
