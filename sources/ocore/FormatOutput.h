@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "ocore/CutText.h"
+
 namespace zent {
 
 /// Collects a text that is being formatted, up to a limit; what goes beyond is left out, so that
@@ -15,7 +17,7 @@ public:
 
     FormatOutput() { m_text.reserve(120); } // most texts
 
-    void append(std::u16string_view text) { m_text += text.substr(0, room()); }
+    void append(std::u16string_view text) { m_text += cutText(text, room()); }
     /// ASCII.
     void append(std::string_view text) {
         m_text.append(text.begin(),

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <string>
 
+#include "ocore/CutText.h"
 #include "ocore/FloatText.h"
 #include "platform/CodePage.h"
 
@@ -244,7 +245,7 @@ bool FormatSpecifier::formatText(const FormatArgument& argument, FormatOutput& o
     } else {
         return false;
     }
-    text = text.substr(0, m_precision.value_or(text.size()));
+    text = cutText(text, m_precision.value_or(text.size()));
     appendField(Field<char16_t>{{}, 0, text}, false, output);
     return true;
 }

@@ -46,6 +46,8 @@ TEST(Format, TakesTextsOfEveryKind) {
          u"\u20ACbcd|  e|f  |"},
         {formatText("%s of %S is %d%%\r\n", text, "narrow", 5), u"staple of narrow is 5%\r\n"},
         {format(u"\U0001F5A8 %s", u"\u4E2D"), u"\U0001F5A8 \u4E2D"},
+        {format(u"%.2s|%.1s|%.3s|%.1s", u"a\U0001F5A8", u"\U0001F5A8", u"a\U0001F5A8b", u"\xD83Dx"),
+         u"a||a\U0001F5A8|\xD83D"}, // a pair isn't cut in half
     });
 }
 

@@ -6,20 +6,9 @@
 #include "ocore/Attributes/IppList.h"
 #include "ocore/Attributes/PrimitiveInteger.h"
 #include "ocore/Attributes/PrimitiveString.h"
+#include "ocore/CutText.h"
 
 namespace zent {
-
-namespace {
-
-/// The text cut to a length, without half a character at its end.
-CXString cutText(const CXString& text, std::int32_t length) {
-    const CXString cut = text.left(length);
-    const bool isSplit =
-        cut.length() < text.length() && !cut.isEmpty() && (cut.view().back() & 0xFC00) == 0xD800;
-    return isSplit ? cut.left(cut.length() - 1) : cut;
-}
-
-} // namespace
 
 // Not std::clamp: the limits come from a document, and may be the wrong way round.
 std::int32_t FailedRangeCapability::moveInside(std::int32_t number) const {
@@ -49,7 +38,7 @@ std::unique_ptr<AttrValue> FailedRangeCapability::makeText(const AttrValue& valu
     if (text.getValue().length() <= m_upper && text.getValue().length() < m_lower) {
         return nullptr; // nobody knows what to add
     }
-    text.setValue(cutText(text.getValue(), m_upper));
+    text.setValue(cutText(text.getValue(), static_cast<std::size_t>(std::max(m_upper, 0))));
     return copy;
 }
 

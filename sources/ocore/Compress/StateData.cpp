@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "ocore/CutText.h"
+
 namespace zent {
 
 namespace {
@@ -66,8 +68,7 @@ UserContext StateData::getUserContext() const {
 }
 
 void StateData::setUserContext(const UserContext& context) {
-    const CXString name = context.logonName.left(maximumNameLength);
-    const std::u16string_view units = name.view();
+    const std::u16string_view units = cutText(context.logonName, maximumNameLength);
     // The units behind the terminator are cleared, so that nothing of a longer name stays behind.
     for (std::size_t i = 0; i < nameUnits; ++i) {
         write(nameOffset + 2 * i, 2, i < units.size() ? units[i] : 0);

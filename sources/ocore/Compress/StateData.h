@@ -18,7 +18,7 @@ struct UserContext {
 class StateData {
 public:
     static constexpr std::uint32_t size = 522;
-    static constexpr std::int32_t maximumNameLength = 255;
+    static constexpr std::size_t maximumNameLength = 255;
 
     /// New: the size, the tag 1, no name, no flag.
     StateData();

@@ -2,6 +2,7 @@
 
 #include "ocore/AnlXlate/CreateStreamTranslator.h"
 #include "ocore/Compress/PersistentSettings.h"
+#include "ocore/CutText.h"
 #include "ocore/User.h"
 
 namespace zent {
@@ -68,8 +69,8 @@ void Printer::applyUserContext(FeatureSettings& settings, const UserContext& con
 /// An empty text changes nothing.
 void Printer::setCut(FeatureSettings& settings, const _FI& feature, const CXString& text) {
     if (!text.isEmpty()) {
-        const auto limit = static_cast<std::int32_t>(getCapabilities().getUpperLimit(feature));
-        settings.setString(feature, text.left(limit));
+        const std::uint32_t limit = getCapabilities().getUpperLimit(feature);
+        settings.setString(feature, cutText(text, limit));
     }
 }
 

@@ -88,9 +88,12 @@ TEST_F(PersistentSettingsTest, ATicketTravelsWithItsUser) {
     EXPECT_TRUE(user.useLogonName);
     EXPECT_EQ(listIn(settings.getBuffer()), "copies=3 media-col{media-color=blue}");
 
-    const std::u16string longName(300, u'n');
+    std::u16string longName(300, u'n');
     settings.setUserContext({CXString(std::u16string_view(longName)), true, true, true});
     EXPECT_EQ(settings.getUserContext().logonName.length(), 255);
+    longName.replace(254, 2, u"\U0001F5A8"); // not cut in half
+    settings.setUserContext({CXString(std::u16string_view(longName)), true, true, true});
+    EXPECT_EQ(settings.getUserContext().logonName.length(), 254);
 }
 
 TEST_F(PersistentSettingsTest, OlderFormsAreUpgraded) {

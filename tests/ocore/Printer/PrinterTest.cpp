@@ -1,11 +1,15 @@
 #include "ocore/Printer/NonDriverBasedPrinter.h"
 
+#include <string>
+
 #include <gtest/gtest.h>
 
+#include "ZENT_API/ZENTStream.h"
 #include "ocore/Compress/PersistentSettings.h"
 #include "ocore/User.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/ScratchPreferences.h"
+#include "zent27.h"
 
 namespace zent::test {
 namespace {
@@ -24,6 +28,20 @@ TEST(PrinterTest, TheUserGoesIntoAStateBlob) {
         EXPECT_FALSE(state.getUserContext().useDocumentName);
         EXPECT_TRUE(state.getUserContext().useLogonName);
     }
+}
+
+TEST(PrinterTest, TheDocumentsNameIsCutBetweenCharacters) {
+    useResourceLibrary();
+    NonDriverBasedPrinter made(6, 2, ZENT_INSTRUCTIONS_STREAM, CXString(), true);
+    PersistentSettings state;
+    state.setUserContext({CXString(), true, false, false});
+    // The limit would leave the first of the last character's two units.
+    const std::string name(254, 'n');
+    ByteBuffer written;
+    ZENTStream stream(&written);
+    made.generateInstructions(state, stream, CXString(name.c_str()) + u"\U0001F5A8");
+    const std::string text(reinterpret_cast<const char*>(written.data()), written.size());
+    EXPECT_NE(text.find("%TRVtitle: " + name + "\n"), std::string::npos) << text;
 }
 
 } // namespace
