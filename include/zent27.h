@@ -138,7 +138,7 @@ enum ZentTicketFormat {
 enum ZentApplyMode {
     ZENT_APPLY_SILENT_REPAIR = 1, /* repaired */
     ZENT_APPLY_SILENT_KEEP = 2,   /* usable as it is */
-    ZENT_APPLY_REPORT_REPAIR = 3, /* repaired, unless the user cancels the report */
+    ZENT_APPLY_REPORT_REPAIR = 3, /* repaired, unless the user cancels or can't be asked */
     ZENT_APPLY_REPORT_KEEP = 4,   /* reported; stays as it is, and isn't usable */
     ZENT_APPLY_REPORT_CHOICE = 5  /* as ZENT_APPLY_REPORT_REPAIR */
 };

@@ -54,7 +54,7 @@ public:
     };
     /// The same, but a dialog tells the user of what the printer can't do, and `repairs` that it is
     /// repaired unless the user refuses. Without a display the report goes to standard error, and
-    /// nobody refuses.
+    /// the repair counts as refused.
     Report importAndReportTicket(std::string_view document, const std::string& name, bool repairs);
     std::string exportTicket() { return exportAs(ZENT_FORMAT_XML); }
     /// The same with a state blob.

@@ -11,10 +11,10 @@ namespace zent::platform {
 /// A window of the application, or null.
 using WindowHandle = void*;
 
-/// Shows a titled text with an icon and buttons and returns the button pressed (1 OK, 2 Cancel;
-/// 0 if it couldn't be shown). `flags` are those of the Windows message box: 16, 32, 48, 64 icons,
-/// 8192 task modal, 1 OK and Cancel. Without a display the text goes to stderr and the answer is
-/// OK.
+/// Shows a titled text with an icon and buttons and returns the button pressed (1 OK, 2 Cancel).
+/// `flags` are those of the Windows message box: 16, 32, 48, 64 icons, 8192 task modal, 1 OK and
+/// Cancel. Where there is nobody to see it, on this thread, the text goes to the standard error
+/// stream and a choice counts as refused: Cancel, or No; a box with OK alone counts as OK.
 std::int32_t showMessageBox(WindowHandle owner, const CXString& body, const CXString& title,
                             std::uint32_t flags);
 

@@ -281,7 +281,7 @@ public:
 
     // ---- Beside dialogs ------------------------------------------------------------------------
 
-    /// As platform::showMessageBox.
+    /// As platform::showMessageBox, but 0 if it couldn't be shown or ended without an answer.
     virtual std::int32_t showMessageBox(WindowHandle owner, std::u16string_view body,
                                         std::u16string_view title, std::uint32_t flags) = 0;
 

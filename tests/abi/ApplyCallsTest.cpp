@@ -22,6 +22,9 @@ Applied apply(const Session& session, std::uint32_t mode, const ZentChar* title 
     return applied;
 }
 
+/// The user, where there is one; elsewhere it is the same without.
+constexpr bool refuses = true;
+
 std::string colorOf(const Session& session) {
     return stringOf(session, session.ticket(), "media-color");
 }
@@ -45,12 +48,12 @@ TEST(ApplyCallsTest, TheModeDecidesWhatBecomesOfATicket) {
         {0, ZENT_ERR_APPLY_MODE, 7, false, 0},
         {1, ZENT_OK, 1, true, 0},
         {2, ZENT_OK, 1, false, 0}, // nobody refused
-        {3, ZENT_OK, 1, true, 1},
+        {3, ZENT_OK, 0, false, 1}, // who can't be asked, or refuses
         {4, ZENT_OK, 0, false, 1}, // the policy's answer
-        {5, ZENT_OK, 1, true, 1},
+        {5, ZENT_OK, 0, false, 1},
         {6, ZENT_ERR_APPLY_MODE, 7, false, 0},
     };
-    MessageBoxes boxes;
+    MessageBoxes boxes(refuses);
     for (const Row& row : rows) {
         SCOPED_TRACE(row.mode);
         const Session session;
@@ -95,13 +98,13 @@ TEST(ApplyCallsTest, AnImportIsRepairedKeptOrRefused) {
     askTooMuch(source);
     const std::string tickets[] = {source.exported(ZENT_FORMAT_XML),
                                    source.exported(ZENT_FORMAT_STATE)};
-    const MessageBoxes boxes;
+    const MessageBoxes boxes(refuses);
     for (const auto& [mode, isApplied, mediaType] : Rows<std::uint32_t, ZentBool, const char*>{
              {1, 1, "stationery"},
              {2, 1, "handmade"},
-             {3, 1, "stationery"},
+             {3, 0, "none"},
              {4, 0, "none"},
-             {5, 1, "stationery"},
+             {5, 0, "none"},
          }) {
         for (const std::uint32_t format : {ZENT_FORMAT_XML, ZENT_FORMAT_STATE}) {
             SCOPED_TRACE(std::to_string(mode) + " " + std::to_string(format));

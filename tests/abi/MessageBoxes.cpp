@@ -64,7 +64,8 @@ BOOL CALLBACK findBox(HWND window, LPARAM result) {
 /// A box blocks the thread that shows it, so another one looks for it and answers.
 class MessageBoxes::Watcher {
 public:
-    Watcher() : m_thread([this] { run(); }) {}
+    explicit Watcher(bool refuses)
+        : m_answer(refuses ? IDCANCEL : IDOK), m_thread([this] { run(); }) {}
     ~Watcher() {
         m_ends = true;
         m_thread.join();
@@ -94,12 +95,13 @@ private:
             const std::lock_guard hold(m_guard);
             m_boxes.push_back(std::move(shown));
         }
-        PostMessageW(box, WM_COMMAND, IDOK, 0);
+        PostMessageW(box, WM_COMMAND, m_answer, 0);
         for (int i = 0; i < 1000 && IsWindow(box); ++i) {
             Sleep(5);
         }
     }
 
+    const WPARAM m_answer;
     std::atomic<bool> m_ends = false;
     std::mutex m_guard;
     std::vector<MessageBox> m_boxes;
@@ -122,7 +124,7 @@ std::string nextLine(std::string& text) {
 /// Takes the place of the standard error stream.
 class MessageBoxes::Watcher {
 public:
-    Watcher() : m_file(std::tmpfile()), m_stderr(dup(STDERR_FILENO)) {
+    explicit Watcher(bool /*refuses*/) : m_file(std::tmpfile()), m_stderr(dup(STDERR_FILENO)) {
         dup2(fileno(m_file), STDERR_FILENO);
     }
     ~Watcher() {
@@ -172,7 +174,7 @@ private:
 
 #endif
 
-MessageBoxes::MessageBoxes() : m_watcher(std::make_unique<Watcher>()) {}
+MessageBoxes::MessageBoxes(bool refuses) : m_watcher(std::make_unique<Watcher>(refuses)) {}
 
 MessageBoxes::~MessageBoxes() = default;
 

@@ -11,12 +11,13 @@ struct MessageBox {
     std::string text; // lines end in "\n"
 };
 
-/// Watches the message boxes that the process shows, as long as it lives, and answers each with OK.
-/// On Windows these are real boxes; elsewhere, without a display, they are texts on the standard
-/// error stream, where anything else that is written counts as a box without a title.
+/// Watches the message boxes that the process shows, as long as it lives. On Windows these are real
+/// boxes, each answered with OK, or refused if that is wished. Elsewhere, without a display, they
+/// are texts on the standard error stream, where nobody can agree to anything; whatever else is
+/// written there counts as a box without a title.
 class MessageBoxes {
 public:
-    MessageBoxes();
+    explicit MessageBoxes(bool refuses = false);
     ~MessageBoxes();
     MessageBoxes(const MessageBoxes&) = delete;
     MessageBoxes& operator=(const MessageBoxes&) = delete;

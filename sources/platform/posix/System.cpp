@@ -4,7 +4,6 @@
 #include <cerrno>
 #include <charconv>
 #include <csignal>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
@@ -15,7 +14,9 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include "ocore/CutText.h"
 #include "platform/Files.h"
+#include "platform/UnseenMessage.h"
 #include "platform/WindowSystem.h"
 
 namespace zent::platform {
@@ -23,32 +24,6 @@ namespace zent::platform {
 const bool unknownExceptionsMayLeave = false;
 
 namespace {
-
-/// Of what a message holds, line ends are kept; any other control character could steer a terminal.
-std::string printable(const CXString& text) {
-    std::string result = text.toNarrow();
-    std::erase(result, '\r');
-    std::replace_if(
-        result.begin(), result.end(),
-        [](char c) { return (static_cast<unsigned char>(c) < 0x20 && c != '\n') || c == 0x7F; },
-        ' ');
-    return result;
-}
-
-const char* nameOfIcon(std::uint32_t flags) {
-    switch (flags & 0xF0) {
-    case 16:
-        return "error";
-    case 32:
-        return "question";
-    case 48:
-        return "warning";
-    case 64:
-        return "information";
-    default:
-        return "message";
-    }
-}
 
 bool isSpace(char c) { return c == ' ' || c == '\t' || c == '\r'; }
 
@@ -75,30 +50,22 @@ std::int32_t leadingNumber(std::string_view text) {
     return value;
 }
 
-std::int32_t printMessage(const CXString& body, const CXString& title, std::uint32_t flags) {
-    constexpr std::int32_t answerOk = 1;
-    const std::string rule(72, '-');
-    std::string box = rule + '\n' + printable(title) + " (" + nameOfIcon(flags) + ")\n\n";
-    box += printable(body) + '\n' + rule + '\n';
-    // In one piece, so that nothing that another thread prints comes in between.
-    std::fwrite(box.data(), 1, box.size(), stderr);
-    return answerOk;
-}
-
 } // namespace
 
 std::int32_t showMessageBox(WindowHandle owner, const CXString& body, const CXString& title,
                             std::uint32_t flags) {
     WindowSystem* const windowSystem = WindowSystem::find();
-    return windowSystem != nullptr ? windowSystem->showMessageBox(owner, body, title, flags)
-                                   : printMessage(body, title, flags);
+    const std::int32_t answer =
+        windowSystem != nullptr ? windowSystem->showMessageBox(owner, body, title, flags) : 0;
+    return answer != 0 ? answer : printUnseenMessage(body, title, flags);
 }
 
 CXString getWindowCaption(WindowHandle window) {
-    constexpr std::int32_t longestCaption = 255;
+    constexpr std::size_t longestCaption = 255;
     WindowSystem* const windowSystem = window != nullptr ? WindowSystem::find() : nullptr;
-    return windowSystem != nullptr ? CXString(windowSystem->getCaption(window)).left(longestCaption)
-                                   : CXString();
+    return windowSystem != nullptr
+               ? CXString(cutText(windowSystem->getCaption(window), longestCaption))
+               : CXString();
 }
 
 CXString getSystemErrorText(std::uint32_t error) {

@@ -5,7 +5,11 @@
 
 #include <cxxabi.h>
 
+#include "ocore/CutText.h"
+#include "platform/UnseenMessage.h"
+#include "platform/win32/SeenDesktop.h"
 #include "platform/win32/WideText.h"
+#include "platform/win32/WindowText.h"
 
 namespace zent::platform {
 
@@ -13,17 +17,20 @@ const bool unknownExceptionsMayLeave = true;
 
 std::int32_t showMessageBox(WindowHandle owner, const CXString& body, const CXString& title,
                             std::uint32_t flags) {
-    const int answer = MessageBoxW(static_cast<HWND>(owner), wide(body), wide(title), flags);
+    const int answer =
+        isDesktopSeen() ? MessageBoxW(static_cast<HWND>(owner), wide(body), wide(title), flags) : 0;
+    if (answer == 0) {
+        return printUnseenMessage(body, title, flags);
+    }
     // A box that has OK alone answers so when it is closed, too; Wine says otherwise.
     return (flags & MB_TYPEMASK) == MB_OK && answer == IDCANCEL ? IDOK : answer;
 }
 
 CXString getWindowCaption(WindowHandle window) {
-    wchar_t caption[256] = {};
-    if (window != nullptr) {
-        GetWindowTextW(static_cast<HWND>(window), caption, 256);
-    }
-    return CXString(units(caption));
+    constexpr std::size_t longestCaption = 255;
+    return window != nullptr
+               ? CXString(cutText(getWindowText(static_cast<HWND>(window)), longestCaption))
+               : CXString();
 }
 
 CXString getSystemErrorText(std::uint32_t error) {

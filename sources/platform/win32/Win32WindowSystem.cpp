@@ -1,5 +1,6 @@
 #include "platform/win32/Win32WindowSystem.h"
 
+#include "platform/win32/SeenDesktop.h"
 #include "platform/win32/WideText.h"
 #include "platform/win32/WindowText.h"
 #include "platform/win32/WindowsDialog.h"
@@ -28,7 +29,7 @@ std::shared_ptr<WindowsDialog> makeDialog(std::span<const std::byte> dialogTempl
 
 WindowSystem* WindowSystem::find() {
     static Win32WindowSystem system;
-    return &system;
+    return isDesktopSeen() ? &system : nullptr;
 }
 
 Win32WindowSystem::Win32WindowSystem() {
