@@ -183,7 +183,7 @@ enum ZentInstructionForm {
  *   useGenericPreferences  not 0: the set that all printers share; 0: that of the printer's driver
  *   session                receives the handle; untouched on failure
  * ZENT_ERR_RESOURCE_LIBRARY says that zenres27.dll isn't in the library's directory, and
- * ZENT_ERR_REGISTRY that the user's preferences can't be read.
+ * ZENT_ERR_REGISTRY that another process keeps the user's preferences locked.
  */
 ZENT_API ZentResult ZENT_CALL fnOpenSession(uint32_t version, uint32_t model, uint32_t pdl,
                                             uint32_t instructionForm, ZentBool silent,
@@ -382,7 +382,7 @@ ZENT_API ZentResult ZENT_CALL fnInvokeTarvoJobTicketDialog(ZentSessionType sessi
 
 /* ---------------------------------------------------------------------------------------------
  * Preferences of the user, by name, in the set that the session was opened with. Getters give the
- * default where nothing is stored. A store that fails gives ZENT_ERR_REGISTRY.
+ * default where nothing is stored, or the store can't be used; setters give ZENT_ERR_REGISTRY then.
  *
  * The library knows these names, and goes by the value behind each where nothing is stored; to ask
  * for one as another type gives ZENT_ERR_PREFERENCE_TYPE. docs/preferences.md tells what they mean.

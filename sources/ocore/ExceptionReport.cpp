@@ -5,6 +5,7 @@
 
 #include "ocore/Exceptions.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
+#include "ocore/Registry.h"
 #include "ocore/ResourceLibrary.h"
 #include "ocore/Trace.h"
 #include "ocore/UserMessage.h"
@@ -82,8 +83,14 @@ CXString loadTitle(platform::WindowHandle owner, const Title& title) {
     return found.isEmpty() ? ResourceLibrary().getString(text::title) : found;
 }
 
+/// What only this failure can tell its user; mostly nothing.
+CXString explain(const std::exception& exception) {
+    const auto* const store = dynamic_cast<const RegistryRequestException*>(&exception);
+    return store != nullptr ? getStoreExplanation(*store) : CXString();
+}
+
 void compose(UserMessage& message, const Context& context, const CXString& title, MessageIds ids,
-             bool isStoppingOffered, const CXString& errorNumber) {
+             bool isStoppingOffered, const CXString& explanation, const CXString& errorNumber) {
     const ResourceLibrary library;
     CXString body = library.getString(ids.first);
     const auto addParagraph = [&body](const CXString& paragraph) {
@@ -93,6 +100,9 @@ void compose(UserMessage& message, const Context& context, const CXString& title
     addParagraph(library.getString(ids.second));
     if (context.extraMessageId != 0) {
         addParagraph(library.getString(context.extraMessageId));
+    }
+    if (!explanation.isEmpty()) {
+        addParagraph(explanation);
     }
     if (isStoppingOffered) {
         addParagraph(library.getString(text::stopping));
@@ -148,7 +158,7 @@ std::int32_t showReport(const std::exception& exception, const Title& title,
         const CXString details = getDetailsReport(exception);
         traceReport(context, details);
         UserMessage message(context.owner);
-        compose(message, context, titleText, chooseMessages(exception), false,
+        compose(message, context, titleText, chooseMessages(exception), false, explain(exception),
                 getErrorNumberText(exception));
         answer = message.show();
     });
@@ -172,7 +182,7 @@ bool reportUnknown(const Title& title, const Context& context) noexcept {
         traceReport(context, CXString());
         UserMessage message(context.owner);
         compose(message, context, loadTitle(context.owner, title),
-                {text::failure, text::unknownFailureAdvice}, true, CXString());
+                {text::failure, text::unknownFailureAdvice}, true, CXString(), CXString());
         isStopping = message.show() == messageAnswer::cancel;
     });
     return isStopping;

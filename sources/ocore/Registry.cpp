@@ -11,22 +11,31 @@ namespace {
 
 using Status = platform::PreferenceStatus;
 
-void traceError(std::uint32_t error) {
-    if (error != 0 && trace::isOutputEnabled()) {
-        trace::output(platform::getPreferenceErrorText(error) + u"\r\n");
+void traceError(const CXString& key, const platform::PreferenceResult& result) {
+    if (result.error != 0 && trace::isOutputEnabled()) {
+        trace::output(platform::explainPreferenceFailure(key, result) + u"\r\n");
     }
 }
 
 } // namespace
 
+CXString getStoreExplanation(const RegistryRequestException& exception) {
+    const CXString& message = exception.getMessage();
+    const std::int32_t end = message.find(u"\r\n");
+    CXString line = end < 0 ? CXString() : message.mid(end);
+    line.trim();
+    return line;
+}
+
 bool Registry::getValue(const CXString& key, const CXString& name, ByteBuffer& value) const {
     platform::StoredPreference stored;
     const platform::PreferenceResult result = platform::readPreference(key, name, stored);
-    traceError(result.error);
+    traceError(key, result);
     if (result.status == Status::valueFailed) {
         Raise<RegistryRequestException>()("Registry::getValue(): Call to RegQueryValueEx(%s) "
-                                          "failed with result of %ld (0x%lx).\r\n",
-                                          name, result.error, result.error);
+                                          "failed with result of %ld (0x%lx).\r\n%s\r\n",
+                                          name, result.error, result.error,
+                                          platform::explainPreferenceFailure(key, result));
     }
     value = std::move(stored.bytes);
     return result.status == Status::done;
@@ -35,16 +44,18 @@ bool Registry::getValue(const CXString& key, const CXString& name, ByteBuffer& v
 void Registry::setValue(const CXString& key, const CXString& name, std::uint32_t type,
                         const ByteBuffer& value) const {
     const platform::PreferenceResult result = platform::writePreference(key, name, type, value);
-    traceError(result.error);
+    traceError(key, result);
     if (result.status == Status::keyFailed) {
         Raise<RegistryRequestException>()("Registry::setValue(): Call to RegCreateKeyEx(%s) "
-                                          "failed with result of %ld (0x%lx).\r\n",
-                                          key, result.error, result.error);
+                                          "failed with result of %ld (0x%lx).\r\n%s\r\n",
+                                          key, result.error, result.error,
+                                          platform::explainPreferenceFailure(key, result));
     }
     if (result.status == Status::valueFailed) {
         Raise<RegistryRequestException>()("Registry::setValue(): Call to RegSetValueEx(%s) failed "
-                                          "with result of %ld (0x%lx).\r\n",
-                                          name, result.error, result.error);
+                                          "with result of %ld (0x%lx).\r\n%s\r\n",
+                                          name, result.error, result.error,
+                                          platform::explainPreferenceFailure(key, result));
     }
 }
 

@@ -22,17 +22,19 @@ struct StoredPreference {
 
 enum class PreferenceStatus {
     done,
-    noKey,       // reading: the key, or the store as a whole, isn't there or out of reach
+    noKey,       // reading: the key, or the store as a whole, isn't there or can't be used
     noValue,     // reading: the key holds no such value
     keyFailed,   // writing: the key couldn't be opened or created
     valueFailed, // the store failed when the value was read or written
 };
 
 /// What became of a request. The error is the system's number for anything but success (Windows:
-/// as the registry functions return it; elsewhere: SQLite's result code).
+/// as the registry functions return it; elsewhere: SQLite's result code, and what the system said
+/// to it where it failed in that).
 struct PreferenceResult {
     PreferenceStatus status = PreferenceStatus::done;
     std::uint32_t error = 0;
+    std::uint32_t systemError = 0;
 };
 
 /// The user's own store of typed values, each under the path of a key (parts separated by
@@ -41,8 +43,9 @@ struct PreferenceResult {
 ///
 /// Windows: the registry below HKEY_CURRENT_USER; keys and names compare without regard to case.
 /// Elsewhere: an SQLite database in the user's configuration folder, one row a value; keys and
-/// names compare exactly. It is created by the first writing, readable by its owner alone. A
-/// database that is there but can't be opened or read fails, while none at all means no key.
+/// names compare exactly. It is created by the first writing, readable by its owner alone. To
+/// readers a database that is damaged or out of reach is like none at all, since a service may have
+/// no home that it can use; one that stays locked by another process fails.
 
 /// Takes a value out of the store. `value` is touched only by success.
 PreferenceResult readPreference(const CXString& key, const CXString& name, StoredPreference& value);
@@ -50,7 +53,7 @@ PreferenceResult readPreference(const CXString& key, const CXString& name, Store
 PreferenceResult writePreference(const CXString& key, const CXString& name, std::uint32_t type,
                                  const ByteBuffer& bytes);
 
-/// The system's text for the error of a result; empty if it has none.
-CXString getPreferenceErrorText(std::uint32_t error);
+/// Where the store of a key lies and what is wrong with it, by a result with an error.
+CXString explainPreferenceFailure(const CXString& key, const PreferenceResult& result);
 
 } // namespace zent::platform

@@ -92,7 +92,8 @@ TEST_F(PreferenceStoreTest, TellsMissingKeysFromMissingValues) {
     const PreferenceResult missing = readPreference(u"a\\key", u"name", value);
     EXPECT_EQ(missing.status, PreferenceStatus::noKey);
     EXPECT_NE(missing.error, 0U);
-    EXPECT_FALSE(getPreferenceErrorText(missing.error).isEmpty());
+    const std::string why = explainPreferenceFailure(u"a\\key", missing).toNarrow();
+    EXPECT_LT(why.find(": "), why.size() - 2) << why;
 
     ASSERT_EQ(write(u"a\\key", u"name", ""), PreferenceStatus::done);
     EXPECT_EQ(readPreference(u"a\\key", u"other", value).status, PreferenceStatus::noValue);

@@ -7,6 +7,7 @@
 #include <sqlite3.h>
 #include <sys/stat.h>
 
+#include "platform/System.h"
 #include "platform/posix/PreferenceSnapshot.h"
 #include "platform/posix/UserFolders.h"
 
@@ -20,6 +21,7 @@ constexpr int busyMilliseconds = 30'000;
 /// Raised in here for whatever SQLite refuses.
 struct StoreError {
     int code;
+    int systemError = 0; // an errno number, if it comes from that
 };
 
 void require(int code, int wanted = SQLITE_OK) {
@@ -104,7 +106,9 @@ public:
         const int code = sqlite3_open_v2(path.c_str(), &connection,
                                          SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
         m_connection.reset(connection); // also a failed one
-        require(code);
+        if (code != SQLITE_OK) {
+            throw StoreError{code, sqlite3_system_errno(connection)};
+        }
         require(sqlite3_busy_timeout(connection, busyMilliseconds));
     }
 
@@ -129,16 +133,23 @@ bool isMissing(const std::string& path) {
     return stat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
 }
 
-/// Makes an empty file, and the folders that it lies in. What is there already stays; if one can't
-/// be made, opening the database tells.
-void createFile(const std::string& path) {
+/// Makes an empty file, and the folders that it lies in. What is there already stays; if something
+/// can't be made, opening the database fails. Gives the first reason for that, else 0.
+int createFile(const std::string& path) {
+    int reason = 0;
+    const auto note = [&reason](int result) {
+        if (result != 0 && errno != EEXIST && reason == 0) {
+            reason = errno;
+        }
+    };
     for (std::size_t end = path.find('/', 1); end != std::string::npos;
          end = path.find('/', end + 1)) {
-        mkdir(path.substr(0, end).c_str(), S_IRWXU);
+        note(mkdir(path.substr(0, end).c_str(), S_IRWXU));
     }
     // SQLite would let everybody read it. It isn't opened here: closing it again would end the
     // locks that another thread's connection holds on it.
-    mknod(path.c_str(), S_IFREG | S_IRUSR | S_IWUSR, 0);
+    note(mknod(path.c_str(), S_IFREG | S_IRUSR | S_IWUSR, 0));
+    return reason;
 }
 
 /// An empty file, as the first writer leaves it for a moment, has no table.
@@ -207,13 +218,24 @@ bool find(const std::string& path, const std::optional<FileState>& state, const 
     return true;
 }
 
+/// Opens a database that was to be created. Where that failed, its reason says more than that
+/// there is none now.
+Connection openCreated(const std::string& path, int reason) {
+    try {
+        return Connection(path);
+    } catch (StoreError& error) {
+        error.systemError = reason != 0 ? reason : error.systemError;
+        throw;
+    }
+}
+
 /// Opens the database with a table in it, as the only writer until it is committed.
 Connection openForWriting(const std::string& path) {
     if (path.empty()) {
         throw StoreError{SQLITE_CANTOPEN};
     }
-    createFile(path);
-    Connection database(path);
+    const int reason = createFile(path);
+    Connection database = openCreated(path, reason);
     database.run(keepUnits);
     database.run("BEGIN IMMEDIATE");
     database.run(createTable);
@@ -221,7 +243,13 @@ Connection openForWriting(const std::string& path) {
 }
 
 PreferenceResult failed(PreferenceStatus status, const StoreError& error) {
-    return {status, static_cast<std::uint32_t>(error.code)};
+    return {status, static_cast<std::uint32_t>(error.code),
+            static_cast<std::uint32_t>(error.systemError)};
+}
+
+/// Whether a store is good, but can't be read just now. All else is like no store to a reader.
+bool isPassing(const StoreError& error) {
+    return error.code == SQLITE_BUSY || error.code == SQLITE_LOCKED || error.code == SQLITE_NOMEM;
 }
 
 } // namespace
@@ -240,7 +268,8 @@ PreferenceResult readPreference(const CXString& key, const CXString& name,
             kept ? take(*kept, key, name, value) : find(path, state, key, name, value);
         return {found ? PreferenceStatus::done : PreferenceStatus::noValue, SQLITE_OK};
     } catch (const StoreError& error) {
-        return failed(PreferenceStatus::valueFailed, error);
+        return failed(isPassing(error) ? PreferenceStatus::valueFailed : PreferenceStatus::noKey,
+                      error);
     }
 }
 
@@ -265,8 +294,14 @@ PreferenceResult writePreference(const CXString& key, const CXString& name, std:
     }
 }
 
-CXString getPreferenceErrorText(std::uint32_t error) {
-    return CXString(sqlite3_errstr(static_cast<int>(error)));
+CXString explainPreferenceFailure(const CXString& /*key*/, const PreferenceResult& result) {
+    const std::string path = getPath();
+    CXString text(path.empty() ? "the user has no home folder" : path.c_str());
+    text += u": " + CXString(sqlite3_errstr(static_cast<int>(result.error)));
+    if (result.systemError != 0) {
+        text += u" (" + getSystemErrorText(result.systemError) + u")";
+    }
+    return text;
 }
 
 } // namespace zent::platform

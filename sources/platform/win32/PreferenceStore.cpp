@@ -88,6 +88,8 @@ PreferenceResult writePreference(const CXString& path, const CXString& name, std
                                   : resultOf(PreferenceStatus::valueFailed, error);
 }
 
-CXString getPreferenceErrorText(std::uint32_t error) { return getSystemErrorText(error); }
+CXString explainPreferenceFailure(const CXString& key, const PreferenceResult& result) {
+    return u"HKEY_CURRENT_USER\\" + key + u": " + getSystemErrorText(result.error);
+}
 
 } // namespace zent::platform

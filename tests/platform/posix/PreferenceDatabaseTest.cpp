@@ -14,12 +14,15 @@
 #include <unistd.h>
 
 #include "PrintText.h"
+#include "ocore/BoxCapture.h"
 #include "ocore/Exceptions.h"
 #include "ocore/Registry.h"
 #include "platform/PreferenceStore.h"
 #include "platform/posix/Environment.h"
 #include "support/Raised.h"
 #include "support/Rows.h"
+#include "support/TraceCapture.h"
+#include "zent27.h"
 
 namespace zent::platform {
 namespace {
@@ -142,68 +145,81 @@ TEST_F(PreferenceDatabaseTest, ReadsAnewWhatAnotherProcessHasChanged) {
     EXPECT_EQ(read(u"name", 1), 1);
 }
 
-TEST_F(PreferenceDatabaseTest, FailsClearlyWhenBroken) {
+/// A store that can't be used gives readers the default, with a trace, and fails for writers, for a
+/// reason.
+void expectUnusable(const fs::path& file, const std::string& error, const std::string& reason) {
+    const Registry registry{};
+    const std::string why = file.string() + ": " + reason + "\r\n";
+    {
+        const test::TraceCapture trace;
+        EXPECT_EQ(registry.getLongValue(key, u"name", 5), 5);
+        EXPECT_TRUE(test::TraceCapture::text().find(file.string() + ": ") != std::string::npos)
+            << test::TraceCapture::text();
+    }
+    EXPECT_EQ(
+        test::raised<RegistryRequestException>([&] { registry.setLongValue(key, u"name", 5); }),
+        "Registry::setValue(): Call to RegCreateKeyEx(a\\key) failed with result of " + error +
+            ".\r\n" + why);
+}
+
+TEST_F(PreferenceDatabaseTest, IsLikeNoneToReadersWhenBroken) {
     ASSERT_EQ(write(u"name", ByteBuffer::fromLong(7)), PreferenceStatus::done);
     const std::string sound = contentOf(m_file);
     std::string noTree = sound; // the first page's type of tree, behind the header
     noTree[100] = '\x7F';
     std::string laterFormat = sound;
     laterFormat[47] = 9;
-    const Registry registry{};
-    for (const auto& [content, error] : test::Rows<std::string, const char*>{
-             {std::string(5000, 'x'), "26 (0x1a)"},
-             {"short", "26 (0x1a)"},
-             {std::string(sound).replace(0, 6, "sqlite"), "26 (0x1a)"},
-             {noTree, "11 (0xb)"},
-             {sound.substr(0, 600), "11 (0xb)"},
-             {laterFormat, "1 (0x1)"},
+    const char* const noDatabase = "file is not a database";
+    const char* const malformed = "database disk image is malformed";
+    for (const auto& [content, error, reason] : test::Rows<std::string, const char*, const char*>{
+             {std::string(5000, 'x'), "26 (0x1a)", noDatabase},
+             {"short", "26 (0x1a)", noDatabase},
+             {std::string(sound).replace(0, 6, "sqlite"), "26 (0x1a)", noDatabase},
+             {noTree, "11 (0xb)", malformed},
+             {sound.substr(0, 600), "11 (0xb)", malformed},
+             {laterFormat, "1 (0x1)", "SQL logic error"},
          }) {
         writeFile(content);
-        EXPECT_EQ(
-            test::raised<RegistryRequestException>([&] { registry.getLongValue(key, u"name", 5); }),
-            std::string("Registry::getValue(): Call to RegQueryValueEx(name) failed with "
-                        "result of ") +
-                error + ".\r\n");
-        EXPECT_EQ(
-            test::raised<RegistryRequestException>([&] { registry.setLongValue(key, u"name", 5); }),
-            std::string("Registry::setValue(): Call to RegCreateKeyEx(a\\key) failed with "
-                        "result of ") +
-                error + ".\r\n");
+        expectUnusable(m_file, error, reason);
         EXPECT_EQ(contentOf(m_file), content) << "is left as it was";
     }
     EXPECT_EQ(RegistryRequestException(CXString()).getResultCode(), ResultCode{21});
 }
 
-TEST_F(PreferenceDatabaseTest, FailsWhereItCannotBe) {
-    const Registry registry{};
-    // Below a file, nothing can be: reading finds nothing.
+TEST_F(PreferenceDatabaseTest, FailsWriterWhereItCannotBe) {
+    const std::string cannotOpen = "unable to open database file";
     fs::create_directory(m_scratch.path() / "not");
     std::ofstream(m_configuration) << "a file";
-    EXPECT_EQ(registry.getLongValue(key, u"name", 5), 5);
-    EXPECT_EQ(
-        test::raised<RegistryRequestException>([&] { registry.setLongValue(key, u"name", 5); }),
-        "Registry::setValue(): Call to RegCreateKeyEx(a\\key) failed with result of 14 (0xe).\r\n");
+    expectUnusable(m_file, "14 (0xe)", cannotOpen + " (Not a directory)");
     fs::remove(m_configuration);
-    // Something else in its place is a store that can't be used.
     fs::create_directories(m_file);
-    EXPECT_EQ(
-        test::raised<RegistryRequestException>([&] { registry.getLongValue(key, u"name", 5); }),
-        "Registry::getValue(): Call to RegQueryValueEx(name) failed with result of 14 (0xe).\r\n");
+    expectUnusable(m_file, "14 (0xe)", cannotOpen + " (Is a directory)");
+
+    ZentSessionType session = nullptr;
+    ASSERT_EQ(fnOpenSession(ZENT_INTERFACE_VERSION, 6, ZENT_PDL_MONOCHROME_PCL,
+                            ZENT_INSTRUCTIONS_BY_MODEL, 0, nullptr, 1, &session),
+              ZENT_OK);
+    const test::BoxCapture boxes;
+    EXPECT_EQ(fnSetPreferenceBoolValue(session, u"MINE", 1), ZENT_ERR_REGISTRY);
+    ASSERT_EQ(boxes.shown().size(), 1U);
+    EXPECT_GT(boxes.shown()[0].body.find(CXString(m_file.c_str()) + u": unable to open"), 0);
+    EXPECT_EQ(fnCloseSession(&session), ZENT_OK);
 }
 
-TEST_F(PreferenceDatabaseTest, FailsInFolderOfAnotherUser) {
+TEST_F(PreferenceDatabaseTest, IsOutOfReachInFolderOfAnotherUser) {
     ASSERT_EQ(write(u"name", {}), PreferenceStatus::done);
-    fs::permissions(m_folder, fs::perms::none);
-    EXPECT_TRUE(hasSucceeded(inChild([&] {
-        constexpr uid_t nobody = 65534; // who is root may read everything
-        if (geteuid() == 0 && setuid(nobody) != 0) {
-            return false;
-        }
-        StoredPreference value;
-        return readPreference(key, u"name", value).status == PreferenceStatus::valueFailed &&
-               write(u"name", {}) == PreferenceStatus::keyFailed;
-    })));
-    fs::permissions(m_folder, fs::perms::owner_all);
+    for (const fs::path& folder : {m_folder, m_configuration.parent_path()}) {
+        fs::permissions(folder, fs::perms::none);
+        EXPECT_TRUE(hasSucceeded(inChild([&] {
+            constexpr uid_t nobody = 65534; // who is root may read everything
+            if (geteuid() == 0 && setuid(nobody) != 0) {
+                return false;
+            }
+            expectUnusable(m_file, "14 (0xe)", "unable to open database file (Permission denied)");
+            return !testing::Test::HasFailure();
+        })));
+        fs::permissions(folder, fs::perms::owner_all);
+    }
 }
 
 TEST_F(PreferenceDatabaseTest, WaitsForOtherProcesses) {
