@@ -7,6 +7,9 @@
 
 #include "Fetch.h"
 #include "Text.h"
+#include "ZENT_API/ZENTSession.h"
+#include "ocore/Exceptions.h"
+#include "ocore/Registry.h"
 #include "ocore/User.h"
 #include "ocore/UserPreferences.h"
 
@@ -124,6 +127,30 @@ std::string writeDefault(const zent::PreferenceInfo& info) {
     }
 }
 
+void storeIn(const zent::UserPreferences& preferences, const std::string& name, PreferenceType type,
+             const std::string& value) {
+    const zent::CXString key(fromUtf8(name));
+    switch (type) {
+    case PreferenceType::boolean:
+        preferences.setBooleanPreference(key, readBool(name, value));
+        break;
+    case PreferenceType::number:
+        preferences.setLongPreference(key, readNumber(name, value));
+        break;
+    case PreferenceType::unit:
+        preferences.setLongPreference(key, readUnit(name, value));
+        break;
+    case PreferenceType::text:
+        preferences.setStringPreference(key, zent::CXString(fromUtf8(value)));
+        break;
+    case PreferenceType::data: {
+        const std::string bytes = readData(name, value);
+        preferences.setDataPreference(key, zent::ByteBuffer(bytes.data(), bytes.size()));
+        break;
+    }
+    }
+}
+
 } // namespace
 
 std::string toText(PreferenceType type) { return typeNames[static_cast<std::size_t>(type) - 1]; }
@@ -182,32 +209,16 @@ std::optional<std::string> Preferences::find(const std::string& name, Preference
 
 void Preferences::store(const std::string& name, PreferenceType type,
                         const std::string& value) const {
-    const ZentText keyText = toKey(name);
-    const ZentChar* key = keyText.c_str();
-    switch (type) {
-    case PreferenceType::boolean:
-        check(fnSetPreferenceBoolValue(m_session, key, readBool(name, value) ? 1 : 0),
-              "fnSetPreferenceBoolValue", name);
-        break;
-    case PreferenceType::number:
-        check(fnSetPreferenceNumberValue(m_session, key, readNumber(name, value)),
-              "fnSetPreferenceNumberValue", name);
-        break;
-    case PreferenceType::unit:
-        check(fnSetPreferenceNumberValue(m_session, key, readUnit(name, value)),
-              "fnSetPreferenceNumberValue", name);
-        break;
-    case PreferenceType::text:
-        check(fnSetPreferenceStringValue(m_session, key, toZent(fromUtf8(value)).c_str()),
-              "fnSetPreferenceStringValue", name);
-        break;
-    case PreferenceType::data: {
-        const std::string bytes = readData(name, value);
-        check(fnSetPreferenceDataValue(m_session, key, bytes.data(),
-                                       static_cast<std::uint32_t>(bytes.size())),
-              "fnSetPreferenceDataValue", name);
-        break;
-    }
+    // Not by the exported calls, whose results can't say where the store lies and what is wrong.
+    const auto preferences = zent::ZENTSession::getSessionObject(m_session).getUserPreferences();
+    try {
+        storeIn(*preferences, name, type, value);
+    } catch (const zent::RegistryRequestException& exception) {
+        throw ProgramError(ExitStatus::libraryFailure,
+                           toPrintable(fromUtf8(name)) + ": can't be stored in " +
+                               toPrintable(zent::getStoreExplanation(exception).view()));
+    } catch (const zent::TarvoException& exception) {
+        throw LibraryError(exception.getResultCode(), "UserPreferences", name);
     }
 }
 

@@ -699,6 +699,18 @@ class Preferences(InFolder):
         for other in ([], ["-m", "1", "-p", "ps"], ["-m", "1", "--printer-preferences"]):
             run("preferences", "get", "mine", *other, status=BAD_VALUE)
 
+    def test_preferences_out_of_reach_are_at_their_defaults(self):
+        if is_windows:
+            self.skipTest("there is always a registry")
+        home = self.folder / "file in the place of a folder"
+        home.write_bytes(b"")
+        self.enterContext(unittest.mock.patch.dict(os.environ, XDG_CONFIG_HOME=str(home)))
+        self.assertIn(b"(default)", run("preferences", "list"))
+        run("instructions", REPORT, "-m", "1")
+        _, message = run_for_both("preferences", "set", "mine", "a", status=LIBRARY)
+        self.assertEqual(message, f"jobticket: mine: can't be stored in {home}/zent27/"
+                                  "preferences.sqlite: unable to open database file (Not a directory)\n")
+
 
 class Failures(InFolder):
     def test_each_kind_has_its_status(self):
