@@ -261,6 +261,7 @@ TEST(CapabilityDocumentsTest, FamiliesOfferWhatThePrinterTablesSay) {
 }
 
 TEST(CapabilityDocumentsTest, TextsThatUsersInventHaveALimit) {
+    useResourceLibrary();
     constexpr std::uint32_t postScript = 2;
     for (std::uint32_t model = 1; model <= 51; ++model) {
         for (const std::uint32_t form : {1U, 2U}) {
