@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "FeaturePath.h"
@@ -8,18 +9,22 @@
 
 namespace jobticket {
 
-/// What an argument FEATURE=VALUE says.
+/// What an argument FEATURE=VALUE says. Without values it says that there are to be none.
 struct Assignment {
     FeaturePath path;
     std::vector<Value> values;
 };
 
-/// Raises ProgramError: usage for what is of another form, badValue for a feature or value that
-/// isn't known, or a feature that no ticket holds by itself.
-Assignment parseAssignment(const std::string& text);
+/// Reads an argument; "stock=NAME" becomes what the stock of the user's library is, in place of all
+/// that was said of the medium. Raises ProgramError: usage for what is of another form, badValue
+/// for a feature, value or stock that isn't known, or a feature that can't stand where it is put.
+std::vector<Assignment> parseAssignments(const std::string& text);
 
-/// A value of the user's own is taken as it is, but it may be a slip: then a note on standard error
-/// says so.
-void hintAtMisspelling(const Assignment& assignment);
+/// Whether an argument is meant as one, rather than as the name of a file: "./a=b" is a file.
+bool looksLikeAssignment(std::string_view text);
+
+/// A value of the user's own is taken as it is, but it may be a slip: then this is a note that says
+/// so, else empty.
+std::string hintAtMisspelling(const Assignment& assignment);
 
 } // namespace jobticket

@@ -25,6 +25,14 @@ std::string summarize(std::size_t total, std::size_t different, std::size_t fail
 
 } // namespace
 
+Json startJson(const std::string& ticket, bool isOneOfSeveral) {
+    Json json = Json::object();
+    if (isOneOfSeveral) {
+        json.add("ticket", nameForMessages(ticket));
+    }
+    return json;
+}
+
 void Progress::show(std::size_t done) {
     constexpr std::chrono::seconds patience(1);
     const bool isSeen = platform::isTerminal(stderr) && !platform::isTerminal(stdout);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ExitStatus.h"
+#include "Json.h"
 
 namespace jobticket {
 
@@ -15,6 +16,9 @@ namespace jobticket {
 /// a terminal sees how far it is.
 ExitStatus runOnEach(const std::vector<std::string>& tickets, bool isQuiet,
                      const std::function<ExitStatus(const std::string& ticket)>& run);
+
+/// The beginning of what a command lists of a ticket as JSON; of one among several it has its name.
+Json startJson(const std::string& ticket, bool isOneOfSeveral);
 
 /// The same count for what isn't a ticket: "12 of 51", as long as it takes longer than a second.
 class Progress {

@@ -1,9 +1,14 @@
+#include <algorithm>
 #include <array>
 
+#include "Batch.h"
 #include "CommonOptions.h"
+#include "Listing.h"
 #include "OfferJson.h"
 #include "PrinterOptions.h"
+#include "Printers.h"
 #include "ProblemListing.h"
+#include "Text.h"
 #include "TicketDocument.h"
 #include "TicketFile.h"
 
@@ -21,45 +26,128 @@ std::string listForPeople(const TicketCheck& check) {
            "\n" + listProblems(check.problems) + listOmissions(check.omissions);
 }
 
-std::string listAsJson(const TicketCheck& check) {
-    return Json::object()
+std::string listAsJson(const TicketCheck& check, const std::string& ticket, bool isOneOfSeveral) {
+    return startJson(ticket, isOneOfSeveral)
         .add("printer", describePrinter(check.offers))
         .add("problems", toJson(check.problems))
         .add("notes", toJson(check.omissions))
         .toText();
 }
 
-ExitStatus check(const Options& options) {
-    const PrinterChoice printer = choosePrinter(options.printer);
-    const std::string document = readFile(options.ticket);
-    const TicketCheck check = checkTicket(readDocument(document, options.ticket), printer);
+ExitStatus check(const Options& options, const PrinterChoice& printer, const std::string& ticket,
+                 const std::string& result) {
+    const std::string document = readFile(ticket);
+    const TicketCheck check = checkTicket(readDocument(document, ticket), printer);
     if (options.repairs) {
-        writeResult(options.output, repairTicket(document, options.ticket, printer));
+        writeFile(result, repairTicket(document, ticket, printer));
     }
-    const bool isTicketOnOutput = options.repairs && isStandardStream(options.output);
-    writeListing(options.listsJson ? listAsJson(check) : listForPeople(check), isTicketOnOutput);
+    const bool hasName = options.tickets.size() > 1;
+    if (!options.isQuiet) {
+        writeListing(options.listsJson
+                         ? listAsJson(check, ticket, hasName)
+                         : (hasName ? nameForMessages(ticket) + ": " : "") + listForPeople(check),
+                     options.repairs && isStandardStream(result));
+    }
     return check.problems.empty() ? ExitStatus::success : ExitStatus::differences;
 }
 
 /// The user sees what there is, and may refuse a repair.
-ExitStatus checkInDialog(const Options& options) {
-    Session session(choosePrinter(options.printer));
-    const std::string document = readFile(options.ticket);
-    readDocument(document, options.ticket); // says what is wrong with it, if anything is
+ExitStatus checkInDialog(const Options& options, const PrinterChoice& printer,
+                         const std::string& ticket, const std::string& result) {
+    Session session(printer);
+    const std::string document = readFile(ticket);
+    readDocument(document, ticket); // says what is wrong with it, if anything is
     const Session::Report report =
-        session.importAndReportTicket(document, nameForMessages(options.ticket), options.repairs);
+        session.importAndReportTicket(document, nameForMessages(ticket), options.repairs);
     if (options.repairs && report.isTaken) {
-        writeResult(options.output, session.exportTicket());
+        writeFile(result, session.exportTicket());
     }
     return report.hadProblems ? ExitStatus::differences : ExitStatus::success;
 }
 
+struct PrinterResult {
+    Model model;
+    Offers offers;
+    std::size_t problems;
+};
+
+/// What all printers that have the language, or PCL, make of a ticket; those that can do more of it
+/// stand first.
+std::vector<PrinterResult> checkWithAll(const zent::AttrNodeList& ticket, const Options& options) {
+    const std::vector<Model> models = getModels();
+    std::vector<PrinterResult> results;
+    Progress progress(models.size());
+    for (const Model& model : models) {
+        progress.show(results.size());
+        PrinterOptions each = options.printer;
+        each.model = std::to_string(model.number);
+        if (each.language.empty() || hasLanguage(model, each.language)) {
+            TicketCheck check = checkTicket(ticket, choosePrinter(each));
+            results.push_back({model, std::move(check.offers), check.problems.size()});
+        }
+    }
+    std::ranges::stable_sort(results, {}, &PrinterResult::problems);
+    return results;
+}
+
+std::string listForPeople(const std::vector<PrinterResult>& results) {
+    std::vector<std::vector<std::string>> rows;
+    rows.reserve(results.size());
+    for (const PrinterResult& result : results) {
+        rows.push_back({std::to_string(result.model.number), result.model.name,
+                        describeCount(result.problems)});
+    }
+    return layOut(std::move(rows));
+}
+
+std::string listAsJson(const std::vector<PrinterResult>& results, const std::string& ticket,
+                       bool isOneOfSeveral) {
+    Json list = Json::array();
+    for (const PrinterResult& result : results) {
+        list.add(describePrinter(result.offers)
+                     .add("problems", static_cast<std::uint32_t>(result.problems)));
+    }
+    return startJson(ticket, isOneOfSeveral).add("printers", list).toText();
+}
+
+ExitStatus checkAllPrinters(const Options& options, const std::string& ticket) {
+    const std::vector<PrinterResult> results = checkWithAll(readDocumentFile(ticket), options);
+    if (results.empty()) {
+        throw ProgramError(ExitStatus::badValue,
+                           "--pdl: no printer has " + inQuotes(options.printer.language));
+    }
+    const bool hasName = options.tickets.size() > 1;
+    if (!options.isQuiet) {
+        writeStandardOutput(options.listsJson ? listAsJson(results, ticket, hasName)
+                                              : (hasName ? nameForMessages(ticket) + ":\n" : "") +
+                                                    listForPeople(results));
+    }
+    return results.front().problems == 0 ? ExitStatus::success : ExitStatus::differences;
+}
+
 ExitStatus run(const Options& options) {
-    return options.showsDialog ? checkInDialog(options) : check(options);
+    if (options.checksAllPrinters) {
+        return runOnEach(options.tickets, options.isQuiet, [&](const std::string& ticket) {
+            return checkAllPrinters(options, ticket);
+        });
+    }
+    const PrinterChoice printer = choosePrinter(options.printer);
+    const std::vector<std::string> results =
+        options.repairs ? chooseResultFiles(options.tickets, options.output)
+                        : std::vector<std::string>(options.tickets.size());
+    std::size_t next = 0;
+    return runOnEach(options.tickets, options.isQuiet, [&](const std::string& ticket) {
+        const auto how = options.showsDialog ? checkInDialog : check;
+        return how(options, printer, ticket, results[next++]);
+    });
 }
 
 constexpr std::array options = {
-    ticketArgument,
+    ticketArguments,
+    Option{.names = "--all-printers",
+           .target = in<&Options::checksAllPrinters>,
+           .help = "List which printers can do the ticket, with the number of problems of each",
+           .excludes = "--model"},
     modelOption,
     languageOption,
     formOption,
@@ -71,20 +159,25 @@ constexpr std::array options = {
            .excludes = "--json"},
     Option{.names = "--fix",
            .target = in<&Options::repairs>,
-           .help = "Repair the ticket, and write it"},
+           .help = "Repair the ticket, and write it",
+           .excludes = "--all-printers"},
     Option{.names = outputOption.names,
            .operand = Operand::file,
            .target = outputOption.target,
            .help = "File to write the repaired ticket to; without it, standard output, and the "
-                   "list goes to standard error",
-           .needs = "--fix"}};
+                   "list goes to standard error. With several tickets it is the folder that they "
+                   "go to",
+           .needs = "--fix"},
+    withHelp(quietOption, "No list: the exit status says all")};
 
 } // namespace
 
 const Command checkCommand = {
-    "check", "List what a printer can't do of a ticket; exit status 1 if there is anything",
-    options, run,
+    "check", "List what a printer can't do of tickets; exit status 1 if there is anything", options,
+    run,
     "jobticket check report.xml --model 43 --pdl ps\n"
-    "jobticket check report.xml -m 43 -p ps --fix -o repaired.xml\n"};
+    "jobticket check report.xml -m 43 -p ps --fix -o repaired.xml\n"
+    "jobticket check report.xml --all-printers\n"
+    "jobticket check -q *.xml -m 43 -p ps\n"};
 
 } // namespace jobticket

@@ -88,6 +88,7 @@ std::string getLongestName(const Option& option);
 
 extern const Command newCommand;
 extern const Command showCommand;
+extern const Command getCommand;
 extern const Command setCommand;
 extern const Command unsetCommand;
 extern const Command diffCommand;

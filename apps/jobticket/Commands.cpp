@@ -10,6 +10,7 @@ namespace {
 constexpr std::array commands = {
     &newCommand,
     &showCommand,
+    &getCommand,
     &setCommand,
     &unsetCommand,
     &diffCommand,

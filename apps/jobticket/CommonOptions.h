@@ -11,6 +11,11 @@ constexpr Option ticketArgument = {.names = "TICKET",
                                    .target = in<&Options::ticket>,
                                    .help = "Ticket file, or - for standard input",
                                    .isRequired = true};
+constexpr Option ticketArguments = {.names = "TICKET",
+                                    .operand = Operand::file,
+                                    .target = in<&Options::tickets>,
+                                    .help = "Ticket files, or - for standard input",
+                                    .isRequired = true};
 constexpr Option modelOption = {.names = "-m,--model",
                                 .operand = Operand::model,
                                 .target = in<&Options::printer, &PrinterOptions::model>,

@@ -124,21 +124,21 @@ const Option* findOption(const Command& command, const std::string& name) {
     return found == command.options.end() ? nullptr : &*found;
 }
 
-/// What stands at the place of an argument, counted from 0; the last one may be repeated.
+/// What stands at the place of an argument, counted from 0. One that may be repeated is, unless
+/// another follows.
 Operand operandAt(const Command& command, std::size_t count) {
-    Operand operand = Operand::none;
-    bool isRepeated = false;
+    const Option* last = nullptr;
     for (const Option& option : command.options) {
-        if (option.isArgument() && !isRepeated) {
-            operand = option.operand;
-            isRepeated = option.takesSeveral();
-            if (count == 0 || isRepeated) {
-                return operand;
-            }
-            --count;
+        if (!option.isArgument()) {
+            continue;
         }
+        last = &option;
+        if (count == 0) {
+            return option.operand;
+        }
+        --count;
     }
-    return Operand::none;
+    return last != nullptr && last->takesSeveral() ? last->operand : Operand::none;
 }
 
 Place findPlace(Words words) {

@@ -1,11 +1,18 @@
+#include <algorithm>
 #include <array>
+#include <iostream>
+#include <sstream>
 
 #include "Assignment.h"
+#include "AttributePath.h"
+#include "Batch.h"
 #include "CommonOptions.h"
 #include "Session.h"
+#include "Text.h"
 #include "TicketDocument.h"
 #include "TicketEditor.h"
 #include "TicketFile.h"
+#include "platform/LockedFile.h"
 
 namespace jobticket {
 
@@ -34,78 +41,170 @@ constexpr const char* aboutValues = R"(Values:
 
 constexpr std::array aboutSetting = {aboutPaths, aboutValues};
 
-/// Reads a ticket, edits it, writes it. Nothing is written unless all went well.
-template <typename Edit>
-ExitStatus editTicket(const Options& options, const Edit& edit) {
+/// The lines of a file of assignments; empty ones and those that begin with # say nothing.
+std::vector<std::string> readAssignments(const std::string& file) {
+    std::vector<std::string> lines;
+    std::istringstream text(readFile(file));
+    for (std::string line; std::getline(text, line);) {
+        if (line.ends_with('\r')) {
+            line.pop_back();
+        }
+        if (!line.empty() && line.front() != '#') {
+            lines.push_back(line);
+        }
+    }
+    return lines;
+}
+
+/// The tickets stand first; what follows is all to be set, and so is what looks like it.
+void moveAssignments(Options& options) {
+    std::vector<std::string>& tickets = options.tickets;
+    const auto first =
+        std::find_if(tickets.begin(), tickets.end(), [](const std::string& argument) {
+            return argument.starts_with('@') || looksLikeAssignment(argument);
+        });
+    for (auto argument = first; argument != tickets.end(); ++argument) {
+        if (argument->starts_with('@')) {
+            const std::vector<std::string> lines = readAssignments(argument->substr(1));
+            options.edits.insert(options.edits.end(), lines.begin(), lines.end());
+        } else {
+            options.edits.push_back(*argument);
+        }
+    }
+    tickets.erase(first, tickets.end());
+    if (tickets.empty()) {
+        throw ProgramError(ExitStatus::usage, "TICKET is required before what is to be set");
+    }
+}
+
+/// A name of a feature among the tickets lacks its value.
+void checkAreFiles(const std::vector<std::string>& tickets) {
+    for (const std::string& ticket : tickets) {
+        if (Feature::exists(ticket) &&
+            zent::platform::getFileKind(fromUtf8(ticket)) == zent::platform::FileKind::missing) {
+            throw ProgramError(ExitStatus::usage,
+                               inQuotes(ticket) + " isn't of the form FEATURE=VALUE");
+        }
+    }
+}
+
+bool isGeneralShift(const Assignment& assignment) {
+    const auto number = assignment.path.back().feature.getNumber();
+    return number == zent::feature::xImageShift || number == zent::feature::yImageShift;
+}
+
+/// The session's ticket with what was set. A general image shift becomes those of the printed sides
+/// at once, as an import makes it, so that what is set after it prevails.
+void setAll(Session& session, const std::vector<Assignment>& assignments) {
+    for (const Assignment& assignment : assignments) {
+        Ticket ticket = session.getTicket();
+        setValues(ticket, assignment.path, assignment.values);
+        if (isGeneralShift(assignment)) {
+            session.importTicket(session.exportTicket(), "the ticket");
+        }
+    }
+}
+
+std::vector<Assignment> parseAll(const Options& options) {
+    std::vector<Assignment> assignments;
+    for (const std::string& text : options.edits) {
+        for (Assignment& assignment : parseAssignments(text)) {
+            std::cerr << (options.isQuiet ? "" : hintAtMisspelling(assignment));
+            assignments.push_back(std::move(assignment));
+        }
+    }
+    return assignments;
+}
+
+/// Nothing is written of a ticket unless all went well.
+ExitStatus set(const Options& given) {
+    Options options = given;
+    moveAssignments(options);
+    checkAreFiles(options.tickets);
+    const std::vector<Assignment> assignments = parseAll(options);
+    const std::vector<std::string> results =
+        options.writesInPlace ? options.tickets
+                              : chooseResultFiles(options.tickets, options.output);
+    std::size_t next = 0;
+    return runOnEach(options.tickets, options.isQuiet, [&](const std::string& ticket) {
+        const std::string& result = results[next++];
+        Session session;
+        importDocumentFile(session, ticket);
+        setAll(session, assignments);
+        writeFile(result, session.exportTicket());
+        return ExitStatus::success;
+    });
+}
+
+/// What unset is to remove: features by the exported calls; attributes that only the document type
+/// knows have no number there and are taken out of the document.
+ExitStatus unset(const Options& options) {
+    std::vector<FeaturePath> features;
+    std::vector<std::string> attributes;
+    for (const std::string& text : options.edits) {
+        if (namesAttribute(text)) {
+            attributes.push_back(text);
+        } else {
+            features.push_back(parsePath(text));
+        }
+    }
     Session session;
     importDocumentFile(session, options.ticket);
     Ticket ticket = session.getTicket();
-    edit(ticket);
-    writeResult(options.output, session.exportTicket());
+    if (options.removesAll) {
+        ticket.removeAll();
+    }
+    for (const FeaturePath& path : features) {
+        removeValues(ticket, path);
+    }
+    const std::string document = session.exportTicket();
+    writeFile(options.writesInPlace ? options.ticket
+                                    : options.output.value_or(std::string(standardStream)),
+              attributes.empty() ? document : withoutAttributes(document, attributes));
     return ExitStatus::success;
 }
 
-ExitStatus set(const Options& options) {
-    std::vector<Assignment> assignments;
-    for (const std::string& text : options.edits) {
-        assignments.push_back(parseAssignment(text));
-        hintAtMisspelling(assignments.back());
-    }
-    return editTicket(options, [&](Ticket& ticket) {
-        for (const Assignment& assignment : assignments) {
-            setValues(ticket, assignment.path, assignment.values);
-        }
-    });
-}
+constexpr Option inPlaceOption = {.names = "-i,--in-place",
+                                  .target = in<&Options::writesInPlace>,
+                                  .help = "Write each ticket back to its own file",
+                                  .excludes = "--output"};
 
-ExitStatus unset(const Options& options) {
-    std::vector<FeaturePath> paths;
-    for (const std::string& text : options.edits) {
-        paths.push_back(parsePath(text));
-    }
-    return editTicket(options, [&](Ticket& ticket) {
-        if (options.removesAll) {
-            ticket.removeAll();
-        }
-        for (const FeaturePath& path : paths) {
-            removeValues(ticket, path);
-        }
-    });
-}
-
-constexpr Option resultOption = withHelp(
-    outputOption, "File to write; without it, standard output. It may be the ticket itself");
-
-constexpr std::array setOptions = {ticketArgument,
-                                   Option{.names = "FEATURE=VALUE",
-                                          .operand = Operand::assignment,
-                                          .target = in<&Options::edits>,
-                                          .help = "What to set, as in copies=2 sides=one-sided"},
-                                   resultOption};
-constexpr std::array unsetOptions = {ticketArgument,
-                                     Option{.names = "FEATURE",
-                                            .operand = Operand::path,
-                                            .target = in<&Options::edits>,
-                                            .help = "What to remove"},
-                                     Option{.names = "--all",
-                                            .target = in<&Options::removesAll>,
-                                            .help = "Remove everything: gives an empty ticket"},
-                                     resultOption};
+constexpr std::array setOptions = {
+    ticketArguments,
+    Option{.names = "FEATURE=VALUE",
+           .operand = Operand::assignment,
+           .target = in<&Options::edits>,
+           .help = "What to set, as in copies=2 sides=one-sided; stock=NAME sets the medium to a "
+                   "stock of your library; @FILE reads lines of these"},
+    withHelp(outputOption, "File to write; without it, standard output. With several tickets it is "
+                           "the folder that the results go to"),
+    inPlaceOption, quietOption};
+constexpr std::array unsetOptions = {
+    ticketArgument,
+    Option{.names = "FEATURE",
+           .operand = Operand::path,
+           .target = in<&Options::edits>,
+           .help = "What to remove: a feature, or any attribute that \"show\" lists"},
+    Option{.names = "--all",
+           .target = in<&Options::removesAll>,
+           .help = "Remove everything: gives an empty ticket"},
+    outputOption, inPlaceOption};
 
 } // namespace
 
 const Command setCommand = {"set",
-                            "Set features of a ticket",
+                            "Set features of tickets",
                             setOptions,
                             set,
                             "jobticket set report.xml copies=2 page-ranges=1-5,8-9 -o out.xml\n"
-                            "jobticket set report.xml 'page-overrides[0].pages=1-2'\n",
+                            "jobticket set -i *.xml media-size=A4 finishings=staple-top-left\n"
+                            "jobticket set report.xml 'page-overrides[0].pages=1-2' -i\n",
                             aboutSetting};
 const Command unsetCommand = {"unset",
                               "Remove features from a ticket",
                               unsetOptions,
                               unset,
-                              "jobticket unset report.xml finishings media-color -o report.xml\n",
+                              "jobticket unset report.xml finishings media-color -i\n",
                               std::span(aboutSetting).first(1)};
 
 } // namespace jobticket

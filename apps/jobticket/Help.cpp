@@ -12,7 +12,8 @@ namespace {
 
 constexpr const char* aboutStatus = R"(Exit status:
   0  success
-  1  diff: the tickets differ; check, retarget: the printer can't do all of it
+  1  diff: the tickets differ; get: the feature isn't set; check, retarget: the
+     printer can't do all of the ticket
   2  wrong use of the command
   3  a file can't be read
   4  what was read is no valid ticket, state blob or media library

@@ -2,7 +2,9 @@
 #include <array>
 #include <iostream>
 
+#include "Batch.h"
 #include "CommonOptions.h"
+#include "Offers.h"
 #include "Outline.h"
 #include "PreferenceSetOptions.h"
 #include "PrinterOptions.h"
@@ -16,8 +18,8 @@ namespace jobticket {
 
 namespace {
 
-void note(const std::string& text) {
-    if (!text.empty()) {
+void note(const Options& options, const std::string& text) {
+    if (!text.empty() && !options.isQuiet) {
         std::cerr << "jobticket: " << text;
     }
 }
@@ -35,40 +37,54 @@ std::string describeReplacement(const std::vector<OutlineLine>& outline, const c
                      "; --keep-names keeps it\n";
 }
 
-void noteReplacedNames(const zent::AttrNodeList& ticket, const zent::UserContext& user) {
+void noteReplacedNames(const Options& options, const zent::AttrNodeList& ticket,
+                       const zent::UserContext& user) {
     const std::vector<OutlineLine> outline = makeOutline(ticket);
     const std::string logonName = toUtf8(user.logonName);
     if (user.useLogonName) {
-        note(describeReplacement(outline, "requesting-user-name", logonName));
+        note(options, describeReplacement(outline, "requesting-user-name", logonName));
     }
     if (user.useLogonNameRecipient) {
-        note(describeReplacement(outline, "job-recipient-name", logonName));
+        note(options, describeReplacement(outline, "job-recipient-name", logonName));
     }
 }
 
-ExitStatus writeInstructions(const Options& options) {
-    const PrinterChoice printer = choosePrinter(options.printer);
-    const std::string document = readFile(options.ticket);
-    const zent::AttrNodeList ticket = readDocument(document, options.ticket);
+ExitStatus writeInstructions(const Options& options, const PrinterChoice& printer,
+                             const std::string& name, const std::string& result) {
+    const std::string document = readFile(name);
+    const zent::AttrNodeList ticket = readDocument(document, name);
     Session session = openSession(options, printer);
-    if (session.importTicket(document, nameForMessages(options.ticket))) {
-        note("note: the printer can't do all of the ticket; \"jobticket check\" lists what, and "
+    if (session.importTicket(document, nameForMessages(name))) {
+        note(options,
+             "note: the printer can't do all of the ticket; \"jobticket check\" lists what, and "
              "--fix repairs it\n");
     }
     const std::string state = session.exportState();
     if (options.keepsNames) {
-        session.importState(withoutLogonNames(state), options.ticket);
+        session.importState(withoutLogonNames(state), name);
     } else {
-        noteReplacedNames(ticket, inspectState(state, options.ticket).user.value());
+        noteReplacedNames(options, ticket, inspectState(state, name).user.value());
     }
     const std::string instructions = session.getInstructions(options.document);
-    note(listOmissions(findOmissions(ticket, printer)));
-    writeResult(options.output, instructions);
+    note(options, listOmissions(findOmissions(ticket, printer)));
+    writeFile(result, instructions);
     return ExitStatus::success;
 }
 
+/// By what form a printer takes, results of several tickets are XML documents or lines of text.
+ExitStatus writeAll(const Options& options) {
+    const PrinterChoice printer = choosePrinter(options.printer);
+    const bool isXml = getOffers(printer).choice.form == ZENT_INSTRUCTIONS_XML;
+    const std::vector<std::string> results =
+        chooseResultFiles(options.tickets, options.output, isXml ? ".xml" : ".txt");
+    std::size_t next = 0;
+    return runOnEach(options.tickets, options.isQuiet, [&](const std::string& ticket) {
+        return writeInstructions(options, printer, ticket, results[next++]);
+    });
+}
+
 constexpr std::array options = {
-    ticketArgument,
+    ticketArguments,
     modelOption,
     languageOption,
     preferenceSetOption,
@@ -84,12 +100,14 @@ constexpr std::array options = {
         .target = in<&Options::document>,
         .help =
             "The document's name, by which the job is called unless the preferences say otherwise"},
-    outputOption};
+    withHelp(outputOption, "File to write; without it, standard output. With several tickets it is "
+                           "the folder that the instructions go to, as NAME.xml or NAME.txt"),
+    quietOption};
 
 } // namespace
 
 const Command instructionsCommand = {
     "instructions", "Write the printing instructions that go to a printer with a job", options,
-    writeInstructions, "jobticket instructions report.xml -m 43 -p ps --document report.ps\n"};
+    writeAll, "jobticket instructions report.xml -m 43 -p ps --document report.ps\n"};
 
 } // namespace jobticket

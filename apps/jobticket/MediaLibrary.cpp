@@ -121,14 +121,22 @@ void MediaLibrary::add(const std::string& name, const std::vector<Assignment>& a
     m_stocks.addStock(stock);
 }
 
-void MediaLibrary::remove(const std::string& name) {
+const Stock& MediaLibrary::get(const std::string& name) {
     const Stock* const stock = find(name);
     if (stock == nullptr) {
         throw ProgramError(ExitStatus::badValue, "the library has no stock " + inQuotes(name) +
                                                      "; \"jobticket stock list\" lists all");
     }
-    m_stocks.removeStock(*stock);
+    return *stock;
 }
+
+std::vector<OutlineLine> MediaLibrary::describe(const std::string& name) {
+    zent::FeatureSettings level;
+    get(name).applyTo(level);
+    return makeOutline(*level.getAttrNodeList());
+}
+
+void MediaLibrary::remove(const std::string& name) { m_stocks.removeStock(get(name)); }
 
 void MediaLibrary::save() {
     try {

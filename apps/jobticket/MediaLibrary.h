@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "Assignment.h"
+#include "Outline.h"
 #include "Session.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
 #include "ocore/Stock/StockInformation.h"
@@ -27,6 +28,9 @@ public:
     /// The path of the file; empty if there is none yet.
     const std::string& getFile() const { return m_file; }
     std::vector<const zent::Stock*> getStocks(zent::StockType kind);
+    /// What a ticket says that asks for the user's stock of that name. Raises ProgramError
+    /// (badValue) if there is none.
+    std::vector<OutlineLine> describe(const std::string& name);
 
     /// Adds a stock of the user's; without assignments it is known by its name alone. Raises
     /// ProgramError (badValue) for a name that another one of these has, and for features that
@@ -42,6 +46,7 @@ private:
 
     MediaLibrary(const PrinterChoice& printer, const std::string& folder, Lock lock);
     const zent::Stock* find(const std::string& name);
+    const zent::Stock& get(const std::string& name);
 
     Lock m_lock;
     zent::NonDriverBasedPrinter m_printer;

@@ -190,7 +190,29 @@ std::string displayNameOf(std::uint32_t language) {
     return std::string(std::ranges::find(all, language, &Language::number)->displayName);
 }
 
+bool isMemberOfAny(const std::vector<Feature>& members, const Feature& feature) {
+    return std::ranges::any_of(members, [&](const Feature& member) {
+        return member == feature || feature.isMemberOf(member);
+    });
+}
+
 } // namespace
+
+bool mayHold(const Feature& holder, const Feature& feature) {
+    std::set<std::pair<std::uint32_t, std::uint32_t>> seen; // families and languages
+    std::vector<Model> models = getModels();
+    std::ranges::reverse(models); // the later ones hold more
+    return std::ranges::any_of(models, [&](const Model& model) {
+        return std::ranges::any_of(model.drivers, [&](const Driver& driver) {
+            if (!seen.emplace(model.family, driver.language.number).second) {
+                return false;
+            }
+            zent::NonDriverBasedPrinter printer(model.number, driver.language.number,
+                                                ZENT_INSTRUCTIONS_BY_MODEL, zent::CXString(), true);
+            return isMemberOfAny(readMembers(printer.getCapabilities(), holder), feature);
+        });
+    });
+}
 
 Offers getOffers(const PrinterChoice& choice) {
     zent::NonDriverBasedPrinter printer(choice.model, choice.pdl, choice.form, zent::CXString(),

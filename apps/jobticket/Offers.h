@@ -37,4 +37,7 @@ struct Offers {
 
 Offers getOffers(const PrinterChoice& choice);
 
+/// Whether any printer lets a page-level feature hold a feature.
+bool mayHold(const Feature& holder, const Feature& feature);
+
 } // namespace jobticket

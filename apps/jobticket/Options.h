@@ -16,9 +16,11 @@ struct PrinterOptions {
 /// All that a command line can say. Each command reads what its own options fill in.
 struct Options {
     std::string ticket; // or the state blob
+    std::vector<std::string> tickets;
     std::string otherTicket;
     std::vector<std::string> edits; // features or assignments
     std::optional<std::string> output;
+    bool writesInPlace = false;
 
     PrinterOptions printer;
     PrinterOptions from;

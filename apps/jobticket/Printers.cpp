@@ -68,6 +68,13 @@ std::vector<Model> findModels(const std::string& text) {
     return models;
 }
 
+bool hasLanguage(const Model& model, const std::string& language) {
+    return std::ranges::any_of(model.drivers, [&](const Driver& driver) {
+        return driver.language.name == language ||
+               std::to_string(driver.language.number) == language;
+    });
+}
+
 std::string listLanguages(const Model& model) {
     std::string text;
     for (const Driver& driver : model.drivers) {

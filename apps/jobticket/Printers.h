@@ -39,6 +39,9 @@ std::vector<Model> getModels();
 /// of a driver.
 std::vector<Model> findModels(const std::string& text);
 
+/// Whether a model has a language, by its name or number.
+bool hasLanguage(const Model& model, const std::string& language);
+
 /// "pcl, ps": the languages of a model.
 std::string listLanguages(const Model& model);
 

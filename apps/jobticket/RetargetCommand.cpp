@@ -63,8 +63,10 @@ ExitStatus retarget(const Options& options) {
     const std::string document = readFile(options.ticket);
     const Move move = compare(readDocument(document, options.ticket), from, to);
     writeResult(options.output, repairTicket(document, options.ticket, to));
-    writeListing(options.listsJson ? listAsJson(move) : listForPeople(move),
-                 isStandardStream(options.output));
+    if (!options.isQuiet) {
+        writeListing(options.listsJson ? listAsJson(move) : listForPeople(move),
+                     isStandardStream(options.output));
+    }
     return move.lost.empty() && move.others.empty() ? ExitStatus::success : ExitStatus::differences;
 }
 
@@ -88,7 +90,8 @@ constexpr std::array options = {
            .help = "Its page description language; without it, pcl"},
     withHelp(jsonOption, "List what is lost as JSON, for other programs"),
     withHelp(outputOption, "File to write the ticket to; without it, standard output, and the list "
-                           "goes to standard error")};
+                           "goes to standard error"),
+    withHelp(quietOption, "No list: the exit status says all")};
 
 } // namespace
 

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <iostream>
 
 #include "CommonOptions.h"
 #include "Listing.h"
@@ -80,8 +81,10 @@ ExitStatus list(const Options& options) {
 ExitStatus add(const Options& options) {
     std::vector<Assignment> assignments;
     for (const std::string& text : options.edits) {
-        assignments.push_back(parseAssignment(text));
-        hintAtMisspelling(assignments.back());
+        for (Assignment& assignment : parseAssignments(text)) {
+            std::cerr << (options.isQuiet ? "" : hintAtMisspelling(assignment));
+            assignments.push_back(std::move(assignment));
+        }
     }
     MediaLibrary library = MediaLibrary::openForChange({}, options.folder);
     library.add(options.stock, assignments, options.isFavorite);
@@ -119,7 +122,7 @@ constexpr std::array addOptions = {
     Option{.names = "--favorite",
            .target = in<&Options::isFavorite>,
            .help = "Offer it in the short lists of dialogs"},
-    folderOption};
+    folderOption, quietOption};
 constexpr std::array removeOptions = {Option{.names = "NAME",
                                              .operand = Operand::stock,
                                              .target = in<&Options::stocks>,

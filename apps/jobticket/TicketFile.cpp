@@ -1,5 +1,6 @@
 #include "TicketFile.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
@@ -76,6 +77,35 @@ bool isStandardStream(const std::optional<std::string>& name) {
 
 void writeResult(const std::optional<std::string>& name, std::string_view bytes) {
     writeFile(name.value_or(std::string(standardStream)), bytes);
+}
+
+std::vector<std::string> chooseResultFiles(const std::vector<std::string>& tickets,
+                                           const std::optional<std::string>& output,
+                                           std::string_view ending) {
+    if (tickets.size() == 1) {
+        return {output.value_or(std::string(standardStream))};
+    }
+    if (!output ||
+        zent::platform::getFileKind(fromUtf8(*output)) != zent::platform::FileKind::folder) {
+        throw ProgramError(ExitStatus::usage,
+                           "with several tickets --output names the folder that the results go to, "
+                           "which must be there");
+    }
+    std::vector<std::string> files;
+    for (const std::string& ticket : tickets) {
+        fs::path name = platform::toPath(ticket).filename();
+        if (!ending.empty()) {
+            name.replace_extension(ending);
+        }
+        const std::u8string path = (platform::toPath(*output) / name).u8string();
+        std::string file(path.begin(), path.end());
+        if (ticket == standardStream || std::ranges::find(files, file) != files.end()) {
+            throw ProgramError(ExitStatus::usage,
+                               "the result of " + inQuotes(ticket) + " has no file of its own");
+        }
+        files.push_back(std::move(file));
+    }
+    return files;
 }
 
 void writeListing(std::string_view text, bool isOutputTaken) {

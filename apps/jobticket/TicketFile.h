@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace jobticket {
 
@@ -20,6 +21,13 @@ void writeFile(const std::string& name, std::string_view bytes);
 /// Writes a result to the file of that name, or to standard output where none is given.
 void writeResult(const std::optional<std::string>& name, std::string_view bytes);
 void writeStandardOutput(std::string_view bytes);
+
+/// Where a result goes that is made of one of several tickets: into the folder that is named, under
+/// the ticket's name with another ending if one is given. Raises ProgramError (usage) if no folder
+/// is, or if two tickets would go to one file.
+std::vector<std::string> chooseResultFiles(const std::vector<std::string>& tickets,
+                                           const std::optional<std::string>& output,
+                                           std::string_view ending = {});
 
 /// Whether a result goes to standard output.
 bool isStandardStream(const std::optional<std::string>& name);

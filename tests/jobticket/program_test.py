@@ -21,7 +21,7 @@ EXAMPLES = sorted((ROOT / "examples").glob("*.xml"))
 REPORT = ROOT / "examples" / "report.xml"
 COMPLETION = ROOT / "apps" / "jobticket" / "jobticket.bash"
 MANUAL = ROOT / "apps" / "jobticket" / "jobticket.1.in"
-COMMANDS = ["new", "show", "set", "unset", "diff", "check", "retarget", "instructions", "notes",
+COMMANDS = ["new", "show", "get", "set", "unset", "diff", "check", "retarget", "instructions", "notes",
             "state", "state pack", "state unpack", "state show", "state renew", "features", "models",
             "capabilities", "stock", "stock list", "stock add", "stock remove", "preferences",
             "preferences list", "preferences get", "preferences set", "help"]
@@ -177,6 +177,11 @@ class Editing(InFolder):
              {"finishings": "20,28,3"}),
             (["page-ranges=1-5, 8", "page-ranges[0]=2-3"], {"page-ranges": "2-3,8"}),
             (["x-side1-image-shift=-1.25mm"], {"x-side1-image-shift": "-125"}),
+            (["x-image-shift=5mm", "x-side2-image-shift=1mm", "y-image-shift=2mm"],
+             {"x-side1-image-shift": "500", "x-side2-image-shift": "100",
+              "y-side1-image-shift": "200", "y-side2-image-shift": "200"}),
+            (["sides=one-sided", "x-image-shift=5mm"],
+             {"sides": "one-sided", "x-side1-image-shift": "500"}),
             (["media-color= my own blue "], {"media-color": "my own blue"}),
             (["job-name=  kept  "], {"job-name": "  kept  "}),
             (["media-col.media-color=blue"], {"media-color": "blue"}),
@@ -225,11 +230,112 @@ class Editing(InFolder):
                 self.assertEqual(raw(run("unset", "-", *paths, data=start)), expected)
         self.assertEqual(run("unset", "--all", REPORT), EMPTY)
 
+    def test_unsets_what_is_no_feature(self):
+        def attribute(name):
+            return f'<{name} syntax="integer">50</{name}>'.encode()
+        ticket = REPORT.read_bytes()
+        ticket = ticket.replace(b"<copies", attribute("job-priority") + b"<copies")
+        ticket = ticket.replace(b"<media-color", attribute("job-k-octets") + b"<media-color")
+        ticket = ticket.replace(b"</page-ranges>", b"</page-ranges>" + attribute("number-up") * 2, 1)
+        self.assertLessEqual({"job-priority", "job-k-octets"}, set(raw(ticket)))
+        self.assertEqual(run("unset", "-", "job-priority", "job-k-octets", "number-up#2",
+                             "number-up", "job-sheets", data=ticket),
+                         run("set", REPORT))
+
+    def test_reads_assignments_from_a_file(self):
+        edits = self.folder / "edits"
+        edits.write_text("# what we print on\n\ncopies=2\nmedia-color=my blue\r\n")
+        ticket = run("set", "-", "copies=9", f"@{edits}", "sides=one-sided", data=EMPTY)
+        self.assertEqual(raw(ticket),
+                         {"copies": "2", "media-color": "my blue", "sides": "one-sided"})
+        run("set", "-", f"@{self.folder / 'none'}", data=EMPTY, status=UNREADABLE)
+
+    def test_sets_the_medium_to_a_stock(self):
+        self.enterContext(unittest.mock.patch.dict(os.environ, HOME=str(self.folder)))
+        if is_windows:
+            self.skipTest("the user's own library")
+        run("stock", "add", "Mine", "media-color=blue", "media-size=A4")
+        run("stock", "add", "plain")
+        expected = raw(REPORT.read_bytes())
+        ticket = run("set", REPORT, "stock=Mine", "cover-front.stock=plain")
+        listed = raw(ticket)
+        self.assertEqual({path: value for path, value in listed.items() if "media" in path},
+                         {"media-color": "blue", "media-size": "21000x29700",
+                          "cover-front.media": "plain"})
+        self.assertEqual({path for path in expected if "media" not in path},
+                         {path for path in listed if "media" not in path})
+        run("set", REPORT, "stock=none of these", status=BAD_VALUE)
+
+    def test_gets(self):
+        ticket = run("set", "-", "copies=2", "finishings=20,22", "media-color=blue",
+                     "media-type=bond", "page-overrides[0].pages=3",
+                     "page-overrides[0].sides=one-sided", data=EMPTY)
+        for path, expected, status in some([
+            ("copies", "2\n", OK),
+            ("finishings", "20,22\n", OK),
+            ("media-col", "media-color=blue\nmedia-type=bond\n", OK),
+            ("page-overrides[0].sides", "one-sided\n", OK),
+            ("cover-front", "", DIFFERENT),
+            ("sides", "", DIFFERENT),
+        ]):
+            with self.subTest(path):
+                self.assertEqual(run("get", "-", path, data=ticket, status=status).decode(), expected)
+        self.assertEqual(len(run("get", "-", "page-overrides[0]", data=ticket).splitlines()), 3)
+        run("get", "-", "copiez", data=ticket, status=BAD_VALUE)
+
     def test_hints_at_a_slip(self):
         _, message = run_for_both("set", REPORT, "media-color=bleu")
         self.assertIn('did you mean "blue"?', message)
         _, message = run_for_both("set", REPORT, "media-color=my own blue", "job-name=bleu")
         self.assertEqual(message, "")
+
+
+class SeveralTickets(InFolder):
+    def setUp(self):
+        super().setUp()
+        self.tickets = [self.folder / f"{name}.xml" for name in "abc"]
+        for number, ticket in enumerate(self.tickets):
+            run("set", "-", f"copies={10 ** (number * 2)}", "-o", ticket, data=EMPTY)
+
+    def copies(self, folder):
+        return [run("get", folder / ticket.name, "copies").decode().strip()
+                for ticket in self.tickets]
+
+    def test_set(self):
+        run("set", "-i", *self.tickets, "sides=one-sided")
+        self.assertEqual(self.copies(self.folder), ["1", "100", "10000"])
+        self.assertEqual(run("get", self.tickets[2], "sides"), b"one-sided\n")
+        out = self.folder / "out"
+        run("set", *self.tickets, "copies=7", "-o", out, status=USAGE)
+        out.mkdir()
+        run("set", *self.tickets, self.tickets[0], "copies=7", "-o", out, status=USAGE)
+        self.assertEqual(list(out.iterdir()), [])
+        _, message = run_for_both("set", *self.tickets, "copies=7", "-o", out)
+        self.assertEqual(message, "jobticket: 3 tickets, all of them fine\n")
+        self.assertEqual(self.copies(out), ["7"] * 3)
+
+    def test_check_and_instructions(self):
+        self.tickets[1].write_bytes(b"no ticket")
+        written, message = run_for_both("check", *self.tickets, "-m", "16", status=INVALID)
+        self.assertEqual([line.split(" ")[0] for line in written.decode().splitlines()],
+                         [f"{self.tickets[0]}:", f"{self.tickets[2]}:", "copies"])
+        self.assertIn("b.xml is no valid ticket", message)
+        self.assertTrue(message.endswith("jobticket: 3 tickets, 1 with problems, 1 failed\n"))
+        written, message = run_for_both("check", "-q", *self.tickets[::2], "-m", "16",
+                                        status=DIFFERENT)
+        self.assertEqual((written, message), (b"", ""))
+        run("instructions", "-q", *self.tickets, "-m", "16", "-o", self.folder, status=INVALID)
+        self.assertEqual({file.name for file in self.folder.glob("*.txt")}, {"a.txt", "c.txt"})
+
+    def test_show(self):
+        listed = run("show", *self.tickets, "--raw").decode()
+        self.assertEqual(listed, "".join(f"{ticket}:\ncopies={copies}\n\n" for ticket, copies in
+                                         zip(self.tickets, (1, 100, 10000))))
+        several = run("show", *self.tickets, "--json").decode()
+        first, end = json.JSONDecoder().raw_decode(several)
+        self.assertEqual(first["ticket"], str(self.tickets[0]))
+        self.assertGreater(len(several), 2 * end)
+        run("show", "-", "-", data=EMPTY, status=USAGE)
 
 
 class Files(InFolder):
@@ -391,6 +497,19 @@ class Checking(InFolder):
             "save-disposition": ["(not set) -> none", "required"]})
         self.assertEqual(run("check", "-", "-m", "16", data=EMPTY),
                          b"Tarvo Lumaset 430, monochrome PCL: no problems\n")
+
+    def test_all_printers(self):
+        listed = json.loads(run("check", REPORT, "--all-printers", "--json"))["printers"]
+        self.assertEqual(sorted(row["model"] for row in listed), list(range(1, 52)))
+        counts = [row["problems"] for row in listed]
+        self.assertEqual(counts, sorted(counts))
+        for row in some([listed[0], listed[-1]]):
+            found = subprocess.run([*program, "check", REPORT, "-m", str(row["model"]), "--json"],
+                                   capture_output=True, timeout=100, check=False).stdout
+            self.assertEqual(len(json.loads(found)["problems"]), row["problems"])
+        colour = run("check", REPORT, "--all-printers", "-p", "color-pcl").decode().splitlines()
+        self.assertLess(len(colour), 51)
+        run("check", REPORT, "--all-printers", "-p", "x", status=BAD_VALUE)
 
     def test_problems_as_json(self):
         ticket = run("set", "-", "copies=32768", "forms-col[0].form-location=x",
@@ -732,7 +851,7 @@ class Failures(InFolder):
             (["shaw", REPORT], b"", USAGE, 'did you mean "show"'),
             (["show"], b"", USAGE, "TICKET"),
             (["state", "shaw"], b"", USAGE, 'did you mean "state show"'),
-            (["show", REPORT, REPORT], b"", USAGE, ""),
+            (["diff", REPORT, REPORT, REPORT], b"", USAGE, "isn't expected"),
             (["set", REPORT, "copies"], b"", USAGE, "FEATURE=VALUE"),
             (["show", self.folder / "none.xml"], b"", UNREADABLE, "none.xml"),
             (["show", self.folder], b"", UNREADABLE, "folder"),
@@ -781,7 +900,11 @@ class Failures(InFolder):
             (["set", REPORT, "finishings[0]=3,20"], b"", BAD_VALUE, "one value only"),
             (["set", REPORT, "finishings[5]=3"], b"", BAD_VALUE, "the next is [1]"),
             (["set", REPORT, "page-overrides[1].sides=one-sided"], b"", BAD_VALUE, "[0]"),
-            (["set", REPORT, "pages=1-2"], b"", BAD_VALUE, "page-overrides[0]"),
+            (["set", REPORT, "pages=1-2"], b"", BAD_VALUE, "stands only in page-overrides[0]\n"),
+            (["set", REPORT, "cover-type=x"], b"", BAD_VALUE, "only in cover-front, cover-back\n"),
+            (["set", REPORT, "cover-front.copies=2"], b"", BAD_VALUE, "no printer takes"),
+            (["set", "copies=2"], b"", USAGE, "TICKET is required"),
+            (["unset", REPORT, "job-prioritx"], b"", BAD_VALUE, "no feature"),
             (["set", "-", "form-name=a"], wrong_type, INVALID, "form-name"),
             (["state", "pack", "-"], b"no XML", INVALID, "line 1, column 1"),
             (["state", "unpack", "-"], report, INVALID, "no state blob"),
@@ -904,7 +1027,7 @@ class Documents(InFolder):
     def test_help_and_manual_tell_all_commands(self):
         general = run("--help").decode()
         manual = re.sub(r"\\f.", "", run("manual", MANUAL).decode().replace("\\-", "-"))
-        self.assertNotIn("@", manual)
+        self.assertNotIn('.\\" @', manual)
         self.assertLessEqual(max(map(len, general.splitlines())), 80)
         for command in COMMANDS:
             *group, name = command.split()
