@@ -23,6 +23,10 @@
  * dialogs and message boxes are Qt's: they belong to the thread of the application's QApplication,
  * or, if it has none, to the first thread that needs one; elsewhere it is as without a display.
  *
+ * Loading. The library stays in the process once it is loaded: unloading it does nothing, and what
+ * it keeps for later calls lasts until the process ends. A process may end, by exit() or a return
+ * from main(), while other threads are in a call, once a first import or export has returned.
+ *
  * Text is zero-terminated and 16 bits wide (ZentChar: wchar_t on Windows, char16_t elsewhere), in
  * UTF-16. Feature names are IPP attribute names such as u"copies"; they compare exactly. A null
  * text counts as an empty one. A document name is narrow: the ANSI code page on Windows, UTF-8

@@ -1,8 +1,7 @@
 #include "ocore/OwnedCriticalResource.h"
 
-#include <memory>
-
 #include "ocore/Trace.h"
+#include "platform/KeepForever.h"
 #include "platform/System.h"
 
 namespace zent {
@@ -43,9 +42,8 @@ struct OwnedCriticalResource::Record {
     }
 };
 
-/// Never destroyed: static objects elsewhere may still take locks while they go.
 OwnedCriticalResource::Record& OwnedCriticalResource::record() {
-    static Record& holds = *std::make_unique<Record>().release();
+    static Record& holds = keepForever<Record>();
     return holds;
 }
 

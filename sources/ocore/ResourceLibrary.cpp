@@ -5,6 +5,7 @@
 #include "ocore/Exceptions.h"
 #include "ocore/OwnedCriticalResource.h"
 #include "platform/Files.h"
+#include "platform/KeepForever.h"
 
 namespace zent {
 
@@ -19,7 +20,7 @@ struct LoadedLibrary {
 };
 
 LoadedLibrary& loadedLibrary() {
-    static LoadedLibrary library;
+    static LoadedLibrary& library = keepForever<LoadedLibrary>();
     return library;
 }
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "ocore/StringBlockPool.h"
+#include "platform/KeepForever.h"
 
 namespace zent {
 
@@ -39,13 +40,21 @@ constexpr std::size_t bytesFor(std::size_t capacity) {
     return sizeof(StringBlock) + (capacity + 1) * sizeof(char16_t);
 }
 
-/// Never destroyed: strings in static objects of other files may outlive any static of this one.
+class Pools {
+public:
+    Pools() : Pools(std::make_index_sequence<poolCapacities.size()>()) {}
+    StringBlockPool& operator[](std::size_t classIndex) { return m_pools[classIndex]; }
+
+private:
+    template <std::size_t... I>
+    explicit Pools(std::index_sequence<I...> /*classes*/)
+        : m_pools{StringBlockPool(bytesFor(poolCapacities[I]))...} {}
+
+    std::array<StringBlockPool, poolCapacities.size()> m_pools;
+};
+
 StringBlockPool& poolOf(std::size_t classIndex) {
-    using Pools = std::array<StringBlockPool, poolCapacities.size()>;
-    static Pools& pools = []<std::size_t... I>(std::index_sequence<I...>)->Pools& {
-        return *new Pools{StringBlockPool(bytesFor(poolCapacities[I]))...};
-    }
-    (std::make_index_sequence<poolCapacities.size()>());
+    static Pools& pools = keepForever<Pools>();
     return pools[classIndex];
 }
 

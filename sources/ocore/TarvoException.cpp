@@ -5,6 +5,7 @@
 
 #include "ocore/OwnedCriticalResource.h"
 #include "ocore/Trace.h"
+#include "platform/KeepForever.h"
 
 namespace zent {
 
@@ -24,9 +25,8 @@ struct PendingLocation {
     }
 };
 
-/// Never destroyed: static objects elsewhere may still fail while they go.
 PendingLocation& pendingLocation() {
-    static PendingLocation& pending = *std::make_unique<PendingLocation>().release();
+    static PendingLocation& pending = keepForever<PendingLocation>();
     return pending;
 }
 

@@ -4,12 +4,14 @@
 
 #include "ocore/Exceptions.h"
 #include "ocore/User.h"
+#include "platform/KeepForever.h"
 
 namespace zent {
 
 namespace {
 
-const CXString keyPrefix(u"SOFTWARE\\Tarvo\\Tarvo Production Printing Services\\");
+const CXString& keyPrefix =
+    keepForever<CXString>(u"SOFTWARE\\Tarvo\\Tarvo Production Printing Services\\");
 
 constexpr const char16_t* jobName = u"JOB_NAME_PREFERENCE";
 constexpr const char16_t* accountRequired = u"ACCOUNT_REQUIRED_PREFERENCE";

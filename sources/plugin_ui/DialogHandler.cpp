@@ -3,6 +3,7 @@
 #include "ocore/CurrentWindowSystem.h"
 #include "ocore/ExceptionReport.h"
 #include "ocore/Stock/StockInformation.h"
+#include "platform/KeepForever.h"
 #include "plugin_ui/FirstFailure.h"
 
 namespace zent {
@@ -18,7 +19,7 @@ std::intptr_t resultOfFailure(std::uint32_t message) {
 }
 
 const CXString& location() {
-    static const CXString name(u"DialogHandler::windowProc()");
+    static const CXString& name = keepForever<CXString>(u"DialogHandler::windowProc()");
     return name;
 }
 

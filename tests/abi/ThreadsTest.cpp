@@ -3,6 +3,7 @@
 
 #include <array>
 #include <atomic>
+#include <chrono>
 #include <cstdlib>
 #include <fstream>
 #include <string>
@@ -145,15 +146,18 @@ std::int64_t readMemoryInUse() {
     return size;
 }
 
+std::uint32_t numberFromEnvironment(const char* name, std::uint32_t otherwise) {
+    const char* const number = std::getenv(name);
+    return number == nullptr ? otherwise : static_cast<std::uint32_t>(std::atoi(number));
+}
+
 /// ZENT_TEST_NAMES plays this with more than a quick run has time for: with a million names the
 /// memory doesn't grow either.
 TEST(ThreadsTest, TicketsBringAnyNumberOfNamesOfTheirOwn) {
     const ScratchPreferences scratch;
-    const char* const wanted = std::getenv("ZENT_TEST_NAMES");
     constexpr std::uint32_t namesOfTicket = 250;
     const std::uint32_t quarter =
-        (wanted == nullptr ? 4000 : static_cast<std::uint32_t>(std::atoi(wanted))) / namesOfTicket /
-        4;
+        numberFromEnvironment("ZENT_TEST_NAMES", 4000) / namesOfTicket / 4;
     std::int64_t memoryOfFirst = 0;
     for (std::uint32_t first = 0; first < 4 * quarter; first += quarter) {
         EXPECT_EQ(onEightThreads(quarter,
@@ -164,6 +168,38 @@ TEST(ThreadsTest, TicketsBringAnyNumberOfNamesOfTheirOwn) {
         memoryOfFirst = first == 0 ? readMemoryInUse() : memoryOfFirst;
     }
     EXPECT_LT(readMemoryInUse() - memoryOfFirst, 16 << 10);
+}
+
+/// Ends the process while other threads are in calls, at some point of their work. The XML system
+/// has been started: on Linux that starts libraries of the network, which don't bear an exit
+/// meanwhile.
+[[noreturn]] void endDuringCalls(std::uint32_t number) {
+    std::string first(1 << 20, '\0');
+    runTicketOfNames(0, 1, first);
+    std::atomic<int> running{0};
+    for (std::uint32_t thread = 0; thread < 4; ++thread) {
+        std::thread([&running, thread] {
+            std::string output(1 << 20, '\0');
+            ++running;
+            for (std::uint32_t i = 0;; ++i) {
+                runTicketOfNames(i * 4 + thread, 3, output);
+            }
+        }).detach();
+    }
+    while (running != 4) {
+        std::this_thread::yield();
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(number * 7 % 50));
+    std::exit(0);
+}
+
+/// ZENT_TEST_EXITS plays this more often than a quick run has time for.
+TEST(ThreadsDeathTest, TheProcessMayEndDuringCalls) {
+    const ScratchPreferences scratch;
+    const std::uint32_t exits = numberFromEnvironment("ZENT_TEST_EXITS", 12);
+    for (std::uint32_t i = 0; i < exits; ++i) {
+        EXPECT_EXIT(endDuringCalls(i), testing::ExitedWithCode(0), "");
+    }
 }
 
 TEST(ThreadsTest, SessionsOfEightThreadsDontDisturbEachOther) {

@@ -12,6 +12,7 @@
 #include "ocore/OrdoParse/ZNXMLInterface.h"
 #include "ocore/OwnedCriticalResource.h"
 #include "platform/Files.h"
+#include "platform/KeepForever.h"
 
 namespace zent {
 
@@ -19,8 +20,8 @@ namespace {
 
 constexpr const char16_t* dtdFileName = u"ordo-v02025.dtd";
 
-CriticalResource dtdPathGuard(u"OrdoTranslator");
-CXString dtdPath;
+CriticalResource& dtdPathGuard = keepForever<CriticalResource>(u"OrdoTranslator");
+CXString& dtdPath = keepForever<CXString>();
 
 /// The path; nothing if no directory could be had.
 std::optional<CXString> getDtdPath() {

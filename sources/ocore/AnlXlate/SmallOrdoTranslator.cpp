@@ -6,6 +6,7 @@
 #include "ocore/FeatureSettings/FeatureDataBase.h"
 #include "ocore/FeatureSettings/FeatureValueDataBase.h"
 #include "ocore/OrdoParse/TarvoXmlFile.h"
+#include "platform/KeepForever.h"
 
 namespace zent {
 
@@ -15,10 +16,14 @@ constexpr FeatureEnum noFeature = 0;
 constexpr char16_t mark = u'*';
 
 using MemberCode = std::pair<CXString, CXString>;
-const MemberCode memberCodes[] = {
-    {u"value", u"V"},      {u"lower-bound", u"L"},    {u"upper-bound", u"U"},
-    {u"cross-feed", u"C"}, {u"feed-direction", u"F"}, {u"units", u"T"},
-};
+const auto& memberCodes = keepForever<std::vector<MemberCode>>(std::initializer_list<MemberCode>{
+    {u"value", u"V"},
+    {u"lower-bound", u"L"},
+    {u"upper-bound", u"U"},
+    {u"cross-feed", u"C"},
+    {u"feed-direction", u"F"},
+    {u"units", u"T"},
+});
 
 /// Goes through a list and all lists within it, the embedded ones first. The feature that the last
 /// node stood for is carried along, since a value is abbreviated by its feature's table: what

@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "ocore/CXString.h"
+#include "platform/KeepForever.h"
 
 namespace zent {
 
@@ -22,18 +23,18 @@ enum AVTE : std::uint32_t {
 
 /// The keywords of the attribute syntaxes (RFC 8011, section 5.1).
 namespace syntax {
-inline const CXString integer(u"integer");
-inline const CXString enumeration(u"enum");
-inline const CXString name(u"name");
-inline const CXString keyword(u"keyword");
-inline const CXString boolean(u"boolean");
-inline const CXString text(u"text");
-inline const CXString mimeMediaType(u"mimeMediaType");
-inline const CXString uri(u"uri");
-inline const CXString setOf(u"1setOf");
-inline const CXString collection(u"collection");
-inline const CXString rangeOfInteger(u"rangeOfInteger");
-inline const CXString resolution(u"resolution");
+inline const CXString& integer = keepForever<CXString>(u"integer");
+inline const CXString& enumeration = keepForever<CXString>(u"enum");
+inline const CXString& name = keepForever<CXString>(u"name");
+inline const CXString& keyword = keepForever<CXString>(u"keyword");
+inline const CXString& boolean = keepForever<CXString>(u"boolean");
+inline const CXString& text = keepForever<CXString>(u"text");
+inline const CXString& mimeMediaType = keepForever<CXString>(u"mimeMediaType");
+inline const CXString& uri = keepForever<CXString>(u"uri");
+inline const CXString& setOf = keepForever<CXString>(u"1setOf");
+inline const CXString& collection = keepForever<CXString>(u"collection");
+inline const CXString& rangeOfInteger = keepForever<CXString>(u"rangeOfInteger");
+inline const CXString& resolution = keepForever<CXString>(u"resolution");
 } // namespace syntax
 
 /// The kind that a syntax keyword stands for: AVTE_LIST for all four compound syntaxes, AVTE_NULL

@@ -1,29 +1,31 @@
 #include "ocore/Attributes/AttrNames.h"
 
+#include "platform/KeepForever.h"
+
 namespace zent::attrNames {
 
 const AttrID& value() {
-    static const AttrID id(u"value");
+    static const AttrID& id = keepForever<AttrID>(u"value");
     return id;
 }
 const AttrID& lowerBound() {
-    static const AttrID id(u"lower-bound");
+    static const AttrID& id = keepForever<AttrID>(u"lower-bound");
     return id;
 }
 const AttrID& upperBound() {
-    static const AttrID id(u"upper-bound");
+    static const AttrID& id = keepForever<AttrID>(u"upper-bound");
     return id;
 }
 const AttrID& crossFeed() {
-    static const AttrID id(u"cross-feed");
+    static const AttrID& id = keepForever<AttrID>(u"cross-feed");
     return id;
 }
 const AttrID& feedDirection() {
-    static const AttrID id(u"feed-direction");
+    static const AttrID& id = keepForever<AttrID>(u"feed-direction");
     return id;
 }
 const AttrID& units() {
-    static const AttrID id(u"units");
+    static const AttrID& id = keepForever<AttrID>(u"units");
     return id;
 }
 

@@ -1,12 +1,13 @@
 #include "ocore/Attributes/IppBoolean.h"
 
 #include "ocore/Exceptions.h"
+#include "platform/KeepForever.h"
 
 namespace zent {
 
 namespace {
-const CXString trueText(u"true");
-const CXString falseText(u"false");
+const CXString& trueText = keepForever<CXString>(u"true");
+const CXString& falseText = keepForever<CXString>(u"false");
 } // namespace
 
 IppBoolean::IppBoolean(const CXString& text)

@@ -2,6 +2,7 @@
 
 #include "ocore/FeatureSettings/CapabilityDataBase.h"
 #include "ocore/FeatureSettings/FeatureIdentifier.h"
+#include "platform/KeepForever.h"
 
 namespace zent {
 
@@ -10,8 +11,8 @@ namespace {
 constexpr std::u16string_view supportedSuffix = u"-supported";
 
 // The lists of the printer as a whole are named like the capabilities of attributes.
-const CXString jobAttributes(u"job-creation-attributes");
-const CXString userDefinedAttributes(u"user-defined-values");
+const CXString& jobAttributes = keepForever<CXString>(u"job-creation-attributes");
+const CXString& userDefinedAttributes = keepForever<CXString>(u"user-defined-values");
 
 } // namespace
 
@@ -60,7 +61,7 @@ void CapabilityIndex::mark(const CXString& list, bool AttributeCapabilities::*fl
 }
 
 const AttributeCapabilities& CapabilityIndex::getAttribute(const CXString& name) const {
-    static const AttributeCapabilities unknown;
+    static const auto& unknown = keepForever<AttributeCapabilities>();
     const auto found = m_attributes.find(name.view());
     return found == m_attributes.end() ? unknown : found->second;
 }

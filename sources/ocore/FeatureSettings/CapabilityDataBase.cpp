@@ -8,6 +8,7 @@
 #include "ocore/FeatureSettings/FeatureDataBase.h"
 #include "ocore/FeatureSettings/NestedIDText.h"
 #include "ocore/SharedTable.h"
+#include "platform/KeepForever.h"
 
 namespace zent {
 
@@ -28,7 +29,8 @@ std::unique_ptr<const CapabilityStore> buildStore() {
     return built;
 }
 
-SharedTable<CapabilityStore> sharedStore(u"CapabilityDataBase");
+SharedTable<CapabilityStore>& sharedStore =
+    keepForever<SharedTable<CapabilityStore>>(u"CapabilityDataBase");
 
 const CapabilityStore& store() { return *sharedStore; }
 

@@ -7,6 +7,7 @@
 #include "ocore/FeatureSettings/FeatureTable.h"
 #include "ocore/FeatureSettings/NestedIDText.h"
 #include "ocore/SharedTable.h"
+#include "platform/KeepForever.h"
 
 namespace zent {
 
@@ -49,7 +50,7 @@ std::unique_ptr<const FeatureStore> buildStore() {
     return store;
 }
 
-SharedTable<FeatureStore> sharedStore(u"FeatureDataBase");
+SharedTable<FeatureStore>& sharedStore = keepForever<SharedTable<FeatureStore>>(u"FeatureDataBase");
 
 const FeatureStore& store() { return *sharedStore; }
 

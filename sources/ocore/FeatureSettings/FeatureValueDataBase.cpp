@@ -8,6 +8,7 @@
 #include "ocore/FeatureSettings/FeatureDataBase.h"
 #include "ocore/FeatureSettings/FeatureValueTable.h"
 #include "ocore/SharedTable.h"
+#include "platform/KeepForever.h"
 
 namespace zent {
 
@@ -80,7 +81,8 @@ std::unique_ptr<const ValueStore> buildStore() {
     return built;
 }
 
-SharedTable<ValueStore> sharedStore(u"FeatureValueDataBase");
+SharedTable<ValueStore>& sharedStore =
+    keepForever<SharedTable<ValueStore>>(u"FeatureValueDataBase");
 
 const ValueStore& store() { return *sharedStore; }
 

@@ -7,6 +7,7 @@
 
 #include "ocore/ResourceLibrary.h"
 #include "ocore/SharedTable.h"
+#include "platform/KeepForever.h"
 
 namespace zent {
 
@@ -44,7 +45,7 @@ StockSize::StockSize(const Row& row, CXString displayName)
       m_displayName(std::move(displayName)) {}
 
 const std::vector<StockSize>& StockSize::store() {
-    static SharedTable<std::vector<StockSize>> sizes(u"StockSize");
+    static auto& sizes = keepForever<SharedTable<std::vector<StockSize>>>(u"StockSize");
     return sizes.get([]() -> std::unique_ptr<const std::vector<StockSize>> {
         const ResourceLibrary resources;
         auto built = std::make_unique<std::vector<StockSize>>();

@@ -10,6 +10,7 @@
 #include "ocore/OrdoParse/OwnDtd.h"
 #include "ocore/OrdoParse/ParserMemory.h"
 #include "platform/Files.h"
+#include "platform/KeepForever.h"
 #include "platform/Lock.h"
 
 namespace zent {
@@ -30,9 +31,8 @@ struct Slot {
     }
 };
 
-/// Never destroyed: at the end of the process the parser library may have gone before.
 Slot& slot() {
-    static Slot& kept = *std::make_unique<Slot>().release();
+    static Slot& kept = keepForever<Slot>();
     return kept;
 }
 

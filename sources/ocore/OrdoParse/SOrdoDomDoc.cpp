@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "ocore/Attributes/AVTE.h"
+#include "platform/KeepForever.h"
 
 namespace zent {
 
@@ -11,12 +12,20 @@ namespace {
 using SyntaxCode = std::pair<const CXString&, CXString>;
 
 /// The codes that syntaxes travel under. What isn't here passes unchanged.
-const SyntaxCode syntaxCodes[] = {
-    {syntax::boolean, u"b"},     {syntax::integer, u"i"},       {syntax::setOf, u"s"},
-    {syntax::collection, u"c"},  {syntax::keyword, u"k"},       {syntax::rangeOfInteger, u"r"},
-    {syntax::enumeration, u"e"}, {syntax::name, u"n"},          {syntax::text, u"t"},
-    {syntax::uri, u"u"},         {syntax::mimeMediaType, u"m"}, {syntax::resolution, u"o"},
-};
+const auto& syntaxCodes = keepForever<std::vector<SyntaxCode>>(std::initializer_list<SyntaxCode>{
+    {syntax::boolean, u"b"},
+    {syntax::integer, u"i"},
+    {syntax::setOf, u"s"},
+    {syntax::collection, u"c"},
+    {syntax::keyword, u"k"},
+    {syntax::rangeOfInteger, u"r"},
+    {syntax::enumeration, u"e"},
+    {syntax::name, u"n"},
+    {syntax::text, u"t"},
+    {syntax::uri, u"u"},
+    {syntax::mimeMediaType, u"m"},
+    {syntax::resolution, u"o"},
+});
 
 } // namespace
 

@@ -21,6 +21,7 @@
 #include "ocore/OrdoParse/XmlOutputCallback.h"
 #include "ocore/OrdoParse/XmlTreeBuilder.h"
 #include "ocore/OrdoParse/XmlWriter.h"
+#include "platform/KeepForever.h"
 
 namespace zent {
 
@@ -61,7 +62,7 @@ CXString writingEncoding(const XmlDocument& document) {
 void TarvoXmlParser::parse(std::span<const std::byte> bytes) { parse(bytes, findDtd()); }
 
 void TarvoXmlParser::parseSkeleton(std::string_view skeleton) {
-    static KeptSkeletons withoutValidation;
+    static KeptSkeletons& withoutValidation = keepForever<KeptSkeletons>();
     const auto dtd = findDtd();
     // Where a definition can't be compiled, the parser has to read it anew with each document.
     KeptSkeletons* const kept = dtd          ? &dtd->getSkeletons()

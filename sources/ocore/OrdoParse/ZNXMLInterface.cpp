@@ -9,12 +9,13 @@
 #include "ocore/OrdoParse/CompiledDtd.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
 #include "ocore/OwnedCriticalResource.h"
+#include "platform/KeepForever.h"
 
 namespace zent {
 
 namespace {
 
-CriticalResource guard(u"ZNXMLInterface");
+CriticalResource& guard = keepForever<CriticalResource>(u"ZNXMLInterface");
 ZNXMLInterface* instance = nullptr;
 bool alreadyTerminated = false;
 

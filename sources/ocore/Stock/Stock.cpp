@@ -11,14 +11,15 @@
 #include "ocore/Exceptions.h"
 #include "ocore/Printer/Printer.h"
 #include "ocore/ResourceLibrary.h"
+#include "platform/KeepForever.h"
 
 namespace zent {
 
 namespace {
 
-const _FI media(feature::media);
-const _FI mediaKey(feature::mediaKey);
-const _FI mediaCol(feature::mediaCol);
+const _FI& media = keepForever<_FI>(feature::media);
+const _FI& mediaKey = keepForever<_FI>(feature::mediaKey);
+const _FI& mediaCol = keepForever<_FI>(feature::mediaCol);
 
 /// What makes a description, in the order of comparison.
 constexpr FeatureEnum descriptionFeatures[] = {
@@ -46,7 +47,7 @@ std::atomic<std::uint32_t> lastLogicalID{0};
 
 /// Only a private node is the library's own: a document can hold an attribute of any name.
 const AttrNode* findLogicalIDNode(const AttrNodeList& list) {
-    static const CXString name(u"private-stock-logical-id");
+    static const CXString& name = keepForever<CXString>(u"private-stock-logical-id");
     for (std::uint32_t i = 0; i < list.getNumberOfNodes(); ++i) {
         const AttrNode& node = list.getNodeAt(i);
         if (node.isPrivate() && node.getName() == name) {

@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 #include "ocore/CXString.h"
+#include "platform/KeepForever.h"
 
 namespace zent::platform {
 
@@ -76,7 +77,7 @@ private:
 /// The file that holds this code, as the loader knows it. Taken when the library is loaded, since
 /// the loader's name may be relative to the folder that the process is in at that time.
 const std::string& loadedFrom() {
-    static const std::string path = [] {
+    static const std::string& path = keepForever<std::string>([] {
         Dl_info information = {};
         link_map* map = nullptr;
         if (dladdr1(&pathSeparator, &information, reinterpret_cast<void**>(&map),
@@ -88,7 +89,7 @@ const std::string& loadedFrom() {
         const char* name = *map->l_name != '\0' ? map->l_name : "/proc/self/exe";
         char resolved[PATH_MAX] = {};
         return std::string(realpath(name, resolved) != nullptr ? resolved : "");
-    }();
+    }());
     return path;
 }
 [[maybe_unused]] const std::string& loadedFromAtStart = loadedFrom();

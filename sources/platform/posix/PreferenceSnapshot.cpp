@@ -5,6 +5,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include "platform/KeepForever.h"
 #include "platform/Lock.h"
 
 namespace zent::platform {
@@ -22,7 +23,7 @@ struct Slot {
 };
 
 Slot& slot() {
-    static Slot kept;
+    static Slot& kept = keepForever<Slot>();
     return kept;
 }
 

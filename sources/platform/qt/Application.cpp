@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QThread>
 
+#include "platform/KeepForever.h"
 #include "platform/qt/Display.h"
 
 namespace zent::platform::qt {
@@ -36,7 +37,7 @@ bool makeOwnApplication() {
         return false;
     }
     // Qt keeps references to its arguments.
-    static QByteArray name = platform->plugin;
+    static QByteArray& name = keepForever<QByteArray>(platform->plugin);
     static char program[] = "zent27";
     static char option[] = "-platform";
     static char* arguments[] = {program, option, name.data(), nullptr};

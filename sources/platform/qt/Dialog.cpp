@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QScreen>
 
+#include "platform/KeepForever.h"
 #include "platform/qt/ButtonItem.h"
 #include "platform/qt/Caption.h"
 #include "platform/qt/SpinItem.h"
@@ -25,7 +26,7 @@ constexpr std::uint16_t cancelItem = 2;
 constexpr QSize largestWindow(8191, 8191); // beyond any screen
 
 std::vector<Dialog*>& liveDialogs() {
-    static std::vector<Dialog*> dialogs;
+    static auto& dialogs = keepForever<std::vector<Dialog*>>();
     return dialogs;
 }
 

@@ -1,3 +1,4 @@
+#include "platform/KeepForever.h"
 #include "platform/qt/Application.h"
 #include "platform/qt/QtWindowSystem.h"
 
@@ -5,6 +6,6 @@
 /// one.
 extern "C" [[gnu::visibility("default")]] zent::platform::WindowSystem* zentQtWindowSystem() {
     using namespace zent::platform::qt;
-    static QtWindowSystem windowSystem;
+    static auto& windowSystem = zent::keepForever<QtWindowSystem>();
     return hasApplication() ? &windowSystem : nullptr;
 }

@@ -1,12 +1,24 @@
 #include "platform/LibraryEntry.h"
 
 #include "platform/win32/Module.h"
+#include "platform/win32/SystemLibrary.h"
 
 namespace zent::platform {
 
 namespace {
 
 HMODULE ownModule = nullptr;
+
+/// What the library keeps stays when a host unloads it, so the library stays as well. Windows 2000
+/// has no such call.
+void stayLoaded() noexcept {
+    const SystemLibrary kernel(L"kernel32.dll");
+    HMODULE module = nullptr;
+    if (const auto find = kernel.find<decltype(&GetModuleHandleExW)>("GetModuleHandleExW")) {
+        find(GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
+             reinterpret_cast<const wchar_t*>(&ownModule), &module);
+    }
+}
 
 } // namespace
 
@@ -21,6 +33,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID /*reserved
     switch (LOWORD(reason)) {
     case DLL_PROCESS_ATTACH:
         zent::platform::ownModule = module;
+        zent::platform::stayLoaded();
         break;
     case DLL_PROCESS_DETACH:
         zent::platform::onProcessDetach();

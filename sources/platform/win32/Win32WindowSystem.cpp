@@ -1,5 +1,6 @@
 #include "platform/win32/Win32WindowSystem.h"
 
+#include "platform/KeepForever.h"
 #include "platform/win32/SeenDesktop.h"
 #include "platform/win32/WideText.h"
 #include "platform/win32/WindowText.h"
@@ -28,7 +29,7 @@ std::shared_ptr<WindowsDialog> makeDialog(std::span<const std::byte> dialogTempl
 } // namespace
 
 WindowSystem* WindowSystem::find() {
-    static Win32WindowSystem system;
+    static auto& system = keepForever<Win32WindowSystem>();
     return isDesktopSeen() ? &system : nullptr;
 }
 
