@@ -5,6 +5,8 @@
 #include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLException.hpp>
+#include <xercesc/util/XMLInitializer.hpp>
+#include <xercesc/util/XMLUni.hpp>
 
 #include "ocore/OrdoParse/CompiledDtd.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
@@ -21,17 +23,27 @@ bool alreadyTerminated = false;
 
 } // namespace
 
-ZNXMLInterface::ZNXMLInterface() {
-    try {
-        xercesc::XMLPlatformUtils::Initialize();
-    } catch (const xercesc::OutOfMemoryException&) {
+void ZNXMLInterface::PanicHandler::panic(PanicReasons reason) {
+    if (reason != Panic_AllStaticInitErr) {
         throw std::bad_alloc();
-    } catch (const xercesc::XMLException& exception) {
-        raiseOrdoParse(ordoParseCode::xmlExceptionInStart,
-                       "ZNXMLInterface::ZNXMLInterface(): Error during Xerces-c initialization. "
-                       "Exception message is %s\r\n",
-                       exception.getMessage());
     }
+    isStaticDataMissing = true; // the last of what is started, and it can be made anew
+}
+
+void ZNXMLInterface::start() {
+    struct StaticData : xercesc::XMLInitializer {
+        using XMLInitializer::initializeStaticData;
+    };
+    m_panicHandler.isStaticDataMissing = false;
+    if (m_stage == Stage::withoutStaticData) {
+        StaticData::initializeStaticData();
+    } else {
+        m_stage = Stage::broken;
+        xercesc::XMLPlatformUtils::Initialize(xercesc::XMLUni::fgXercescDefaultLocale, nullptr,
+                                              &m_panicHandler, &m_memory);
+        m_memory.endStart();
+    }
+    m_stage = m_panicHandler.isStaticDataMissing ? Stage::withoutStaticData : Stage::complete;
 }
 
 ZNXMLInterface::~ZNXMLInterface() {
@@ -50,6 +62,21 @@ ZNXMLInterface& ZNXMLInterface::Instance() {
     if (instance == nullptr) {
         instance = new ZNXMLInterface;
     }
+    try {
+        if (instance->m_stage == Stage::none || instance->m_stage == Stage::withoutStaticData) {
+            instance->start();
+        }
+    } catch (const xercesc::OutOfMemoryException&) {
+        throw std::bad_alloc();
+    } catch (const xercesc::XMLException& exception) {
+        raiseOrdoParse(ordoParseCode::xmlExceptionInStart,
+                       "ZNXMLInterface::ZNXMLInterface(): Error during Xerces-c initialization. "
+                       "Exception message is %s\r\n",
+                       exception.getMessage());
+    }
+    if (instance->m_stage != Stage::complete) {
+        throw std::bad_alloc();
+    }
     return *instance;
 }
 
@@ -60,8 +87,10 @@ void ZNXMLInterface::Terminate() {
                        "ZNXMLInterface::Terminate(): Terminate called more than once per "
                        "process!\r\n");
     }
-    delete instance;
-    instance = nullptr;
+    if (instance != nullptr && instance->m_stage == Stage::complete) {
+        delete instance;
+        instance = nullptr;
+    }
 }
 
 } // namespace zent

@@ -1,5 +1,11 @@
 #pragma once
 
+#include <cstdint>
+
+#include <xercesc/util/PanicHandler.hpp>
+
+#include "ocore/OrdoParse/StartMemory.h"
+
 namespace zent {
 
 /// The start of the XML parser library, once per process. Who uses the library asks for the
@@ -18,8 +24,28 @@ public:
     ZNXMLInterface& operator=(const ZNXMLInterface&) = delete;
 
 private:
-    ZNXMLInterface();
+    /// The parser library calls this where it finds no way on, which is for want of memory. Its own
+    /// handler would end the process.
+    class PanicHandler final : public xercesc::PanicHandler {
+    public:
+        void panic(PanicReasons reason) override;
+
+        bool isStaticDataMissing = false;
+    };
+    enum class Stage : std::uint8_t {
+        none,
+        broken, // what there is can't be used, taken back or started again
+        withoutStaticData,
+        complete,
+    };
+
+    ZNXMLInterface() = default;
     ~ZNXMLInterface();
+    void start();
+
+    StartMemory m_memory;
+    PanicHandler m_panicHandler;
+    Stage m_stage = Stage::none;
 };
 
 } // namespace zent
