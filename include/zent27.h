@@ -27,6 +27,9 @@
  * it keeps for later calls lasts until the process ends. A process may end, by exit() or a return
  * from main(), while other threads are in a call, once a first import or export has returned.
  *
+ * Stack. A call takes at most 48 KiB of the thread's stack; one that shows a dialog or a message
+ * box takes what the window system does besides.
+ *
  * Text is zero-terminated and 16 bits wide (ZentChar: wchar_t on Windows, char16_t elsewhere), in
  * UTF-16. Feature names are IPP attribute names such as u"copies"; they compare exactly. A null
  * text counts as an empty one. A document name is narrow: the ANSI code page on Windows, UTF-8

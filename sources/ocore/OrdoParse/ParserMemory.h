@@ -16,10 +16,8 @@ namespace zent {
 /// A parser asks for some hundreds of small blocks before it has read anything, which is a third of
 /// the time that a short ticket takes. So these are cut from one piece and used again by size; the
 /// heap serves large ones alone.
-// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): what is handed out needs no zeros
 class ParserMemory final : public xercesc::MemoryManager {
 public:
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the same
     ParserMemory() = default;
     ~ParserMemory() override;
     ParserMemory(const ParserMemory&) = delete;
@@ -45,8 +43,7 @@ private:
     Head* allocateLarge(std::size_t size);
     void deallocateLarge(Large* block);
 
-    alignas(alignment) std::array<std::byte, firstPiece> m_firstPiece;
-    std::pmr::monotonic_buffer_resource m_pieces{m_firstPiece.data(), m_firstPiece.size()};
+    std::pmr::monotonic_buffer_resource m_pieces{firstPiece, std::pmr::new_delete_resource()};
     std::array<Head*, sizeClasses> m_free{}; // blocks to be used again
     Large* m_newest = nullptr;
 };

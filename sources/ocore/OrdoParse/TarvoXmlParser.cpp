@@ -152,10 +152,11 @@ void TarvoXmlParser::convertToXmlStream(XmlOutputCallback& callback) {
     m_callback = &callback;
     try {
         ParserMemory memory;
-        xercesc::XMLFormatter formatter(encoding.c_str(), u"1.0", this,
-                                        xercesc::XMLFormatter::NoEscapes,
-                                        xercesc::XMLFormatter::UnRep_CharRef, &memory);
-        XmlWriter writer(formatter, callback.isFormatted());
+        // Not on the stack, of which it would take a third of what a call may.
+        const std::unique_ptr<xercesc::XMLFormatter> formatter(new (&memory) xercesc::XMLFormatter(
+            encoding.c_str(), u"1.0", this, xercesc::XMLFormatter::NoEscapes,
+            xercesc::XMLFormatter::UnRep_CharRef, &memory));
+        XmlWriter writer(*formatter, callback.isFormatted());
         writer.write(document.getNode());
         writer.flush();
     } catch (const xercesc::XMLException& exception) {
