@@ -19,6 +19,11 @@ char toLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' +
 
 bool isControl(char16_t unit) { return unit < 0x20 || (unit >= 0x7F && unit < 0xA0); }
 
+std::string inHexadecimal(unsigned byte) {
+    constexpr std::string_view digits = "0123456789abcdef";
+    return {'\\', 'x', digits[byte >> 4U], digits[byte & 0xFU]};
+}
+
 std::string escaped(char16_t control) {
     switch (control) {
     case u'\n':
@@ -28,10 +33,22 @@ std::string escaped(char16_t control) {
     case u'\t':
         return "\\t";
     default:
-        break;
+        return inHexadecimal(control);
     }
-    constexpr std::string_view digits = "0123456789abcdef";
-    return {'\\', 'x', digits[control >> 4U], digits[control & 0xFU]};
+}
+
+/// As much of a text as is UTF-8; the rest stays.
+std::u16string takeUtf8(std::string_view& text) {
+    const std::u8string bytes(text.begin(), text.end());
+    std::u16string result(bytes.size(), u'\0'); // never more units than bytes
+    std::mbstate_t state = {};
+    const char8_t* next = bytes.data();
+    char16_t* end = result.data();
+    converter().in(state, bytes.data(), bytes.data() + bytes.size(), next, result.data(),
+                   result.data() + result.size(), end);
+    result.resize(static_cast<std::size_t>(end - result.data()));
+    text.remove_prefix(static_cast<std::size_t>(next - bytes.data()));
+    return result;
 }
 
 } // namespace
@@ -56,18 +73,10 @@ std::string toUtf8(std::u16string_view text) {
 }
 
 std::u16string fromUtf8(std::string_view text) {
-    const std::u8string bytes(text.begin(), text.end());
-    std::u16string result(bytes.size(), u'\0'); // never more units than bytes
-    std::mbstate_t state = {};
-    const char8_t* next = bytes.data();
-    char16_t* end = result.data();
-    const std::codecvt_base::result status =
-        converter().in(state, bytes.data(), bytes.data() + bytes.size(), next, result.data(),
-                       result.data() + result.size(), end);
-    if (status != std::codecvt_base::ok) {
+    std::u16string result = takeUtf8(text);
+    if (!text.empty()) {
         throw ProgramError(ExitStatus::usage, "an argument isn't UTF-8 text");
     }
-    result.resize(static_cast<std::size_t>(end - result.data()));
     return result;
 }
 
@@ -104,7 +113,15 @@ std::string toLine(std::u16string_view message) {
     return toPrintable(message.substr(0, std::min(word, longest))) + " ...";
 }
 
-std::string toPrintable(std::string_view text) { return toPrintable(fromUtf8(text)); }
+std::string toPrintable(std::string_view text) {
+    std::string result = toPrintable(takeUtf8(text));
+    while (!text.empty()) { // begins with what isn't UTF-8
+        result += inHexadecimal(static_cast<unsigned char>(text.front()));
+        text.remove_prefix(1);
+        result += toPrintable(takeUtf8(text));
+    }
+    return result;
+}
 
 std::string shorten(const std::string& text, std::size_t length) {
     constexpr std::u16string_view ellipsis = u"...";

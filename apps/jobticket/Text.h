@@ -22,7 +22,7 @@ std::u16string fromZent(const ZentText& text);
 /// UTF-8 for one line of a listing: control characters, which could break the line or steer a
 /// terminal, are shown as "\n", "\t" or "\x1b".
 std::string toPrintable(std::u16string_view text);
-/// The same of UTF-8.
+/// The same of UTF-8; bytes that aren't are shown as control characters are.
 std::string toPrintable(std::string_view text);
 
 /// The same of a message: what ends its lines goes, and of a longer one no word is cut.

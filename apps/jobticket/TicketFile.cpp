@@ -117,7 +117,7 @@ void writeListing(std::string_view text, bool isOutputTaken) {
 }
 
 std::string nameForMessages(const std::string& name) {
-    return name == standardStream ? "the standard stream" : name;
+    return name == standardStream ? "the standard stream" : toPrintable(name);
 }
 
 std::string readFile(const std::string& name) {

@@ -35,7 +35,7 @@ bool isStandardStream(const std::optional<std::string>& name);
 /// Writes a listing to standard output, or to standard error if a result is written to the former.
 void writeListing(std::string_view text, bool isOutputTaken);
 
-/// A file's name for messages.
+/// A file's name for messages, printable.
 std::string nameForMessages(const std::string& name);
 
 } // namespace jobticket

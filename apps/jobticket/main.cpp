@@ -35,6 +35,7 @@ int main(int count, char** arguments) {
         return jobticket::fail(ExitStatus::libraryFailure,
                                jobticket::toLine(exception.getMessage()));
     } catch (const std::exception& exception) {
-        return jobticket::fail(ExitStatus::libraryFailure, exception.what());
+        return jobticket::fail(ExitStatus::libraryFailure,
+                               jobticket::toPrintable(std::string_view(exception.what())));
     }
 }

@@ -938,6 +938,15 @@ class Failures(InFolder):
         self.assertEqual(raw(ticket)["job-name"], "a\\x9b31mb")
         _, message = run_for_both("set", REPORT, f"{name}=2", status=BAD_VALUE)
         self.assertNotIn("\u009b", message)
+        _, message = run_for_both("show", f"no such\x1b[31m{name}\n.xml", status=UNREADABLE)
+        self.assertIn("no such\\x1b[31ma\\x9b31mb\\n.xml: ", message)
+        invalid = self.folder / "in\x1bvalid"
+        if not is_windows: # where no file can have such a name
+            invalid.write_text("no XML")
+            _, message = run_for_both("show", invalid, status=INVALID)
+            self.assertIn("in\\x1bvalid is no valid ticket", message)
+            _, message = run_for_both("show", "no\udcff\x1b", status=UNREADABLE)
+            self.assertIn("no\\xff\\x1b: ", message)
 
 
 class Diff(InFolder):
