@@ -16,6 +16,7 @@
 #include <shellapi.h>
 
 #include "Text.h"
+#include "platform/win32/DeviceName.h"
 #else
 #include <unistd.h>
 #endif
@@ -51,6 +52,10 @@ std::optional<std::string> getVariable(const char* name) {
     return value == nullptr ? std::nullopt : std::optional(toUtf8(fromZent(value)));
 }
 
+bool isDeviceName(const std::string& argument) {
+    return zent::platform::isDeviceName(fromUtf8(argument));
+}
+
 #else
 
 std::vector<std::string> getArguments(int count, char** arguments) {
@@ -67,6 +72,9 @@ std::optional<std::string> getVariable(const char* name) {
     const char* const value = std::getenv(name);
     return value == nullptr ? std::nullopt : std::optional<std::string>(value);
 }
+
+// Here a device has a path like any file, and is opened by who names it.
+bool isDeviceName(const std::string& /*argument*/) { return false; }
 
 #endif
 

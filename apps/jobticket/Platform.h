@@ -23,4 +23,7 @@ std::optional<std::string> getVariable(const char* name);
 /// The path that an argument names.
 std::filesystem::path toPath(const std::string& argument);
 
+/// Whether an argument that should be a file's path is the system's own name of a device.
+bool isDeviceName(const std::string& argument);
+
 } // namespace jobticket::platform

@@ -31,6 +31,13 @@ constexpr std::size_t largestFile = 64U << 20U; // what the library takes
 /// Why the last operation of the C library failed.
 std::string lastReason() { return std::generic_category().message(errno); }
 
+/// Windows opens devices by such names as "aux.xml" too, and may wait for them.
+void refuseDeviceName(ExitStatus status, const char* action, const std::string& name) {
+    if (platform::isDeviceName(name)) {
+        fail(status, action, name, "it is the name of a device");
+    }
+}
+
 std::string readStream(std::istream& stream, const std::string& name) {
     std::string bytes;
     std::string chunk(1U << 16U, '\0');
@@ -124,6 +131,7 @@ std::string readFile(const std::string& name) {
     if (name == standardStream) {
         return readStream(std::cin, name);
     }
+    refuseDeviceName(ExitStatus::unreadable, "read", name);
     const fs::path path = platform::toPath(name);
     std::error_code ignored;
     if (fs::is_directory(path, ignored)) {
@@ -142,6 +150,7 @@ void writeFile(const std::string& name, std::string_view bytes) {
         writeStandardOutput(bytes);
         return;
     }
+    refuseDeviceName(ExitStatus::unwritable, "write", name);
     const std::u16string path = fromUtf8(name);
     switch (zent::platform::getFileKind(path)) {
     case zent::platform::FileKind::folder:

@@ -13,7 +13,8 @@ enum class FileKind {
     device,  // or a pipe: what is written to, but not replaced
     unknown, // the system can't tell; getLastError() says why
 };
-/// What a path names, links followed.
+/// What a path names, links followed. Windows can't tell that of the names of its devices, which
+/// aren't looked at, nor locked below.
 FileKind getFileKind(std::u16string_view path);
 
 /// A file that is read and replaced by one at a time, of this process or another. The lock is a

@@ -376,6 +376,15 @@ class Files(InFolder):
         self.assertTrue(stat.S_ISCHR(os.stat("/dev/null").st_mode))
         run("set", REPORT, "-o", "/dev/full", status=UNWRITABLE)
 
+    def test_opens_no_device_by_its_name(self):
+        if not is_windows:
+            self.skipTest("of Windows")
+        for name in ("NUL", "aux.xml", str(self.folder / "com1 .xml")):
+            _, message = run_for_both("set", name, status=UNREADABLE)
+            self.assertIn("it is the name of a device", message)
+            _, message = run_for_both("set", REPORT, "-o", name, status=UNWRITABLE)
+            self.assertIn("it is the name of a device", message)
+
     def test_a_killed_write_leaves_nothing_for_good(self):
         ticket = self.folder / "ticket.xml"
         shutil.copy(REPORT, ticket)

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "platform/win32/DeviceName.h"
 #include "platform/win32/Module.h"
 #include "platform/win32/WideText.h"
 
@@ -67,8 +68,28 @@ private:
     HANDLE m_handle;
 };
 
-std::unique_ptr<OpenFile> wrap(HANDLE handle) {
-    return handle == INVALID_HANDLE_VALUE ? nullptr : std::make_unique<WindowsFile>(handle);
+/// Whether a path may be handed to the system; if not, the last error says so.
+bool isOfFile(const CXString& path) {
+    const bool isDevice = isDeviceName(path);
+    if (isDevice) {
+        SetLastError(ERROR_INVALID_NAME);
+    }
+    return !isDevice;
+}
+
+std::unique_ptr<OpenFile> open(const CXString& path, DWORD access, DWORD creation) {
+    const HANDLE handle = isOfFile(path) ? CreateFileW(wide(path), access, FILE_SHARE_READ, nullptr,
+                                                       creation, FILE_ATTRIBUTE_NORMAL, nullptr)
+                                         : INVALID_HANDLE_VALUE;
+    if (handle == INVALID_HANDLE_VALUE) {
+        return nullptr;
+    }
+    auto file = std::make_unique<WindowsFile>(handle);
+    if (GetFileType(handle) != FILE_TYPE_DISK) { // such as a pipe of another machine
+        file.reset();
+        SetLastError(ERROR_INVALID_NAME);
+    }
+    return file;
 }
 
 std::uint64_t joined(FILETIME time) {
@@ -120,20 +141,19 @@ CXString getFolderOfEnvironment() {
 } // namespace
 
 std::unique_ptr<OpenFile> OpenFile::openForReading(const CXString& path) {
-    return wrap(CreateFileW(wide(path), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                            FILE_ATTRIBUTE_NORMAL, nullptr));
+    return open(path, GENERIC_READ, OPEN_EXISTING);
 }
 
 std::unique_ptr<OpenFile> OpenFile::createForWriting(const CXString& path) {
-    return wrap(CreateFileW(wide(path), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_ALWAYS,
-                            FILE_ATTRIBUTE_NORMAL, nullptr));
+    return open(path, GENERIC_WRITE, CREATE_ALWAYS);
 }
 
-bool deleteFile(const CXString& path) { return DeleteFileW(wide(path)) != FALSE; }
+bool deleteFile(const CXString& path) { return isOfFile(path) && DeleteFileW(wide(path)) != FALSE; }
 
 FileStamp getFileStamp(const CXString& path) {
     WIN32_FILE_ATTRIBUTE_DATA found = {};
-    if (GetFileAttributesExW(wide(path), GetFileExInfoStandard, &found) == FALSE) {
+    if (!isOfFile(path) ||
+        GetFileAttributesExW(wide(path), GetFileExInfoStandard, &found) == FALSE) {
         return {};
     }
     // The file's number would need the file to be opened; its birth tells as much.

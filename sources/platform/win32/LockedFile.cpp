@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/win32/DeviceName.h"
 #include "platform/win32/WideText.h"
 
 namespace zent::platform {
@@ -175,6 +176,10 @@ private:
 } // namespace
 
 FileKind getFileKind(std::u16string_view path) {
+    if (isDeviceName(path)) {
+        SetLastError(ERROR_INVALID_NAME);
+        return FileKind::unknown;
+    }
     const std::u16string name(path);
     const DWORD attributes = GetFileAttributesW(wide(name));
     if (attributes == INVALID_FILE_ATTRIBUTES) {
@@ -191,6 +196,10 @@ FileKind getFileKind(std::u16string_view path) {
 }
 
 std::unique_ptr<LockedFile> LockedFile::lock(std::u16string_view path) {
+    if (isDeviceName(path)) {
+        SetLastError(ERROR_INVALID_NAME);
+        return nullptr;
+    }
     const std::u16string target = followLinks(std::u16string(path));
     Handle lock = acquire(WindowsLockedFile::lockOf(makeStem(target)));
     return lock.isOpen() ? std::make_unique<WindowsLockedFile>(target, std::move(lock)) : nullptr;
