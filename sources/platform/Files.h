@@ -14,7 +14,12 @@ namespace zent::platform {
 /// What ends a folder's name in a path: a backslash on Windows, a slash elsewhere.
 extern const char16_t pathSeparator;
 
-/// An open file; closes with the object.
+/// Whether a path names no folder: the system would look for it in one of its own choice, where
+/// anybody could have put something of that name.
+bool isBareName(const CXString& path);
+
+/// An open file; closes with the object. On Windows the names of devices, such as "COM1" and
+/// "NUL.txt", aren't those of files: neither this nor the functions below open or find one.
 class OpenFile {
 public:
     /// Opens an existing file for reading, shared for reading; null on failure.
@@ -52,7 +57,7 @@ struct FileStamp {
 FileStamp getFileStamp(const CXString& path);
 
 /// The full path of the file that this code was loaded from: the library, or the program that the
-/// library's objects are linked into. Empty if the system can't tell. Windows cuts it to
+/// library's objects are linked into. Empty if the system can't tell, on Windows also if it is over
 /// 260 units.
 CXString getModulePath();
 

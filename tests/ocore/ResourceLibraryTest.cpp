@@ -43,6 +43,8 @@ TEST_F(ResourceLibraryTest, SaysWhichLibraryIsMissingOrNone) {
         << message;
     useResourceLibrary(u"ordo-v02025.dtd");
     EXPECT_THROW(ResourceLibrary(), ResourceLibraryConstructionException);
+    ResourceLibrary::setPath(u"zenres27.dll"); // as where the library's own folder isn't known
+    EXPECT_THROW(ResourceLibrary(), ResourceLibraryConstructionException);
     useResourceLibrary();
     EXPECT_NO_THROW(ResourceLibrary());
 }

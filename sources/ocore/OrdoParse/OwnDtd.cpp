@@ -12,6 +12,9 @@
 namespace zent {
 
 std::unique_ptr<ByteBuffer> readDtdFile(const CXString& path) {
+    if (platform::isBareName(path)) { // the library's own folder isn't known
+        return nullptr;
+    }
     const auto file = platform::OpenFile::openForReading(path);
     std::uint64_t size = 0;
     if (!file || !file->getSize(size) || size > xmlLimits::documentBytes) {

@@ -96,6 +96,8 @@ const std::string& loadedFrom() {
 
 } // namespace
 
+bool isBareName(const CXString& path) { return path.findLast(pathSeparator) < 0; }
+
 std::unique_ptr<OpenFile> OpenFile::openForReading(const CXString& path) {
     // A pipe would make the call wait for a writer, and a folder opens though it can't be read:
     // only what holds bytes is a file here.

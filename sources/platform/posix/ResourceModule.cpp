@@ -80,6 +80,10 @@ std::optional<ByteBuffer> readAll(const CXString& path) {
 
 std::unique_ptr<ResourceModule> ResourceModule::load(const CXString& path,
                                                      std::uint32_t& lastError) {
+    if (isBareName(path)) {
+        lastError = ENOENT;
+        return nullptr;
+    }
     auto file = readAll(path);
     if (!file) {
         lastError = static_cast<std::uint32_t>(errno);

@@ -82,8 +82,10 @@ std::uint32_t getCurrentThreadId() {
 
 std::int32_t getProfileInteger(const CXString& section, const CXString& key, std::int32_t fallback,
                                const CXString& file) {
-    const bool isBareName = file.find(pathSeparator) < 0;
-    const CXString path = isBareName ? getDriverDirectory(CXString()) + file : file;
+    const CXString path = isBareName(file) ? getDriverDirectory(CXString()) + file : file;
+    if (isBareName(path)) { // the library's own folder isn't known
+        return fallback;
+    }
     std::ifstream lines(path.toNarrow());
     const std::string heading = '[' + section.toNarrow() + ']';
     const std::string name = key.toNarrow();

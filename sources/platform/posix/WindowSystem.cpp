@@ -29,6 +29,9 @@ Adapter loadAdapter() {
         return nullptr;
     }
     const CXString path = getDriverDirectory(CXString()) + u"libzent27-qt.so";
+    if (isBareName(path)) { // the library's own folder isn't known
+        return nullptr;
+    }
     void* const library = dlopen(path.toNarrow().c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
     return library != nullptr ? reinterpret_cast<Adapter>(dlsym(library, "zentQtWindowSystem"))
                               : nullptr;

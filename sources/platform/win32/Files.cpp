@@ -140,6 +140,10 @@ CXString getFolderOfEnvironment() {
 
 } // namespace
 
+bool isBareName(const CXString& path) {
+    return path.view().find_first_of(u"\\/:") == std::u16string_view::npos;
+}
+
 std::unique_ptr<OpenFile> OpenFile::openForReading(const CXString& path) {
     return open(path, GENERIC_READ, OPEN_EXISTING);
 }
@@ -166,9 +170,9 @@ FileStamp getFileStamp(const CXString& path) {
 CXString getModulePath() {
     constexpr DWORD capacity = 261;
     wchar_t path[capacity] = {};
-    GetModuleFileNameW(getOwnModule(), path, capacity);
-    path[capacity - 1] = L'\0'; // XP cuts a long path without ending it
-    return CXString(units(path));
+    // A path that is cut would lead into a folder further up.
+    const DWORD length = GetModuleFileNameW(getOwnModule(), path, capacity);
+    return length < capacity ? CXString(units(path)) : CXString();
 }
 
 CXString getDriverDirectory(const CXString& printerName) {

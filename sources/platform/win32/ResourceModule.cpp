@@ -1,6 +1,7 @@
 #include "platform/ResourceModule.h"
 
 #include "ocore/CXString.h"
+#include "platform/Files.h"
 #include "platform/win32/WideText.h"
 
 namespace zent::platform {
@@ -62,6 +63,10 @@ private:
 
 std::unique_ptr<ResourceModule> ResourceModule::load(const CXString& path,
                                                      std::uint32_t& lastError) {
+    if (isBareName(path)) {
+        lastError = ERROR_BAD_PATHNAME;
+        return nullptr;
+    }
     // The altered search path: what the library itself needs is looked for in its own folder.
     const HMODULE module = LoadLibraryExW(wide(path), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
     if (module == nullptr) {

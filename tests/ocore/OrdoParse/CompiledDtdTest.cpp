@@ -68,6 +68,16 @@ TEST_F(CompiledDtdTest, IsKeptAsLongAsTheFileIsTheSame) {
     EXPECT_NE(find(), nullptr);
 }
 
+TEST_F(CompiledDtdTest, IsLookedForInTheLibrarysFolderAlone) {
+    const auto before = std::filesystem::current_path();
+    writeDtd(copiesOnly);
+    std::filesystem::current_path(m_folder.path());
+    EXPECT_TRUE(isUsable());
+    OrdoTranslator::setDtdDirectory(CXString());
+    EXPECT_FALSE(isUsable());
+    std::filesystem::current_path(before);
+}
+
 TEST_F(CompiledDtdTest, WhatTheFileSaysNowCounts) {
     EXPECT_FALSE(isUsable());
     for (int i = 0; i < 2; ++i) {

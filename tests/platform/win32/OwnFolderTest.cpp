@@ -1,0 +1,81 @@
+// What the library loads comes from its own folder or the system's, and from nowhere else.
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "PrintText.h"
+#include "platform/Files.h"
+#include "platform/win32/SystemLibrary.h"
+#include "platform/win32/WideText.h"
+#include "zent27.h"
+
+namespace zent::platform {
+namespace {
+
+/// The test program's own, with a separator.
+std::wstring programFolder() {
+    const CXString path = getModulePath();
+    return wide(path.left(path.findLast(pathSeparator) + 1));
+}
+
+void putCompanionsInto(const std::wstring& folder) {
+    for (const wchar_t* const name : {L"ZENT27.dll", L"zenres27.dll", L"ordo-v02025.dtd"}) {
+        EXPECT_TRUE(CopyFileW((programFolder() + name).c_str(), (folder + name).c_str(), FALSE));
+    }
+}
+
+TEST(WindowsSystemLibrary, IsTakenFromTheSystemsFolderAlone) {
+    EXPECT_TRUE(SystemLibrary(L"userenv.dll").isLoaded());
+    EXPECT_NE(SystemLibrary(L"netapi32.dll").find<FARPROC>("NetApiBufferFree"), nullptr);
+    // The application's folder comes first for a bare name.
+    const std::wstring planted = programFolder() + L"zentplanted.dll";
+    ASSERT_TRUE(CopyFileW((programFolder() + L"zenres27.dll").c_str(), planted.c_str(), FALSE));
+    EXPECT_FALSE(SystemLibrary(L"zentplanted.dll").isLoaded());
+    EXPECT_TRUE(DeleteFileW(planted.c_str()));
+}
+
+/// Opens a session with the library of a folder.
+ZentResult openSessionOf(const std::wstring& folder) {
+    const HMODULE library = LoadLibraryW((folder + L"ZENT27.dll").c_str());
+    EXPECT_NE(library, nullptr) << GetLastError();
+    if (library == nullptr) {
+        return 0;
+    }
+    const auto find = [library](const char* name) {
+        return reinterpret_cast<void*>(GetProcAddress(library, name));
+    };
+    const auto open = reinterpret_cast<decltype(&fnOpenSession)>(find("fnOpenSession"));
+    const auto close = reinterpret_cast<decltype(&fnCloseSession)>(find("fnCloseSession"));
+    ZentSessionType session = nullptr;
+    const ZentResult result = open(ZENT_INTERFACE_VERSION, 6, ZENT_PDL_MONOCHROME_PCL,
+                                   ZENT_INSTRUCTIONS_BY_MODEL, 1, nullptr, 1, &session);
+    if (result == ZENT_OK) {
+        close(&session);
+    }
+    FreeLibrary(library);
+    return result;
+}
+
+TEST(WindowsResources, AreTakenFromTheLibrarysFolderOrNotAtAll) {
+    // A path of more than 260 units, each of whose folders has a library with resources.
+    std::wstring folder = L"\\\\?\\" + programFolder() + L"OwnFolderTest\\";
+    std::vector<std::wstring> folders;
+    for (const wchar_t* const name : {L"", L"a\\", L"b\\"}) {
+        folder += *name == L'\0' ? std::wstring() : std::wstring(150, *name) + L"\\";
+        folders.push_back(folder);
+        ASSERT_TRUE(CreateDirectoryW(folder.c_str(), nullptr)) << GetLastError();
+        putCompanionsInto(folder);
+    }
+    EXPECT_EQ(openSessionOf(folders.front()), ZENT_OK);
+    EXPECT_EQ(openSessionOf(folders.back()), ZENT_ERR_RESOURCE_LIBRARY);
+    for (; !folders.empty(); folders.pop_back()) {
+        for (const wchar_t* const name : {L"ZENT27.dll", L"zenres27.dll", L"ordo-v02025.dtd"}) {
+            EXPECT_TRUE(DeleteFileW((folders.back() + name).c_str()));
+        }
+        EXPECT_TRUE(RemoveDirectoryW(folders.back().c_str()));
+    }
+}
+
+} // namespace
+} // namespace zent::platform
