@@ -4,7 +4,6 @@
 #include <cerrno>
 #include <climits>
 #include <cstdint>
-#include <ctime>
 #include <optional>
 #include <string>
 #include <utility>
@@ -15,6 +14,7 @@
 #include <unistd.h>
 
 #include "ocore/CXString.h"
+#include "platform/posix/Pause.h"
 
 namespace zent::platform {
 
@@ -87,11 +87,6 @@ std::string makeStem(const std::string& path) {
     return folder + '.' + name.substr(0, longest) + ".zent-";
 }
 
-void sleepForMillisecond() {
-    const timespec millisecond = {0, 1'000'000};
-    nanosleep(&millisecond, nullptr);
-}
-
 /// The file of a lock, made if it isn't there. A user may use that of another, but not write to it.
 Descriptor openLock(const std::string& path) {
     constexpr int flags = O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
@@ -132,7 +127,7 @@ Descriptor acquire(const std::string& path) {
                 return file;
             }
         } else if (errno == EWOULDBLOCK) {
-            sleepForMillisecond();
+            pauseFor(1);
         } else if (errno != EINTR) {
             file.reset();
             return file;

@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 
 #include "platform/System.h"
+#include "platform/posix/Pause.h"
 #include "platform/posix/PreferenceSnapshot.h"
 #include "platform/posix/UserFolders.h"
 
@@ -15,8 +16,17 @@ namespace zent::platform {
 
 namespace {
 
-/// How long a call waits for another process to finish.
-constexpr int busyMilliseconds = 30'000;
+/// Called, with how often it was before, while another process uses the database: false ends the
+/// wait. SQLite's own wait counts its pauses as whole ones though signals cut them short.
+int waitForOthers(void* /*unused*/, int pauses) {
+    constexpr int pause = 5; // milliseconds, as is the next
+    constexpr int longestWait = 30'000;
+    if (pauses >= longestWait / pause) {
+        return 0;
+    }
+    pauseFor(pause);
+    return 1;
+}
 
 /// Raised in here for whatever SQLite refuses.
 struct StoreError {
@@ -109,7 +119,7 @@ public:
         if (code != SQLITE_OK) {
             throw StoreError{code, sqlite3_system_errno(connection)};
         }
-        require(sqlite3_busy_timeout(connection, busyMilliseconds));
+        require(sqlite3_busy_handler(connection, waitForOthers, nullptr));
     }
 
     Statement prepare(std::string_view sql) { return {m_connection.get(), sql}; }

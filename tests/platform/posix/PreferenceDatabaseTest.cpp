@@ -3,13 +3,17 @@
 
 #include <array>
 #include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <thread>
 
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 #include <sys/stat.h>
+#include <sys/time.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -135,14 +139,6 @@ TEST_F(PreferenceDatabaseTest, ReadsAnewWhatAnotherProcessHasChanged) {
     EXPECT_EQ(read(u"name", 1), 0);
     fs::rename(m_folder / "aside", m_file);
     EXPECT_EQ(read(u"name", 1), 1);
-
-    // Too much to be remembered.
-    ByteBuffer large;
-    large.resize(100'000);
-    ASSERT_EQ(write(u"large", large), PreferenceStatus::done);
-    makeOld();
-    EXPECT_EQ(read(u"large", large.size()), 0);
-    EXPECT_EQ(read(u"name", 1), 1);
 }
 
 /// A store that can't be used gives readers the default, with a trace, and fails for writers, for a
@@ -220,6 +216,32 @@ TEST_F(PreferenceDatabaseTest, IsOutOfReachInFolderOfAnotherUser) {
         })));
         fs::permissions(folder, fs::perms::owner_all);
     }
+}
+
+TEST_F(PreferenceDatabaseTest, WaitsThroughSignals) {
+    ASSERT_EQ(write(u"name", ByteBuffer::fromBool(true)), PreferenceStatus::done);
+    std::array<int, 2> ends = {}; // of a pipe, by which the other process says that it has the lock
+    ASSERT_EQ(pipe(ends.data()), 0);
+    const pid_t holder = inChild([&] {
+        sqlite3* database = nullptr;
+        const bool isHeld =
+            sqlite3_open(m_file.c_str(), &database) == SQLITE_OK &&
+            sqlite3_exec(database, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr) == SQLITE_OK &&
+            ::write(ends[1], "", 1) == 1;
+        std::this_thread::sleep_for(std::chrono::seconds(1));
+        return isHeld;
+    });
+    char byte = 1;
+    EXPECT_EQ(::read(ends[0], &byte, 1), 1);
+    const pid_t reader = inChild([] {
+        std::signal(SIGALRM, [](int) {});
+        const itimerval often = {{0, 200}, {0, 200}}; // microseconds
+        return setitimer(ITIMER_REAL, &often, nullptr) == 0 && read(u"name", 1) == 1;
+    });
+    EXPECT_TRUE(hasSucceeded(reader));
+    EXPECT_TRUE(hasSucceeded(holder));
+    close(ends[0]);
+    close(ends[1]);
 }
 
 TEST_F(PreferenceDatabaseTest, WaitsForOtherProcesses) {
