@@ -14,6 +14,11 @@ constexpr std::uint32_t binary = 3; // REG_BINARY: any bytes
 constexpr std::uint32_t number = 4; // REG_DWORD: 4 bytes, little-endian
 } // namespace registryType
 
+/// The most bytes of a value, and the most units of a name: as the first registries had it, so that
+/// what can be kept on one system can be kept on all. A key may be as long as a name.
+constexpr std::uint32_t largestPreference = 1024 * 1024;
+constexpr std::uint32_t longestPreferenceName = 16'383;
+
 /// A value as stored. Its bytes may be none, which is something else than no value.
 struct StoredPreference {
     std::uint32_t type = 0;
@@ -47,7 +52,8 @@ struct PreferenceResult {
 /// readers a database that is damaged or out of reach is like none at all, since a service may have
 /// no home that it can use; one that stays locked by another process fails.
 
-/// Takes a value out of the store. `value` is touched only by success.
+/// Takes a value out of the store. `value` is touched only by success. One that is too large fails
+/// before it is read.
 PreferenceResult readPreference(const CXString& key, const CXString& name, StoredPreference& value);
 /// Stores a value, in place of the one of that name, and creates the key if there is none.
 PreferenceResult writePreference(const CXString& key, const CXString& name, std::uint32_t type,

@@ -57,6 +57,16 @@ TEST_F(PreferenceStoreTest, KeepsTypesAndBytes) {
     }
 }
 
+TEST_F(PreferenceStoreTest, RefusesWhatIsTooLarge) {
+    const std::string largest(largestPreference, 'x');
+    EXPECT_EQ(write(u"a\\key", u"name", largest), PreferenceStatus::done);
+    EXPECT_EQ(write(u"a\\key", u"name", largest + 'y'), PreferenceStatus::valueFailed);
+    EXPECT_EQ(read(u"a\\key", u"name"), "3:" + largest);
+    const std::u16string longName(longestPreferenceName + 1, u'n');
+    EXPECT_EQ(write(u"a\\key", longName, "x"), PreferenceStatus::valueFailed);
+    EXPECT_EQ(write(longName, u"name", "x"), PreferenceStatus::keyFailed);
+}
+
 TEST_F(PreferenceStoreTest, KeepsKeysAndNamesApart) {
     const std::u16string longName(250, u'n');
     const char16_t loneSurrogates[][3] = {{0xD800, u'x', 0}, {0xD801, u'x', 0}, {u'x', 0xDC00, 0}};

@@ -53,19 +53,26 @@ std::optional<FileState> findFileState(const std::string& path) {
                      .changed = nanoseconds(status.stx_ctime)};
 }
 
-bool PreferenceSnapshot::add(std::u16string key, std::u16string name, StoredPreference value) {
-    m_size += (key.size() + name.size()) * sizeof(char16_t) + value.bytes.size();
+bool PreferenceSnapshot::add(std::u16string key, std::u16string name,
+                             std::optional<StoredPreference> value) {
+    m_size += (key.size() + name.size()) * sizeof(char16_t) + (value ? value->bytes.size() : 0);
     if (m_size > maximumSize) {
+        m_isComplete = false;
         return false;
     }
     m_values.emplace(Place(std::move(key), std::move(name)), std::move(value));
     return true;
 }
 
+bool PreferenceSnapshot::knows(std::u16string_view key, std::u16string_view name) const {
+    const auto found = m_values.find(Place(key, name));
+    return found == m_values.end() ? m_isComplete : found->second.has_value();
+}
+
 const StoredPreference* PreferenceSnapshot::find(std::u16string_view key,
                                                  std::u16string_view name) const {
     const auto found = m_values.find(Place(key, name));
-    return found == m_values.end() ? nullptr : &found->second;
+    return found == m_values.end() || !found->second ? nullptr : &*found->second;
 }
 
 std::shared_ptr<const PreferenceSnapshot> PreferenceSnapshot::findKept(const FileState& state) {

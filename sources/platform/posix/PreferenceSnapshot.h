@@ -30,16 +30,21 @@ struct FileState {
 /// can't be told.
 std::optional<FileState> findFileState(const std::string& path);
 
-/// All values of the preference database in one state of its file. To open the database costs a
-/// hundred times what a look at the file costs, and it hardly ever changes; so one snapshot is kept
-/// for the process. It is good for as long as the file is in that state.
+/// The small values of the preference database in one state of its file. To open the database costs
+/// a hundred times what a look at the file costs, and it hardly ever changes; so one snapshot is
+/// kept for the process. It is good for as long as the file is in that state.
 class PreferenceSnapshot {
 public:
+    /// The size of the largest value that is kept; others stay in the database.
+    static constexpr std::uint32_t largestValue = 4096;
+
     explicit PreferenceSnapshot(const FileState& state) : m_state(state) {}
 
-    /// False if there are too many values to be kept.
-    bool add(std::u16string key, std::u16string name, StoredPreference value);
-    /// Null if there is no such value.
+    /// Takes a value, or that there is one which is too large. False when no more have room.
+    bool add(std::u16string key, std::u16string name, std::optional<StoredPreference> value);
+    /// Whether the snapshot can tell what the database holds there.
+    bool knows(std::u16string_view key, std::u16string_view name) const;
+    /// Null if there is no such value, as far as the snapshot knows.
     const StoredPreference* find(std::u16string_view key, std::u16string_view name) const;
 
     /// The snapshot that is kept, if it is of this state; else null.
@@ -51,8 +56,9 @@ private:
     using Place = std::pair<std::u16string, std::u16string>;
 
     FileState m_state;
-    std::map<Place, StoredPreference> m_values;
+    std::map<Place, std::optional<StoredPreference>> m_values;
     std::size_t m_size = 0;
+    bool m_isComplete = true;
 };
 
 } // namespace zent::platform

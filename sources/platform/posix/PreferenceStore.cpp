@@ -73,6 +73,9 @@ public:
         }
         return code == SQLITE_ROW;
     }
+    bool isNull(int column) {
+        return sqlite3_column_type(m_statement.get(), column) == SQLITE_NULL;
+    }
     std::uint32_t getNumber(int column) {
         return static_cast<std::uint32_t>(sqlite3_column_int64(m_statement.get(), column));
     }
@@ -177,7 +180,7 @@ constexpr std::string_view createTable = "CREATE TABLE IF NOT EXISTS preference 
                                          "bytes BLOB NOT NULL, "
                                          "PRIMARY KEY (key, name)) STRICT";
 
-/// Takes all values of a small database; null if they aren't to be kept.
+/// Takes what may be kept of a database; null if it is nothing.
 std::shared_ptr<const PreferenceSnapshot> readAll(Connection& database, const FileState& state) {
     // A write-ahead log takes what is written without a trace in the file itself.
     Statement mode = database.prepare("PRAGMA journal_mode");
@@ -185,12 +188,16 @@ std::shared_ptr<const PreferenceSnapshot> readAll(Connection& database, const Fi
         return nullptr;
     }
     const auto snapshot = std::make_shared<PreferenceSnapshot>(state);
-    Statement select = database.prepare("SELECT key, name, type, bytes FROM preference");
-    while (select.step()) {
-        if (!snapshot->add(select.getText(0), select.getText(1),
-                           {select.getNumber(2), select.getBytes(3)})) {
-            return nullptr;
+    // The size of a value stands before it, and what is too large for the snapshot isn't read.
+    Statement select = database.prepare(
+        "SELECT key, name, type, CASE WHEN length(bytes) <= ? THEN bytes END FROM preference");
+    select.bind(PreferenceSnapshot::largestValue);
+    for (bool hasRoom = true; hasRoom && select.step();) {
+        std::optional<StoredPreference> value;
+        if (!select.isNull(3)) {
+            value = {select.getNumber(2), select.getBytes(3)};
         }
+        hasRoom = snapshot->add(select.getText(0), select.getText(1), std::move(value));
     }
     return snapshot;
 }
@@ -205,7 +212,7 @@ bool take(const PreferenceSnapshot& snapshot, const CXString& key, const CXStrin
 }
 
 /// Looks into the database. The state is one that its file was in before the call, if that could be
-/// told.
+/// told and no snapshot of it is kept.
 bool find(const std::string& path, const std::optional<FileState>& state, const CXString& key,
           const CXString& name, StoredPreference& value) {
     Connection database(path);
@@ -215,14 +222,20 @@ bool find(const std::string& path, const std::optional<FileState>& state, const 
     }
     if (const auto snapshot = state ? readAll(database, *state) : nullptr) {
         PreferenceSnapshot::keep(snapshot);
-        return take(*snapshot, key, name, value);
+        if (snapshot->knows(key, name)) {
+            return take(*snapshot, key, name, value);
+        }
     }
-    Statement select =
-        database.prepare("SELECT type, bytes FROM preference WHERE key = ? AND name = ?");
+    Statement select = database.prepare("SELECT type, CASE WHEN length(bytes) <= ? THEN bytes END "
+                                        "FROM preference WHERE key = ? AND name = ?");
+    select.bind(largestPreference);
     select.bind(key);
     select.bind(name);
     if (!select.step()) {
         return false;
+    }
+    if (select.isNull(1)) {
+        throw StoreError{SQLITE_TOOBIG};
     }
     value = {select.getNumber(0), select.getBytes(1)};
     return true;
@@ -257,9 +270,11 @@ PreferenceResult failed(PreferenceStatus status, const StoreError& error) {
             static_cast<std::uint32_t>(error.systemError)};
 }
 
-/// Whether a store is good, but can't be read just now. All else is like no store to a reader.
-bool isPassing(const StoreError& error) {
-    return error.code == SQLITE_BUSY || error.code == SQLITE_LOCKED || error.code == SQLITE_NOMEM;
+/// Whether a store is good, but the value can't be had, or not just now. All else is like no store
+/// to a reader.
+bool isOfValue(const StoreError& error) {
+    return error.code == SQLITE_BUSY || error.code == SQLITE_LOCKED || error.code == SQLITE_NOMEM ||
+           error.code == SQLITE_TOOBIG;
 }
 
 } // namespace
@@ -274,17 +289,24 @@ PreferenceResult readPreference(const CXString& key, const CXString& name,
     try {
         // Keys are nothing by themselves here, so that none is missing.
         const auto kept = state ? PreferenceSnapshot::findKept(*state) : nullptr;
-        const bool found =
-            kept ? take(*kept, key, name, value) : find(path, state, key, name, value);
+        const bool found = kept && kept->knows(key, name)
+                               ? take(*kept, key, name, value)
+                               : find(path, kept ? std::nullopt : state, key, name, value);
         return {found ? PreferenceStatus::done : PreferenceStatus::noValue, SQLITE_OK};
     } catch (const StoreError& error) {
-        return failed(isPassing(error) ? PreferenceStatus::valueFailed : PreferenceStatus::noKey,
+        return failed(isOfValue(error) ? PreferenceStatus::valueFailed : PreferenceStatus::noKey,
                       error);
     }
 }
 
 PreferenceResult writePreference(const CXString& key, const CXString& name, std::uint32_t type,
                                  const ByteBuffer& bytes) {
+    if (key.view().size() > longestPreferenceName) {
+        return {PreferenceStatus::keyFailed, SQLITE_TOOBIG};
+    }
+    if (name.view().size() > longestPreferenceName || bytes.size() > largestPreference) {
+        return {PreferenceStatus::valueFailed, SQLITE_TOOBIG};
+    }
     PreferenceStatus failure = PreferenceStatus::keyFailed;
     PreferenceSnapshot::keep(nullptr);
     try {

@@ -54,12 +54,18 @@ PreferenceResult readPreference(const CXString& path, const CXString& name,
     DWORD size = 0;
     error = RegQueryValueExW(key.get(), wide(name), nullptr, &type, nullptr, &size);
     const bool exists = error == ERROR_SUCCESS;
-    if (exists && size > 0) {
+    while (exists && size > 0) {
+        if (size > largestPreference) {
+            return resultOf(PreferenceStatus::valueFailed, ERROR_FILE_TOO_LARGE);
+        }
         found.bytes.resize(size);
         error =
             RegQueryValueExW(key.get(), wide(name), nullptr, &type, bytesOf(found.bytes), &size);
-        // Another process may have shortened the value, or taken it away, meanwhile.
-        found.bytes.resize(error == ERROR_SUCCESS ? size : 0);
+        // Another process may have changed the value, or taken it away, meanwhile.
+        if (error != ERROR_MORE_DATA) {
+            found.bytes.resize(error == ERROR_SUCCESS ? size : 0);
+            break;
+        }
     }
     if (error != ERROR_SUCCESS && error != ERROR_FILE_NOT_FOUND) {
         return resultOf(PreferenceStatus::valueFailed, error);
@@ -74,6 +80,9 @@ PreferenceResult readPreference(const CXString& path, const CXString& name,
 
 PreferenceResult writePreference(const CXString& path, const CXString& name, std::uint32_t type,
                                  const ByteBuffer& bytes) {
+    if (bytes.size() > largestPreference) {
+        return resultOf(PreferenceStatus::valueFailed, ERROR_FILE_TOO_LARGE);
+    }
     Key key;
     LSTATUS error = key.create(path);
     if (error != ERROR_SUCCESS) {

@@ -218,6 +218,62 @@ TEST_F(PreferenceDatabaseTest, IsOutOfReachInFolderOfAnotherUser) {
     }
 }
 
+/// How many bytes this process has read from files so far.
+std::uint64_t countBytesRead() {
+    std::ifstream file("/proc/self/io");
+    std::string field;
+    std::uint64_t count = 0;
+    EXPECT_TRUE(file >> field >> count && field == "rchar:");
+    return count;
+}
+
+/// Runs a statement on the database as another program would.
+void runSql(const fs::path& file, const std::string& sql) {
+    sqlite3* database = nullptr;
+    EXPECT_EQ(sqlite3_open(file.c_str(), &database), SQLITE_OK);
+    EXPECT_EQ(sqlite3_exec(database, sql.c_str(), nullptr, nullptr, nullptr), SQLITE_OK);
+    sqlite3_close(database);
+}
+
+TEST_F(PreferenceDatabaseTest, JudgesSizesBeforeBytesAreRead) {
+    ByteBuffer large;
+    large.resize(largestPreference);
+    ASSERT_EQ(write(u"a large one", large), PreferenceStatus::done);
+    ASSERT_EQ(write(u"name", ByteBuffer::fromBool(true)), PreferenceStatus::done);
+    const auto expectLittleIsRead = [&] {
+        fs::last_write_time(m_file, fs::file_time_type::clock::now() - std::chrono::seconds(10));
+        const std::uint64_t before = countBytesRead();
+        for (int round = 0; round < 10; ++round) {
+            EXPECT_EQ(read(u"name", 1), 1);
+            EXPECT_EQ(read(u"other", 1), -1);
+        }
+        EXPECT_LT(countBytesRead() - before, 100'000U);
+    };
+    expectLittleIsRead();
+    EXPECT_EQ(read(u"a large one", large.size()), 0);
+
+    runSql(m_file, "UPDATE preference SET bytes = zeroblob(20000000) WHERE name = 'a large one'");
+    expectLittleIsRead();
+    const std::uint64_t before = countBytesRead();
+    StoredPreference value;
+    const PreferenceResult result = readPreference(key, u"a large one", value);
+    EXPECT_EQ(result.status, PreferenceStatus::valueFailed);
+    EXPECT_EQ(result.error, std::uint32_t{SQLITE_TOOBIG});
+    EXPECT_LT(countBytesRead() - before, 100'000U);
+}
+
+TEST_F(PreferenceDatabaseTest, RemembersWhatHasRoom) {
+    ASSERT_EQ(write(u"0", ByteBuffer::fromBool(true)), PreferenceStatus::done);
+    runSql(m_file, "WITH RECURSIVE n(i) AS (SELECT 1 UNION SELECT i + 1 FROM n WHERE i < 5000) "
+                   "INSERT INTO preference SELECT key, i, 3, x'02' FROM n, preference");
+    fs::last_write_time(m_file, fs::file_time_type::clock::now() - std::chrono::seconds(10));
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_EQ(read(u"0", 1), 1);
+        EXPECT_EQ(read(u"5000", 1), 2);
+        EXPECT_EQ(read(u"5001", 1), -1);
+    }
+}
+
 TEST_F(PreferenceDatabaseTest, WaitsThroughSignals) {
     ASSERT_EQ(write(u"name", ByteBuffer::fromBool(true)), PreferenceStatus::done);
     std::array<int, 2> ends = {}; // of a pipe, by which the other process says that it has the lock
