@@ -27,4 +27,9 @@ install(FILES ${CMAKE_BINARY_DIR}/zent27.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/
 install(FILES ${CMAKE_BINARY_DIR}/apps/jobticket/jobticket.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES apps/jobticket/jobticket.bash
     DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME jobticket)
-install(DIRECTORY docs/ examples DESTINATION ${CMAKE_INSTALL_DOCDIR})
+
+# The pages lead to each other and to what they speak of, so they stand as they do here.
+install(FILES README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY docs examples DESTINATION ${CMAKE_INSTALL_DOCDIR} PATTERN .gitattributes EXCLUDE)
+install(FILES include/zent27.h DESTINATION ${CMAKE_INSTALL_DOCDIR}/include)
+install(FILES resources/ordo-v02025.dtd DESTINATION ${CMAKE_INSTALL_DOCDIR}/resources)
