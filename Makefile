@@ -29,6 +29,7 @@ help:
 	@echo "make windows  build for Windows x86-64 and x86, into build/windows-*/bin"
 	@echo "make bench    measure the library beside its floors and beside other libraries"
 	@echo "make fuzz     let libFuzzer loose on the library, FUZZ_SECONDS=$(FUZZ_SECONDS) for each target"
+	@echo "make fuzz-coverage  tell for each file how many of its lines the inputs of fuzzing reach"
 	@echo "make check    format, clang-tidy, include rules"
 	@echo "make install  install the Linux build to PREFIX=$(PREFIX) (DESTDIR goes in front)"
 	@echo "make clean    remove build/"
@@ -103,6 +104,15 @@ fuzz:
 	@$(call configure,fuzz)
 	@$(call build,fuzz)
 	@tools/run-fuzz build/fuzz $(FUZZ_SECONDS)
+
+.PHONY: fuzz-coverage
+fuzz-coverage:
+	$(call say,What the coverage needs)
+	@tools/install-packages native fuzz
+	$(call say,Building the fuzz targets to count lines)
+	@$(call configure,coverage)
+	@$(call build,coverage)
+	@tools/fuzz-coverage build/coverage
 
 .PHONY: check
 check:

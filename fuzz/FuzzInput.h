@@ -18,9 +18,12 @@ inline char16_t unitOf(std::uint8_t byte) {
 
 class FuzzInput {
 public:
-    FuzzInput(const std::uint8_t* data, std::size_t size) : m_data(data), m_rest(size) {}
+    FuzzInput(const std::uint8_t* data, std::size_t size)
+        : m_data(data), m_size(size), m_rest(size) {}
 
     bool isAtEnd() const { return m_rest == 0; }
+    /// How many bytes have been taken.
+    std::size_t getPosition() const { return m_size - m_rest; }
 
     std::uint8_t takeByte() {
         if (m_rest == 0) {
@@ -67,6 +70,7 @@ public:
 
 private:
     const std::uint8_t* m_data;
+    std::size_t m_size;
     std::size_t m_rest;
 };
 

@@ -75,6 +75,7 @@ public:
     }
 
     bool isAtEnd() const { return m_input.isAtEnd(); }
+    std::size_t getPosition() const { return m_input.getPosition(); }
 
     /// Begins the next call, one of `count`: a byte for it, whose upper bit lets null be given
     /// where a call wants a pointer, another one for where that is, and one for the session. On a

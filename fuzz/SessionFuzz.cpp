@@ -9,6 +9,7 @@
 
 #include <algorithm>
 
+#include "CallPlaces.h"
 #include "FuzzUser.h"
 #include "SessionArguments.h"
 #include "support/ScratchPreferences.h"
@@ -25,9 +26,13 @@ public:
     void run() {
         constexpr int mostCalls = 60;
         for (int i = 0; i < mostCalls && !isAtEnd(); ++i) {
+            m_places.push_back(getPosition());
             (this->*calls[takeCall(calls.size())])();
         }
     }
+
+    /// Where its calls began.
+    const std::vector<std::size_t>& getPlaces() const { return m_places; }
 
 private:
     using Call = void (Play::*)();
@@ -500,6 +505,7 @@ private:
 
     FuzzUser m_user{*this};
     std::vector<char> m_bytes; // what a call gave last
+    std::vector<std::size_t> m_places;
     int m_nestings = 0;
     int m_openings = 0;
     int m_writings = 0;
@@ -556,6 +562,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static zent::test::ScratchPreferences scratch;
     scratch.clear();
-    zent::fuzz::Play(data, size).run();
+    zent::fuzz::Play play(data, size);
+    play.run();
+    zent::fuzz::CallPlaces::note(std::string(data, data + size), play.getPlaces());
     return 0;
 }
