@@ -8,7 +8,6 @@
 
 #include "ocore/OrdoParse/DOMTreeErrorReporter.h"
 #include "ocore/OrdoParse/OwnDtd.h"
-#include "ocore/OrdoParse/ParserMemory.h"
 #include "platform/Files.h"
 #include "platform/KeepForever.h"
 #include "platform/Lock.h"
@@ -57,7 +56,7 @@ void completeDeclarations(const xercesc::DTDGrammar& grammar) {
 
 CompiledDtd::CompiledDtd(const CXString& path, std::unique_ptr<ByteBuffer> bytes)
     : m_path(path), m_bytes(std::move(bytes)),
-      m_grammars(std::make_unique<xercesc::XMLGrammarPoolImpl>()) {}
+      m_grammars(std::make_unique<xercesc::XMLGrammarPoolImpl>(&m_memory)) {}
 
 CompiledDtd::~CompiledDtd() = default;
 

@@ -7,6 +7,7 @@
 #include "ocore/ByteBuffer.h"
 #include "ocore/CXString.h"
 #include "ocore/OrdoParse/KeptSkeletons.h"
+#include "ocore/OrdoParse/ParserMemory.h"
 
 XERCES_CPP_NAMESPACE_BEGIN
 class DTDGrammar;
@@ -45,6 +46,7 @@ private:
 
     CXString m_path;
     std::unique_ptr<ByteBuffer> m_bytes;
+    ParserMemory m_memory; // of the grammars, with what a compilation without memory loses track of
     std::unique_ptr<xercesc::XMLGrammarPoolImpl> m_grammars;
     const xercesc::DTDGrammar* m_grammar = nullptr; // the one among them
     mutable KeptSkeletons m_skeletons;
