@@ -8,7 +8,6 @@
 #include "ocore/OrdoParse/CompiledDtd.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
 #include "ocore/OrdoParse/TarvoXmlFile.h"
-#include "ocore/OrdoParse/XmlLimits.h"
 #include "ocore/OrdoParse/ZNXMLInterface.h"
 #include "ocore/OwnedCriticalResource.h"
 #include "platform/Files.h"
@@ -36,39 +35,31 @@ std::optional<CXString> getDtdPath() {
     return dtdPath;
 }
 
-/// What a list has to keep to so that its document can be read.
-class Readability {
+/// Looks for names that aren't declared. Few names occur over and over, and most nodes of one name
+/// share its text.
+class DeclaredNames {
 public:
-    /// Without a definition, which then can't be compiled, all names pass.
-    explicit Readability(const CompiledDtd* dtd) : m_dtd(dtd) {}
+    explicit DeclaredNames(const CompiledDtd& dtd) : m_dtd(&dtd) {}
 
-    /// `level` counts the elements around those of the list.
-    void require(const AttrNodeList& list, std::uint32_t level) {
+    void require(const AttrNodeList& list) {
         for (std::uint32_t i = 0; i < list.getNumberOfNodes(); ++i) {
             const AttrNode& node = list.getNodeAt(i);
             if (node.isPrivate()) {
                 continue;
             }
-            if (level == xmlLimits::depth) {
-                raiseOrdoParse(ordoParseCode::outputFailed,
-                               "OrdoTranslator::requireReadable(): Elements would be nested "
-                               "deeper than %lu levels.\r\n",
-                               xmlLimits::depth);
-            }
-            requireDeclared(node.getName());
+            require(node.getName());
             if (const AttrNodeList* const members = embeddedList(node)) {
-                require(*members, level + 1);
+                require(*members);
             }
         }
     }
 
 private:
-    /// Few names occur over and over, and most nodes of one name share its text.
-    void requireDeclared(const CXString& name) {
+    void require(const CXString& name) {
         const char16_t* const text = name.c_str();
         const char16_t*& known =
             m_known[reinterpret_cast<std::uintptr_t>(text) / 16 % m_known.size()];
-        if (known == text || m_dtd == nullptr) {
+        if (known == text) {
             return;
         }
         if (!m_dtd->declaresElement(name)) {
@@ -90,8 +81,9 @@ void OrdoTranslator::requireReadable(const AttrNodeList& list) {
     ZNXMLInterface::Instance();
     const std::optional<CXString> path = getDtdPath();
     const auto dtd = path ? CompiledDtd::find(*path) : nullptr;
-    constexpr std::uint32_t rootAndCategory = 2;
-    Readability(dtd.get()).require(list, rootAndCategory);
+    if (dtd != nullptr) { // without it, the writing fails
+        DeclaredNames(*dtd).require(list);
+    }
 }
 
 void OrdoTranslator::setDtdDirectory(const CXString& directory) {
@@ -104,7 +96,9 @@ std::unique_ptr<TarvoXmlFile> OrdoTranslator::createFileStream(const CXString& f
 }
 
 std::unique_ptr<TarvoXmlDataStream> OrdoTranslator::createDataStream() {
-    return std::make_unique<TarvoXmlDataStream>(XmlDataType::ordo, getDtdPath());
+    auto stream = std::make_unique<TarvoXmlDataStream>(XmlDataType::ordo, getDtdPath());
+    stream->setOrigin(m_origin);
+    return stream;
 }
 
 } // namespace zent

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ocore/AnlXlate/AnlTranslatorForXml.h"
+#include "ocore/OrdoParse/XmlLimits.h"
 
 namespace zent {
 
@@ -13,13 +14,18 @@ public:
     static void setDtdDirectory(const CXString& directory);
 
     /// Raises OrdoParseException unless what is written of a list can be read again: a list that
-    /// comes from elsewhere may hold members that the document type doesn't declare, or nest too
-    /// deep.
+    /// comes from elsewhere may hold members that the document type doesn't declare.
     static void requireReadable(const AttrNodeList& list);
+
+    /// Documents in buffers come as such unless it is set.
+    void setOrigin(XmlOrigin origin) { m_origin = origin; }
 
 protected:
     std::unique_ptr<TarvoXmlFile> createFileStream(const CXString& fileName) override;
     std::unique_ptr<TarvoXmlDataStream> createDataStream() override;
+
+private:
+    XmlOrigin m_origin = XmlOrigin::document;
 };
 
 } // namespace zent

@@ -141,7 +141,9 @@ std::unique_ptr<TarvoXmlFile> SmallOrdoTranslator::createFileStream(const CXStri
 }
 
 std::unique_ptr<TarvoXmlDataStream> SmallOrdoTranslator::createDataStream() {
-    return std::make_unique<TarvoXmlDataStream>(XmlDataType::smallOrdo);
+    auto stream = std::make_unique<TarvoXmlDataStream>(XmlDataType::smallOrdo);
+    stream->setOrigin(XmlOrigin::stateBlob);
+    return stream;
 }
 
 } // namespace zent

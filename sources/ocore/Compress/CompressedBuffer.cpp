@@ -159,6 +159,11 @@ void CompressedBuffer::writeFooter() {
 }
 
 void CompressedBuffer::store(const void* bytes, std::size_t length) {
+    if (length > maximumOriginalSize) {
+        Raise<CompressionException>()("CompressedBuffer::store(): %lu bytes are more than can be "
+                                      "expanded again!\r\n",
+                                      length);
+    }
     ByteBuffer compressed;
     if (length != 0) {
         compressed.resize(length + length / 100 + 13);

@@ -21,7 +21,7 @@ public:
     /// Takes an image with its footer.
     explicit CompressedBuffer(const ByteBuffer& image);
 
-    /// Compresses bytes, which replace the content.
+    /// Compresses bytes, at most 64 MiB, which replace the content.
     void store(const void* bytes, std::size_t length);
     void store(const ByteBuffer& bytes) { store(bytes.data(), bytes.size()); }
     /// Expands the content.

@@ -6,6 +6,7 @@
 #include "ocore/AnlXlate/SmallOrdoTranslator.h"
 #include "ocore/Compress/CompressedBuffer.h"
 #include "ocore/Exceptions.h"
+#include "ocore/OrdoParse/OrdoParseException.h"
 #include "ocore/User.h"
 #include "ocore/UserPreferences.h"
 
@@ -59,10 +60,24 @@ ByteBuffer expand(const ByteBuffer& block) {
     return expanded;
 }
 
+/// Reads the ticket of a blob. One that passes a bound of documents counts as what it is in most
+/// cases, a small blob made to expand to something huge.
+void readTicket(AnlTranslator& translator, const ByteBuffer& document, AttrNodeList* list) {
+    try {
+        translator.anlFromBuffer(document, list);
+    } catch (const XmlBoundException& exception) {
+        Raise<CompressionException>()("PersistentSettings::parse(): The ticket passes a bound of "
+                                      "documents. %s\r\n",
+                                      exception.getMessage());
+    }
+}
+
 /// The small form of a full ordo document.
 ByteBuffer toSmallDocument(const ByteBuffer& document) {
     AttrNodeList list;
-    OrdoTranslator().anlFromBuffer(document, &list);
+    OrdoTranslator translator;
+    translator.setOrigin(XmlOrigin::stateBlob);
+    readTicket(translator, document, &list);
     ByteBuffer small;
     SmallOrdoTranslator().anlToBuffer(list, &small);
     return small;
@@ -96,6 +111,12 @@ ByteBuffer PersistentSettings::compose(const Parts& parts) {
     ByteBuffer state = ByteBuffer::fromLong(headerSize);
     state.append(ByteBuffer::fromLong(static_cast<std::int32_t>(version)));
     state.append(block.getImage());
+    if (state.size() > xmlLimits::documentBytes) {
+        Raise<CompressionException>()(
+            "PersistentSettings::compose(): The blob would have %lu bytes, "
+            "and couldn't be read again!\r\n",
+            state.size());
+    }
     return state;
 }
 
@@ -185,7 +206,8 @@ void PersistentSettings::parse(const ByteBuffer& payload, AttrNodeList* target) 
     if (payload.isEmpty()) {
         target->removeAllNodes();
     } else {
-        SmallOrdoTranslator().anlFromBuffer(payload, target);
+        SmallOrdoTranslator translator;
+        readTicket(translator, payload, target);
     }
 }
 

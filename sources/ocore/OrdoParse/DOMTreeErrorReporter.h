@@ -16,6 +16,12 @@ public:
     /// Forgets all.
     void resetErrors() override;
 
+    /// One that the parser doesn't know of.
+    void addFatalError(const CXString& message) {
+        m_messages += message;
+        m_fatalSeen = true;
+    }
+
     bool isWarningSeen() const { return m_warningSeen; }
     bool isErrorSeen() const { return m_errorSeen; }
     bool isFatalSeen() const { return m_fatalSeen; }

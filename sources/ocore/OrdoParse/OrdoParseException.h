@@ -52,6 +52,12 @@ private:
     std::int32_t m_errorCode;
 };
 
+/// A document that passes one of the bounds on documents, whatever else may be wrong with it.
+class XmlBoundException final : public OrdoParseException {
+public:
+    using OrdoParseException::OrdoParseException;
+};
+
 /// A format together with the place in the source where it stands as an argument.
 struct PlacedFormat {
     const char* text;
@@ -61,11 +67,11 @@ struct PlacedFormat {
 };
 
 /// Raises an OrdoParseException with a formatted message, as Raise<> does for other classes.
-template <typename... Args>
+template <typename Exception = OrdoParseException, typename... Args>
 [[noreturn]] void raiseOrdoParse(std::int16_t errorCode, PlacedFormat format, const Args&... args) {
     const CXString message = formatText(format.text, args...);
     noteRaise(format.place, traceLevel::xmlLayer);
-    throw OrdoParseException(errorCode, message);
+    throw Exception(errorCode, message);
 }
 
 } // namespace zent

@@ -1,5 +1,6 @@
 #include "ocore/OrdoParse/ParserMemory.h"
 
+#include <algorithm>
 #include <limits>
 #include <new>
 
@@ -18,6 +19,7 @@ struct ParserMemory::Head {
 struct ParserMemory::Large {
     alignas(alignment) Large* older;
     Large* newer;
+    std::size_t bytes;
 };
 
 ParserMemory::~ParserMemory() {
@@ -29,6 +31,10 @@ ParserMemory::~ParserMemory() {
 }
 
 void* ParserMemory::allocate(XMLSize_t size) {
+    if (size > m_mostBytes - m_bytes || ++m_blocks > m_mostBlocks) {
+        m_mostBytes = m_mostBlocks = unbounded; // for the parser to clear up
+        throw Refusal();
+    }
     try {
         const std::size_t sizeClass = size / step + 1;
         return (sizeClass < sizeClasses ? allocateSmall(sizeClass) : allocateLarge(size)) + 1;
@@ -58,7 +64,9 @@ ParserMemory::Head* ParserMemory::allocateSmall(std::size_t sizeClass) {
         used = head->next;
         return head;
     }
-    void* const memory = m_pieces.allocate(sizeof(Head) + sizeClass * step, alignof(Head));
+    const std::size_t bytes = sizeof(Head) + sizeClass * step;
+    void* const memory = m_pieces.allocate(bytes, alignof(Head));
+    m_bytes += std::min(bytes, m_mostBytes - m_bytes);
     return new (memory) Head{sizeClass, nullptr};
 }
 
@@ -67,7 +75,8 @@ ParserMemory::Head* ParserMemory::allocateLarge(std::size_t size) {
     if (size > std::numeric_limits<std::size_t>::max() - heads) {
         throw std::bad_alloc();
     }
-    auto* const block = new (::operator new(heads + size)) Large{m_newest, nullptr};
+    auto* const block = new (::operator new(heads + size)) Large{m_newest, nullptr, size};
+    m_bytes += size;
     if (m_newest != nullptr) {
         m_newest->newer = block;
     }
@@ -76,6 +85,7 @@ ParserMemory::Head* ParserMemory::allocateLarge(std::size_t size) {
 }
 
 void ParserMemory::deallocateLarge(Large* block) {
+    m_bytes -= block->bytes;
     (block->newer != nullptr ? block->newer->older : m_newest) = block->older;
     if (block->older != nullptr) {
         block->older->newer = block->newer;

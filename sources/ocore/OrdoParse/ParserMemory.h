@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <memory_resource>
 
 #include <xercesc/framework/MemoryManager.hpp>
@@ -16,12 +17,25 @@ namespace zent {
 /// A parser asks for some hundreds of small blocks before it has read anything, which is a third of
 /// the time that a short ticket takes. So these are cut from one piece and used again by size; the
 /// heap serves large ones alone.
+///
+/// It also bounds what a hostile document makes the parser keep before any event tells of it, such
+/// as the attributes of a tag that doesn't end.
 class ParserMemory final : public xercesc::MemoryManager {
 public:
-    ParserMemory() = default;
+    /// Raised where memory is asked for beyond a bound.
+    struct Refusal {};
+
+    static constexpr std::size_t unbounded = std::numeric_limits<std::size_t>::max();
+
+    /// `bytes` is what may be out at a time, `blocks` how many may be asked for between two events.
+    explicit ParserMemory(std::size_t bytes = unbounded, std::size_t blocks = unbounded)
+        : m_mostBytes(bytes), m_mostBlocks(blocks) {}
     ~ParserMemory() override;
     ParserMemory(const ParserMemory&) = delete;
     ParserMemory& operator=(const ParserMemory&) = delete;
+
+    /// Counts blocks from here on.
+    void noteEvent() { m_blocks = 0; }
 
     void* allocate(XMLSize_t size) override;
     void deallocate(void* memory) override;
@@ -43,6 +57,10 @@ private:
     Head* allocateLarge(std::size_t size);
     void deallocateLarge(Large* block);
 
+    std::size_t m_mostBytes;
+    std::size_t m_mostBlocks;
+    std::size_t m_bytes = 0;
+    std::size_t m_blocks = 0;
     std::pmr::monotonic_buffer_resource m_pieces{firstPiece, std::pmr::new_delete_resource()};
     std::array<Head*, sizeClasses> m_free{}; // blocks to be used again
     Large* m_newest = nullptr;

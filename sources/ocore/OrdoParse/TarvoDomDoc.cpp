@@ -57,6 +57,8 @@ void TarvoDomDoc::createParser(const CXString& streamName, bool validate) {
     m_parser = std::make_unique<TarvoXmlParser>(streamName, validate);
 }
 
+void TarvoDomDoc::setOrigin(XmlOrigin origin) { m_parser->setOrigin(origin); }
+
 void TarvoDomDoc::parse(std::span<const std::byte> bytes) { m_parser->parse(bytes); }
 
 void TarvoDomDoc::toXmlStream(XmlOutputCallback& callback) {

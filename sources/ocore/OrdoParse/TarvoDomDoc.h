@@ -7,6 +7,7 @@
 #include "ocore/Attributes/AttrNodeList.h"
 #include "ocore/CXString.h"
 #include "ocore/OrdoParse/XmlDocument.h"
+#include "ocore/OrdoParse/XmlLimits.h"
 
 namespace zent {
 
@@ -26,6 +27,8 @@ public:
     TarvoDomDoc(const TarvoDomDoc&) = delete;
     TarvoDomDoc& operator=(const TarvoDomDoc&) = delete;
 
+    /// Documents come as such unless it is set.
+    void setOrigin(XmlOrigin origin);
     void parse(std::span<const std::byte> bytes);
     /// Adds what the parsed document holds. Below the root, an element with the syntax attribute is
     /// a value: a simple one if its first child is text (or a comment, whatever comes first), else

@@ -81,6 +81,7 @@ std::unique_ptr<TarvoDomDoc> TarvoXmlDataStream::createDomDocument() const {
                        "TarvoXmlDataStream::createDomDocument(): The pointer to be returned is "
                        "NULL!\r\n");
     }
+    document->setOrigin(m_origin);
     return document;
 }
 

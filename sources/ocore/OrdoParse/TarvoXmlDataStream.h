@@ -7,6 +7,7 @@
 
 #include "ocore/Attributes/AttrNodeList.h"
 #include "ocore/CXString.h"
+#include "ocore/OrdoParse/XmlLimits.h"
 #include "ocore/OrdoParse/XmlOutputCallback.h"
 
 namespace zent {
@@ -34,6 +35,8 @@ public:
     TarvoXmlDataStream(const TarvoXmlDataStream&) = delete;
     TarvoXmlDataStream& operator=(const TarvoXmlDataStream&) = delete;
 
+    /// Documents come as such unless it is set.
+    void setOrigin(XmlOrigin origin) { m_origin = origin; }
     /// The bytes must outlive the reading; null or no bytes fail it.
     virtual void setInputBuffer(const void* bytes, std::size_t length);
     /// The callback must outlive the writing.
@@ -53,6 +56,7 @@ private:
     std::unique_ptr<TarvoDomDoc> createDomDocument() const;
 
     XmlDataType m_type;
+    XmlOrigin m_origin = XmlOrigin::document;
     const void* m_input = nullptr;
     std::size_t m_inputLength = 0;
     XmlOutputCallback* m_callback = nullptr;

@@ -40,11 +40,13 @@ std::string_view quoted(std::span<const std::byte> bytes) {
                    message, quoted(bytes));
 }
 
+template <typename Exception = OrdoParseException>
 [[noreturn]] void raiseProblem(const CXString& messages, std::span<const std::byte> bytes) {
-    raiseOrdoParse(ordoParseCode::errorReportedInParse,
-                   "TarvoXmlParser::parse(): There was a problem with the ORDO stream %s.\r\nXML "
-                   "is:\r\n\r\n%S\r\n",
-                   messages, quoted(bytes));
+    raiseOrdoParse<Exception>(
+        ordoParseCode::errorReportedInParse,
+        "TarvoXmlParser::parse(): There was a problem with the ORDO stream %s.\r\nXML "
+        "is:\r\n\r\n%S\r\n",
+        messages, quoted(bytes));
 }
 
 CXString writingEncoding(const XmlDocument& document) {
@@ -95,14 +97,14 @@ void TarvoXmlParser::parse(std::span<const std::byte> bytes,
     m_reporter.resetErrors();
     m_document.emplace();
     if (bytes.size() > xmlLimits::documentBytes) {
-        raiseProblem(formatText("Fatal error: the document has %I64u bytes; %lu are allowed\r\n",
-                                bytes.size(), xmlLimits::documentBytes),
-                     bytes);
+        raiseProblem<XmlBoundException>(
+            formatText("Fatal error: the document has %I64u bytes; %lu are allowed\r\n",
+                       bytes.size(), xmlLimits::documentBytes),
+            bytes);
     }
+    bool isBoundPassed = false;
     try {
-        runParser(bytes, dtd);
-    } catch (const XmlTreeBuilder::Refusal&) {
-        // The reason has been reported.
+        isBoundPassed = !runParser(bytes, dtd);
     } catch (const xercesc::XMLException& exception) {
         raiseParserFailure(exception.getMessage(), bytes);
     } catch (const xercesc::SAXException& exception) {
@@ -112,22 +114,27 @@ void TarvoXmlParser::parse(std::span<const std::byte> bytes,
     } catch (const xercesc::OutOfMemoryException&) {
         throw std::bad_alloc();
     }
+    if (isBoundPassed) {
+        raiseProblem<XmlBoundException>(m_reporter.getMessages(), bytes);
+    }
     if (m_reporter.isErrorSeen() || m_reporter.isFatalSeen()) {
         raiseProblem(m_reporter.getMessages(), bytes);
     }
 }
 
-void TarvoXmlParser::runParser(std::span<const std::byte> bytes,
+/// False if a bound was passed.
+bool TarvoXmlParser::runParser(std::span<const std::byte> bytes,
                                const std::shared_ptr<const CompiledDtd>& dtd) {
+    const XmlBounds bounds = boundsOf(m_origin, bytes.size());
     xercesc::SecurityManager limits;
     limits.setEntityExpansionLimit(xmlLimits::entityExpansions);
     OwnDtd resolver(m_validate ? m_streamName : CXString(), dtd);
-    ParserMemory memory;
+    ParserMemory memory(bounds.parserBytes, xmlLimits::blocksBetweenEvents);
     std::optional<ParseGrammars> grammars;
     if (dtd) {
         grammars.emplace(dtd->getGrammars(), memory);
     }
-    XmlTreeBuilder parser(*m_document, memory, grammars ? &*grammars : nullptr);
+    XmlTreeBuilder parser(*m_document, bounds, memory, grammars ? &*grammars : nullptr);
     parser.setErrorHandler(&m_reporter);
     parser.setXMLEntityResolver(&resolver);
     parser.setDisableDefaultEntityResolution(true);
@@ -143,20 +150,30 @@ void TarvoXmlParser::runParser(std::span<const std::byte> bytes,
         static_cast<const XMLByte*>(static_cast<const void*>(bytes.data())), bytes.size(),
         m_streamName.c_str(), false, &memory);
     source.setCopyBufToStream(false);
-    parser.parse(source);
+    try {
+        parser.parse(source);
+    } catch (const XmlTreeBuilder::Refusal&) {
+        return !parser.isBoundPassed();
+    } catch (const ParserMemory::Refusal&) {
+        m_reporter.addFatalError(
+            u"Fatal error: the document takes more memory than its size allows\r\n");
+        return false;
+    }
+    return true;
 }
 
 void TarvoXmlParser::convertToXmlStream(XmlOutputCallback& callback) {
     XmlDocument& document = getDocument();
     const CXString encoding = writingEncoding(document);
     m_callback = &callback;
+    m_written = 0;
     try {
         ParserMemory memory;
         // Not on the stack, of which it would take a third of what a call may.
         const std::unique_ptr<xercesc::XMLFormatter> formatter(new (&memory) xercesc::XMLFormatter(
             encoding.c_str(), u"1.0", this, xercesc::XMLFormatter::NoEscapes,
             xercesc::XMLFormatter::UnRep_CharRef, &memory));
-        XmlWriter writer(*formatter, callback.isFormatted());
+        XmlWriter writer(*formatter, callback.isFormatted(), m_origin);
         writer.write(document.getNode());
         writer.flush();
     } catch (const xercesc::XMLException& exception) {
@@ -171,6 +188,13 @@ void TarvoXmlParser::convertToXmlStream(XmlOutputCallback& callback) {
 
 void TarvoXmlParser::writeChars(const XMLByte* bytes, XMLSize_t count,
                                 xercesc::XMLFormatter* /*formatter*/) {
+    m_written += count;
+    if (m_written > xmlLimits::documentBytes) {
+        raiseOrdoParse(ordoParseCode::outputFailed,
+                       "TarvoXmlParser::writeChars(): The document would have more bytes than %lu, "
+                       "and couldn't be read again!\r\n",
+                       xmlLimits::documentBytes);
+    }
     const auto* const text = static_cast<const char*>(static_cast<const void*>(bytes));
     if (!m_callback->handleOutput(text, count)) {
         raiseOrdoParse(ordoParseCode::outputFailed,

@@ -10,6 +10,7 @@
 #include "ocore/CXString.h"
 #include "ocore/OrdoParse/DOMTreeErrorReporter.h"
 #include "ocore/OrdoParse/XmlDocument.h"
+#include "ocore/OrdoParse/XmlLimits.h"
 
 namespace zent {
 
@@ -17,13 +18,17 @@ class CompiledDtd;
 class XmlOutputCallback;
 
 /// Bytes to a document and back, for one document at a time. All failures are raised as
-/// OrdoParseException, but for lack of memory, which is std::bad_alloc.
+/// OrdoParseException, but for lack of memory, which is std::bad_alloc. A document beyond a bound
+/// is an XmlBoundException.
 class TarvoXmlParser final : public xercesc::XMLFormatTarget {
 public:
     /// The stream name stands for the document in messages. With `validate` it is also the path of
     /// the document type definition: a document names that file as if it stood beside it.
     TarvoXmlParser(const CXString& streamName, bool validate)
         : m_streamName(streamName), m_validate(validate) {}
+
+    /// Documents come as such unless it is set.
+    void setOrigin(XmlOrigin origin) { m_origin = origin; }
 
     // Not those of the parser library, which fail in a way of their own.
     static void* operator new(std::size_t size) { return ::operator new(size); }
@@ -38,7 +43,8 @@ public:
     XmlDocument& getDocument();
 
     /// Writes the document, in the encoding that it declares or else in UTF-8. Code 3 if the parser
-    /// library fails, code 4 if the callback doesn't take the bytes.
+    /// library fails, code 4 if the callback doesn't take the bytes or the document is one that
+    /// couldn't be read again.
     void convertToXmlStream(XmlOutputCallback& callback);
     /// For the library's formatter.
     void writeChars(const XMLByte* bytes, XMLSize_t count,
@@ -47,13 +53,15 @@ public:
 private:
     std::shared_ptr<const CompiledDtd> findDtd() const;
     void parse(std::span<const std::byte> bytes, const std::shared_ptr<const CompiledDtd>& dtd);
-    void runParser(std::span<const std::byte> bytes, const std::shared_ptr<const CompiledDtd>& dtd);
+    bool runParser(std::span<const std::byte> bytes, const std::shared_ptr<const CompiledDtd>& dtd);
 
     CXString m_streamName;
     bool m_validate;
+    XmlOrigin m_origin = XmlOrigin::document;
     DOMTreeErrorReporter m_reporter;
     std::optional<XmlDocument> m_document;
     XmlOutputCallback* m_callback = nullptr;
+    std::size_t m_written = 0;
 };
 
 } // namespace zent

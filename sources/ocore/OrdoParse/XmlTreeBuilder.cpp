@@ -1,15 +1,19 @@
 #include "ocore/OrdoParse/XmlTreeBuilder.h"
 
+#include <algorithm>
+
 #include <xercesc/dom/DOMDocument.hpp>
 #include <xercesc/dom/DOMDocumentType.hpp>
 #include <xercesc/framework/XMLAttr.hpp>
 #include <xercesc/framework/XMLElementDecl.hpp>
+#include <xercesc/framework/XMLNotationDecl.hpp>
 #include <xercesc/internal/XMLScanner.hpp>
 #include <xercesc/sax/ErrorHandler.hpp>
 #include <xercesc/sax/SAXParseException.hpp>
 #include <xercesc/validators/DTD/DTDElementDecl.hpp>
 #include <xercesc/validators/DTD/DTDEntityDecl.hpp>
 
+#include "ocore/OrdoParse/ParserMemory.h"
 #include "ocore/OrdoParse/XmlLimits.h"
 
 namespace zent {
@@ -22,10 +26,10 @@ std::u16string_view viewOf(const XMLCh* text) {
 
 } // namespace
 
-XmlTreeBuilder::XmlTreeBuilder(XmlDocument& document, xercesc::MemoryManager& memory,
+XmlTreeBuilder::XmlTreeBuilder(XmlDocument& document, const XmlBounds& bounds, ParserMemory& memory,
                                xercesc::XMLGrammarPool* grammars)
-    : XercesDOMParser(nullptr, &memory, grammars), m_document(document),
-      m_current(&document.getNode()) {}
+    : XercesDOMParser(nullptr, &memory, grammars), m_document(document), m_bounds(bounds),
+      m_memory(memory), m_current(&document.getNode()) {}
 
 // Prolog
 
@@ -40,9 +44,12 @@ void XmlTreeBuilder::XMLDecl(const XMLCh* version, const XMLCh* encoding, const 
 void XmlTreeBuilder::doctypeDecl(const xercesc::DTDElementDecl& root, const XMLCh* publicId,
                                  const XMLCh* systemId, bool hasInternalSubset,
                                  bool hasExternalSubset) {
+    const std::u16string_view name = share(viewOf(root.getFullName()));
+    if (std::max(viewOf(publicId).size(), viewOf(systemId).size()) > xmlLimits::identifierUnits) {
+        refuse(u"An identifier is longer than 4096 characters.");
+    }
     XercesDOMParser::doctypeDecl(root, publicId, systemId, hasInternalSubset, hasExternalSubset);
-    m_documentType = &m_document.append(*m_current, XmlNodeKind::documentType,
-                                        store(viewOf(root.getFullName())), {});
+    m_documentType = &m_document.append(*m_current, XmlNodeKind::documentType, name, {});
     addAttribute(*m_documentType, u"PUBLIC", publicId);
     addAttribute(*m_documentType, u"SYSTEM", systemId);
 }
@@ -60,6 +67,7 @@ void XmlTreeBuilder::endIntSubset() {
 }
 
 void XmlTreeBuilder::elementDecl(const xercesc::DTDElementDecl& declaration, bool isIgnored) {
+    m_memory.noteEvent();
     // A content model becomes an automaton, which can have exponentially many states.
     if (m_inInternalSubset) {
         refuse(u"A document can't declare element types of its own.");
@@ -68,6 +76,7 @@ void XmlTreeBuilder::elementDecl(const xercesc::DTDElementDecl& declaration, boo
 }
 
 void XmlTreeBuilder::startAttList(const xercesc::DTDElementDecl& declaration) {
+    m_memory.noteEvent();
     // The library doesn't count the entities that are expanded in the default of an attribute.
     if (m_inInternalSubset) {
         refuse(u"A document can't declare attributes of its own.");
@@ -77,14 +86,35 @@ void XmlTreeBuilder::startAttList(const xercesc::DTDElementDecl& declaration) {
 
 void XmlTreeBuilder::entityDecl(const xercesc::DTDEntityDecl& declaration, bool isParameterEntity,
                                 bool isIgnored) {
+    m_memory.noteEvent();
     // The library doesn't count how often parameter entities are expanded.
     if (m_inInternalSubset && isParameterEntity) {
         refuse(u"A document can't declare parameter entities of its own.");
     }
+    if (m_inInternalSubset && !m_bounds.mayDeclareEntities) {
+        refuse(u"A ticket in a state blob can't declare entities.");
+    }
+    noteDeclaration(viewOf(declaration.getName()));
     if (declaration.getValueLen() > xmlLimits::entityUnits) {
         refuse(u"The text of an entity is longer than 65536 characters.");
     }
     XercesDOMParser::entityDecl(declaration, isParameterEntity, isIgnored);
+}
+
+void XmlTreeBuilder::notationDecl(const xercesc::XMLNotationDecl& declaration, bool isIgnored) {
+    m_memory.noteEvent();
+    noteDeclaration(viewOf(declaration.getName()));
+    XercesDOMParser::notationDecl(declaration, isIgnored);
+}
+
+/// The library's tables of these grow slower and slower.
+void XmlTreeBuilder::noteDeclaration(std::u16string_view name) {
+    if (m_inInternalSubset && ++m_declarations > xmlLimits::declarations) {
+        refuse(u"The document declares more than 1000 entities and notations.");
+    }
+    if (name.size() > xmlLimits::nameUnits) {
+        refuse(u"A name is longer than 255 characters.");
+    }
 }
 
 // Content
@@ -97,20 +127,31 @@ void XmlTreeBuilder::startElement(const xercesc::XMLElementDecl& declaration,
     if (m_depth == xmlLimits::depth) {
         refuse(u"Elements are nested deeper than 100 levels.");
     }
-    if (++m_elements > xmlLimits::elements) {
-        refuse(u"The document has more than 1000000 elements.");
-    }
-    if (attributeCount > xmlLimits::attributesOfElement) {
-        refuse(u"An element has more than 1000 attributes.");
-    }
+    noteNodes(1 + attributeCount);
     XmlNode& node = m_document.append(*m_current, XmlNodeKind::element, nameOf(declaration), {});
-    for (XMLSize_t i = 0; i < attributeCount; ++i) {
-        const xercesc::XMLAttr& attribute = *attributes.elementAt(i);
-        m_document.addAttribute(node, store(attribute.getName()), store(attribute.getValue()));
+    if (attributeCount > 0) {
+        addAttributes(node, attributes, attributeCount);
     }
     if (!isEmpty) {
         m_current = &node;
         ++m_depth;
+    }
+}
+
+void XmlTreeBuilder::addAttributes(XmlNode& node,
+                                   const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
+                                   XMLSize_t count) {
+    if (count > xmlLimits::attributesOfElement) {
+        refuse(u"An element has more than 1000 attributes.");
+    }
+    m_attributeComparisons += static_cast<std::uint64_t>(count) * count;
+    if (m_attributeComparisons > xmlLimits::attributeComparisons) {
+        refuse(u"Too many elements have many attributes.");
+    }
+    for (XMLSize_t i = 0; i < count; ++i) {
+        const xercesc::XMLAttr& attribute = *attributes.elementAt(i);
+        m_document.addAttribute(node, share(viewOf(attribute.getName())),
+                                shareValue(viewOf(attribute.getValue())));
     }
 }
 
@@ -129,12 +170,11 @@ void XmlTreeBuilder::docCharacters(const XMLCh* text, XMLSize_t length, bool isC
         return;
     }
     if (isCdataSection) {
-        flushText();
-        m_document.append(*m_current, XmlNodeKind::cdataSection, {}, store({text, length}));
+        addNode(XmlNodeKind::cdataSection, {}, {text, length});
         return;
     }
-    if (m_text.size() + length > xmlLimits::textUnits) {
-        refuse(u"The document's text is longer than 67108864 characters.");
+    if (m_units + m_text.size() + length > m_bounds.textUnits) {
+        refuse(u"The document's text is too long.");
     }
     m_text.append(text, length);
 }
@@ -145,24 +185,55 @@ void XmlTreeBuilder::ignorableWhitespace(const XMLCh* text, XMLSize_t length,
 }
 
 void XmlTreeBuilder::docComment(const XMLCh* text) {
-    flushText();
-    m_document.append(*m_current, XmlNodeKind::comment, {}, store(viewOf(text)));
+    addNode(XmlNodeKind::comment, {}, viewOf(text));
 }
 
 void XmlTreeBuilder::docPI(const XMLCh* target, const XMLCh* data) {
-    flushText();
-    m_document.append(*m_current, XmlNodeKind::processingInstruction, store(viewOf(target)),
-                      store(viewOf(data)));
+    addNode(XmlNodeKind::processingInstruction, share(viewOf(target)), viewOf(data));
 }
 
-void XmlTreeBuilder::startEntityReference(const xercesc::XMLEntityDecl& /*declaration*/) {}
-void XmlTreeBuilder::endEntityReference(const xercesc::XMLEntityDecl& /*declaration*/) {}
+void XmlTreeBuilder::startEntityReference(const xercesc::XMLEntityDecl& declaration) {
+    ++m_openEntities;
+    m_expandedUnits += declaration.getValueLen();
+    if (m_expandedUnits > xmlLimits::expandedUnits) {
+        refuse(u"References to entities bring in more than 16777216 characters.");
+    }
+}
+
+void XmlTreeBuilder::endEntityReference(const xercesc::XMLEntityDecl& /*declaration*/) {
+    --m_openEntities;
+}
+
+void XmlTreeBuilder::addNode(XmlNodeKind kind, std::u16string_view name,
+                             std::u16string_view value) {
+    flushText();
+    noteNodes(1);
+    m_document.append(*m_current, kind, name, store(value));
+}
 
 /// Text that comes in pieces, such as that around an entity, is one node.
 void XmlTreeBuilder::flushText() {
-    if (!m_text.empty()) {
-        m_document.append(*m_current, XmlNodeKind::text, {}, store(m_text));
-        m_text.clear();
+    constexpr std::size_t keptCapacity = std::size_t{64} * 1024;
+    if (m_text.empty()) {
+        return;
+    }
+    noteNodes(1);
+    m_document.append(*m_current, XmlNodeKind::text, {}, store(m_text));
+    m_text.clear();
+    if (m_text.capacity() > keptCapacity) {
+        m_text.shrink_to_fit();
+    }
+}
+
+void XmlTreeBuilder::noteNodes(std::size_t count) {
+    m_memory.noteEvent();
+    m_nodes += count;
+    m_entityNodes += m_openEntities > 0 ? count : 0;
+    if (m_nodes > xmlLimits::nodes) {
+        refuse(u"The document has more than 1000000 nodes.");
+    }
+    if (m_entityNodes > xmlLimits::entityNodes) {
+        refuse(u"References to entities bring in more than 200000 nodes.");
     }
 }
 
@@ -178,6 +249,7 @@ void XmlTreeBuilder::error(unsigned int code, const XMLCh* domain, ErrTypes type
 }
 
 void XmlTreeBuilder::refuse(const XMLCh* reason) {
+    m_boundPassed = true;
     getErrorHandler()->fatalError(xercesc::SAXParseException(
         reason, *getScanner()->getLocator(), xercesc::XMLPlatformUtils::fgMemoryManager));
     throw Refusal();
@@ -187,10 +259,41 @@ void XmlTreeBuilder::refuse(const XMLCh* reason) {
 
 std::u16string_view XmlTreeBuilder::store(std::u16string_view text) {
     m_units += text.size();
-    if (m_units > xmlLimits::textUnits) {
-        refuse(u"The document's text is longer than 67108864 characters.");
+    if (m_units > m_bounds.textUnits) {
+        refuse(u"The document's text is too long.");
     }
     return m_document.store(text);
+}
+
+/// The value of an attribute: one of few words, in most documents.
+std::u16string_view XmlTreeBuilder::shareValue(std::u16string_view value) {
+    if (value.empty()) {
+        return {};
+    }
+    std::u16string_view& known =
+        m_knownValues[(value.size() + value.front()) % m_knownValues.size()];
+    if (known != value) {
+        known = store(value);
+    }
+    return known;
+}
+
+/// A name that isn't one of a declared element.
+std::u16string_view XmlTreeBuilder::share(std::u16string_view name) {
+    std::u16string_view& known = m_sharedNames[name.size() % m_sharedNames.size()];
+    if (known == name) {
+        return known;
+    }
+    if (const auto found = m_names.find(name); found != m_names.end()) {
+        return known = *found;
+    }
+    if (name.size() > xmlLimits::nameUnits) {
+        refuse(u"A name is longer than 255 characters.");
+    }
+    if (m_names.size() == xmlLimits::names) {
+        refuse(u"The document has more than 4096 different names.");
+    }
+    return known = *m_names.insert(m_document.store(name)).first;
 }
 
 /// Few names occur over and over, and all elements of one name share a declaration.
@@ -198,9 +301,23 @@ std::u16string_view XmlTreeBuilder::nameOf(const xercesc::XMLElementDecl& declar
     const auto place = reinterpret_cast<std::uintptr_t>(&declaration) / alignof(std::max_align_t);
     KnownName& known = m_knownNames[(place ^ (place >> 6)) % m_knownNames.size()];
     if (known.declaration != &declaration) {
-        known = {&declaration, store(declaration.getFullName())};
+        const std::u16string_view name = viewOf(declaration.getFullName());
+        known = {&declaration, declaration.isDeclared() ? m_document.store(name) : share(name)};
+        if (!declaration.isDeclared()) {
+            noteUndeclared(declaration);
+        }
     }
     return known.name;
+}
+
+/// The library numbers its declarations as they come.
+void XmlTreeBuilder::noteUndeclared(const xercesc::XMLElementDecl& declaration) {
+    if (declaration.getId() > m_lastUndeclared) {
+        m_lastUndeclared = declaration.getId();
+        if (!m_undeclared.add(declaration.getFullName())) {
+            refuse(u"Too many names have the same hash.");
+        }
+    }
 }
 
 void XmlTreeBuilder::addAttribute(XmlNode& node, std::u16string_view name, const XMLCh* value) {

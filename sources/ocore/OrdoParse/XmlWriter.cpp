@@ -5,6 +5,8 @@
 #include <xercesc/util/XMLString.hpp>
 #include <xercesc/util/XMLUni.hpp>
 
+#include "ocore/OrdoParse/OrdoParseException.h"
+
 namespace zent {
 
 namespace {
@@ -39,19 +41,27 @@ std::u16string withAllowedOnly(std::u16string_view text) {
     return result;
 }
 
+[[noreturn]] void raiseUnreadable(const char16_t* reason, std::size_t bound) {
+    raiseOrdoParse(ordoParseCode::outputFailed,
+                   "XmlWriter::write(): The document would have more %s than %lu, and couldn't be "
+                   "read again!\r\n",
+                   reason, bound);
+}
+
 } // namespace
 
 // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): what is collected is written first
-XmlWriter::XmlWriter(XMLFormatter& formatter, bool formatted)
+XmlWriter::XmlWriter(XMLFormatter& formatter, bool formatted, XmlOrigin origin)
     : m_formatter(formatter),
       // UTF-8 has every character. To have the formatter ask for each costs as much as the rest.
       m_unrepresentable(xercesc::XMLString::equals(formatter.getEncodingName(),
                                                    xercesc::XMLUni::fgUTF8EncodingString)
                             ? XMLFormatter::UnRep_Fail
                             : XMLFormatter::UnRep_CharRef),
-      m_formatted(formatted) {}
+      m_formatted(formatted), m_mostUnits(boundsOf(origin, xmlLimits::documentBytes).textUnits) {}
 
 void XmlWriter::write(const XmlNode& node) {
+    noteNode();
     switch (node.getKind()) {
     case XmlNodeKind::element:
         writeElement(node);
@@ -107,7 +117,16 @@ void XmlWriter::writeChildren(const XmlNode& node) {
     }
 }
 
+void XmlWriter::noteNode() {
+    if (++m_nodes > xmlLimits::nodes) {
+        raiseUnreadable(u"nodes", xmlLimits::nodes);
+    }
+}
+
 void XmlWriter::writeElement(const XmlNode& element) {
+    if (m_depth == xmlLimits::depth) {
+        raiseUnreadable(u"levels", xmlLimits::depth);
+    }
     if (m_formatted) {
         writeLineBreak();
     }
@@ -115,6 +134,7 @@ void XmlWriter::writeElement(const XmlNode& element) {
     writeMarkup(element.getName());
     for (const XmlAttribute* attribute = element.getFirstAttribute(); attribute != nullptr;
          attribute = attribute->next) {
+        noteNode();
         writeMarkup(u" ");
         writeMarkup(attribute->name);
         writeMarkup(u"=\"");
@@ -131,11 +151,13 @@ void XmlWriter::writeElement(const XmlNode& element) {
     const std::size_t outerIndent = m_indent.size();
     const std::size_t innerIndent = outerIndent + (first->isElement() ? 1 : 0);
     bool holdsText = false;
+    ++m_depth;
     for (const XmlNode* child = first; child != nullptr; child = child->getNextSibling()) {
         m_indent.resize(innerIndent + (child->isElement() ? 0 : 1), u'\t');
         holdsText = holdsText || child->getKind() == XmlNodeKind::text;
         write(*child);
     }
+    --m_depth;
     m_indent.resize(outerIndent);
 
     if (m_formatted && !holdsText) {
@@ -188,6 +210,7 @@ void XmlWriter::writeQuoted(const XmlNode& node, std::u16string_view attribute,
 }
 
 void XmlWriter::writeLineBreak() {
+    noteNode(); // white space is one as well
     writeMarkup(u"\r\n");
     writeMarkup(m_indent);
 }
@@ -207,6 +230,10 @@ void XmlWriter::writeMarkup(std::u16string_view text) {
 }
 
 void XmlWriter::writeEscaped(std::u16string_view text, XMLFormatter::EscapeFlags escapes) {
+    m_units += text.size();
+    if (m_units > m_mostUnits) {
+        raiseUnreadable(u"characters of text", m_mostUnits);
+    }
     if (std::ranges::all_of(text, isPlain)) {
         writeMarkup(text);
         return;

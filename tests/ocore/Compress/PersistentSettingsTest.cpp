@@ -142,6 +142,9 @@ TEST_F(PersistentSettingsTest, WhatWasExpandedOrNotYetComposedIsKeptInStep) {
 }
 
 TEST_F(PersistentSettingsTest, FaultsAreRefusedAndNothingIsTaken) {
+    const auto declaring = [](const std::string& root) {
+        return "<!DOCTYPE " + root + " SYSTEM 'ordo-v02025.dtd' [<!ENTITY e 'x'>]><" + root + "/>";
+    };
     const Rows<ByteBuffer, ResultCode> rows{
         {bytesOf(recentHeader.substr(0, 7)), ZENT_ERR_STATE_FORMAT},
         {bytesOf(std::string("\x08\0\0\0\x01\0\x09\x03", 8)), ZENT_ERR_STATE_FORMAT},
@@ -149,6 +152,15 @@ TEST_F(PersistentSettingsTest, FaultsAreRefusedAndNothingIsTaken) {
         {blobOf(recentHeader, structureOf('\x0B')), ZENT_ERR_STATE_FORMAT},
         {blobOf(recentHeader, structureOf() + "<sordo>"), ZENT_ERR_XML_PARSE},
         {blobOf(fullPayloadHeader, structureOf() + "<ordo/>"), ZENT_ERR_XML_PARSE},
+        // Beyond the bounds of documents, which are narrower than those of tickets as such.
+        {blobOf(recentHeader, structureOf() + declaring("sordo")), ZENT_ERR_COMPRESSION},
+        {blobOf(fullPayloadHeader, structureOf() + declaring("ordo")), ZENT_ERR_COMPRESSION},
+        {blobOf(documentHeader, declaring("ordo")), ZENT_ERR_COMPRESSION},
+        {blobOf(recentHeader,
+                structureOf() + "<sordo><f s='n'>" + std::string(9'000'000, 'a') + "</f></sordo>"),
+         ZENT_ERR_COMPRESSION},
+        {blobOf(recentHeader, structureOf() + "<sordo><!--" + std::string(30'000'000, 'a')),
+         ZENT_ERR_COMPRESSION},
     };
     PersistentSettings settings;
     const ByteBuffer before = settings.getBuffer();

@@ -158,22 +158,126 @@ TEST_F(HostileXmlTest, NestingHasABound) {
     }
 }
 
+/// Of a form without a document type, as media libraries and capability documents are.
+std::string failureWithoutDtd(const std::string& document) {
+    return ordoFailure([&] {
+        ZNXMLInterface::Instance();
+        TarvoXmlParser(u"XmlStream", false).parse(std::as_bytes(std::span(document)));
+    });
+}
+
+const char* const fine = "nothing was raised";
+
 TEST_F(HostileXmlTest, SizesHaveBounds) {
     const std::string blanks(xmlLimits::documentBytes + 1, ' ');
     EXPECT_THAT(failureOf(blanks), AllOf(StartsWith("2: "), HasSubstr("67108865 bytes")));
-    EXPECT_THAT(failureOf(ordoTicket(repeated("<sides syntax=''/>", xmlLimits::elements))),
-                HasSubstr("The document has more than 1000000 elements."));
+    const std::string longest(xmlLimits::identifierUnits, '/');
+    EXPECT_THAT(failureOf("<!DOCTYPE ordo SYSTEM '" + longest + "ordo-v02025.dtd'><ordo/>"),
+                HasSubstr("An identifier is longer than 4096 characters."));
+}
 
-    ZNXMLInterface::Instance();
-    std::string attributes;
-    for (int i = 0; i < 1'001; ++i) {
-        attributes += " a" + std::to_string(i) + "=''";
+TEST_F(HostileXmlTest, NodesOfAllKindsAreCounted) {
+    const std::string tooMany = "The document has more than 1000000 nodes.";
+    EXPECT_THAT(failureOf(ordoTicket(repeated("<sides syntax=''/>", xmlLimits::nodes / 2))),
+                HasSubstr(tooMany));
+    EXPECT_THAT(failureWithoutDtd("<a>" + repeated("<?x?>", xmlLimits::nodes) + "</a>"),
+                HasSubstr(tooMany));
+    // A few bytes of an entity can be many of them.
+    for (const char* node : {"<?x?>", "<!---->", "<![CDATA[x]]>", "<a/>", "<a/>x", "<a b=''/>"}) {
+        const std::string entity = "<!DOCTYPE a [<!ENTITY e \"" + repeated(node, 1'000) + "\">]>";
+        EXPECT_EQ(failureWithoutDtd(entity + "<a>" + repeated("&e;", 99) + "</a>"), fine);
+        EXPECT_THAT(failureWithoutDtd(entity + "<a>" + repeated("&e;", 201) + "</a>"),
+                    HasSubstr("References to entities bring in more than 200000 nodes."))
+            << node;
     }
-    EXPECT_THAT(ordoFailure([&] {
-                    const std::string document = "<a" + attributes + "/>";
-                    TarvoXmlParser(u"XmlStream", false).parse(std::as_bytes(std::span(document)));
-                }),
+}
+
+TEST_F(HostileXmlTest, NamesHaveBounds) {
+    const std::string longest(xmlLimits::nameUnits, 'n');
+    const std::string tooLong = "A name is longer than 255 characters.";
+    std::string elements;
+    std::string targets;
+    std::string attributes;
+    for (std::size_t i = 0; i < xmlLimits::names - 1; ++i) { // and the root's
+        const std::string name = "n" + std::to_string(i);
+        elements += "<" + name + "/>";
+        targets += "<?" + name + "?>";
+        attributes += "<a " + name + "=''/>";
+    }
+    const std::string tooMany = "The document has more than 4096 different names.";
+    const Rows<std::string, std::string> rows{
+        {"<" + longest + "/>", fine},
+        {"<" + longest + "n/>", tooLong},
+        {"<a " + longest + "n=''/>", tooLong},
+        {"<a><?" + longest + "n?></a>", tooLong},
+        {"<!DOCTYPE " + longest + "n><a/>", tooLong},
+        {"<!DOCTYPE a [<!ENTITY " + longest + "n ''>]><a/>", tooLong},
+        {"<!DOCTYPE a [<!NOTATION " + longest + "n SYSTEM ''>]><a/>", tooLong},
+        {"<a>" + elements + elements + "</a>", fine},
+        {"<a>" + elements + "<one-more/></a>", tooMany},
+        {"<a>" + targets + "<?one-more?></a>", tooMany},
+        {"<a>" + attributes + "<a one-more=''/></a>", tooMany},
+    };
+    for (const auto& [document, message] : rows) {
+        EXPECT_THAT(failureWithoutDtd(document), HasSubstr(message)) << document.substr(0, 300);
+    }
+}
+
+// The parser's tables find a name by a hash that anyone can compute. Names that share it cost the
+// square of their number, each time that they come up.
+TEST_F(HostileXmlTest, NamesThatAreMadeToCollideAreRefused) {
+    const auto colliding = [](std::size_t number) {
+        std::string name = "n";
+        for (int bit = 0; bit < 12; ++bit, number /= 2) {
+            name += number % 2 == 0 ? "bA" : "ag"; // 98 * 38 + 65 == 97 * 38 + 103
+        }
+        return name;
+    };
+    std::string elements;
+    std::string attributes;
+    for (std::size_t i = 0; i < xmlLimits::attributesOfElement; ++i) {
+        elements += i <= xmlLimits::namesOfOneHash ? "<" + colliding(i) + "/>" : "";
+        attributes += " " + colliding(i) + "=''";
+    }
+    EXPECT_THAT(failureWithoutDtd("<a>" + elements + "</a>"),
+                HasSubstr("Too many names have the same hash."));
+    EXPECT_EQ(failureWithoutDtd("<a" + attributes + "/>"), fine);
+    EXPECT_THAT(failureWithoutDtd("<a>" + repeated("<a" + attributes + "/>", 21) + "</a>"),
+                HasSubstr("Too many elements have many attributes."));
+    EXPECT_THAT(failureWithoutDtd("<a" + attributes + " one-more=''/>"),
                 HasSubstr("An element has more than 1000 attributes."));
+    // The tag doesn't come to its end before that.
+    std::string endless = "<a";
+    for (int i = 0; i < 40'000; ++i) {
+        endless += " n" + std::to_string(i) + "=''";
+    }
+    EXPECT_THAT(failureWithoutDtd(endless + "<"),
+                HasSubstr("Fatal error: the document takes more memory than its size allows"));
+}
+
+TEST_F(HostileXmlTest, DeclarationsHaveABound) {
+    std::string entities;
+    for (std::size_t i = 0; i < xmlLimits::declarations; ++i) {
+        entities += "<!ENTITY e" + std::to_string(i) + " 'x'>";
+    }
+    EXPECT_EQ(textOfList(readOrdo(withSubset(entities, "&e0;&e999;"))), "job-name=name:xx");
+    for (const char* another : {"<!ENTITY f ''>", "<!NOTATION n PUBLIC 'x'>"}) {
+        EXPECT_THAT(failureOf(withSubset(entities + another, "a")),
+                    HasSubstr("The document declares more than 1000 entities and notations."));
+    }
+}
+
+TEST_F(HostileXmlTest, WhatEntitiesExpandToHasABound) {
+    const std::string entity =
+        "<!ENTITY e '" + std::string(xmlLimits::entityUnits, 'x') + "'><!ENTITY f 'x'>";
+    const std::string most = repeated("&e;", xmlLimits::expandedUnits / xmlLimits::entityUnits);
+    EXPECT_EQ(failureOf(withSubset(entity, most)), fine);
+    EXPECT_THAT(failureOf(withSubset(entity, most + "&f;")),
+                HasSubstr("References to entities bring in more than 16777216 characters."));
+    const std::string inAttribute = "</job-name><copies syntax='" + most +
+                                    "&e;'>1</copies>"
+                                    "<job-name syntax='name'>";
+    EXPECT_THAT(failureOf(withSubset(entity, inAttribute)), StartsWith("2: "));
 }
 
 TEST_F(HostileXmlTest, TheRootAndItsCategoriesStandNowhereElse) {
