@@ -6,21 +6,41 @@
 #include "ZENT_API/Arguments.h"
 #include "ZENT_API/CallFrame.h"
 #include "ocore/AnlXlate/OrdoTranslator.h"
+#include "ocore/Exceptions.h"
+#include "ocore/OrdoParse/OrdoParseException.h"
 
 using namespace zent;
 
 namespace {
 
+/// Data that the library would refuse in any case isn't copied.
+ByteBuffer documentOf(const void* data, uint32_t length) {
+    if (length > xmlLimits::documentBytes) {
+        raiseOrdoParse(ordoParseCode::errorReportedInParse,
+                       "The document has %lu bytes; %lu are allowed\r\n", length,
+                       xmlLimits::documentBytes);
+    }
+    return bytesOf(data, length);
+}
+
+ByteBuffer blobOf(const void* data, uint32_t length) {
+    if (length > xmlLimits::documentBytes) {
+        Raise<CompressionException>()("The blob has %lu bytes; %lu are allowed\r\n", length,
+                                      xmlLimits::documentBytes);
+    }
+    return bytesOf(data, length);
+}
+
 /// Reads a ticket; nothing if the format is none. A blob is read into the state as well.
-std::optional<FeatureSettings> readTicket(const ByteBuffer& data, uint32_t format,
+std::optional<FeatureSettings> readTicket(const void* data, uint32_t length, uint32_t format,
                                           PersistentSettings& state) {
     FeatureSettings ticket;
     switch (format) {
     case ZENT_FORMAT_XML:
-        OrdoTranslator().anlFromBuffer(data, ticket.getAttrNodeList());
+        OrdoTranslator().anlFromBuffer(documentOf(data, length), ticket.getAttrNodeList());
         return ticket;
     case ZENT_FORMAT_STATE:
-        state.importPersistentSettingsState(data, false);
+        state.importPersistentSettingsState(blobOf(data, length), false);
         state.toAttrNodeList(ticket.getAttrNodeList());
         return ticket;
     default:
@@ -33,7 +53,12 @@ void cacheXml(ZENTSession& session, CachedOutput& cache) {
     const AttrNodeList& list = *session.settings().getAttrNodeList();
     OrdoTranslator::requireReadable(list);
     cache.setKeyFromNumber(ZENT_FORMAT_XML);
-    OrdoTranslator().anlToBuffer(list, &cache.buffer());
+    try {
+        OrdoTranslator().anlToBuffer(list, &cache.buffer());
+    } catch (const OrdoParseException&) {
+        cache.buffer().clear(); // the beginning of a document that would be too large
+        throw;
+    }
 }
 
 /// A blob takes the place of what the cache holds, and only once it is there as a whole.
@@ -55,7 +80,7 @@ ZentResult ZENT_CALL fnImportJobTicket(ZentSessionType session, const void* data
                                        ZentBool* applied) {
     return inSession(session, u"ZENT::fnImportJobTicket()", [&](ZENTSession& opened) -> ZentResult {
         PersistentSettings state = opened.copyState();
-        std::optional<FeatureSettings> ticket = readTicket(bytesOf(data, length), format, state);
+        std::optional<FeatureSettings> ticket = readTicket(data, length, format, state);
         if (!ticket) {
             return ZENT_ERR_TICKET_FORMAT;
         }
@@ -94,7 +119,7 @@ ZentResult ZENT_CALL fnUpdateUserContextInformation(ZentSessionType session, con
     return inSession(session, u"ZENT::fnUpdateUserContextInformation()",
                      [&](ZENTSession& opened) -> ZentResult {
                          uint32_t& bytes = required(size);
-                         PersistentSettings state(bytesOf(blob, blobLength), true);
+                         PersistentSettings state(blobOf(blob, blobLength), true);
                          opened.updateUserContext(state);
                          return handOutBytes(state.getBuffer(), buffer, bytes);
                      });

@@ -149,6 +149,38 @@ TEST(TicketCallsTest, AFailedImportLeavesTheSessionAlone) {
     EXPECT_THAT(shown[0].text, testing::StartsWith("A job ticket document could not be read"));
 }
 
+// Nothing that long lies there: it would be a fault to look at more than the first byte.
+TEST(TicketCallsTest, DataBeyondWhatIsReadIsRefusedBeforeItIsCopied) {
+    const Session session;
+    ZentBool out = 0;
+    std::uint32_t size = 0;
+    for (const std::uint32_t length : {67'108'865U, 0xFFFFFFFFU}) {
+        for (const auto& [format, result] :
+             {std::pair{1U, ZENT_ERR_XML_PARSE}, std::pair{2U, ZENT_ERR_COMPRESSION},
+              std::pair{3U, ZENT_ERR_TICKET_FORMAT}}) {
+            EXPECT_EQ(fnImportJobTicket(session.handle(), "<", length, format, 1, nullptr, nullptr,
+                                        &out, &out),
+                      result);
+        }
+        EXPECT_EQ(fnUpdateUserContextInformation(session.handle(), "<", length, nullptr, &size),
+                  ZENT_ERR_COMPRESSION);
+    }
+}
+
+TEST(TicketCallsTest, AnExportBeyondWhatIsReadFailsAndHandsNothingOut) {
+    const Session session;
+    const Text text(22'400'000, ZentChar{0x20AC}); // each is three bytes of a document
+    ASSERT_EQ(fnSetStringValue(session.handle(), session.ticket(), ZT("job-name"), text.c_str(), 0),
+              ZENT_OK);
+    for (const std::uint32_t format : {ZENT_FORMAT_XML, ZENT_FORMAT_STATE}) {
+        std::uint32_t size = 0;
+        EXPECT_EQ(fnExportJobTicket(session.handle(), nullptr, &size, format),
+                  ZENT_ERR_XML_GENERATE);
+        fnExportJobTicket(session.handle(), nullptr, &size, format);
+        EXPECT_EQ(size, 0U);
+    }
+}
+
 TEST(TicketCallsTest, WhatIsExportedCanBeImported) {
     const Session session;
     const ZentSessionType s = session.handle();
