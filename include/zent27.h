@@ -50,6 +50,10 @@
  * nothing is copied and the result is ZENT_ERR_BUFFER_TOO_SMALL. So ask with null, allocate, ask
  * again.
  *
+ * Bounds. Tickets are hostile until parsed: a document or blob of more than 64 MiB, or beyond one
+ * of the bounds that docs/ordo.md lists, is refused, as a document with ZENT_ERR_XML_PARSE and as a
+ * blob with ZENT_ERR_COMPRESSION. An export that an import would refuse fails as well.
+ *
  * Other pointers. A null pointer that a call would have to read or write through gives
  * ZENT_ERR_UNKNOWN. The library keeps no pointer that it is given beyond the call, and hands out
  * none of its own but the handles.
@@ -114,8 +118,8 @@ enum ZentResultCode {
     ZENT_ERR_RESOURCE_LIBRARY = 11, /* zenres27.dll can't be loaded */
     ZENT_ERR_UNKNOWN_FEATURE = 12,  /* no such feature, or no such value of a feature */
     ZENT_ERR_ATTRIBUTE_TYPE = 13,   /* the value in the ticket is of another type */
-    ZENT_ERR_XML_PARSE = 14,        /* the document isn't well-formed or isn't valid */
-    ZENT_ERR_COMPRESSION = 15,      /* a state blob's compressed part is damaged */
+    ZENT_ERR_XML_PARSE = 14,        /* the document isn't well-formed or valid, or is too large */
+    ZENT_ERR_COMPRESSION = 15,      /* a state blob is damaged or too large */
     ZENT_ERR_ATTRIBUTE_ID = 16,     /* an attribute name is empty */
     ZENT_ERR_STATE_FORMAT = 17,     /* a state blob's header or data structure is wrong */
     ZENT_ERR_OUT_OF_MEMORY = 18,    /* memory ran out */
