@@ -62,7 +62,7 @@ TEST_F(PreferenceStoreTest, RefusesWhatIsTooLarge) {
     EXPECT_EQ(write(u"a\\key", u"name", largest), PreferenceStatus::done);
     EXPECT_EQ(write(u"a\\key", u"name", largest + 'y'), PreferenceStatus::valueFailed);
     EXPECT_EQ(read(u"a\\key", u"name"), "3:" + largest);
-    const std::u16string longName(longestPreferenceName + 1, u'n');
+    const CXString longName{std::u16string(longestPreferenceName + 1, u'n')};
     EXPECT_EQ(write(u"a\\key", longName, "x"), PreferenceStatus::valueFailed);
     EXPECT_EQ(write(longName, u"name", "x"), PreferenceStatus::keyFailed);
 }
