@@ -77,14 +77,13 @@ void requireSensible(const Feature& feature, const Value& value) {
 }
 
 void assign(const std::string& text) {
-    const Assignment assignment = parseAssignment(text);
-    const FeaturePath again = parsePath(toText(assignment.path));
-    require(toText(again) == toText(assignment.path));
-    require(!assignment.values.empty());
-    for (const Value& value : assignment.values) {
-        requireSensible(assignment.path.back().feature, value);
+    for (const Assignment& assignment : parseAssignments(text)) {
+        require(toText(parsePath(toText(assignment.path))) == toText(assignment.path));
+        for (const Value& value : assignment.values) {
+            requireSensible(assignment.path.back().feature, value);
+        }
+        hintAtMisspelling(assignment);
     }
-    hintAtMisspelling(assignment);
 }
 
 // JSON
