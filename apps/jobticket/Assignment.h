@@ -1,10 +1,12 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "FeaturePath.h"
+#include "Session.h"
 #include "Value.h"
 
 namespace jobticket {
@@ -26,5 +28,12 @@ bool looksLikeAssignment(std::string_view text);
 /// A value of the user's own is taken as it is, but it may be a slip: then this is a note that says
 /// so, else empty.
 std::string hintAtMisspelling(const Assignment& assignment);
+
+/// Sets the values of a feature in place of those it has; with an index, that one alone. Raises
+/// ProgramError (badValue) for an index that would leave a gap.
+void setValues(Ticket& ticket, std::span<const PathStep> path, const std::vector<Value>& values);
+
+/// Removes all values of a feature; with an index, that one alone. What isn't there is left so.
+void removeValues(Ticket& ticket, std::span<const PathStep> path);
 
 } // namespace jobticket

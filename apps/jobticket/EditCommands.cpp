@@ -4,17 +4,33 @@
 #include <sstream>
 
 #include "Assignment.h"
-#include "AttributePath.h"
 #include "Batch.h"
 #include "CommonOptions.h"
+#include "FeaturePath.h"
+#include "PrinterOptions.h"
 #include "Session.h"
 #include "Text.h"
 #include "TicketDocument.h"
-#include "TicketEditor.h"
 #include "TicketFile.h"
 #include "platform/LockedFile.h"
 
 namespace jobticket {
+
+namespace {
+
+ExitStatus makeTicket(const Options& options) {
+    Session session(choosePrinter(options.printer));
+    writeResult(options.output, session.exportTicket());
+    return ExitStatus::success;
+}
+
+constexpr std::array newOptions = {modelOption, languageOption, formOption, outputOption};
+
+} // namespace
+
+const Command newCommand = {"new", "Make a ticket that holds a printer's defaults", newOptions,
+                            makeTicket,
+                            "jobticket new --model \"Chromaset 900\" --pdl ps -o report.xml\n"};
 
 namespace {
 
@@ -206,5 +222,37 @@ const Command unsetCommand = {"unset",
                               unset,
                               "jobticket unset report.xml finishings media-color -i\n",
                               std::span(aboutSetting).first(1)};
+
+namespace {
+
+ExitStatus editNotes(const Options& options) {
+    Session session = openSession(options, choosePrinter(options.printer));
+    importDocumentFile(session, options.ticket);
+    const std::string before = session.exportTicket();
+    session.showJobNotes();
+    const std::string after = session.exportTicket();
+    const std::string target = options.output.value_or(options.ticket);
+    // A file is left alone if the user has given up.
+    const bool isSameFile = target == options.ticket && target != standardStream;
+    if (!isSameFile || after != before) {
+        writeFile(target, after);
+    }
+    return ExitStatus::success;
+}
+
+constexpr std::array notesOptions = {
+    ticketArgument,
+    modelOption,
+    languageOption,
+    preferenceSetOption,
+    printerPreferencesOption,
+    withHelp(outputOption,
+             "File to write, or - for standard output; without it, the ticket itself")};
+
+} // namespace
+
+const Command notesCommand = {
+    "notes", "Edit a ticket's job notes in a dialog: name, account, people, messages", notesOptions,
+    editNotes, "jobticket notes report.xml --model 43\n"};
 
 } // namespace jobticket

@@ -6,11 +6,10 @@
 #include "CommonOptions.h"
 #include "Offers.h"
 #include "Outline.h"
-#include "PreferenceSetOptions.h"
 #include "PrinterOptions.h"
-#include "ProblemListing.h"
 #include "StateBlob.h"
 #include "Text.h"
+#include "TicketCheck.h"
 #include "TicketDocument.h"
 #include "TicketFile.h"
 

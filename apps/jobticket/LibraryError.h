@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "ExitStatus.h"
@@ -22,5 +23,16 @@ private:
 
 /// Raises LibraryError for any result but ZENT_OK.
 void check(ZentResult result, const char* call, const std::string& subject = {});
+
+/// What an exported call hands out in a buffer: it is asked first for the size and then for the
+/// content. `call` takes the buffer and the size; `name` and `subject` are for messages.
+template <typename Content, typename Call>
+Content fetch(const char* name, const std::string& subject, const Call& call) {
+    std::uint32_t size = 0;
+    check(call(nullptr, &size), name, subject);
+    Content content(size, typename Content::value_type());
+    check(call(content.data(), &size), name, subject);
+    return content;
+}
 
 } // namespace jobticket

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "Assignment.h"
 #include "ExitStatus.h"
 #include "Text.h"
 #include "TicketDocument.h"
-#include "TicketEditor.h"
 #include "ocore/TarvoException.h"
 #include "ocore/User.h"
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Feature.h"
+#include "Json.h"
 #include "Session.h"
 #include "Value.h"
 
@@ -39,5 +40,12 @@ Offers getOffers(const PrinterChoice& choice);
 
 /// Whether any printer lets a page-level feature hold a feature.
 bool mayHold(const Feature& holder, const Feature& feature);
+
+/// What a printer offers of a feature; what doesn't apply is left out.
+Json toJson(const Offer& offer);
+/// Two numbers in an array.
+Json toJson(const Range& range);
+/// The printer itself: number, name, language and form of instructions.
+Json describePrinter(const Offers& offers);
 
 } // namespace jobticket

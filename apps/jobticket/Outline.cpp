@@ -1,9 +1,14 @@
 #include "Outline.h"
 
+#include <algorithm>
 #include <map>
 
 #include "Text.h"
+#include "Value.h"
+#include "ocore/Attributes/AttrNames.h"
 #include "ocore/Attributes/IppList.h"
+#include "ocore/Attributes/PrimitiveInteger.h"
+#include "ocore/FeatureSettings/StockSize.h"
 
 namespace jobticket {
 
@@ -16,6 +21,159 @@ using zent::AttrValue;
 const AttrNodeList& membersOf(const AttrValue& value) {
     return static_cast<const zent::IppList&>(value).getAttrNodeList();
 }
+
+ShownValue bothWays(const std::string& text) { return {text, text}; }
+
+/// A number that is a member of a compound value; nothing if it is missing or no number.
+std::optional<std::int32_t> numberIn(const AttrNodeList& list, const zent::AttrID& id) {
+    const AttrNode* node = list.findNode(id);
+    std::int32_t number = 0;
+    const bool isNumber = node != nullptr && node->getAttrValue().isPrimitiveInteger() &&
+                          list.OrdoAttrToLong(&number, id);
+    return isNumber ? std::optional(number) : std::nullopt;
+}
+
+std::string textOf(std::optional<std::int32_t> number) {
+    return number ? std::to_string(*number) : "?";
+}
+
+ShownValue showRange(const AttrNodeList& bounds) {
+    const auto lower = numberIn(bounds, zent::attrNames::lowerBound());
+    const auto upper = numberIn(bounds, zent::attrNames::upperBound());
+    return bothWays(lower && lower == upper ? textOf(lower) : textOf(lower) + "-" + textOf(upper));
+}
+
+ShownValue showResolution(const AttrNodeList& numbers) {
+    const auto units = numberIn(numbers, zent::attrNames::units());
+    const std::string across = textOf(numberIn(numbers, zent::attrNames::crossFeed()));
+    const std::string along = textOf(numberIn(numbers, zent::attrNames::feedDirection()));
+    std::string unit;
+    switch (units.value_or(0)) {
+    case dotsPerInch:
+        unit = "dpi";
+        break;
+    case dotsPerCentimetre:
+        unit = "dpcm";
+        break;
+    default:
+        unit = "unit " + textOf(units);
+        break;
+    }
+    return {across + "x" + along + unit, across + " x " + along + " " + unit};
+}
+
+/// The two dimensions of a medium on one line; nothing if there is more to it, or less.
+std::optional<ShownValue> showSize(const AttrNodeList& dimensions) {
+    const auto width = numberIn(dimensions, zent::AttrID(u"x-dimension"));
+    const auto height = numberIn(dimensions, zent::AttrID(u"y-dimension"));
+    if (dimensions.getNumberOfNodes() != 2 || !width || !height) {
+        return std::nullopt;
+    }
+    const zent::StockSize size(*width, *height);
+    std::string text = lengthInMillimetres(*width) + " x " + lengthInMillimetres(*height);
+    if (size.getSize() != zent::StockSize::codeOther) {
+        text = toUtf8(size.getDisplayName());
+    }
+    return ShownValue{textOf(width) + "x" + textOf(height), text};
+}
+
+/// Whether another value of the feature has the same text for people.
+bool hasTwin(const Feature& feature, const zent::FeatureValue& value) {
+    const std::vector<zent::FeatureValue> values = feature.getValues();
+    return std::ranges::any_of(values, [&](const zent::FeatureValue& other) {
+        return other != value && other.getDisplayString() == value.getDisplayString();
+    });
+}
+
+ShownValue showPrimitive(const AttrValue& value, const std::optional<Feature>& feature) {
+    const zent::CXString text = value.getIppValue();
+    ShownValue shown = bothWays(toUtf8(text));
+    if (value.getAttrValueType() == zent::AVTE_NULL) {
+        return bothWays("(of the syntax " + toUtf8(value.getIppSyntax()) + ")");
+    }
+    const auto known = feature && feature->getKind() != ValueKind::text
+                           ? zent::FeatureValue::find(feature->getNumber(), text)
+                           : std::nullopt;
+    if (known) {
+        shown.text = toUtf8(known->getDisplayString());
+        if (hasTwin(*feature, *known)) {
+            shown.text += " (" + shown.value + ")";
+        }
+    } else if (feature && value.isPrimitiveInteger()) {
+        shown.text = withUnit(static_cast<const zent::PrimitiveInteger&>(value).getValue(),
+                              feature->getUnit());
+    }
+    return shown;
+}
+
+/// One value; nothing for a collection.
+std::optional<ShownValue> showOne(const AttrValue& value, const std::optional<Feature>& feature) {
+    if (value.isRangeOfInteger()) {
+        return showRange(membersOf(value));
+    }
+    if (value.isResolution()) {
+        return showResolution(membersOf(value));
+    }
+    if (value.isCollection() && feature && feature->getKind() == ValueKind::size) {
+        return showSize(membersOf(value));
+    }
+    return value.isList() ? std::nullopt : std::optional(showPrimitive(value, feature));
+}
+
+std::string join(const std::vector<ShownValue>& values, std::string ShownValue::*part,
+                 const char* separator) {
+    std::string text;
+    for (const ShownValue& value : values) {
+        text += (&value == values.data() ? "" : separator) + value.*part;
+    }
+    return text;
+}
+
+} // namespace
+
+std::optional<std::vector<ShownValue>> showValues(const AttrValue& value,
+                                                  const std::optional<Feature>& feature) {
+    std::vector<ShownValue> values;
+    const auto add = [&](const AttrValue& one) {
+        const std::optional<ShownValue> shown = showOne(one, feature);
+        if (shown) {
+            values.push_back(*shown);
+        }
+        return shown.has_value();
+    };
+    if (!value.is1setOf()) {
+        return add(value) ? std::optional(values) : std::nullopt;
+    }
+    const AttrNodeList& members = membersOf(value);
+    for (std::uint32_t index = 0; index < members.getNumberOfNodes(); ++index) {
+        if (!add(members.getNodeAt(index).getAttrValue())) {
+            return std::nullopt;
+        }
+    }
+    return values;
+}
+
+Json toJson(const ShownValue& value) {
+    return Json::object().add("value", value.value).add("text", value.text);
+}
+
+Json toJson(const std::vector<ShownValue>& values) {
+    Json list = Json::array();
+    for (const ShownValue& value : values) {
+        list.add(toJson(value));
+    }
+    return list;
+}
+
+std::string joinValues(const std::vector<ShownValue>& values) {
+    return join(values, &ShownValue::value, ",");
+}
+
+std::string joinTexts(const std::vector<ShownValue>& values) {
+    return join(values, &ShownValue::text, ", ");
+}
+
+namespace {
 
 std::optional<Feature> findFeature(const std::string& name) {
     return Feature::exists(name) ? std::optional(Feature::named(name)) : std::nullopt;

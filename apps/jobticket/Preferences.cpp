@@ -5,7 +5,7 @@
 #include <string_view>
 #include <utility>
 
-#include "Fetch.h"
+#include "LibraryError.h"
 #include "Text.h"
 #include "ZENT_API/ZENTSession.h"
 #include "ocore/Exceptions.h"

@@ -105,4 +105,13 @@ PrinterChoice choosePrinter(const PrinterOptions& options, const PrinterOptionNa
             chooseForm(chosen.form)};
 }
 
+Session openSession(const Options& options) {
+    const bool hasPrinter = !options.printer.model.empty() || !options.printer.language.empty();
+    return openSession(options, hasPrinter ? choosePrinter(options.printer) : PrinterChoice());
+}
+
+Session openSession(const Options& options, const PrinterChoice& printer) {
+    return Session(printer, {options.preferenceSet, !options.usesPrinterPreferences});
+}
+
 } // namespace jobticket

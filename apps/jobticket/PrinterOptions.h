@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "Options.h"
+#include "Command.h"
 #include "Session.h"
 
 namespace jobticket {
@@ -18,5 +18,12 @@ struct PrinterOptionNames {
 /// is: usage if there is none of both, badValue for one that doesn't exist, or not with that
 /// language.
 PrinterChoice choosePrinter(const PrinterOptions& options, const PrinterOptionNames& names = {});
+
+/// A session with the set of preferences that is meant; without any option for it, whatever the
+/// printer, that is the one that all printers share.
+/// Raises as choosePrinter() does.
+Session openSession(const Options& options);
+/// The same for a command that goes by a printer in any case.
+Session openSession(const Options& options, const PrinterChoice& printer);
 
 } // namespace jobticket

@@ -3,7 +3,7 @@
 #include <limits>
 #include <utility>
 
-#include "Fetch.h"
+#include "LibraryError.h"
 #include "Text.h"
 #include "platform/CodePage.h"
 

@@ -5,8 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "Json.h"
 #include "Offers.h"
-#include "ShownValue.h"
+#include "Outline.h"
 #include "ocore/Attributes/AttrNodeList.h"
 
 namespace jobticket {
@@ -56,5 +57,20 @@ TicketCheck checkTicket(zent::AttrNodeList ticket, const PrinterChoice& choice);
 /// Finds what the instructions for a printer don't speak of in a ticket, which is first brought
 /// into the form that an import gives it. Nothing for a printer that gets the XML document.
 std::vector<Omission> findOmissions(zent::AttrNodeList ticket, const PrinterChoice& choice);
+
+/// A line for each problem: where in the ticket, what is there and what a repair makes of it, and
+/// what the printer takes instead.
+std::string listProblems(const std::vector<Problem>& problems);
+/// An array of them, with all that is known.
+Json toJson(const std::vector<Problem>& problems);
+
+/// A sentence that says how much the printing instructions leave out, and an indented line for
+/// each: where in the ticket, and what is there. Empty if there is nothing.
+std::string listOmissions(const std::vector<Omission>& omissions);
+/// An array of them, as notes of what isn't wrong.
+Json toJson(const std::vector<Omission>& omissions);
+
+/// "Tarvo Lumaset 430, monochrome PCL".
+std::string describePrinterForPeople(const Offers& offers);
 
 } // namespace jobticket

@@ -2,7 +2,7 @@
 
 #include "CommonOptions.h"
 #include "Listing.h"
-#include "PreferenceSetOptions.h"
+#include "PrinterOptions.h"
 #include "StateBlob.h"
 #include "Text.h"
 #include "TicketDocument.h"

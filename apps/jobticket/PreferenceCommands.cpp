@@ -3,8 +3,8 @@
 
 #include "CommonOptions.h"
 #include "Listing.h"
-#include "PreferenceSetOptions.h"
 #include "Preferences.h"
+#include "PrinterOptions.h"
 #include "Text.h"
 #include "TicketFile.h"
 
