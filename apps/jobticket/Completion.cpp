@@ -147,7 +147,8 @@ Place findPlace(Words words) {
     words.pop_back();
     const Option* waiting = nullptr; // for its value
     std::size_t arguments = 0;
-    for (const std::string& word : std::span(words).subspan(1)) {
+    // The first is the program's own name, which may be all that is typed.
+    for (const std::string& word : std::span(words).subspan(words.empty() ? 0 : 1)) {
         if (waiting != nullptr) {
             waiting = nullptr;
         } else if (place.command == nullptr || place.command->run == nullptr) {
@@ -203,7 +204,8 @@ Words listModels() {
 
 Words listStocks() {
     Words names;
-    for (const zent::Stock* stock : MediaLibrary({}, "").getStocks(zent::StockType::user)) {
+    MediaLibrary library({}, "");
+    for (const zent::Stock* stock : library.getStocks(zent::StockType::user)) {
         names.push_back(toUtf8(stock->getKey().getText()));
     }
     return names;

@@ -1098,6 +1098,7 @@ class Completion(InFolder):
         home = self.enterContext(tempfile.TemporaryDirectory(dir=os.environ.get("TEST_TMPDIR")))
         self.enterContext(unittest.mock.patch.dict(os.environ, HOME=home))
         run("stock", "add", "Letterhead")
+        self.assertEqual(run("complete", "--", "jobticket"), b"whole\n")
         rows = [
             ("jobticket se", ["set"]),
             ("jobticket show --r", ["--raw"]),
