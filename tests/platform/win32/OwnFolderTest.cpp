@@ -58,23 +58,19 @@ ZentResult openSessionOf(const std::wstring& folder) {
 }
 
 TEST(WindowsResources, AreTakenFromTheLibrarysFolderOrNotAtAll) {
-    // A path of more than 260 units, each of whose folders has a library with resources.
+    // A path of more than 260 units, each of whose folders has a library with resources. It stays
+    // there: what was loaded can't be deleted before the process ends.
     std::wstring folder = L"\\\\?\\" + programFolder() + L"OwnFolderTest\\";
     std::vector<std::wstring> folders;
     for (const wchar_t* const name : {L"", L"a\\", L"b\\"}) {
         folder += *name == L'\0' ? std::wstring() : std::wstring(150, *name) + L"\\";
         folders.push_back(folder);
-        ASSERT_TRUE(CreateDirectoryW(folder.c_str(), nullptr)) << GetLastError();
+        ASSERT_TRUE(CreateDirectoryW(folder.c_str(), nullptr) ||
+                    GetLastError() == ERROR_ALREADY_EXISTS);
         putCompanionsInto(folder);
     }
     EXPECT_EQ(openSessionOf(folders.front()), ZENT_OK);
     EXPECT_EQ(openSessionOf(folders.back()), ZENT_ERR_RESOURCE_LIBRARY);
-    for (; !folders.empty(); folders.pop_back()) {
-        for (const wchar_t* const name : {L"ZENT27.dll", L"zenres27.dll", L"ordo-v02025.dtd"}) {
-            EXPECT_TRUE(DeleteFileW((folders.back() + name).c_str()));
-        }
-        EXPECT_TRUE(RemoveDirectoryW(folders.back().c_str()));
-    }
 }
 
 } // namespace
