@@ -5,13 +5,13 @@
 #include <atomic>
 #include <chrono>
 #include <cstdlib>
-#include <fstream>
 #include <string>
 #include <thread>
 
 #include <gtest/gtest.h>
 
 #include "abi/ZentLiteral.h"
+#include "support/MemoryInUse.h"
 #include "support/ScratchPreferences.h"
 #include "support/TestFile.h"
 #include "zent27.h"
@@ -133,17 +133,6 @@ int onEightThreads(std::uint32_t count, Work work) {
         thread.join();
     }
     return failures;
-}
-
-/// In KiB; 0 where the system doesn't tell.
-std::int64_t readMemoryInUse() {
-    std::ifstream status("/proc/self/status");
-    std::string word;
-    while (status >> word && word != "VmRSS:") {
-    }
-    std::int64_t size = 0;
-    status >> size;
-    return size;
 }
 
 std::uint32_t numberFromEnvironment(const char* name, std::uint32_t otherwise) {

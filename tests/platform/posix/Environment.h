@@ -36,18 +36,18 @@ private:
 };
 
 /// A new folder in that of temporary files; gone, with all that is in it, with the object.
-class ScratchFolder {
+class TemporaryFolder {
 public:
-    ScratchFolder() {
+    TemporaryFolder() {
         std::string pattern = (std::filesystem::temp_directory_path() / "zentXXXXXX").string();
         if (mkdtemp(pattern.data()) == nullptr) {
             throw std::system_error(errno, std::generic_category(), pattern);
         }
         m_path = pattern;
     }
-    ~ScratchFolder() { std::filesystem::remove_all(m_path); }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
+    ~TemporaryFolder() { std::filesystem::remove_all(m_path); }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
     const std::filesystem::path& path() const { return m_path; }
 

@@ -48,7 +48,7 @@ std::string asBytes(std::uint32_t number) {
 
 class LocaleTest : public testing::Test {
 protected:
-    const test::ScratchFolder m_folder;
+    const test::TemporaryFolder m_folder;
     const Environment m_path{"LOCPATH", m_folder.path().string()};
     const Environment m_all{"LC_ALL", std::nullopt};
 

@@ -15,7 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 
 TEST(PosixModulePath, IsAsLongAsItIs) {
-    const test::ScratchFolder scratch;
+    const test::TemporaryFolder scratch;
     const fs::path folder = scratch.path() / std::string(200, 'a') / std::string(200, 'b');
     fs::create_directories(folder);
     const fs::path companions = getDriverDirectory(CXString()).toNarrow();

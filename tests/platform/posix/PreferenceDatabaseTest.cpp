@@ -80,7 +80,7 @@ int read(const CXString& name, std::size_t size) {
 
 class PreferenceDatabaseTest : public testing::Test {
 protected:
-    const test::ScratchFolder m_scratch;
+    const test::TemporaryFolder m_scratch;
     const fs::path m_configuration = m_scratch.path() / "not" / "there yet";
     const fs::path m_folder = m_configuration / "zent27";
     const fs::path m_file = m_folder / "preferences.sqlite";

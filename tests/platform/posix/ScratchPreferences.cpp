@@ -7,7 +7,7 @@
 namespace zent::test {
 
 struct ScratchPreferences::Native {
-    ScratchFolder folder;
+    TemporaryFolder folder;
     Environment configuration{"XDG_CONFIG_HOME", folder.path().string()};
 };
 

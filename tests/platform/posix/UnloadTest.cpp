@@ -1,27 +1,16 @@
 // A host that loads the library, uses it and unloads it, again and again.
 
-#include <fstream>
 #include <string>
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
+#include "support/MemoryInUse.h"
 #include "support/TestFile.h"
 #include "zent27.h"
 
 namespace zent::test {
 namespace {
-
-/// Of the process, in KiB.
-std::int64_t readMemoryInUse() {
-    std::ifstream status("/proc/self/status");
-    std::string word;
-    while (status >> word && word != "VmRSS:") {
-    }
-    std::int64_t size = 0;
-    status >> size;
-    return size;
-}
 
 template <typename Call>
 Call* find(void* library, const char* name) {
