@@ -8,7 +8,7 @@
 #include "ListWalk.h"
 #include "SampleTickets.h"
 #include "ZENT_API/ZENTSession.h"
-#include "ocore/Capabilities/SettingsProblemList.h"
+#include "ocore/Checking/SettingsProblemList.h"
 
 namespace zent::bench {
 

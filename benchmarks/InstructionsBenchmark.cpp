@@ -8,8 +8,8 @@
 #include "SampleTickets.h"
 #include "ZENT_API/ZENTSession.h"
 #include "ZENT_API/ZENTStream.h"
-#include "ocore/AnlXlate/CreateStreamTranslator.h"
-#include "ocore/User.h"
+#include "ocore/Printer/CreateStreamTranslator.h"
+#include "ocore/User/User.h"
 
 namespace zent::bench {
 

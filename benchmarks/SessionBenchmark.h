@@ -5,8 +5,8 @@
 #include "ScratchPreferences.h"
 #include "XercesFloor.h"
 #include "Zlib.h"
-#include "ocore/Printer/PrinterModel.h"
-#include "ocore/ResourceLibrary.h"
+#include "ocore/Models/PrinterModel.h"
+#include "ocore/Resources/ResourceLibrary.h"
 
 namespace zent::bench {
 

@@ -9,7 +9,7 @@
 #include "SameList.h"
 #include "ocore/Capabilities/Capabilities.h"
 #include "ocore/Capabilities/CapabilitySource.h"
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "ocore/Printer/PrinterDefaults.h"
 #include "ocore/Stock/StockList.h"
 #include "zent27.h"

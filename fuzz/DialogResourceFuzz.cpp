@@ -8,7 +8,7 @@
 #include <optional>
 #include <span>
 
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "platform/DialogTemplate.h"
 #include "plugin_ui/DialogResource.h"
 

@@ -22,10 +22,10 @@
 #include <unistd.h>
 
 #include "SameList.h"
+#include "ocore/Faults/TarvoException.h"
 #include "ocore/OrdoParse/CompiledDtd.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
 #include "ocore/Stock/StockInformation.h"
-#include "ocore/TarvoException.h"
 #include "zent27.h"
 
 namespace {

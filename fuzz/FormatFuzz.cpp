@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "FuzzInput.h"
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 
 namespace {
 

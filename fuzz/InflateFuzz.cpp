@@ -6,7 +6,7 @@
 
 #include "SameList.h"
 #include "ocore/Compress/CompressedBuffer.h"
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 
 namespace {
 

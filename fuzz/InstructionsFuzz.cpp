@@ -11,13 +11,13 @@
 #include <utility>
 
 #include "SameList.h"
+#include "ocore/Ajt/TarvoAjtTranslator.h"
 #include "ocore/AnlXlate/OrdoTranslator.h"
 #include "ocore/AnlXlate/Stream.h"
-#include "ocore/AnlXlate/TarvoAjtTranslator.h"
-#include "ocore/Capabilities/RepairReport.h"
-#include "ocore/Capabilities/SettingsProblemFixer.h"
+#include "ocore/Faults/TarvoException.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
-#include "ocore/TarvoException.h"
+#include "ocore/Repair/RepairReport.h"
+#include "ocore/Repair/SettingsProblemFixer.h"
 #include "zent27.h"
 
 namespace {

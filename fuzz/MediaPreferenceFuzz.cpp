@@ -14,10 +14,10 @@
 
 #include "ocore/AnlXlate/OmpTranslator.h"
 #include "ocore/Attributes/IppList.h"
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
-#include "ocore/ResourceLibrary.h"
+#include "ocore/Resources/ResourceLibrary.h"
 #include "ocore/Stock/StockInformation.h"
 #include "platform/Files.h"
 

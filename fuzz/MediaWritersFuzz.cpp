@@ -16,7 +16,7 @@
 #include "FuzzInput.h"
 #include "SameList.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
-#include "ocore/ResourceLibrary.h"
+#include "ocore/Resources/ResourceLibrary.h"
 #include "ocore/Stock/StockInformation.h"
 #include "platform/Files.h"
 

@@ -14,7 +14,7 @@
 #include "Json.h"
 #include "SameList.h"
 #include "Text.h"
-#include "ocore/ResourceLibrary.h"
+#include "ocore/Resources/ResourceLibrary.h"
 #include "platform/Files.h"
 
 namespace jobticket {

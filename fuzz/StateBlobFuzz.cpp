@@ -12,7 +12,7 @@
 #include "SameList.h"
 #include "ocore/Compress/CompressedBuffer.h"
 #include "ocore/Compress/PersistentSettings.h"
-#include "ocore/TarvoException.h"
+#include "ocore/Faults/TarvoException.h"
 #include "zent27.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #include <iomanip>
 #include <ostream>
 
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 
 namespace zent {
 

@@ -10,8 +10,8 @@
 #include "TicketDocument.h"
 #include "ocore/AnlXlate/OrdoTranslator.h"
 #include "ocore/Attributes/IppList.h"
-#include "ocore/ByteBuffer.h"
 #include "ocore/OrdoParse/OrdoCategories.h"
+#include "ocore/Resources/ByteBuffer.h"
 
 namespace jobticket {
 

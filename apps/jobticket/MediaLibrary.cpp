@@ -6,8 +6,8 @@
 #include "ExitStatus.h"
 #include "Text.h"
 #include "TicketDocument.h"
-#include "ocore/TarvoException.h"
-#include "ocore/User.h"
+#include "ocore/Faults/TarvoException.h"
+#include "ocore/User/User.h"
 
 namespace jobticket {
 

@@ -8,10 +8,10 @@
 #include "LibraryError.h"
 #include "Text.h"
 #include "ZENT_API/ZENTSession.h"
-#include "ocore/Exceptions.h"
-#include "ocore/Registry.h"
-#include "ocore/User.h"
-#include "ocore/UserPreferences.h"
+#include "ocore/Faults/Exceptions.h"
+#include "ocore/User/Registry.h"
+#include "ocore/User/User.h"
+#include "ocore/User/UserPreferences.h"
 
 namespace jobticket {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "Text.h"
-#include "ocore/Printer/PrinterModel.h"
+#include "ocore/Models/PrinterModel.h"
 
 namespace jobticket {
 

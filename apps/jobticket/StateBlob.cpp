@@ -3,7 +3,7 @@
 #include "LibraryError.h"
 #include "ocore/Compress/CompressedBuffer.h"
 #include "ocore/Compress/PersistentSettings.h"
-#include "ocore/TarvoException.h"
+#include "ocore/Faults/TarvoException.h"
 
 namespace jobticket {
 

@@ -9,11 +9,11 @@
 #include "Offers.h"
 #include "Outline.h"
 #include "Text.h"
-#include "ocore/AnlXlate/TarvoAjtTranslator.h"
-#include "ocore/Capabilities/RepairReport.h"
-#include "ocore/Capabilities/SettingsProblemFixer.h"
+#include "ocore/Ajt/TarvoAjtTranslator.h"
+#include "ocore/Faults/TarvoException.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
-#include "ocore/TarvoException.h"
+#include "ocore/Repair/RepairReport.h"
+#include "ocore/Repair/SettingsProblemFixer.h"
 #include "zent27.h"
 
 namespace jobticket {

@@ -8,8 +8,8 @@
 #include "Text.h"
 #include "TicketFile.h"
 #include "ocore/AnlXlate/OrdoTranslator.h"
-#include "ocore/ByteBuffer.h"
-#include "ocore/TarvoException.h"
+#include "ocore/Faults/TarvoException.h"
+#include "ocore/Resources/ByteBuffer.h"
 
 namespace jobticket {
 

@@ -6,7 +6,7 @@
 #include "Platform.h"
 #include "Text.h"
 #include "ZENT_API/ModuleDirectory.h"
-#include "ocore/TarvoException.h"
+#include "ocore/Faults/TarvoException.h"
 
 namespace jobticket {
 

@@ -1,8 +1,8 @@
 #include "ZENT_API/ApplyCapabilities.h"
 
 #include "ZENT_API/Arguments.h"
-#include "ocore/Capabilities/SettingsProblemReporter.h"
-#include "ocore/ResourceLibrary.h"
+#include "ocore/Repair/SettingsProblemReporter.h"
+#include "ocore/Resources/ResourceLibrary.h"
 
 namespace zent {
 

@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "ocore/ByteBuffer.h"
-#include "ocore/CXString.h"
+#include "ocore/Resources/ByteBuffer.h"
+#include "ocore/Text/CXString.h"
 #include "zent27.h"
 
 namespace zent {

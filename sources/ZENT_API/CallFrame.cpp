@@ -2,7 +2,7 @@
 
 #include <new>
 
-#include "ocore/ExceptionReport.h"
+#include "ocore/Faults/ExceptionReport.h"
 #include "platform/System.h"
 
 namespace zent {

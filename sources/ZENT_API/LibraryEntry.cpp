@@ -1,6 +1,6 @@
 #include "platform/LibraryEntry.h"
 
-#include "ocore/Trace.h"
+#include "ocore/Faults/Trace.h"
 
 namespace zent::platform {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "ocore/AnlXlate/OrdoTranslator.h"
-#include "ocore/ResourceLibrary.h"
+#include "ocore/Resources/ResourceLibrary.h"
 #include "platform/Files.h"
 
 namespace zent {

@@ -6,7 +6,7 @@
 #include "ZENT_API/Arguments.h"
 #include "ZENT_API/CallFrame.h"
 #include "ocore/AnlXlate/OrdoTranslator.h"
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
 
 using namespace zent;

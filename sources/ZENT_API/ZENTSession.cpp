@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "platform/MemoryProbe.h"
 
 namespace zent {

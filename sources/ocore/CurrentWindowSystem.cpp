@@ -2,7 +2,7 @@
 
 #include <atomic>
 
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 
 namespace zent {
 

@@ -3,8 +3,8 @@
 #include <atomic>
 #include <utility>
 
-#include "ocore/ResourceLibrary.h"
-#include "ocore/TarvoException.h"
+#include "ocore/Faults/TarvoException.h"
+#include "ocore/Resources/ResourceLibrary.h"
 
 namespace zent {
 

@@ -4,7 +4,7 @@
 #include <exception>
 #include <memory>
 
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 #include "platform/System.h"
 
 namespace zent {

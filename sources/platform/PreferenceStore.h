@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-#include "ocore/ByteBuffer.h"
-#include "ocore/CXString.h"
+#include "ocore/Resources/ByteBuffer.h"
+#include "ocore/Text/CXString.h"
 
 namespace zent::platform {
 

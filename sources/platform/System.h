@@ -4,7 +4,7 @@
 #include <string>
 #include <typeinfo>
 
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 
 namespace zent::platform {
 

@@ -1,7 +1,7 @@
 #include "plugin_ui/DialogHandler.h"
 
 #include "ocore/CurrentWindowSystem.h"
-#include "ocore/ExceptionReport.h"
+#include "ocore/Faults/ExceptionReport.h"
 #include "ocore/Stock/StockInformation.h"
 #include "platform/KeepForever.h"
 #include "plugin_ui/FirstFailure.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "platform/DialogTemplate.h"
 
 namespace zent {

@@ -3,8 +3,8 @@
 #include <span>
 #include <vector>
 
-#include "ocore/ResourceData.h"
-#include "ocore/ResourceLibrary.h"
+#include "ocore/Resources/ResourceData.h"
+#include "ocore/Resources/ResourceLibrary.h"
 
 namespace zent {
 

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 
 namespace zent {
 

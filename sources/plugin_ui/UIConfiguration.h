@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "ocore/UserPreferences.h"
+#include "ocore/User/UserPreferences.h"
 
 namespace zent {
 

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "dialogs/DialogSession.h"
-#include "ocore/User.h"
+#include "ocore/User/User.h"
 
 namespace zent::test {
 namespace {

@@ -6,7 +6,7 @@
 #include <type_traits>
 #include <vector>
 
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 #include "support/TestFile.h"
 
 namespace zent::test {

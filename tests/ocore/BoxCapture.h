@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "ocore/ResourceLibrary.h"
+#include "ocore/Resources/ResourceLibrary.h"
 #include "ocore/UserMessage.h"
 
 namespace zent::test {

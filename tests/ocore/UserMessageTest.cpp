@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "PrintText.h"
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "support/Rows.h"
 
 namespace zent::test {

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "PrintText.h"
-#include "ocore/File.h"
+#include "ocore/Resources/File.h"
 
 namespace zent::platform {
 namespace {

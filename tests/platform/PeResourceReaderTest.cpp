@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "ocore/File.h"
+#include "ocore/Resources/File.h"
 #include "platform/Files.h"
 #include "platform/PeImage.h"
 #include "platform/ResourceModule.h"

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "ocore/BoxCapture.h"
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "plugin_ui/Controls/OwndrwPushButtonUIControl.h"
 #include "plugin_ui/Controls/RadioButtonUIControl.h"
 #include "plugin_ui/Controls/SliderUIControl.h"

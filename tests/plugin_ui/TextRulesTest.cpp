@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "plugin_ui/Controls/CharacterFilter.h"
 #include "plugin_ui/Features/JobTextRules.h"
 #include "support/Rows.h"

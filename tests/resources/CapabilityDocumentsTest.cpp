@@ -15,7 +15,7 @@
 #include "ocore/FeatureSettings/CapabilityIdentifier.h"
 #include "ocore/FeatureSettings/FeatureIdentifier.h"
 #include "ocore/FeatureSettings/FeatureValueDataBase.h"
-#include "ocore/Printer/PrinterTables.h"
+#include "ocore/Models/PrinterTables.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/ListText.h"
 

@@ -2,8 +2,8 @@
 
 #include "expected/ExpectedTable.h"
 #include "ocore/Capabilities/Capabilities.h"
-#include "ocore/Capabilities/SettingsProblemReporter.h"
 #include "ocore/Printer/PrinterDefaults.h"
+#include "ocore/Repair/SettingsProblemReporter.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/OrdoDocument.h"
 #include "support/ProblemText.h"

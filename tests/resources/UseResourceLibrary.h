@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ocore/ResourceLibrary.h"
+#include "ocore/Resources/ResourceLibrary.h"
 #include "platform/Files.h"
 
 namespace zent::test {

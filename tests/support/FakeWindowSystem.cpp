@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 #include "platform/DialogTemplate.h"
 
 namespace zent::test {

@@ -1,7 +1,7 @@
 #include "support/ProblemText.h"
 
-#include "ocore/Capabilities/FailedRangeCapability.h"
-#include "ocore/Capabilities/RepairLocation.h"
+#include "ocore/Checking/FailedRangeCapability.h"
+#include "ocore/Repair/RepairLocation.h"
 
 namespace zent::test {
 

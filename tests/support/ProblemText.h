@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "ocore/Capabilities/SettingsProblemList.h"
+#include "ocore/Checking/SettingsProblemList.h"
 
 namespace zent::test {
 

@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 
 namespace zent::test {
 

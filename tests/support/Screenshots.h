@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 #include "platform/WindowSystem.h"
 
 namespace zent::test {

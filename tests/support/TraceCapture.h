@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "ocore/Trace.h"
+#include "ocore/Faults/Trace.h"
 
 namespace zent::test {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "ocore/Attributes/AttrNodeList.h"
-#include "ocore/ByteBuffer.h"
-#include "ocore/CXString.h"
+#include "ocore/Resources/ByteBuffer.h"
+#include "ocore/Text/CXString.h"
 
 namespace zent {
 

@@ -5,11 +5,11 @@
 #include <optional>
 
 #include "ocore/Attributes/EmbeddedList.h"
+#include "ocore/Faults/OwnedCriticalResource.h"
 #include "ocore/OrdoParse/CompiledDtd.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
 #include "ocore/OrdoParse/TarvoXmlFile.h"
 #include "ocore/OrdoParse/ZNXMLInterface.h"
-#include "ocore/OwnedCriticalResource.h"
 #include "platform/Files.h"
 #include "platform/KeepForever.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ocore/ByteBuffer.h"
+#include "ocore/Resources/ByteBuffer.h"
 
 namespace zent {
 

@@ -1,6 +1,6 @@
 #include "ocore/Attributes/AttrID.h"
 
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 
 namespace zent {
 

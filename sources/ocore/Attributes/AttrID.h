@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 
 namespace zent {
 

@@ -9,7 +9,7 @@
 #include "ocore/Attributes/IppBoolean.h"
 #include "ocore/Attributes/PrimitiveInteger.h"
 #include "ocore/Attributes/PrimitiveString.h"
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 
 namespace zent {
 

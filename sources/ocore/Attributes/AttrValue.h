@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "ocore/Attributes/AVTE.h"
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 
 namespace zent {
 

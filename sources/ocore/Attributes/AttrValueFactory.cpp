@@ -4,7 +4,7 @@
 #include "ocore/Attributes/IppNull.h"
 #include "ocore/Attributes/PrimitiveInteger.h"
 #include "ocore/Attributes/PrimitiveString.h"
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 
 namespace zent {
 

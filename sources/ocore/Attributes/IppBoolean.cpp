@@ -1,6 +1,6 @@
 #include "ocore/Attributes/IppBoolean.h"
 
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "platform/KeepForever.h"
 
 namespace zent {

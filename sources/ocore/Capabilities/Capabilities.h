@@ -4,12 +4,12 @@
 #include <memory>
 #include <vector>
 
-#include "ocore/AnlXlate/AjtPrinterTraits.h"
 #include "ocore/Capabilities/CapabilityIndex.h"
 #include "ocore/Capabilities/FactoryCapabilities.h"
 #include "ocore/FeatureSettings/CapabilityIdentifier.h"
 #include "ocore/FeatureSettings/FeatureSettings.h"
-#include "ocore/Printer/PrinterModel.h"
+#include "ocore/Models/AjtPrinterTraits.h"
+#include "ocore/Models/PrinterModel.h"
 
 namespace zent {
 

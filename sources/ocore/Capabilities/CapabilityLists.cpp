@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "ocore/Capabilities/Capabilities.h"
+#include "ocore/Faults/Trace.h"
 #include "ocore/Stock/StockList.h"
-#include "ocore/Trace.h"
 
 namespace zent {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ocore/Attributes/AttrNodeList.h"
-#include "ocore/ByteBuffer.h"
+#include "ocore/Resources/ByteBuffer.h"
 
 namespace zent {
 

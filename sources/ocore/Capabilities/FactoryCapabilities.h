@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "ocore/Capabilities/ResourceCapabilities.h"
-#include "ocore/Printer/PrinterModel.h"
+#include "ocore/Models/PrinterModel.h"
 
 namespace zent {
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "ocore/Capabilities/CapabilitySource.h"
-#include "ocore/ResourceLibrary.h"
+#include "ocore/Resources/ResourceLibrary.h"
 
 namespace zent {
 

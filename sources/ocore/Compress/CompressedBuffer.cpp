@@ -5,7 +5,7 @@
 
 #include <zlib.h>
 
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 
 namespace zent {
 

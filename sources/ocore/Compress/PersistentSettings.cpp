@@ -5,10 +5,10 @@
 #include "ocore/AnlXlate/OrdoTranslator.h"
 #include "ocore/AnlXlate/SmallOrdoTranslator.h"
 #include "ocore/Compress/CompressedBuffer.h"
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
-#include "ocore/User.h"
-#include "ocore/UserPreferences.h"
+#include "ocore/User/User.h"
+#include "ocore/User/UserPreferences.h"
 
 namespace zent {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "ocore/CutText.h"
+#include "ocore/Text/CutText.h"
 
 namespace zent {
 

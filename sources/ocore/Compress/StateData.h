@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "ocore/ByteBuffer.h"
+#include "ocore/Resources/ByteBuffer.h"
 
 namespace zent {
 

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <memory>
 
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "ocore/FeatureSettings/CapabilityTable.h"
 #include "ocore/FeatureSettings/FeatureDataBase.h"
 #include "ocore/FeatureSettings/NestedIDText.h"
-#include "ocore/SharedTable.h"
+#include "ocore/Resources/SharedTable.h"
 #include "platform/KeepForever.h"
 
 namespace zent {

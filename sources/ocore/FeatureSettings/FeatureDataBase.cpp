@@ -3,10 +3,10 @@
 #include <map>
 #include <memory>
 
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "ocore/FeatureSettings/FeatureTable.h"
 #include "ocore/FeatureSettings/NestedIDText.h"
-#include "ocore/SharedTable.h"
+#include "ocore/Resources/SharedTable.h"
 #include "platform/KeepForever.h"
 
 namespace zent {

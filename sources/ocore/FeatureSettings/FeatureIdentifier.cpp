@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "ocore/FeatureSettings/FeatureDataBase.h"
-#include "ocore/ResourceLibrary.h"
+#include "ocore/Resources/ResourceLibrary.h"
 
 namespace zent {
 

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "ocore/Attributes/IppList.h"
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 
 namespace zent {
 

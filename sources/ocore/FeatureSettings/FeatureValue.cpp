@@ -4,9 +4,9 @@
 #include <atomic>
 #include <limits>
 
-#include "ocore/Exceptions.h"
-#include "ocore/OwnedCriticalResource.h"
-#include "ocore/ResourceLibrary.h"
+#include "ocore/Faults/Exceptions.h"
+#include "ocore/Faults/OwnedCriticalResource.h"
+#include "ocore/Resources/ResourceLibrary.h"
 
 namespace zent {
 

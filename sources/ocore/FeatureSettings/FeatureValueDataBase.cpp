@@ -4,10 +4,10 @@
 #include <memory>
 #include <vector>
 
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "ocore/FeatureSettings/FeatureDataBase.h"
 #include "ocore/FeatureSettings/FeatureValueTable.h"
-#include "ocore/SharedTable.h"
+#include "ocore/Resources/SharedTable.h"
 #include "platform/KeepForever.h"
 
 namespace zent {

@@ -5,7 +5,7 @@
 #include <map>
 #include <string_view>
 
-#include "ocore/OwnedCriticalResource.h"
+#include "ocore/Faults/OwnedCriticalResource.h"
 #include "platform/KeepForever.h"
 
 namespace zent {

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <utility>
 
-#include "ocore/CriticalResource.h"
+#include "ocore/Faults/CriticalResource.h"
 #include "ocore/FeatureSettings/FeatureValueInfo.h"
 
 namespace zent {

@@ -5,8 +5,8 @@
 #include <memory>
 #include <utility>
 
-#include "ocore/ResourceLibrary.h"
-#include "ocore/SharedTable.h"
+#include "ocore/Resources/ResourceLibrary.h"
+#include "ocore/Resources/SharedTable.h"
 #include "platform/KeepForever.h"
 
 namespace zent {

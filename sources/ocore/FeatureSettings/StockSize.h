@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 
 namespace zent {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "ocore/Attributes/AVTE.h"
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 
 namespace zent {
 

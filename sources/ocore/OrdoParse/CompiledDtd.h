@@ -4,10 +4,10 @@
 
 #include <xercesc/framework/XMLGrammarPoolImpl.hpp>
 
-#include "ocore/ByteBuffer.h"
-#include "ocore/CXString.h"
 #include "ocore/OrdoParse/KeptSkeletons.h"
 #include "ocore/OrdoParse/ParserMemory.h"
+#include "ocore/Resources/ByteBuffer.h"
+#include "ocore/Text/CXString.h"
 
 XERCES_CPP_NAMESPACE_BEGIN
 class DTDGrammar;

@@ -2,7 +2,7 @@
 
 #include <xercesc/sax/ErrorHandler.hpp>
 
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 
 namespace zent {
 

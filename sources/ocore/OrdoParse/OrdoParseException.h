@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "ocore/TarvoException.h"
+#include "ocore/Faults/TarvoException.h"
 
 namespace zent {
 

@@ -4,8 +4,8 @@
 
 #include <xercesc/util/XMLEntityResolver.hpp>
 
-#include "ocore/ByteBuffer.h"
-#include "ocore/CXString.h"
+#include "ocore/Resources/ByteBuffer.h"
+#include "ocore/Text/CXString.h"
 
 namespace zent {
 

@@ -5,9 +5,9 @@
 #include <string_view>
 
 #include "ocore/Attributes/AttrNodeList.h"
-#include "ocore/CXString.h"
 #include "ocore/OrdoParse/XmlDocument.h"
 #include "ocore/OrdoParse/XmlLimits.h"
+#include "ocore/Text/CXString.h"
 
 namespace zent {
 

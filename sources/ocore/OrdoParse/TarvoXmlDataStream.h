@@ -6,9 +6,9 @@
 #include <optional>
 
 #include "ocore/Attributes/AttrNodeList.h"
-#include "ocore/CXString.h"
 #include "ocore/OrdoParse/XmlLimits.h"
 #include "ocore/OrdoParse/XmlOutputCallback.h"
+#include "ocore/Text/CXString.h"
 
 namespace zent {
 

@@ -2,9 +2,9 @@
 
 #include <new>
 
+#include "ocore/Faults/Trace.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
 #include "ocore/OrdoParse/XmlLimits.h"
-#include "ocore/Trace.h"
 #include "platform/System.h"
 
 namespace zent {

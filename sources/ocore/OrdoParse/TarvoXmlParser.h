@@ -7,10 +7,10 @@
 
 #include <xercesc/framework/XMLFormatter.hpp>
 
-#include "ocore/CXString.h"
 #include "ocore/OrdoParse/DOMTreeErrorReporter.h"
 #include "ocore/OrdoParse/XmlDocument.h"
 #include "ocore/OrdoParse/XmlLimits.h"
+#include "ocore/Text/CXString.h"
 
 namespace zent {
 

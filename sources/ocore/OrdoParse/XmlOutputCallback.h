@@ -3,7 +3,7 @@
 #include <cstddef>
 
 #include "ocore/AnlXlate/Stream.h"
-#include "ocore/ByteBuffer.h"
+#include "ocore/Resources/ByteBuffer.h"
 
 namespace zent {
 

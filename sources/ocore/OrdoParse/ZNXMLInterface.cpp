@@ -8,9 +8,9 @@
 #include <xercesc/util/XMLInitializer.hpp>
 #include <xercesc/util/XMLUni.hpp>
 
+#include "ocore/Faults/OwnedCriticalResource.h"
 #include "ocore/OrdoParse/CompiledDtd.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
-#include "ocore/OwnedCriticalResource.h"
 #include "platform/KeepForever.h"
 
 namespace zent {

@@ -1,9 +1,9 @@
 #include "ocore/Printer/Printer.h"
 
-#include "ocore/AnlXlate/CreateStreamTranslator.h"
 #include "ocore/Compress/PersistentSettings.h"
-#include "ocore/CutText.h"
-#include "ocore/User.h"
+#include "ocore/Printer/CreateStreamTranslator.h"
+#include "ocore/Text/CutText.h"
+#include "ocore/User/User.h"
 
 namespace zent {
 

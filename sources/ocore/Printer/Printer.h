@@ -3,9 +3,9 @@
 #include <memory>
 
 #include "ocore/Capabilities/Capabilities.h"
+#include "ocore/Models/PrinterModel.h"
 #include "ocore/Printer/PrinterDefaults.h"
-#include "ocore/Printer/PrinterModel.h"
-#include "ocore/UserPreferences.h"
+#include "ocore/User/UserPreferences.h"
 
 namespace zent {
 

@@ -1,6 +1,6 @@
 #include "ocore/Printer/PrinterDefaults.h"
 
-#include "ocore/User.h"
+#include "ocore/User/User.h"
 
 namespace zent {
 

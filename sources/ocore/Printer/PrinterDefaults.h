@@ -3,8 +3,8 @@
 #include <memory>
 
 #include "ocore/FeatureSettings/FeatureSettings.h"
-#include "ocore/Printer/PrinterModel.h"
-#include "ocore/ResourceLibrary.h"
+#include "ocore/Models/PrinterModel.h"
+#include "ocore/Resources/ResourceLibrary.h"
 
 namespace zent {
 

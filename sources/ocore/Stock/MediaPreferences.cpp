@@ -7,8 +7,8 @@
 #include "ocore/AnlXlate/OmpTranslator.h"
 #include "ocore/Attributes/AttrNames.h"
 #include "ocore/Attributes/AttrValueFactory.h"
+#include "ocore/Faults/Trace.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
-#include "ocore/Trace.h"
 #include "platform/Files.h"
 #include "platform/System.h"
 

@@ -5,7 +5,7 @@
 
 #include "ocore/Attributes/AttrNodeList.h"
 #include "ocore/Stock/StockList.h"
-#include "ocore/User.h"
+#include "ocore/User/User.h"
 #include "platform/LockedFile.h"
 
 namespace zent {

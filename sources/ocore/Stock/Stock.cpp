@@ -6,11 +6,11 @@
 
 #include "ocore/Attributes/IppList.h"
 #include "ocore/Attributes/PrimitiveInteger.h"
-#include "ocore/Capabilities/SettingsProblemFixer.h"
-#include "ocore/Capabilities/SettingsProblemReporter.h"
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "ocore/Printer/Printer.h"
-#include "ocore/ResourceLibrary.h"
+#include "ocore/Repair/SettingsProblemFixer.h"
+#include "ocore/Repair/SettingsProblemReporter.h"
+#include "ocore/Resources/ResourceLibrary.h"
 #include "platform/KeepForever.h"
 
 namespace zent {

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "ocore/Attributes/IppList.h"
-#include "ocore/Exceptions.h"
-#include "ocore/Trace.h"
+#include "ocore/Faults/Exceptions.h"
+#include "ocore/Faults/Trace.h"
 
 namespace zent {
 

@@ -4,7 +4,7 @@
 
 #include "ocore/Attributes/AttrNames.h"
 #include "ocore/Attributes/IppList.h"
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 
 namespace zent {
 

@@ -11,7 +11,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 #include "platform/KeepForever.h"
 
 namespace zent::platform {

@@ -13,7 +13,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 #include "platform/posix/Pause.h"
 
 namespace zent::platform {

@@ -6,8 +6,8 @@
 #include <optional>
 #include <utility>
 
-#include "ocore/ByteBuffer.h"
-#include "ocore/CXString.h"
+#include "ocore/Resources/ByteBuffer.h"
+#include "ocore/Text/CXString.h"
 #include "platform/Files.h"
 #include "platform/PeResourceReader.h"
 

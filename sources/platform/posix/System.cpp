@@ -14,7 +14,7 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-#include "ocore/CutText.h"
+#include "ocore/Text/CutText.h"
 #include "platform/Files.h"
 #include "platform/UnseenMessage.h"
 #include "platform/WindowSystem.h"

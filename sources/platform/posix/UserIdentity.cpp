@@ -1,6 +1,6 @@
 #include "platform/UserIdentity.h"
 
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "platform/posix/UserFolders.h"
 
 namespace zent::platform {

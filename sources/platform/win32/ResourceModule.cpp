@@ -1,6 +1,6 @@
 #include "platform/ResourceModule.h"
 
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 #include "platform/Files.h"
 #include "platform/win32/WideText.h"
 

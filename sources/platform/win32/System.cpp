@@ -5,7 +5,7 @@
 
 #include <cxxabi.h>
 
-#include "ocore/CutText.h"
+#include "ocore/Text/CutText.h"
 #include "platform/UnseenMessage.h"
 #include "platform/win32/SeenDesktop.h"
 #include "platform/win32/WideText.h"

@@ -1,6 +1,6 @@
 #include "platform/win32/WindowsProcessToken.h"
 
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 
 namespace zent::platform {
 

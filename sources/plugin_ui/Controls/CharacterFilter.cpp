@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "platform/Locale.h"
 
 namespace zent {

@@ -1,7 +1,7 @@
 #include "plugin_ui/Controls/CheckBoxUIControl.h"
 
 #include "ocore/CurrentWindowSystem.h"
-#include "ocore/ResourceLibrary.h"
+#include "ocore/Resources/ResourceLibrary.h"
 
 namespace zent {
 

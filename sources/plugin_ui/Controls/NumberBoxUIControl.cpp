@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "ocore/CurrentWindowSystem.h"
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "plugin_ui/Controls/CharacterFilter.h"
 
 namespace zent {

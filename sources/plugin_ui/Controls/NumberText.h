@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 
 namespace zent {
 

@@ -1,6 +1,6 @@
 #include "plugin_ui/Controls/PushButtonUIControl.h"
 
-#include "ocore/ResourceLibrary.h"
+#include "ocore/Resources/ResourceLibrary.h"
 
 namespace zent {
 

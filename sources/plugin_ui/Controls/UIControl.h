@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 #include "plugin_ui/MessageProcessorWithChildren.h"
 #include "plugin_ui/ObserverSubject.h"
 

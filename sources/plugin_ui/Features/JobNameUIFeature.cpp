@@ -1,6 +1,6 @@
 #include "plugin_ui/Features/JobNameUIFeature.h"
 
-#include "ocore/ResourceLibrary.h"
+#include "ocore/Resources/ResourceLibrary.h"
 #include "ocore/UserMessage.h"
 #include "plugin_ui/Features/JobTextRules.h"
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "ocore/ResourceLibrary.h"
+#include "ocore/Resources/ResourceLibrary.h"
 #include "platform/KeepForever.h"
 #include "plugin_ui/Features/CustomStringUIDialog.h"
 

@@ -1,6 +1,6 @@
 #include "plugin_ui/Features/PersonNameUIFeature.h"
 
-#include "ocore/User.h"
+#include "ocore/User/User.h"
 #include "platform/Surrogates.h"
 
 namespace zent {

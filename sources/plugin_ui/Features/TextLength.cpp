@@ -1,6 +1,6 @@
 #include "plugin_ui/Features/TextLength.h"
 
-#include "ocore/ResourceLibrary.h"
+#include "ocore/Resources/ResourceLibrary.h"
 #include "ocore/UserMessage.h"
 
 namespace zent {

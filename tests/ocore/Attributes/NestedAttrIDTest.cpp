@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "ocore/Attributes/NestedAttrID.h"
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "support/ListText.h"
 #include "support/Rows.h"
 

@@ -6,8 +6,8 @@
 
 #include "expected/ExpectedTable.h"
 #include "ocore/Compress/CompressedBuffer.h"
-#include "ocore/Exceptions.h"
-#include "ocore/User.h"
+#include "ocore/Faults/Exceptions.h"
+#include "ocore/User/User.h"
 #include "support/ListText.h"
 #include "support/OrdoDocument.h"
 #include "support/Rows.h"

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "ocore/FeatureSettings/FeatureSettings.h"
 #include "support/ListText.h"
 #include "support/Rows.h"

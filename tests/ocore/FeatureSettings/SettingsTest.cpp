@@ -2,7 +2,7 @@
 
 #include "PrintText.h"
 #include "ocore/Attributes/PrimitiveString.h"
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "ocore/FeatureSettings/Settings.h"
 #include "support/ListText.h"
 #include "support/Rows.h"

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "ocore/AnlXlate/OrdoTranslator.h"
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "support/ListText.h"
 #include "support/OrdoDocument.h"
 #include "support/Raised.h"

@@ -6,7 +6,7 @@
 
 #include "ZENT_API/ZENTStream.h"
 #include "ocore/Compress/PersistentSettings.h"
-#include "ocore/User.h"
+#include "ocore/User/User.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/ScratchPreferences.h"
 #include "zent27.h"

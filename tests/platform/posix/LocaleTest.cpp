@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "PrintText.h"
-#include "ocore/User.h"
+#include "ocore/User/User.h"
 #include "platform/posix/Environment.h"
 
 // The leak checker asks. With LOCPATH set, the C library never frees its copy of the path; other

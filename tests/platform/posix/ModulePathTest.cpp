@@ -4,7 +4,7 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
-#include "ocore/CXString.h"
+#include "ocore/Text/CXString.h"
 #include "platform/Files.h"
 #include "platform/posix/Environment.h"
 #include "zent27.h"

@@ -5,9 +5,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "ocore/ByteBuffer.h"
 #include "ocore/Compress/CompressedBuffer.h"
 #include "ocore/Compress/StateData.h"
+#include "ocore/Resources/ByteBuffer.h"
 #include "support/Rows.h"
 #include "zent27.h"
 

@@ -19,8 +19,8 @@
 
 #include "PrintText.h"
 #include "ocore/BoxCapture.h"
-#include "ocore/Exceptions.h"
-#include "ocore/Registry.h"
+#include "ocore/Faults/Exceptions.h"
+#include "ocore/User/Registry.h"
 #include "platform/PreferenceStore.h"
 #include "platform/posix/Environment.h"
 #include "support/Raised.h"

@@ -7,7 +7,7 @@
 #include <unistd.h>
 
 #include "PrintText.h"
-#include "ocore/User.h"
+#include "ocore/User/User.h"
 #include "platform/posix/Environment.h"
 #include "platform/posix/UserFolders.h"
 

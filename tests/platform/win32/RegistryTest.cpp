@@ -6,8 +6,8 @@
 #include <windows.h>
 
 #include "PrintText.h"
-#include "ocore/Exceptions.h"
-#include "ocore/Registry.h"
+#include "ocore/Faults/Exceptions.h"
+#include "ocore/User/Registry.h"
 #include "support/Raised.h"
 #include "support/ScratchPreferences.h"
 

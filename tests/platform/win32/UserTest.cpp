@@ -1,12 +1,12 @@
 // The user and the locale, as Windows knows them.
 
-#include "ocore/User.h"
+#include "ocore/User/User.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
 
 #include "PrintText.h"
-#include "ocore/Exceptions.h"
+#include "ocore/Faults/Exceptions.h"
 #include "platform/win32/WideText.h"
 #include "platform/win32/WindowsProcessToken.h"
 #include "support/Raised.h"

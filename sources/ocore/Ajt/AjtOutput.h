@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "ocore/Resources/ByteBuffer.h"
+
+namespace zent::ajt {
+
+/// A ticket stream as it grows.
+class Output {
+public:
+    /// Bytes as they are: ASCII, which is the same in every code page, or text that was converted.
+    Output& operator<<(std::string_view bytes) {
+        m_bytes.append(bytes);
+        return *this;
+    }
+    /// Text, converted to the ANSI code page.
+    Output& operator<<(const CXString& text) {
+        m_bytes.append(text.toNarrow());
+        return *this;
+    }
+    /// Decimal.
+    Output& operator<<(std::int32_t number);
+
+    ByteBuffer getBytes() const { return {m_bytes.data(), m_bytes.size()}; }
+
+private:
+    std::string m_bytes; // grows by small pieces at less cost than a ByteBuffer
+};
+
+/// Shifts and sizes are written in whole millimetres, of which the rest is cut off.
+constexpr std::int32_t inMillimetres(std::int32_t hundredths) { return hundredths / 100; }
+
+} // namespace zent::ajt

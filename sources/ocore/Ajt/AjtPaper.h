@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+#include "ocore/Ajt/AjtOutput.h"
+#include "ocore/Ajt/AjtTicketReader.h"
+#include "ocore/Models/AjtPrinterTraits.h"
+
+namespace zent::ajt {
+
+/// What a ticket or a part of one says of the paper, of a job or of some of its sheets. Each text
+/// is empty where they say nothing, and in the code page of the stream.
+struct Paper {
+    Paper(const TicketReader& ticket, const AjtPrinterTraits& traits);
+
+    std::string size; // in millimetres, turned as the printer takes it
+    std::string color;
+    std::string opacity;
+    std::string preFinish;
+    std::string weight; // in grams per square metre
+};
+
+/// Writes the paper of some sheets as one text of blank-separated fields; what isn't said of them
+/// is taken from the job, or else is plain white letter paper.
+void writeDescription(const Paper& local, const Paper& job, const AjtPrinterTraits& traits,
+                      Output& output);
+
+} // namespace zent::ajt

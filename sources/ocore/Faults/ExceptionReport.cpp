@@ -1,0 +1,262 @@
+#include "ocore/Faults/ExceptionReport.h"
+
+#include <new>
+#include <typeinfo>
+
+#include "ocore/Faults/Exceptions.h"
+#include "ocore/Faults/Trace.h"
+#include "ocore/OrdoParse/OrdoParseException.h"
+#include "ocore/Resources/ResourceLibrary.h"
+#include "ocore/User/Registry.h"
+#include "ocore/UserMessage.h"
+
+namespace zent {
+
+namespace {
+
+/// Resource strings of the boxes.
+namespace text {
+constexpr std::uint32_t failure = 11601;
+constexpr std::uint32_t failureAdvice = 11602;
+constexpr std::uint32_t title = 11606;
+constexpr std::uint32_t outOfMemory = 11607;
+constexpr std::uint32_t stopping = 11620;
+constexpr std::uint32_t unknownFailureAdvice = 11621;
+} // namespace text
+
+struct MessageIds {
+    std::uint32_t first;
+    std::uint32_t second;
+};
+
+/// How the box gets its title: by number, or as a text if there is one.
+struct Title {
+    std::uint32_t id = 0;
+    CXString text;
+};
+
+/// What all variants of a report are given besides the exception.
+struct Context {
+    platform::WindowHandle owner;
+    const CXString& locationName;
+    std::uint32_t extraMessageId;
+    const CXString& extraText;
+};
+
+template <typename E>
+bool isA(const std::exception& exception) {
+    return dynamic_cast<const E*>(&exception) != nullptr;
+}
+
+MessageIds chooseMessages(const std::exception& exception) {
+    if (isA<DevModeOverflowException>(exception)) {
+        return {11608, 11609};
+    }
+    if (isA<ResourceAcquisitionException>(exception)) {
+        return {11610, 11611};
+    }
+    if (isA<SpoolDataException>(exception)) {
+        return {11612, 11613};
+    }
+    if (isA<RegistryRequestException>(exception)) {
+        return {11614, text::failureAdvice};
+    }
+    if (isA<OrdoParseException>(exception)) {
+        return {11615, 11616};
+    }
+    if (isA<FileException>(exception)) {
+        return {11617, 11618};
+    }
+    return {text::failure, text::failureAdvice};
+}
+
+CXString loadTitle(platform::WindowHandle owner, const Title& title) {
+    if (!title.text.isEmpty()) {
+        return title.text;
+    }
+    CXString found;
+    if (title.id != 0) {
+        found = ResourceLibrary().getString(title.id);
+    } else if (owner != nullptr) {
+        found = platform::getWindowCaption(owner);
+    }
+    return found.isEmpty() ? ResourceLibrary().getString(text::title) : found;
+}
+
+/// What only this failure can tell its user; mostly nothing.
+CXString explain(const std::exception& exception) {
+    const auto* const store = dynamic_cast<const RegistryRequestException*>(&exception);
+    return store != nullptr ? getStoreExplanation(*store) : CXString();
+}
+
+void compose(UserMessage& message, const Context& context, const CXString& title, MessageIds ids,
+             bool isStoppingOffered, const CXString& explanation, const CXString& errorNumber) {
+    const ResourceLibrary library;
+    CXString body = library.getString(ids.first);
+    const auto addParagraph = [&body](const CXString& paragraph) {
+        body += u"\r\n\r\n";
+        body += paragraph;
+    };
+    addParagraph(library.getString(ids.second));
+    if (context.extraMessageId != 0) {
+        addParagraph(library.getString(context.extraMessageId));
+    }
+    if (!explanation.isEmpty()) {
+        addParagraph(explanation);
+    }
+    if (isStoppingOffered) {
+        addParagraph(library.getString(text::stopping));
+        message.setFlags(messageStyle::okCancel);
+    }
+    if (!errorNumber.isEmpty()) {
+        addParagraph(errorNumber);
+    }
+    message.setTitle(!title.isEmpty() ? title : platform::getWindowCaption(context.owner));
+    message.setBody(body);
+}
+
+/// For when the resource strings themselves are out of reach.
+void showMissingResources(const std::exception& exception) {
+    UserMessage message(u"Tarvo Printer Driver",
+                        u"Could not load the resource DLL. It's probably missing. Translated "
+                        u"strings are not available. Please reinstall the driver.",
+                        0);
+    message.setException(&exception);
+    message.show();
+}
+
+void traceReport(const Context& context, const CXString& details) {
+    trace::output(context.locationName);
+    trace::output(details);
+    trace::output(context.extraText);
+}
+
+/// Runs a step of a report, of which no failure may come out in place of the one reported.
+template <typename Step>
+bool succeeds(const Step& step) noexcept {
+    try {
+        step();
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
+
+std::int32_t showReport(const std::exception& exception, const Title& title,
+                        const Context& context) noexcept {
+    CXString titleText;
+    succeeds([&] { titleText = loadTitle(context.owner, title); });
+    if (isA<ResourceLibraryConstructionException>(exception)) {
+        succeeds([&] { showMissingResources(exception); });
+    }
+    std::int32_t answer = 0;
+    succeeds([&] {
+        if (isA<std::bad_alloc>(exception)) {
+            UserMessage(context.owner, text::title, text::outOfMemory, 0).show();
+            return;
+        }
+        const CXString details = getDetailsReport(exception);
+        traceReport(context, details);
+        UserMessage message(context.owner);
+        compose(message, context, titleText, chooseMessages(exception), false, explain(exception),
+                getErrorNumberText(exception));
+        answer = message.show();
+    });
+    return answer;
+}
+
+void report(const std::exception& exception, const Title& title, const Context& context) {
+    if (showReport(exception, title, context) != messageAnswer::cancel) {
+        return;
+    }
+    if (platform::isDebuggerPresent()) {
+        platform::breakIntoDebugger();
+    } else if (std::current_exception() != nullptr) {
+        throw;
+    }
+}
+
+bool reportUnknown(const Title& title, const Context& context) noexcept {
+    bool isStopping = true;
+    succeeds([&] {
+        traceReport(context, CXString());
+        UserMessage message(context.owner);
+        compose(message, context, loadTitle(context.owner, title),
+                {text::failure, text::unknownFailureAdvice}, true, CXString(), CXString());
+        isStopping = message.show() == messageAnswer::cancel;
+    });
+    return isStopping;
+}
+
+} // namespace
+
+ResultCode resultCodeOf(const std::exception& exception) noexcept {
+    if (const auto* own = dynamic_cast<const TarvoException*>(&exception)) {
+        return own->getResultCode();
+    }
+    return isA<std::bad_alloc>(exception) ? ZENT_ERR_OUT_OF_MEMORY : ZENT_ERR_STD_EXCEPTION;
+}
+
+CXString getDetailsReport(const std::exception& exception) {
+    CXString details = formatText("%S\r\n", platform::getTypeName(typeid(exception)));
+    if (const auto* parse = dynamic_cast<const OrdoParseException*>(&exception)) {
+        details += formatText("\tError Type: %s\r\n", parse->getCodeName());
+    }
+    if (const auto* own = dynamic_cast<const TarvoException*>(&exception)) {
+        details +=
+            formatText("Location: %s, line %d\r\n", own->getLocationFile(), own->getLocationLine());
+        details += u"Message is:\r\n\t";
+        details += own->getMessage();
+    } else {
+        details += u"No additional information available.\r\n";
+    }
+    return details;
+}
+
+void reportException(const std::exception& exception, std::uint32_t titleId,
+                     const CXString& locationName, std::uint32_t extraMessageId,
+                     const CXString& extraText) {
+    report(exception, {titleId, {}}, {nullptr, locationName, extraMessageId, extraText});
+}
+
+void reportException(const std::exception& exception, const CXString& title,
+                     const CXString& locationName, std::uint32_t extraMessageId,
+                     const CXString& extraText) {
+    report(exception, {0, title}, {nullptr, locationName, extraMessageId, extraText});
+}
+
+void reportException(platform::WindowHandle owner, const std::exception& exception,
+                     std::uint32_t titleId, const CXString& locationName,
+                     std::uint32_t extraMessageId, const CXString& extraText) {
+    report(exception, {titleId, {}}, {owner, locationName, extraMessageId, extraText});
+}
+
+void reportException(platform::WindowHandle owner, const std::exception& exception,
+                     const CXString& title, const CXString& locationName,
+                     std::uint32_t extraMessageId, const CXString& extraText) {
+    report(exception, {0, title}, {owner, locationName, extraMessageId, extraText});
+}
+
+bool reportUnknownException(std::uint32_t titleId, const CXString& locationName,
+                            std::uint32_t extraMessageId, const CXString& extraText) noexcept {
+    return reportUnknown({titleId, {}}, {nullptr, locationName, extraMessageId, extraText});
+}
+
+bool reportUnknownException(const CXString& title, const CXString& locationName,
+                            std::uint32_t extraMessageId, const CXString& extraText) noexcept {
+    return reportUnknown({0, title}, {nullptr, locationName, extraMessageId, extraText});
+}
+
+bool reportUnknownException(platform::WindowHandle owner, std::uint32_t titleId,
+                            const CXString& locationName, std::uint32_t extraMessageId,
+                            const CXString& extraText) noexcept {
+    return reportUnknown({titleId, {}}, {owner, locationName, extraMessageId, extraText});
+}
+
+bool reportUnknownException(platform::WindowHandle owner, const CXString& title,
+                            const CXString& locationName, std::uint32_t extraMessageId,
+                            const CXString& extraText) noexcept {
+    return reportUnknown({0, title}, {owner, locationName, extraMessageId, extraText});
+}
+
+} // namespace zent

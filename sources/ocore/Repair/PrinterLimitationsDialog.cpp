@@ -1,0 +1,63 @@
+#include "ocore/Repair/PrinterLimitationsDialog.h"
+
+#include "ocore/Resources/ResourceLibrary.h"
+
+namespace zent {
+
+namespace {
+
+constexpr std::uint32_t templateId = 4000;
+
+namespace item {
+constexpr std::uint16_t agree = 1;
+constexpr std::uint16_t refuse = 2; // stands alone, for agreeing, where there is no choice
+constexpr std::uint16_t report = 4001;
+constexpr std::uint16_t label = 4002;
+} // namespace item
+
+} // namespace
+
+PrinterLimitationsDialog::PrinterLimitationsDialog(const CXString& title, const CXString& label,
+                                                   const CXString& report, bool offersChoice)
+    : m_title(title), m_label(label), m_report(report), m_offersChoice(offersChoice) {}
+
+std::intptr_t PrinterLimitationsDialog::run(platform::WindowSystem& system,
+                                            platform::WindowHandle owner) {
+    m_system = &system;
+    const ResourceLibrary library;
+    const ResourceData dialog = library.loadDialog(templateId);
+    return system.runModal(dialog.getBytes().bytes(), library.getModule(), owner, *this);
+}
+
+bool PrinterLimitationsDialog::processEvent(platform::WindowHandle dialog, std::uint32_t message,
+                                            std::uintptr_t wParam, std::intptr_t /*lParam*/,
+                                            std::intptr_t& /*result*/) {
+    if (message == platform::event::initDialog) {
+        fill(dialog);
+        return true;
+    }
+    if (message != platform::event::command) {
+        return false;
+    }
+    const auto button = static_cast<std::uint16_t>(wParam);
+    if (button != item::agree && button != item::refuse) {
+        return false;
+    }
+    const bool isRefusal = button == item::refuse && m_offersChoice;
+    m_system->endDialog(dialog, isRefusal ? refused : agreed);
+    return true;
+}
+
+void PrinterLimitationsDialog::fill(platform::WindowHandle dialog) {
+    m_system->setCaption(dialog, m_title);
+    m_system->setText(dialog, item::label, m_label);
+    m_system->setText(dialog, item::report, m_report);
+    if (!m_offersChoice) {
+        // The button on the right stays, so that the row looks as it does in other boxes.
+        m_system->setText(dialog, item::refuse, m_system->getText(dialog, item::agree));
+        m_system->removeItem(dialog, item::agree);
+        m_system->focusItem(dialog, item::refuse);
+    }
+}
+
+} // namespace zent

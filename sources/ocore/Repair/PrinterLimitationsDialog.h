@@ -1,0 +1,38 @@
+#pragma once
+
+#include "ocore/Text/CXString.h"
+#include "platform/WindowSystem.h"
+
+namespace zent {
+
+/// Shows the report on a ticket that asks for more than its printer can do, and lets the user agree
+/// to what becomes of it, or merely note it.
+class PrinterLimitationsDialog : public platform::DialogProcedure {
+public:
+    /// What ends the dialog: its buttons, as those of a message box.
+    static constexpr std::intptr_t agreed = 1;
+    static constexpr std::intptr_t refused = 2;
+
+    /// `label` stands above the report. `offersChoice`: whether the user may refuse. Otherwise
+    /// there is one button, to agree.
+    PrinterLimitationsDialog(const CXString& title, const CXString& label, const CXString& report,
+                             bool offersChoice);
+
+    /// Over a window that may be null. Gives what ended the dialog, 0 if it was closed by other
+    /// means, -1 if it couldn't be made. Raises what ResourceLibrary raises.
+    std::intptr_t run(platform::WindowSystem& system, platform::WindowHandle owner);
+
+    bool processEvent(platform::WindowHandle dialog, std::uint32_t message, std::uintptr_t wParam,
+                      std::intptr_t lParam, std::intptr_t& result) override;
+
+private:
+    void fill(platform::WindowHandle dialog);
+
+    platform::WindowSystem* m_system = nullptr; // while it runs
+    CXString m_title;
+    CXString m_label;
+    CXString m_report;
+    bool m_offersChoice;
+};
+
+} // namespace zent

@@ -1,0 +1,168 @@
+#include "ocore/Repair/RepairReport.h"
+
+#include <algorithm>
+#include <array>
+#include <tuple>
+
+#include "ocore/Checking/FailedRangeCapability.h"
+#include "ocore/FeatureSettings/FeatureIdentifier.h"
+#include "ocore/Repair/ValueText.h"
+#include "ocore/Resources/ResourceLibrary.h"
+
+namespace zent {
+
+namespace {
+
+namespace text {
+constexpr std::uint32_t removed = 11543;
+constexpr std::uint32_t removedFromSet = 11544;
+constexpr std::uint32_t defaultAdded = 11545;
+} // namespace text
+
+/// The headings of the three groups.
+using Headings = std::array<std::uint32_t, 3>;
+
+const Headings& headingsOf(RepairWording wording) {
+    static constexpr Headings offered{11546, 11547, 11548};
+    static constexpr Headings made{11549, 11550, 11551};
+    static constexpr Headings none{11554, 11555, 11556};
+    switch (wording) {
+    case RepairWording::offered:
+        return offered;
+    case RepairWording::made:
+        return made;
+    default:
+        return none;
+    }
+}
+
+/// The place of a problem's group among the headings.
+std::size_t groupOf(const RepairEntry& entry) {
+    switch (entry.kind) {
+    case SettingsProblem::Kind::unsupportedAttribute:
+        return 0;
+    case SettingsProblem::Kind::missingFeature:
+        return 2;
+    default:
+        return 1;
+    }
+}
+
+bool isShownBefore(const RepairEntry& a, const RepairEntry& b) {
+    const auto key = [](const RepairEntry& entry) {
+        return std::tuple(groupOf(entry), entry.location.feature, entry.location.entry);
+    };
+    return key(a) < key(b);
+}
+
+RepairValue makeValue(const CXString& attribute, const AttrValue& value) {
+    return {makeValueText(attribute, value), makeValueDisplay(attribute, value), value.clone()};
+}
+
+void setRule(RepairEntry& entry, const SettingsProblem& problem) {
+    switch (problem.getKind()) {
+    case SettingsProblem::Kind::unsupportedAttribute:
+        entry.rule = u"unsupported-attribute";
+        return;
+    case SettingsProblem::Kind::unsupportedValue:
+        entry.rule = u"unsupported-value";
+        entry.capability = entry.attribute + u"-supported";
+        return;
+    case SettingsProblem::Kind::missingFeature:
+        entry.rule = u"missing-feature";
+        return;
+    case SettingsProblem::Kind::failedCapability:
+        break;
+    }
+    entry.rule = u"embedded-spaces";
+    entry.capability = static_cast<const FailedCapability&>(problem).getCapability().getName();
+    if (const auto* const range = dynamic_cast<const FailedRangeCapability*>(&problem)) {
+        entry.rule = u"out-of-range";
+        entry.hasLimits = true;
+        entry.lowerLimit = range->getLower();
+        entry.upperLimit = range->getUpper();
+    }
+}
+
+void setRepair(RepairEntry& entry, const SettingsRepair& repair, const ResourceLibrary& library) {
+    entry.action = repair.action;
+    if (repair.value != nullptr) {
+        entry.newValue = makeValue(entry.attribute, *repair.value);
+    }
+    switch (repair.action) {
+    case RepairAction::remove:
+        entry.repairText = library.getString(text::removed);
+        break;
+    case RepairAction::removeFromSet:
+        entry.repairText = library.getString(text::removedFromSet);
+        break;
+    case RepairAction::addDefault:
+        entry.repairText = library.getString(text::defaultAdded);
+        break;
+    case RepairAction::replace:
+        entry.repairText = entry.newValue.display;
+        break;
+    }
+}
+
+RepairEntry makeEntry(const SettingsProblem& problem, const Settings& defaults,
+                      const ResourceLibrary& library) {
+    const SettingsContext& context = problem.getContext();
+    RepairEntry entry;
+    entry.kind = problem.getKind();
+    entry.location = findLocation(context);
+    entry.attribute = problem.getAttributeName();
+    if (_FI::isFeatureName(entry.attribute)) {
+        entry.feature = _FI(entry.attribute).getFeature();
+    }
+    entry.path = makePathText(context);
+    entry.featureName = problem.getProblemFeatureName();
+    if (!context.isMissing()) {
+        entry.oldValue = makeValue(entry.attribute, context.getNode()->getAttrValue());
+    }
+    setRule(entry, problem);
+    setRepair(entry, problem.findRepair(defaults), library);
+    return entry;
+}
+
+} // namespace
+
+RepairReport::RepairReport(const SettingsProblemList& problems, const Settings& defaults) {
+    const ResourceLibrary library; // stays loaded until the last text is read
+    SettingsProblemList shown(problems);
+    while (shown.hasMoreSettingsProblems()) {
+        SettingsProblem& problem = shown.getNextSettingsProblem();
+        if (problem.refreshContext(*shown.getTicket())) {
+            m_entries.push_back(makeEntry(problem, defaults, library));
+        }
+    }
+    std::ranges::stable_sort(m_entries, isShownBefore);
+}
+
+CXString RepairReport::getText(RepairWording wording) const {
+    const ResourceLibrary library;
+    CXString text;
+    const RepairEntry* previous = nullptr;
+    for (const RepairEntry& entry : m_entries) {
+        if (previous == nullptr || groupOf(*previous) != groupOf(entry)) {
+            text += previous == nullptr ? u"" : u"\r\n";
+            text += library.getString(headingsOf(wording)[groupOf(entry)]);
+            text += u"\r\n";
+        }
+        if (previous == nullptr || previous->location != entry.location) {
+            text += u"\r\n\t" + makeLocationText(entry.location) + u":\r\n";
+        }
+        text += u"\t" + getLine(entry, wording) + u"\r\n";
+        previous = &entry;
+    }
+    return text;
+}
+
+CXString RepairReport::getLine(const RepairEntry& entry, RepairWording wording) {
+    if (wording == RepairWording::none) {
+        return entry.featureName;
+    }
+    return entry.featureName + u": " + entry.oldValue.display + u" -> " + entry.repairText;
+}
+
+} // namespace zent

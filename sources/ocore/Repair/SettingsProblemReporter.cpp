@@ -1,0 +1,77 @@
+#include "ocore/Repair/SettingsProblemReporter.h"
+
+#include "ocore/CurrentWindowSystem.h"
+#include "ocore/Faults/TarvoException.h"
+#include "ocore/Faults/Trace.h"
+#include "ocore/Repair/PrinterLimitationsDialog.h"
+#include "ocore/Resources/ResourceLibrary.h"
+#include "ocore/UserMessage.h"
+
+namespace zent {
+
+namespace {
+
+namespace text {
+constexpr std::uint32_t notice = 11541;
+constexpr std::uint32_t question = 11553;
+constexpr std::uint32_t nothingChanges = 11557;
+} // namespace text
+
+} // namespace
+
+SettingsProblemReporter::SettingsProblemReporter(std::uint32_t policy)
+    : m_isReporting(false), m_mode(policy), m_policy(policy) {}
+
+SettingsProblemReporter::SettingsProblemReporter(platform::WindowHandle owner,
+                                                 const CXString& title, bool offersChoice,
+                                                 std::uint32_t mode, std::uint32_t policy)
+    : m_isReporting(true), m_mode(mode), m_title(title), m_owner(owner),
+      m_offersChoice(offersChoice), m_policy(policy) {}
+
+bool SettingsProblemReporter::isChoiceOffered() const {
+    return m_offersChoice || m_mode != reportMode::silentKeep;
+}
+
+RepairWording SettingsProblemReporter::getWording() const {
+    if (m_policy != problemPolicy::repair) {
+        return RepairWording::none;
+    }
+    return isChoiceOffered() ? RepairWording::offered : RepairWording::made;
+}
+
+CXString SettingsProblemReporter::getLabel() const {
+    const std::uint32_t question =
+        m_mode == reportMode::reportKeep ? text::nothingChanges : text::question;
+    return ResourceLibrary().getString(isChoiceOffered() ? question : text::notice);
+}
+
+std::uint32_t SettingsProblemReporter::report(const SettingsProblemList& problems,
+                                              const Settings& defaults) const {
+    if (problems.isEmpty() || !m_isReporting) {
+        return m_policy;
+    }
+    const CXString text = RepairReport(problems, defaults).getText(getWording());
+    platform::WindowSystem* const system = findWindowSystem();
+    const bool isRefused =
+        system != nullptr ? isRefusedInDialog(*system, text) : isRefusedInBox(text);
+    return isRefused ? problemPolicy::keep : m_policy;
+}
+
+bool SettingsProblemReporter::isRefusedInDialog(platform::WindowSystem& system,
+                                                const CXString& text) const {
+    PrinterLimitationsDialog dialog(m_title, getLabel(), text, isChoiceOffered());
+    const std::intptr_t answer = dialog.run(system, m_owner);
+    if (answer != PrinterLimitationsDialog::agreed && answer != PrinterLimitationsDialog::refused) {
+        trace::systemErrorText(platform::getLastError(), traceLevel::general);
+    }
+    return answer == PrinterLimitationsDialog::refused;
+}
+
+bool SettingsProblemReporter::isRefusedInBox(const CXString& text) const {
+    const UserMessage message(m_owner, m_title, getLabel() + u"\r\n\r\n" + text,
+                              isChoiceOffered() ? messageStyle::okCancel : 0,
+                              UserMessage::Severity::warning);
+    return message.show() == messageAnswer::cancel;
+}
+
+} // namespace zent

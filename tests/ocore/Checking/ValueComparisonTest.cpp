@@ -1,0 +1,91 @@
+#include "ocore/Checking/ValueComparison.h"
+
+#include <gtest/gtest.h>
+
+#include "ocore/Attributes/EmbeddedList.h"
+#include "support/ListText.h"
+#include "support/Rows.h"
+
+namespace zent::test {
+namespace {
+
+TEST(ValueComparisonTest, ValuesAreRefusedOnPositiveEvidenceOnly) {
+    const struct {
+        const char* value;
+        const char* supported;
+        bool userDefined;
+        bool fits;
+    } rows[] = {
+        // texts, keywords and names alike
+        {"a=white", "a[value=red value=white]", false, true},
+        {"a=white", "a[value=red value=name:white]", false, true},
+        {"a=name:White", "a[value=red value=white]", false, false},
+        {"a=name:own", "a[value=red]", true, true},
+        {"a=own", "a[value=red]", true, false},
+        {"a=white", "a[!value=white value=red]", false, false},
+        {"a=white", "a[]", false, false},
+        {"a=name:own", "a[]", true, false},
+        {"a=text:white", "a=text:blue", false, false},
+        {"a=text:white", "a=blue", false, true},
+        // a boolean settles it, an unknown syntax passes on one side only
+        {"a=white", "a[value=red value=boolean:true]", false, true},
+        {"a=white", "a[value=red value=boolean:false]", false, false},
+        {"a=5", "a=boolean:false", false, false},
+        {"a=odd:5", "a[value=odd:5]", false, false},
+        {"a=5", "a=odd:x", false, true},
+        // numbers
+        {"a=5", "a(lower-bound=1 upper-bound=5)", false, true},
+        {"a=6", "a(lower-bound=1 upper-bound=5)", false, false},
+        {"a=6", "a[value(lower-bound=1 upper-bound=5) value(lower-bound=6 upper-bound=6)]", false,
+         true},
+        {"a=6", "a(lower-bound=1)", false, true},
+        {"a=6", "a(lower-bound=1 upper-bound=5)", true, true},
+        {"a(lower-bound=2 upper-bound=6)", "a(lower-bound=1 upper-bound=5)", false, false},
+        {"a=enum:3", "a[value=enum:4 value=enum:5]", false, false},
+        {"a=enum:5", "a[value=enum:4 value=enum:5]", false, true},
+        {"a<cross-feed=600 feed-direction=600 units=3>",
+         "a[value<cross-feed=300 feed-direction=300 units=3>]", false, false},
+        {"a<cross-feed=300 feed-direction=300 units=3>",
+         "a[value<cross-feed=300 feed-direction=300 units=3>]", false, true},
+        // what can't be read passes
+        {"a(lower-bound=x upper-bound=6)", "a[value(lower-bound=1 upper-bound=5)]", false, true},
+    };
+    for (const auto& row : rows) {
+        const AttrNodeList value = listOf(row.value);
+        const AttrNodeList supported = listOf(row.supported);
+        const AttrValue& given = value.getNodeAt(0).getAttrValue();
+        const AttrValue& allowed = supported.getNodeAt(0).getAttrValue();
+        SCOPED_TRACE(testing::Message() << row.value << " among " << row.supported);
+        EXPECT_EQ(compareAttrValues(u"a", given, allowed, row.userDefined), row.fits);
+        EXPECT_EQ(compareAttrValues(u"a", given, SupportedValues(allowed), row.userDefined),
+                  row.fits);
+    }
+}
+
+TEST(ValueComparisonTest, MediaSizesFitEitherWayRound) {
+    const char* const range = "value{x-dimension(lower-bound=100 upper-bound=300) "
+                              "y-dimension(lower-bound=200 upper-bound=400)}";
+    for (const auto& [size, supported, userDefined, fits] :
+         Rows<const char*, const char*, bool, bool>{
+             {"x-dimension=210 y-dimension=297", "value{x-dimension=297 y-dimension=210}", false,
+              true},
+             {"x-dimension=210 y-dimension=298", "value{x-dimension=297 y-dimension=210}", false,
+              false},
+             {"x-dimension=400 y-dimension=150", range, false, true},
+             {"x-dimension=401 y-dimension=150", range, false, false},
+             {"x-dimension=401 y-dimension=150", range, true, false},
+             {"x-dimension=150", range, false, true},
+             {"x-dimension=401", range, true, false},
+             {"color=red", range, false, true},
+             {"x-dimension=210 y-dimension=297", "", false, true},
+             // of sizes for users to invent only ranges count, and without one all are good
+             {"x-dimension=210 y-dimension=298", "value{x-dimension=297 y-dimension=210}", true,
+              true},
+         }) {
+        SCOPED_TRACE(testing::Message() << size << " among " << supported);
+        EXPECT_EQ(compareMediaSizes(listOf(size), listOf(supported), userDefined), fits);
+    }
+}
+
+} // namespace
+} // namespace zent::test
