@@ -7,8 +7,8 @@
 #include "ListWalk.h"
 #include "SampleTickets.h"
 #include "ZENT_API/ZENTSession.h"
-#include "ZENT_API/ZENTStream.h"
 #include "ocore/Printer/CreateStreamTranslator.h"
+#include "ocore/Resources/Stream.h"
 #include "ocore/User/User.h"
 
 namespace zent::bench {
@@ -71,7 +71,7 @@ InstructionsBenchmark::Job::Job(const Form& form, const std::string& ticketName,
 
 std::string_view InstructionsBenchmark::Job::translate() {
     translated.resize(0);
-    ZENTStream target(&translated);
+    BufferStream target(&translated);
     translator->translate(list, target);
     return {static_cast<const char*>(static_cast<const void*>(translated.data())),
             translated.size()};

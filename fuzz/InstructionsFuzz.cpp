@@ -13,11 +13,11 @@
 #include "SameList.h"
 #include "ocore/Ajt/TarvoAjtTranslator.h"
 #include "ocore/AnlXlate/OrdoTranslator.h"
-#include "ocore/AnlXlate/Stream.h"
 #include "ocore/Faults/TarvoException.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
 #include "ocore/Repair/RepairReport.h"
 #include "ocore/Repair/SettingsProblemFixer.h"
+#include "ocore/Resources/Stream.h"
 #include "zent27.h"
 
 namespace {
@@ -65,13 +65,13 @@ bool succeeds(const Work& work) {
 
 class Lines final : public Stream {
 public:
-    void write(const ByteBuffer& bytes) override {
-        std::string_view rest(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    bool write(std::string_view rest) override {
         require(rest.starts_with("%TRVbegin: 001.0300\n") && rest.ends_with("\n%TRVend\n"));
         while (!rest.empty()) {
             require(rest.starts_with("%TRV"));
             rest.remove_prefix(rest.find('\n') + 1);
         }
+        return true;
     }
 };
 

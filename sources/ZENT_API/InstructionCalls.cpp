@@ -1,6 +1,6 @@
 #include "ZENT_API/Arguments.h"
 #include "ZENT_API/CallFrame.h"
-#include "ZENT_API/ZENTStream.h"
+#include "ocore/Resources/Stream.h"
 
 using namespace zent;
 
@@ -17,7 +17,7 @@ ZentResult ZENT_CALL fnGetPrintInstructions(ZentSessionType session, void* buffe
             if (!cache.isFor(name)) {
                 PersistentSettings& state = opened.currentState();
                 cache.setKey(name);
-                ZENTStream stream(&cache.buffer());
+                BufferStream stream(&cache.buffer());
                 opened.generateInstructions(state, stream, name);
             }
             return cache.handOut(buffer, bytes);

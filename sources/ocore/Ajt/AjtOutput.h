@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "ocore/Resources/ByteBuffer.h"
+#include "ocore/Text/CXString.h"
 
 namespace zent::ajt {
 
@@ -24,7 +24,7 @@ public:
     /// Decimal.
     Output& operator<<(std::int32_t number);
 
-    ByteBuffer getBytes() const { return {m_bytes.data(), m_bytes.size()}; }
+    const std::string& bytes() const { return m_bytes; }
 
 private:
     std::string m_bytes; // grows by small pieces at less cost than a ByteBuffer

@@ -25,8 +25,8 @@ constexpr ajt::WriteGroup* groups[] = {
     ajt::writePageExceptions,
 };
 
-ByteBuffer makeStream(const AttrNodeList& source, const AjtPrinterTraits& traits,
-                      ajt::SpokenNodes* spoken) {
+ajt::Output makeStream(const AttrNodeList& source, const AjtPrinterTraits& traits,
+                       ajt::SpokenNodes* spoken) {
     // A view, so that a long ticket isn't copied; nothing is written through it.
     const ajt::TicketReader ticket(FeatureSettings(const_cast<AttrNodeList*>(&source)), spoken);
     const ajt::Job job{ticket, traits, ajt::Paper(ticket, traits)};
@@ -37,13 +37,13 @@ ByteBuffer makeStream(const AttrNodeList& source, const AjtPrinterTraits& traits
     }
     output << "%TRVdeleteSource: False\n"
               "%TRVend\n";
-    return output.getBytes();
+    return output;
 }
 
 } // namespace
 
 void TarvoAjtTranslator::translate(const AttrNodeList& source, Stream& target) {
-    target.write(makeStream(source, m_traits, nullptr));
+    target.write(makeStream(source, m_traits, nullptr).bytes());
 }
 
 std::vector<AjtOmission> TarvoAjtTranslator::findOmissions(const AttrNodeList& source) const {

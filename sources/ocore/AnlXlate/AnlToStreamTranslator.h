@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ocore/AnlXlate/Stream.h"
 #include "ocore/Attributes/AttrNodeList.h"
+#include "ocore/Resources/Stream.h"
 
 namespace zent {
 

@@ -2,7 +2,6 @@
 
 #include "ocore/OrdoParse/TarvoXmlDataStream.h"
 #include "ocore/OrdoParse/TarvoXmlFile.h"
-#include "ocore/OrdoParse/XmlOutputCallback.h"
 
 namespace zent {
 
@@ -21,21 +20,16 @@ void AnlTranslatorForXml::anlFromBuffer(const ByteBuffer& source, AttrNodeList* 
 }
 
 void AnlTranslatorForXml::anlToBuffer(const AttrNodeList& source, ByteBuffer* target) {
-    XmlOutputBufferCallback callback(target);
-    writeTo(callback, source);
+    BufferStream stream(target);
+    translate(source, stream);
 }
 
 void AnlTranslatorForXml::translate(const AttrNodeList& source, Stream& target) {
-    XmlOutputStreamCallback callback(&target);
-    writeTo(callback, source);
-}
-
-void AnlTranslatorForXml::writeTo(XmlOutputCallback& callback, const AttrNodeList& source) {
     AttrNodeList prepared;
     const bool isPrepared = prepareForOutput(source, &prepared);
     const auto stream = createDataStream();
-    callback.setFormatted(m_formatted);
-    stream->setOutputCallback(&callback);
+    stream->setFormatted(m_formatted);
+    stream->setOutput(&target);
     stream->write(isPrepared ? &prepared : &source);
 }
 

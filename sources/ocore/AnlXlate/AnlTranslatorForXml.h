@@ -9,7 +9,6 @@ namespace zent {
 
 class TarvoXmlDataStream;
 class TarvoXmlFile;
-class XmlOutputCallback;
 
 /// What the translators of all XML forms share. A form says how its streams are made, and may
 /// change a list on its way out or in.
@@ -35,8 +34,6 @@ protected:
     virtual std::unique_ptr<TarvoXmlDataStream> createDataStream() = 0;
 
 private:
-    void writeTo(XmlOutputCallback& callback, const AttrNodeList& source);
-
     bool m_formatted = true;
 };
 

@@ -61,8 +61,8 @@ void TarvoDomDoc::setOrigin(XmlOrigin origin) { m_parser->setOrigin(origin); }
 
 void TarvoDomDoc::parse(std::span<const std::byte> bytes) { m_parser->parse(bytes); }
 
-void TarvoDomDoc::toXmlStream(XmlOutputCallback& callback) {
-    m_parser->convertToXmlStream(callback);
+void TarvoDomDoc::toXmlStream(Stream& output, bool formatted) {
+    m_parser->convertToXmlStream(output, formatted);
 }
 
 // What most forms do

@@ -13,7 +13,7 @@ namespace zent {
 
 class SharedTexts;
 class TarvoXmlParser;
-class XmlOutputCallback;
+class Stream;
 
 /// A document of one XML form, and the way between it and a node list. The forms differ in the
 /// virtual operations alone.
@@ -38,7 +38,7 @@ public:
     /// Makes the document of a list: the skeleton, with an element for each node that isn't
     /// private.
     void fromAttrNodeList(const AttrNodeList& list);
-    void toXmlStream(XmlOutputCallback& callback);
+    void toXmlStream(Stream& output, bool formatted);
 
 protected:
     /// Starts the XML system if it isn't running.

@@ -17,8 +17,6 @@ void TarvoXmlDataStream::setInputBuffer(const void* bytes, std::size_t length) {
     m_inputLength = length;
 }
 
-void TarvoXmlDataStream::setOutputCallback(XmlOutputCallback* callback) { m_callback = callback; }
-
 void TarvoXmlDataStream::read(AttrNodeList* list) {
     if (m_input == nullptr || m_inputLength == 0) {
         raiseOrdoParse(ordoParseCode::noSourceBuffer,
@@ -30,14 +28,14 @@ void TarvoXmlDataStream::read(AttrNodeList* list) {
 }
 
 void TarvoXmlDataStream::write(const AttrNodeList* list) {
-    if (m_callback == nullptr) {
+    if (m_output == nullptr) {
         raiseOrdoParse(ordoParseCode::noOutputReceiver,
                        "TarvoXmlDataStream::write(): No output callback object to receive XML "
                        "data.\r\n");
     }
     const auto document = createDomDocument();
     document->fromAttrNodeList(*list);
-    document->toXmlStream(*m_callback);
+    document->toXmlStream(*m_output, m_formatted);
 }
 
 const CXString* TarvoXmlDataStream::findDtdName() const {

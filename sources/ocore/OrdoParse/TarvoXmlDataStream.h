@@ -7,7 +7,7 @@
 
 #include "ocore/Attributes/AttrNodeList.h"
 #include "ocore/OrdoParse/XmlLimits.h"
-#include "ocore/OrdoParse/XmlOutputCallback.h"
+#include "ocore/Resources/Stream.h"
 #include "ocore/Text/CXString.h"
 
 namespace zent {
@@ -23,7 +23,7 @@ enum class XmlDataType : std::uint32_t {
     notSpecified = 5,
 };
 
-/// One XML form as a node list, from and to memory. Set the buffer, then read; set the callback,
+/// One XML form as a node list, from and to memory. Set the buffer, then read; set the output,
 /// then write.
 class TarvoXmlDataStream {
 public:
@@ -39,8 +39,10 @@ public:
     void setOrigin(XmlOrigin origin) { m_origin = origin; }
     /// The bytes must outlive the reading; null or no bytes fail it.
     virtual void setInputBuffer(const void* bytes, std::size_t length);
-    /// The callback must outlive the writing.
-    virtual void setOutputCallback(XmlOutputCallback* callback);
+    /// The output must outlive the writing.
+    void setOutput(Stream* output) { m_output = output; }
+    /// Whether documents are laid out with line breaks and tabs. On to begin with.
+    void setFormatted(bool formatted) { m_formatted = formatted; }
 
     /// Adds the document's nodes to a list. On failure the list keeps what was added before.
     virtual void read(AttrNodeList* list);
@@ -59,7 +61,8 @@ private:
     XmlOrigin m_origin = XmlOrigin::document;
     const void* m_input = nullptr;
     std::size_t m_inputLength = 0;
-    XmlOutputCallback* m_callback = nullptr;
+    Stream* m_output = nullptr;
+    bool m_formatted = true;
     std::optional<CXString> m_dtdName;
 };
 

@@ -62,7 +62,7 @@ void TarvoXmlFile::write(const AttrNodeList* list) {
                        "TarvoXmlFile::write(): Failed to open/create the file.\r\n");
     }
     try {
-        setOutputCallback(this);
+        setOutput(this);
         TarvoXmlDataStream::write(list);
         m_file.reset();
     } catch (...) {
@@ -77,9 +77,9 @@ CXString TarvoXmlFile::getStreamName() const {
     return findDtdName() == nullptr && isNamed ? *m_fileName : TarvoXmlDataStream::getStreamName();
 }
 
-bool TarvoXmlFile::handleOutput(const char* bytes, std::size_t length) {
+bool TarvoXmlFile::write(std::string_view bytes) {
     std::size_t done = 0;
-    if (!m_file->write(bytes, length, done) || done != length) {
+    if (!m_file->write(bytes.data(), bytes.size(), done) || done != bytes.size()) {
         traceLastError();
         raiseOrdoParse(ordoParseCode::writeFileFailed,
                        "TarvoXmlFile::handleOutput(): Failed WriteFile(). dwNumBytesWritten = "

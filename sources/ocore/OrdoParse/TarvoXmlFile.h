@@ -5,9 +5,8 @@
 
 namespace zent {
 
-/// One XML form as a node list, from and to a file. It is its own output callback, so that the
-/// layout is set on the file itself.
-class TarvoXmlFile final : public TarvoXmlDataStream, public XmlOutputCallback {
+/// One XML form as a node list, from and to a file.
+class TarvoXmlFile final : public TarvoXmlDataStream, private Stream {
 public:
     explicit TarvoXmlFile(XmlDataType type = XmlDataType::notSpecified,
                           std::optional<CXString> fileName = std::nullopt,
@@ -19,9 +18,9 @@ public:
     void write(const AttrNodeList* list) override;
     CXString getStreamName() const override;
 
-    bool handleOutput(const char* bytes, std::size_t length) override;
-
 private:
+    bool write(std::string_view bytes) override;
+
     std::optional<CXString> m_fileName;
     std::unique_ptr<platform::OpenFile> m_file; // while it is being written
 };

@@ -18,9 +18,9 @@
 #include "ocore/OrdoParse/ParseGrammars.h"
 #include "ocore/OrdoParse/ParserMemory.h"
 #include "ocore/OrdoParse/XmlLimits.h"
-#include "ocore/OrdoParse/XmlOutputCallback.h"
 #include "ocore/OrdoParse/XmlTreeBuilder.h"
 #include "ocore/OrdoParse/XmlWriter.h"
+#include "ocore/Resources/Stream.h"
 #include "platform/KeepForever.h"
 
 namespace zent {
@@ -162,10 +162,10 @@ bool TarvoXmlParser::runParser(std::span<const std::byte> bytes,
     return true;
 }
 
-void TarvoXmlParser::convertToXmlStream(XmlOutputCallback& callback) {
+void TarvoXmlParser::convertToXmlStream(Stream& output, bool formatted) {
     XmlDocument& document = getDocument();
     const CXString encoding = writingEncoding(document);
-    m_callback = &callback;
+    m_output = &output;
     m_written = 0;
     try {
         ParserMemory memory;
@@ -173,7 +173,7 @@ void TarvoXmlParser::convertToXmlStream(XmlOutputCallback& callback) {
         const std::unique_ptr<xercesc::XMLFormatter> formatter(new (&memory) xercesc::XMLFormatter(
             encoding.c_str(), u"1.0", this, xercesc::XMLFormatter::NoEscapes,
             xercesc::XMLFormatter::UnRep_CharRef, &memory));
-        XmlWriter writer(*formatter, callback.isFormatted(), m_origin);
+        XmlWriter writer(*formatter, formatted, m_origin);
         writer.write(document.getNode());
         writer.flush();
     } catch (const xercesc::XMLException& exception) {
@@ -196,7 +196,7 @@ void TarvoXmlParser::writeChars(const XMLByte* bytes, XMLSize_t count,
                        xmlLimits::documentBytes);
     }
     const auto* const text = static_cast<const char*>(static_cast<const void*>(bytes));
-    if (!m_callback->handleOutput(text, count)) {
+    if (!m_output->write({text, count})) {
         raiseOrdoParse(ordoParseCode::outputFailed,
                        "TarvoXmlParser::writeChars(): Failed the call to handleOutput() in special "
                        "callback object!\r\n");

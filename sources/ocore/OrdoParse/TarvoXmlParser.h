@@ -15,7 +15,7 @@
 namespace zent {
 
 class CompiledDtd;
-class XmlOutputCallback;
+class Stream;
 
 /// Bytes to a document and back, for one document at a time. All failures are raised as
 /// OrdoParseException, but for lack of memory, which is std::bad_alloc. A document beyond a bound
@@ -43,9 +43,9 @@ public:
     XmlDocument& getDocument();
 
     /// Writes the document, in the encoding that it declares or else in UTF-8. Code 3 if the parser
-    /// library fails, code 4 if the callback doesn't take the bytes or the document is one that
+    /// library fails, code 4 if the output doesn't take the bytes or the document is one that
     /// couldn't be read again.
-    void convertToXmlStream(XmlOutputCallback& callback);
+    void convertToXmlStream(Stream& output, bool formatted);
     /// For the library's formatter.
     void writeChars(const XMLByte* bytes, XMLSize_t count,
                     xercesc::XMLFormatter* formatter) override;
@@ -60,7 +60,7 @@ private:
     XmlOrigin m_origin = XmlOrigin::document;
     DOMTreeErrorReporter m_reporter;
     std::optional<XmlDocument> m_document;
-    XmlOutputCallback* m_callback = nullptr;
+    Stream* m_output = nullptr;
     std::size_t m_written = 0;
 };
 

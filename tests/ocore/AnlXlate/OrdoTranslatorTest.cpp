@@ -13,12 +13,6 @@ namespace {
 
 ByteBuffer bytesOf(std::string_view text) { return {text.data(), text.size()}; }
 
-class Pieces : public Stream {
-public:
-    void write(const ByteBuffer& piece) override { bytes.append(piece); }
-    ByteBuffer bytes;
-};
-
 TEST(OrdoTranslatorTest, AllWaysGiveTheSameDocument) {
     useOrdoDtd();
     const ScratchFolder folder;
@@ -29,9 +23,10 @@ TEST(OrdoTranslatorTest, AllWaysGiveTheSameDocument) {
     ByteBuffer buffer = bytesOf("before");
     translator.anlToBuffer(list, &buffer);
     EXPECT_EQ(buffer, bytesOf("before" + document)) << "appends";
-    Pieces pieces;
-    translator.translate(list, pieces);
-    EXPECT_EQ(pieces.bytes, bytesOf(document));
+    ByteBuffer pieces;
+    BufferStream stream(&pieces);
+    translator.translate(list, stream);
+    EXPECT_EQ(pieces, bytesOf(document));
     folder.write("a.xml", std::string(10'000, 'x'));
     translator.anlToFile(list, folder.file("a.xml"));
     EXPECT_EQ(folder.read("a.xml"), document) << "replaces";

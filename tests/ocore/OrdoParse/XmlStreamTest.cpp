@@ -21,7 +21,7 @@ TEST(TarvoXmlDataStreamTest, FailsInATellingOrder) {
     const std::string xml = ordoDocument("");
     AttrNodeList list;
     ByteBuffer buffer;
-    XmlOutputBufferCallback callback(&buffer);
+    BufferStream output(&buffer);
     const std::string noBuffer = "8: TarvoXmlDataStream::read(): No buffer to read from!\r\n";
     const std::string noCallback = "9: TarvoXmlDataStream::write(): No output callback object to "
                                    "receive XML data.\r\n";
@@ -40,7 +40,7 @@ TEST(TarvoXmlDataStreamTest, FailsInATellingOrder) {
         stream.setInputBuffer(xml.data(), xml.size());
         EXPECT_EQ(ordoFailure([&] { stream.read(&list); }), failure);
         EXPECT_EQ(ordoFailure([&] { stream.write(&list); }), noCallback);
-        stream.setOutputCallback(&callback);
+        stream.setOutput(&output);
         EXPECT_EQ(ordoFailure([&] { stream.write(&list); }), failure);
     }
     EXPECT_TRUE(buffer.isEmpty());

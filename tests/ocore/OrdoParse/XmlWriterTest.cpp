@@ -6,8 +6,8 @@
 
 #include "ocore/OrdoParse/OrdoParseException.h"
 #include "ocore/OrdoParse/TarvoXmlParser.h"
-#include "ocore/OrdoParse/XmlOutputCallback.h"
 #include "ocore/OrdoParse/ZNXMLInterface.h"
+#include "ocore/Resources/Stream.h"
 #include "support/OrdoDocument.h"
 #include "support/Rows.h"
 
@@ -20,9 +20,8 @@ protected:
 
     static std::string written(TarvoXmlParser& parser, bool formatted) {
         ByteBuffer buffer;
-        XmlOutputBufferCallback callback(&buffer);
-        callback.setFormatted(formatted);
-        parser.convertToXmlStream(callback);
+        BufferStream output(&buffer);
+        parser.convertToXmlStream(output, formatted);
         return {reinterpret_cast<const char*>(buffer.data()), buffer.size()};
     }
 
@@ -83,17 +82,17 @@ TEST_F(XmlWriterTest, DocumentTypesAndEntitiesNameTheirSources) {
                                      "\r\n<a>x\r\n\t<b/>\r\n</a>");
 }
 
-class Refusing : public XmlOutputCallback {
+class Refusing : public Stream {
 public:
-    bool handleOutput(const char*, std::size_t) override { return false; }
+    bool write(std::string_view /*bytes*/) override { return false; }
 };
 
 TEST_F(XmlWriterTest, FailuresSayWhere) {
     TarvoXmlParser parser(u"XmlStream", false);
     parser.parse(std::as_bytes(std::span(std::string_view("<a/>"))));
     EXPECT_EQ(ordoFailure([&] {
-                  Refusing callback;
-                  parser.convertToXmlStream(callback);
+                  Refusing output;
+                  parser.convertToXmlStream(output, true);
               }),
               "4: TarvoXmlParser::writeChars(): Failed the call to handleOutput() in special "
               "callback object!\r\n");

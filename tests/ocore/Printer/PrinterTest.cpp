@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "ZENT_API/ZENTStream.h"
 #include "ocore/Compress/PersistentSettings.h"
+#include "ocore/Resources/Stream.h"
 #include "ocore/User/User.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/ScratchPreferences.h"
@@ -38,7 +38,7 @@ TEST(PrinterTest, TheDocumentsNameIsCutBetweenCharacters) {
     // The limit would leave the first of the last character's two units.
     const std::string name(254, 'n');
     ByteBuffer written;
-    ZENTStream stream(&written);
+    BufferStream stream(&written);
     made.generateInstructions(state, stream, CXString(name.c_str()) + u"\U0001F5A8");
     const std::string text(reinterpret_cast<const char*>(written.data()), written.size());
     EXPECT_NE(text.find("%TRVtitle: " + name + "\n"), std::string::npos) << text;
