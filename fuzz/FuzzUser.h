@@ -5,8 +5,8 @@
 #include <optional>
 
 #include "SessionArguments.h"
-#include "ocore/CurrentWindowSystem.h"
-#include "ocore/UserMessage.h"
+#include "plugin_ui/CurrentWindowSystem.h"
+#include "plugin_ui/Reports/UserMessage.h"
 #include "support/FakeWindowSystem.h"
 
 namespace zent::fuzz {

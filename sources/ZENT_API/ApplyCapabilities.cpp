@@ -1,8 +1,8 @@
 #include "ZENT_API/ApplyCapabilities.h"
 
 #include "ZENT_API/Arguments.h"
-#include "ocore/Repair/SettingsProblemReporter.h"
 #include "ocore/Resources/ResourceLibrary.h"
+#include "plugin_ui/Reports/SettingsProblemReporter.h"
 
 namespace zent {
 

@@ -2,8 +2,8 @@
 
 #include <new>
 
-#include "ocore/Faults/ExceptionReport.h"
 #include "platform/System.h"
+#include "plugin_ui/Reports/ExceptionReport.h"
 
 namespace zent {
 

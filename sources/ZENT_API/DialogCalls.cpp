@@ -1,8 +1,8 @@
 #include <memory>
 
 #include "ZENT_API/CallFrame.h"
-#include "ocore/CurrentWindowSystem.h"
 #include "ocore/Stock/StockInformation.h"
+#include "plugin_ui/CurrentWindowSystem.h"
 #include "plugin_ui/Features/JobNotesUIDialog.h"
 
 using namespace zent;

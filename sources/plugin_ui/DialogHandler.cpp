@@ -1,10 +1,10 @@
 #include "plugin_ui/DialogHandler.h"
 
-#include "ocore/CurrentWindowSystem.h"
-#include "ocore/Faults/ExceptionReport.h"
 #include "ocore/Stock/StockInformation.h"
 #include "platform/KeepForever.h"
+#include "plugin_ui/CurrentWindowSystem.h"
 #include "plugin_ui/FirstFailure.h"
+#include "plugin_ui/Reports/ExceptionReport.h"
 
 namespace zent {
 

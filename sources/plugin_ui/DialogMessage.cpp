@@ -1,6 +1,6 @@
 #include "plugin_ui/DialogMessage.h"
 
-#include "ocore/CurrentWindowSystem.h"
+#include "plugin_ui/CurrentWindowSystem.h"
 
 namespace zent {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "ocore/CurrentWindowSystem.h"
+#include "plugin_ui/CurrentWindowSystem.h"
 #include "plugin_ui/DialogFitting.h"
 #include "plugin_ui/DialogValidation.h"
 

@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include "ocore/CurrentWindowSystem.h"
-#include "ocore/UserMessage.h"
+#include "plugin_ui/CurrentWindowSystem.h"
+#include "plugin_ui/Reports/UserMessage.h"
 #include "support/AllocationFailure.h"
 #include "support/EveryCall.h"
 #include "support/Rows.h"

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "dialogs/DialogSession.h"
-#include "ocore/Repair/SettingsProblemReporter.h"
+#include "plugin_ui/Reports/SettingsProblemReporter.h"
 #include "support/OrdoDocument.h"
 
 namespace zent::test {

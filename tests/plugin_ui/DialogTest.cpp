@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
-#include "ocore/BoxCapture.h"
 #include "ocore/Faults/Exceptions.h"
 #include "plugin_ui/Controls/NumberBoxUIControl.h"
 #include "plugin_ui/Controls/PushButtonUIControl.h"
 #include "plugin_ui/DialogFitting.h"
 #include "plugin_ui/Features/DialogLaunchButtonUIFeature.h"
 #include "plugin_ui/Features/TextEntryUIFeature.h"
+#include "plugin_ui/Reports/BoxCapture.h"
 #include "plugin_ui/TestDialog.h"
 
 namespace zent::test {

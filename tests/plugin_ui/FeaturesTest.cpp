@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "ocore/BoxCapture.h"
 #include "ocore/Faults/Exceptions.h"
 #include "plugin_ui/Controls/OwndrwPushButtonUIControl.h"
 #include "plugin_ui/Controls/RadioButtonUIControl.h"
@@ -8,6 +7,7 @@
 #include "plugin_ui/Features/CheckBoxUIFeature.h"
 #include "plugin_ui/Features/KeyWordListUIFeature.h"
 #include "plugin_ui/Features/NumberCheckBoxUIFeature.h"
+#include "plugin_ui/Reports/BoxCapture.h"
 #include "plugin_ui/TestDialog.h"
 
 namespace zent::test {

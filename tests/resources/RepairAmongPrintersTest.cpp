@@ -3,7 +3,7 @@
 #include "expected/ExpectedTable.h"
 #include "ocore/Capabilities/Capabilities.h"
 #include "ocore/Printer/PrinterDefaults.h"
-#include "ocore/Repair/SettingsProblemReporter.h"
+#include "plugin_ui/Reports/SettingsProblemReporter.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/OrdoDocument.h"
 #include "support/ProblemText.h"

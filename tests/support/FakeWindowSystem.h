@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "ocore/CurrentWindowSystem.h"
+#include "plugin_ui/CurrentWindowSystem.h"
 
 namespace zent::test {
 

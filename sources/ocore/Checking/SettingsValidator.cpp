@@ -10,9 +10,9 @@
 #include "ocore/Checking/UnsupportedAttribute.h"
 #include "ocore/Checking/UnsupportedValue.h"
 #include "ocore/Checking/ValueComparison.h"
-#include "ocore/Faults/ExceptionReport.h"
 #include "ocore/Faults/Exceptions.h"
 #include "ocore/Faults/Trace.h"
+#include "plugin_ui/Reports/ExceptionReport.h"
 
 namespace zent {
 

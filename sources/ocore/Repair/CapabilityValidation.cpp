@@ -1,10 +1,10 @@
 // What Capabilities does with tickets.
 
 #include "ocore/Checking/SettingsValidator.h"
-#include "ocore/Faults/ExceptionReport.h"
 #include "ocore/Faults/Trace.h"
 #include "ocore/Repair/SettingsProblemFixer.h"
-#include "ocore/Repair/SettingsProblemReporter.h"
+#include "plugin_ui/Reports/ExceptionReport.h"
+#include "plugin_ui/Reports/SettingsProblemReporter.h"
 
 namespace zent {
 

@@ -9,9 +9,9 @@
 #include "ocore/Faults/Exceptions.h"
 #include "ocore/Printer/Printer.h"
 #include "ocore/Repair/SettingsProblemFixer.h"
-#include "ocore/Repair/SettingsProblemReporter.h"
 #include "ocore/Resources/ResourceLibrary.h"
 #include "platform/KeepForever.h"
+#include "plugin_ui/Reports/SettingsProblemReporter.h"
 
 namespace zent {
 

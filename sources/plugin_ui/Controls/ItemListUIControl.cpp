@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "ocore/CurrentWindowSystem.h"
+#include "plugin_ui/CurrentWindowSystem.h"
 
 namespace zent {
 

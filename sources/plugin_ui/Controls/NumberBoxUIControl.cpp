@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <limits>
 
-#include "ocore/CurrentWindowSystem.h"
 #include "ocore/Faults/Exceptions.h"
 #include "plugin_ui/Controls/CharacterFilter.h"
+#include "plugin_ui/CurrentWindowSystem.h"
 
 namespace zent {
 

@@ -1,6 +1,6 @@
 #include "plugin_ui/Controls/OwndrwPushButtonUIControl.h"
 
-#include "ocore/CurrentWindowSystem.h"
+#include "plugin_ui/CurrentWindowSystem.h"
 
 namespace zent {
 

@@ -1,6 +1,6 @@
 #include "plugin_ui/Controls/UIControl.h"
 
-#include "ocore/CurrentWindowSystem.h"
+#include "plugin_ui/CurrentWindowSystem.h"
 #include "plugin_ui/FirstFailure.h"
 
 namespace zent {

@@ -1,7 +1,7 @@
 #include "plugin_ui/Features/AccountUIFeature.h"
 
-#include "ocore/UserMessage.h"
 #include "plugin_ui/Features/JobTextRules.h"
+#include "plugin_ui/Reports/UserMessage.h"
 
 namespace zent {
 

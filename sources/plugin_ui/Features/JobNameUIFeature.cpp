@@ -1,8 +1,8 @@
 #include "plugin_ui/Features/JobNameUIFeature.h"
 
 #include "ocore/Resources/ResourceLibrary.h"
-#include "ocore/UserMessage.h"
 #include "plugin_ui/Features/JobTextRules.h"
+#include "plugin_ui/Reports/UserMessage.h"
 
 namespace zent {
 

@@ -1,7 +1,7 @@
 #include "plugin_ui/Features/TextLength.h"
 
 #include "ocore/Resources/ResourceLibrary.h"
-#include "ocore/UserMessage.h"
+#include "plugin_ui/Reports/UserMessage.h"
 
 namespace zent {
 

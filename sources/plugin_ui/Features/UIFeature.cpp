@@ -1,7 +1,7 @@
 #include "plugin_ui/Features/UIFeature.h"
 
-#include "ocore/CurrentWindowSystem.h"
 #include "plugin_ui/Controls/StaticUIControl.h"
+#include "plugin_ui/CurrentWindowSystem.h"
 #include "plugin_ui/FirstFailure.h"
 
 namespace zent {

@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include "ocore/BoxCapture.h"
-#include "ocore/CurrentWindowSystem.h"
 #include "ocore/Faults/Exceptions.h"
-#include "ocore/Repair/JobTicketUserMessage.h"
-#include "ocore/Repair/SettingsProblemReporter.h"
+#include "plugin_ui/CurrentWindowSystem.h"
+#include "plugin_ui/Reports/BoxCapture.h"
+#include "plugin_ui/Reports/JobTicketUserMessage.h"
+#include "plugin_ui/Reports/SettingsProblemReporter.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/ListCapabilities.h"
 

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "PrintText.h"
-#include "ocore/BoxCapture.h"
-#include "ocore/CurrentWindowSystem.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
+#include "plugin_ui/CurrentWindowSystem.h"
+#include "plugin_ui/Reports/BoxCapture.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/ListText.h"
 #include "support/Raised.h"

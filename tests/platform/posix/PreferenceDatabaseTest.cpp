@@ -18,11 +18,11 @@
 #include <unistd.h>
 
 #include "PrintText.h"
-#include "ocore/BoxCapture.h"
 #include "ocore/Faults/Exceptions.h"
 #include "ocore/User/Registry.h"
 #include "platform/PreferenceStore.h"
 #include "platform/posix/Environment.h"
+#include "plugin_ui/Reports/BoxCapture.h"
 #include "support/Raised.h"
 #include "support/Rows.h"
 #include "support/TraceCapture.h"

@@ -6,8 +6,8 @@
 #include <pthread.h>
 #include <sys/mman.h>
 
-#include "ocore/CurrentWindowSystem.h"
-#include "ocore/UserMessage.h"
+#include "plugin_ui/CurrentWindowSystem.h"
+#include "plugin_ui/Reports/UserMessage.h"
 #include "support/EveryCall.h"
 #include "support/ScratchPreferences.h"
 

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "ocore/Resources/ResourceLibrary.h"
-#include "ocore/UserMessage.h"
+#include "plugin_ui/Reports/UserMessage.h"
 
 namespace zent::test {
 

@@ -1,11 +1,11 @@
-#include "ocore/Repair/SettingsProblemReporter.h"
+#include "plugin_ui/Reports/SettingsProblemReporter.h"
 
-#include "ocore/CurrentWindowSystem.h"
 #include "ocore/Faults/TarvoException.h"
 #include "ocore/Faults/Trace.h"
-#include "ocore/Repair/PrinterLimitationsDialog.h"
 #include "ocore/Resources/ResourceLibrary.h"
-#include "ocore/UserMessage.h"
+#include "plugin_ui/CurrentWindowSystem.h"
+#include "plugin_ui/Reports/PrinterLimitationsDialog.h"
+#include "plugin_ui/Reports/UserMessage.h"
 
 namespace zent {
 

@@ -1,4 +1,4 @@
-#include "ocore/Repair/PrinterLimitationsDialog.h"
+#include "plugin_ui/Reports/PrinterLimitationsDialog.h"
 
 #include "ocore/Resources/ResourceLibrary.h"
 

@@ -1,4 +1,4 @@
-#include "ocore/CurrentWindowSystem.h"
+#include "plugin_ui/CurrentWindowSystem.h"
 
 #include <atomic>
 

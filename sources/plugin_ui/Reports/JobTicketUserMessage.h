@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ocore/UserMessage.h"
+#include "plugin_ui/Reports/UserMessage.h"
 
 namespace zent {
 

@@ -1,4 +1,4 @@
-#include "ocore/Repair/JobTicketUserMessage.h"
+#include "plugin_ui/Reports/JobTicketUserMessage.h"
 
 #include "ocore/Resources/ResourceLibrary.h"
 

@@ -1,4 +1,4 @@
-#include "ocore/Faults/ExceptionReport.h"
+#include "plugin_ui/Reports/ExceptionReport.h"
 
 #include <new>
 #include <typeinfo>
@@ -8,7 +8,7 @@
 #include "ocore/OrdoParse/OrdoParseException.h"
 #include "ocore/Resources/ResourceLibrary.h"
 #include "ocore/User/Registry.h"
-#include "ocore/UserMessage.h"
+#include "plugin_ui/Reports/UserMessage.h"
 
 namespace zent {
 

@@ -1,4 +1,4 @@
-#include "ocore/UserMessage.h"
+#include "plugin_ui/Reports/UserMessage.h"
 
 #include <gtest/gtest.h>
 

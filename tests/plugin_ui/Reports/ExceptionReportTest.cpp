@@ -1,4 +1,4 @@
-#include "ocore/Faults/ExceptionReport.h"
+#include "plugin_ui/Reports/ExceptionReport.h"
 
 #include <new>
 #include <stdexcept>
@@ -6,9 +6,9 @@
 #include <gtest/gtest.h>
 
 #include "PrintText.h"
-#include "ocore/BoxCapture.h"
 #include "ocore/Faults/Exceptions.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
+#include "plugin_ui/Reports/BoxCapture.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/Rows.h"
 
