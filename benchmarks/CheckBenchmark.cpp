@@ -9,6 +9,7 @@
 #include "SampleTickets.h"
 #include "ZENT_API/ZENTSession.h"
 #include "ocore/Checking/SettingsProblemList.h"
+#include "ocore/Checking/SettingsValidator.h"
 
 namespace zent::bench {
 
@@ -21,9 +22,8 @@ FeatureSettings& settingsOf(const TicketSession& session) {
 
 std::size_t countProblems(const TicketSession& session) {
     SettingsProblemList problems;
-    ZENTSession::getSessionObject(session.session())
-        .getCapabilities()
-        .validate(settingsOf(session), problems);
+    validate(ZENTSession::getSessionObject(session.session()).getCapabilities(),
+             settingsOf(session), problems);
     return problems.getCount();
 }
 

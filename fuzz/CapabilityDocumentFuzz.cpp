@@ -11,6 +11,7 @@
 #include "ocore/Capabilities/CapabilitySource.h"
 #include "ocore/Faults/Exceptions.h"
 #include "ocore/Printer/PrinterDefaults.h"
+#include "ocore/Repair/TicketRepair.h"
 #include "ocore/Stock/StockList.h"
 #include "zent27.h"
 
@@ -96,7 +97,7 @@ void askAll(const Capabilities& capabilities) {
     }
     ask([&] { capabilities.getResolutionValues(true); });
     ask([&] { require(!capabilities.getStockSizeValues().empty()); });
-    ask([&] { capabilities.getPrinterStocks(); });
+    ask([&] { StockList::createFromCapabilities(capabilities); });
     ask([&] { capabilities.isSeparateCoversCapable(); });
     ask([&] { capabilities.isInsertMultipleMediaCapable(); });
     ask([&] { capabilities.isTiffPrintSaveCapable(); });
@@ -127,10 +128,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const PrinterDefaults defaults(model, form);
     FeatureSettings ticket = defaults.getSettings();
     bool hadProblems = false;
-    constexpr std::uint32_t repair = 1;
     ask([&] {
-        capabilities->applyCapabilitiesToJobTicket(ticket, defaults.getSettings(), hadProblems,
-                                                   repair);
+        applyCapabilitiesToJobTicket(*capabilities, ticket, defaults.getSettings(), hadProblems,
+                                     SilentReporter(problemPolicy::repair));
     });
     return 0;
 }

@@ -13,10 +13,12 @@
 #include "SameList.h"
 #include "ocore/Ajt/TarvoAjtTranslator.h"
 #include "ocore/AnlXlate/OrdoTranslator.h"
+#include "ocore/Checking/SettingsValidator.h"
 #include "ocore/Faults/TarvoException.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
 #include "ocore/Repair/RepairReport.h"
 #include "ocore/Repair/SettingsProblemFixer.h"
+#include "ocore/Repair/TicketRepair.h"
 #include "ocore/Resources/Stream.h"
 #include "zent27.h"
 
@@ -116,18 +118,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const Capabilities& capabilities = printer.getCapabilities();
     const Settings& defaults = printer.getDefaults().getSettings();
     SettingsProblemList problems;
-    capabilities.validate(ticket, problems);
+    validate(capabilities, ticket, problems);
     report(problems, defaults);
     if (succeeds([&] { SettingsProblemFixer(defaults).fix(problems); })) {
         writeInstructions(list, printer);
     }
     bool hadProblems = false;
-    constexpr std::uint32_t repair = 1;
     if (succeeds([&] {
-            capabilities.applyCapabilitiesToJobTicket(ticket, defaults, hadProblems, repair);
+            applyCapabilitiesToJobTicket(capabilities, ticket, defaults, hadProblems,
+                                         SilentReporter(problemPolicy::repair));
         })) {
         SettingsProblemList left;
-        require(capabilities.validate(ticket, left));
+        require(validate(capabilities, ticket, left));
     }
     return 0;
 }

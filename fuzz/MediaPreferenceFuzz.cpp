@@ -19,6 +19,7 @@
 #include "ocore/Printer/NonDriverBasedPrinter.h"
 #include "ocore/Resources/ResourceLibrary.h"
 #include "ocore/Stock/StockInformation.h"
+#include "ocore/Stock/StockList.h"
 #include "platform/Files.h"
 
 namespace zent {
@@ -142,7 +143,7 @@ std::unique_ptr<Library> readLibrary() {
     auto library = std::make_unique<Library>(
         Library{setting().readPreferences(),
                 {},
-                *setting().getPrinter().getCapabilities().getPrinterStocks()});
+                *StockList::createFromCapabilities(setting().getPrinter().getCapabilities())});
     library->userStocks = *library->preferences.getUserStocks();
     library->preferences.applyPrinterFavorites(library->printerStocks);
     return library;

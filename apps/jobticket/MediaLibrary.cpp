@@ -8,6 +8,7 @@
 #include "TicketDocument.h"
 #include "ocore/Faults/TarvoException.h"
 #include "ocore/User/User.h"
+#include "platform/System.h"
 
 namespace jobticket {
 

@@ -216,7 +216,7 @@ void Preferences::store(const std::string& name, PreferenceType type,
     } catch (const zent::RegistryRequestException& exception) {
         throw ProgramError(ExitStatus::libraryFailure,
                            toPrintable(fromUtf8(name)) + ": can't be stored in " +
-                               toPrintable(zent::getStoreExplanation(exception).view()));
+                               toPrintable(exception.getExplanation().view()));
     } catch (const zent::TarvoException& exception) {
         throw LibraryError(exception.getResultCode(), "UserPreferences", name);
     }

@@ -10,6 +10,7 @@
 #include "Outline.h"
 #include "Text.h"
 #include "ocore/Ajt/TarvoAjtTranslator.h"
+#include "ocore/Checking/SettingsValidator.h"
 #include "ocore/Faults/TarvoException.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
 #include "ocore/Repair/RepairReport.h"
@@ -171,7 +172,7 @@ TicketCheck checkTicket(zent::AttrNodeList ticket, const PrinterChoice& choice) 
     normalize(ticket);
     zent::FeatureSettings settings(&ticket);
     zent::SettingsProblemList problems;
-    printer.getCapabilities().validate(settings, problems);
+    validate(printer.getCapabilities(), settings, problems);
     const zent::RepairReport report(problems, printer.getDefaults().getSettings());
     const OfferMap offers = mapOffers(check.offers);
     for (const RepairEntry* entry : leaveEffective(report.getEntries())) {

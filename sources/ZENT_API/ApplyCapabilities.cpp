@@ -1,6 +1,7 @@
 #include "ZENT_API/ApplyCapabilities.h"
 
 #include "ZENT_API/Arguments.h"
+#include "ocore/Repair/TicketRepair.h"
 #include "ocore/Resources/ResourceLibrary.h"
 #include "plugin_ui/Reports/SettingsProblemReporter.h"
 
@@ -31,12 +32,12 @@ bool check(ZENTSession& session, FeatureSettings& ticket, const ApplyRequest& re
     const Capabilities& capabilities = session.getCapabilities();
     const FeatureSettings& defaults = session.getDefaults().getSettings();
     if (isSilent(request.mode)) {
-        return capabilities.applyCapabilitiesToJobTicket(ticket, defaults, hadProblems,
-                                                         policyOf(request.mode));
+        return applyCapabilitiesToJobTicket(capabilities, ticket, defaults, hadProblems,
+                                            SilentReporter(policyOf(request.mode)));
     }
     const SettingsProblemReporter reporter(request.owner, titleOf(request), offersChoice,
                                            request.mode, policyOf(request.mode));
-    return capabilities.applyCapabilitiesToJobTicket(ticket, defaults, hadProblems, reporter);
+    return applyCapabilitiesToJobTicket(capabilities, ticket, defaults, hadProblems, reporter);
 }
 
 } // namespace

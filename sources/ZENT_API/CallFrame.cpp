@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "ocore/Faults/TarvoException.h"
 #include "platform/System.h"
 #include "plugin_ui/Reports/ExceptionReport.h"
 

@@ -2,6 +2,7 @@
 
 #include "ZENT_API/CallFrame.h"
 #include "ocore/Stock/StockInformation.h"
+#include "ocore/Stock/StockList.h"
 #include "plugin_ui/CurrentWindowSystem.h"
 #include "plugin_ui/Features/JobNotesUIDialog.h"
 
@@ -15,7 +16,8 @@ constexpr bool countsStocks = true;
 /// What the components of a dialog share, and what it points to.
 struct DialogContext {
     explicit DialogContext(ZENTSession& session)
-        : stocks(session), printerStocks(session.getCapabilities().getPrinterStocks()),
+        : stocks(session),
+          printerStocks(StockList::createFromCapabilities(session.getCapabilities())),
           configuration{.capabilities = &session.getCapabilities(),
                         .stockList = printerStocks.get(),
                         .preferences = *session.getUserPreferences(),

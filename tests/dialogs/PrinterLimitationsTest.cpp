@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "dialogs/DialogSession.h"
+#include "ocore/Checking/SettingsValidator.h"
 #include "plugin_ui/Reports/SettingsProblemReporter.h"
 #include "support/OrdoDocument.h"
 
@@ -100,7 +101,7 @@ TEST(PrinterLimitationsTest, ANoticeHasOneButton) {
     for (const bool closes : {false, true}) {
         Settings ticket(listOf("media-col{media-type=handmade}"));
         SettingsProblemList problems;
-        EXPECT_FALSE(capabilities.validate(ticket, problems));
+        EXPECT_FALSE(validate(capabilities, ticket, problems));
         user::onceOpen([&](WindowHandle dialog) {
             platform::WindowSystem& system = windowSystem();
             EXPECT_EQ(system.getText(dialog, item::label), resourceText(11541).view());

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "ocore/Capabilities/Capabilities.h"
+#include "ocore/Checking/SettingsValidator.h"
 #include "ocore/Printer/PrinterDefaults.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/ListText.h"
@@ -53,7 +54,7 @@ void expectOwnStocks(const Capabilities& capabilities) {
         SCOPED_TRACE(textOfList(list));
         FeatureSettings stock(list);
         SettingsProblemList problems;
-        EXPECT_TRUE(capabilities.validate(stock, problems)) << textOfProblems(problems);
+        EXPECT_TRUE(validate(capabilities, stock, problems)) << textOfProblems(problems);
         EXPECT_TRUE(fits(capabilities, stock.getStockSize()));
         EXPECT_TRUE(stock.isSpecified(_FI(feature::mediaKey)) &&
                     keys.insert(stock.getFeatureValue(_FI(feature::mediaKey))).second);

@@ -2,8 +2,9 @@
 
 #include "expected/ExpectedTable.h"
 #include "ocore/Capabilities/Capabilities.h"
+#include "ocore/Checking/SettingsValidator.h"
 #include "ocore/Printer/PrinterDefaults.h"
-#include "plugin_ui/Reports/SettingsProblemReporter.h"
+#include "ocore/Repair/TicketRepair.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/OrdoDocument.h"
 #include "support/ProblemText.h"
@@ -33,16 +34,17 @@ TEST(RepairAmongPrintersTest, ARepairedTicketHasNoProblems) {
             const PrinterDefaults defaults(model, form);
             FeatureSettings own = defaults.getSettings();
             SettingsProblemList none;
-            EXPECT_TRUE(capabilities.validate(own, none)) << textOfProblems(none);
+            EXPECT_TRUE(validate(capabilities, own, none)) << textOfProblems(none);
             for (const FeatureSettings& ticket : tickets) {
                 FeatureSettings repaired = ticket;
                 bool hadProblems = false;
-                EXPECT_TRUE(capabilities.applyCapabilitiesToJobTicket(
-                    repaired, defaults.getSettings(), hadProblems, problemPolicy::repair));
+                EXPECT_TRUE(applyCapabilitiesToJobTicket(capabilities, repaired,
+                                                         defaults.getSettings(), hadProblems,
+                                                         SilentReporter(problemPolicy::repair)));
                 found += hadProblems ? 1 : 0;
                 repaired.normalize(); // as the next import does
                 SettingsProblemList remaining;
-                EXPECT_TRUE(capabilities.validate(repaired, remaining))
+                EXPECT_TRUE(validate(capabilities, repaired, remaining))
                     << textOfProblems(remaining);
             }
         }

@@ -13,10 +13,6 @@
 
 namespace zent {
 
-class SettingsProblemList;
-class SettingsProblemReporter;
-class StockList;
-
 /// What is known of one printer: a list of capabilities, filled once from a capability document and
 /// the printer tables, never changed after that, and read through narrow, typed queries.
 ///
@@ -59,8 +55,6 @@ public:
     /// default is a choice, and "SIZE_OTHER" last, always.
     std::vector<StockSize> getStockSizeValues(bool hasCapability = false) const;
     SizeLimits getStockSizeLimits() const;
-    /// The stocks that the printer reports; none if it reports none.
-    std::unique_ptr<StockList> getPrinterStocks() const;
 
     /// These are true unless the list says otherwise.
     bool allowsEmbeddedSpaces(const _FI& feature) const;
@@ -74,18 +68,6 @@ public:
     const std::vector<_FI>& getCollectionFeatures() const { return m_collectionFeatures; }
 
     AjtPrinterTraits getAjtPrinterTraits() const;
-
-    /// Finds what the printer can't do of a ticket, or of a part of one such as a stock. True if
-    /// there is nothing. The settings aren't changed; the problems point into them.
-    bool validate(Settings& settings, SettingsProblemList& problems) const;
-    /// Validates a ticket and, if the reporter agrees, repairs it by the printer's default
-    /// settings. `hadProblems` tells what was found. False if the user refused the repair: the
-    /// ticket, as it came, isn't to be used then. Where nobody is asked, nobody refuses.
-    bool applyCapabilitiesToJobTicket(Settings& ticket, const Settings& defaults, bool& hadProblems,
-                                      const SettingsProblemReporter& reporter) const;
-    /// The same without a report; `policy` is what the reporter answers.
-    bool applyCapabilitiesToJobTicket(Settings& ticket, const Settings& defaults, bool& hadProblems,
-                                      std::uint32_t policy) const;
 
     /// The capability list by attributes.
     const CapabilityIndex& getIndex() const { return *m_index; }

@@ -4,7 +4,6 @@
 
 #include "ocore/Capabilities/Capabilities.h"
 #include "ocore/Faults/Trace.h"
-#include "ocore/Stock/StockList.h"
 
 namespace zent {
 
@@ -103,13 +102,6 @@ SizeLimits Capabilities::getStockSizeLimits() const {
     getFeatureCapabilities(_FI(feature::xDimension), limits.lowestWidth, limits.highestWidth);
     getFeatureCapabilities(_FI(feature::yDimension), limits.lowestHeight, limits.highestHeight);
     return limits;
-}
-
-std::unique_ptr<StockList> Capabilities::getPrinterStocks() const {
-    const AttrNodeList* database = nullptr;
-    m_settings.getAttrNodeList()->OrdoAttrToList(&database, AttrID(u"media-col-database"));
-    return database == nullptr ? std::make_unique<StockList>()
-                               : StockList::createFromList(*database, StockType::printer);
 }
 
 } // namespace zent

@@ -12,7 +12,6 @@
 #include "ocore/Checking/ValueComparison.h"
 #include "ocore/Faults/Exceptions.h"
 #include "ocore/Faults/Trace.h"
-#include "plugin_ui/Reports/ExceptionReport.h"
 
 namespace zent {
 

@@ -42,4 +42,11 @@ private:
     SettingsProblemList& m_problems;
 };
 
+/// Finds what a printer can't do of a ticket, or of a part of one such as a stock. True if there is
+/// nothing. The settings aren't changed; the problems point into them.
+inline bool validate(const Capabilities& capabilities, Settings& settings,
+                     SettingsProblemList& problems) {
+    return SettingsValidator(capabilities, problems).validate(*settings.getAttrNodeList());
+}
+
 } // namespace zent

@@ -19,10 +19,30 @@ namespace zent {
 class FileException : public TarvoException {
 public:
     using TarvoException::TarvoException;
+    ReportTexts getReportTexts() const override { return {11617, 11618}; }
+};
+
+class ResourceAcquisitionException : public TarvoException {
+public:
+    using TarvoException::TarvoException;
+    ResultCode getResultCode() const override { return ZENT_ERR_RESOURCE; }
+    CXString getErrorId() const override { return u"005:000"; }
+    ReportTexts getReportTexts() const override { return {11610, 11611}; }
+};
+
+/// Failures of the preference store. The second line of the message is for users: where the store
+/// lies and what is wrong with it.
+class RegistryRequestException : public TarvoException {
+public:
+    using TarvoException::TarvoException;
+    ResultCode getResultCode() const override { return ZENT_ERR_REGISTRY; }
+    CXString getErrorId() const override { return u"020:000"; }
+    ReportTexts getReportTexts() const override { return {.failure = 11614}; }
+    /// The message's second line.
+    CXString getExplanation() const override;
 };
 
 // clang-format off
-ZENT_EXCEPTION_CLASS(ResourceAcquisitionException,                TarvoException, "005:000", ZENT_ERR_RESOURCE);
 ZENT_EXCEPTION_CLASS(ExceededNumberOfDlgItems,                    TarvoException, "007:000", ZENT_ERR_INTERNAL_OTHER);
 ZENT_EXCEPTION_CLASS(UnknownCaseException,                        TarvoException, "008:000", ZENT_ERR_INTERNAL_INDEX);
 ZENT_EXCEPTION_CLASS(AttributeTypeMismatchException,              TarvoException, "009:000", ZENT_ERR_ATTRIBUTE_TYPE);
@@ -34,7 +54,6 @@ ZENT_EXCEPTION_CLASS(MissingCapabilityDataException,              TarvoException
 ZENT_EXCEPTION_CLASS(MissingOrBadCompressedBufferFooterException, TarvoException, "017:000", ZENT_ERR_COMPRESSION);
 ZENT_EXCEPTION_CLASS(CompressionException,                        TarvoException, "018:000", ZENT_ERR_COMPRESSION);
 ZENT_EXCEPTION_CLASS(IndexOutOfBoundsException,                   TarvoException, "019:000", ZENT_ERR_INTERNAL_INDEX);
-ZENT_EXCEPTION_CLASS(RegistryRequestException,                    TarvoException, "020:000", ZENT_ERR_REGISTRY);
 ZENT_EXCEPTION_CLASS(ResourceLibraryConstructionException,        TarvoException, "021:000", ZENT_ERR_RESOURCE_LIBRARY);
 ZENT_EXCEPTION_CLASS(CreateFileForReadingException,               FileException,  "022:001", ZENT_ERR_FILE_OPEN_READ);
 ZENT_EXCEPTION_CLASS(ReadFileException,                           FileException,  "022:002", ZENT_ERR_FILE_READ);
@@ -54,10 +73,12 @@ ZENT_EXCEPTION_CLASS(PreferenceDataTypeMismatchException,         TarvoException
 class DevModeOverflowException : public TarvoException {
 public:
     using TarvoException::TarvoException;
+    ReportTexts getReportTexts() const override { return {11608, 11609}; }
 };
 class SpoolDataException : public TarvoException {
 public:
     using TarvoException::TarvoException;
+    ReportTexts getReportTexts() const override { return {11612, 11613}; }
 };
 
 } // namespace zent

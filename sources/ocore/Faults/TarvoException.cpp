@@ -1,11 +1,14 @@
 #include "ocore/Faults/TarvoException.h"
 
 #include <memory>
+#include <new>
+#include <typeinfo>
 #include <utility>
 
 #include "ocore/Faults/OwnedCriticalResource.h"
 #include "ocore/Faults/Trace.h"
 #include "platform/KeepForever.h"
+#include "platform/System.h"
 
 namespace zent {
 
@@ -84,6 +87,30 @@ CXString getErrorNumberText(const std::exception& exception) {
         return u"000:000:000";
     }
     return own->getErrorId() + formatText(":%04d", own->getLocationLine());
+}
+
+ResultCode resultCodeOf(const std::exception& exception) noexcept {
+    if (const auto* own = dynamic_cast<const TarvoException*>(&exception)) {
+        return own->getResultCode();
+    }
+    return dynamic_cast<const std::bad_alloc*>(&exception) != nullptr ? ZENT_ERR_OUT_OF_MEMORY
+                                                                      : ZENT_ERR_STD_EXCEPTION;
+}
+
+CXString getDetailsReport(const std::exception& exception) {
+    CXString details = formatText("%S\r\n", platform::getTypeName(typeid(exception)));
+    const auto* const own = dynamic_cast<const TarvoException*>(&exception);
+    if (own == nullptr) {
+        return details + u"No additional information available.\r\n";
+    }
+    if (const CXString type = own->getErrorType(); !type.isEmpty()) {
+        details += formatText("\tError Type: %s\r\n", type);
+    }
+    details +=
+        formatText("Location: %s, line %d\r\n", own->getLocationFile(), own->getLocationLine());
+    details += u"Message is:\r\n\t";
+    details += own->getMessage();
+    return details;
 }
 
 } // namespace zent

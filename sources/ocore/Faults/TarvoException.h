@@ -22,6 +22,12 @@ constexpr std::uint32_t handleCheck = 32768;
 void setExceptionLocation(const CXString& file, std::int32_t line);
 void setExceptionLevel(std::uint32_t level);
 
+/// The resource strings that tell the user of a failure.
+struct ReportTexts {
+    std::uint32_t failure = 11601; // what failed
+    std::uint32_t advice = 11602;  // what to do about it
+};
+
 /// Base of all failures inside the library. Copies share nothing that can change.
 class TarvoException : public std::exception {
 public:
@@ -37,6 +43,11 @@ public:
     virtual ResultCode getResultCode() const = 0;
     /// Class number, colon, detail number, such as "026:000".
     virtual CXString getErrorId() const = 0;
+    virtual ReportTexts getReportTexts() const { return {}; }
+    /// What only this failure can tell its user; mostly nothing.
+    virtual CXString getExplanation() const { return {}; }
+    /// What kind of failure it is among those of its class, for the trace; mostly nothing.
+    virtual CXString getErrorType() const { return {}; }
 
     const CXString& getLocationFile() const { return m_locationFile; }
     std::int32_t getLocationLine() const { return m_locationLine; }
@@ -54,6 +65,10 @@ private:
 /// "025:000:0674": the error id and the line, which is all that a user can read out on the phone.
 /// "000:000:000" for exceptions that are not the library's own.
 CXString getErrorNumberText(const std::exception& exception);
+/// Type, location and message of an exception, for the trace.
+CXString getDetailsReport(const std::exception& exception);
+/// What an exported call returns for a caught exception.
+ResultCode resultCodeOf(const std::exception& exception) noexcept;
 
 /// The place in the source where an exception is raised.
 struct SourcePlace {

@@ -47,6 +47,8 @@ public:
 
     ResultCode getResultCode() const override;
     CXString getErrorId() const override;
+    ReportTexts getReportTexts() const override { return {11615, 11616}; }
+    CXString getErrorType() const override { return getCodeName(); }
 
 private:
     std::int32_t m_errorCode;

@@ -6,12 +6,12 @@
 
 #include "ocore/Attributes/IppList.h"
 #include "ocore/Attributes/PrimitiveInteger.h"
+#include "ocore/Checking/SettingsValidator.h"
 #include "ocore/Faults/Exceptions.h"
-#include "ocore/Printer/Printer.h"
+#include "ocore/Repair/ProblemReporter.h"
 #include "ocore/Repair/SettingsProblemFixer.h"
 #include "ocore/Resources/ResourceLibrary.h"
 #include "platform/KeepForever.h"
-#include "plugin_ui/Reports/SettingsProblemReporter.h"
 
 namespace zent {
 
@@ -39,7 +39,6 @@ constexpr FeatureEnum descriptionFeatures[] = {
     110, // media-grain
 };
 
-constexpr std::uint32_t problemTitle = 7350;
 constexpr std::uint32_t userSuffix = 7500;
 constexpr std::uint32_t printerSuffix = 7501;
 
@@ -248,16 +247,12 @@ bool Stock::isSameDescription(const Stock& other) const {
     });
 }
 
-bool Stock::validate(Printer& printer, bool mayDecline, platform::WindowHandle parent) {
+bool Stock::validate(const Capabilities& capabilities, const Settings& defaults,
+                     const ProblemReporter& reporter) {
     SettingsProblemList problems;
-    if (printer.getCapabilities().validate(m_settings, problems)) {
+    if (zent::validate(capabilities, m_settings, problems)) {
         return true;
     }
-    // The one mode in which it is for the caller to say whether there is a choice.
-    const SettingsProblemReporter reporter(parent, ResourceLibrary().getString(problemTitle),
-                                           mayDecline, reportMode::silentKeep,
-                                           problemPolicy::repair);
-    const FeatureSettings& defaults = printer.getDefaults().getSettings();
     if (reporter.report(problems, defaults) != problemPolicy::repair) {
         return false;
     }

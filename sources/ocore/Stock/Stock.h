@@ -7,11 +7,11 @@
 #include "ocore/FeatureSettings/FeatureSettings.h"
 #include "ocore/Stock/StockMatch.h"
 #include "ocore/Stock/StockType.h"
-#include "platform/System.h"
 
 namespace zent {
 
-class Printer;
+class Capabilities;
+class ProblemReporter;
 
 /// One kind of paper as a named thing. A ticket carries media by name ("media") or by description
 /// ("media-col"); a stock is either of the two.
@@ -83,10 +83,11 @@ public:
     /// of them can be kept in order.
     std::u16string getDescriptionText() const;
 
-    /// Tells the user what the printer can't do of the stock, if there is anything, and repairs it
-    /// by the printer's default settings; it is the ticket's own then. False if the user declines,
-    /// which only `mayDecline` offers: the stock is left as it was.
-    bool validate(Printer& printer, bool mayDecline, platform::WindowHandle parent);
+    /// Reports what the printer can't do of the stock, if there is anything, and repairs it by the
+    /// printer's default settings; it is the ticket's own then. False if the reporter declines: the
+    /// stock is left as it was.
+    bool validate(const Capabilities& capabilities, const Settings& defaults,
+                  const ProblemReporter& reporter);
 
     /// A hook for diagnosis.
     virtual void dump() const { m_settings.dump(); }

@@ -107,7 +107,7 @@ bool isStoredAlike(const Stock& a, const Stock& b) {
 StockInformation::StockInformation(Printer& printer, MediaPreferences preferences)
     : m_printer(printer), m_preferences(std::move(preferences)) {
     const auto userStocks = m_preferences.getUserStocks();
-    const auto printerStocks = printer.getCapabilities().getPrinterStocks();
+    const auto printerStocks = StockList::createFromCapabilities(printer.getCapabilities());
     m_preferences.applyPrinterFavorites(*printerStocks);
     for (std::uint32_t i = 0; i < printerStocks->getCount(); ++i) {
         insert(m_printerStocks, printerStocks->getStockAt(i));

@@ -4,6 +4,7 @@
 
 #include "ocore/Attributes/AttrNames.h"
 #include "ocore/Attributes/IppList.h"
+#include "ocore/Capabilities/Capabilities.h"
 #include "ocore/Faults/Exceptions.h"
 
 namespace zent {
@@ -51,6 +52,14 @@ std::unique_ptr<StockList> StockList::createFromList(const AttrNodeList& list, S
         }
     }
     return stocks;
+}
+
+std::unique_ptr<StockList> StockList::createFromCapabilities(const Capabilities& capabilities) {
+    const AttrNodeList* database = nullptr;
+    capabilities.getSettings().getAttrNodeList()->OrdoAttrToList(&database,
+                                                                 AttrID(u"media-col-database"));
+    return database == nullptr ? std::make_unique<StockList>()
+                               : createFromList(*database, StockType::printer);
 }
 
 std::unique_ptr<StockList> StockList::createDefaultLibrary() {

@@ -8,6 +8,8 @@
 
 namespace zent {
 
+class Capabilities;
+
 /// Stocks in order, each owned. Copies are deep. Pointers to stocks stay valid until the stock is
 /// removed.
 ///
@@ -27,6 +29,8 @@ public:
     /// media library. Collections that describe none are left out; a "value" that is no list raises
     /// AttributeTypeMismatchException.
     static std::unique_ptr<StockList> createFromList(const AttrNodeList& list, StockType kind);
+    /// The stocks that a printer reports; none if it reports none.
+    static std::unique_ptr<StockList> createFromCapabilities(const Capabilities& capabilities);
     /// What a user begins with: plain white paper, a stock without a name for each usual size, all
     /// of them favourites.
     static std::unique_ptr<StockList> createDefaultLibrary();

@@ -19,14 +19,6 @@ void traceError(const CXString& key, const platform::PreferenceResult& result) {
 
 } // namespace
 
-CXString getStoreExplanation(const RegistryRequestException& exception) {
-    const CXString& message = exception.getMessage();
-    const std::int32_t end = message.find(u"\r\n");
-    CXString line = end < 0 ? CXString() : message.mid(end);
-    line.trim();
-    return line;
-}
-
 bool Registry::getValue(const CXString& key, const CXString& name, ByteBuffer& value) const {
     platform::StoredPreference stored;
     const platform::PreferenceResult result = platform::readPreference(key, name, stored);

@@ -8,13 +8,7 @@
 
 namespace zent {
 
-class RegistryRequestException;
-
 namespace registryType = platform::registryType;
-
-/// The part of the exception's message that is for users, its second line: where the store lies and
-/// what is wrong with it. Empty if there is none.
-CXString getStoreExplanation(const RegistryRequestException& exception);
 
 /// Access to the values of the current user's registry, or what stands in its place, by the path
 /// of a key and a name. Has no state. A failing store raises RegistryRequestException; a key or

@@ -1,13 +1,10 @@
 #include "plugin_ui/Reports/ExceptionReport.h"
 
 #include <new>
-#include <typeinfo>
 
 #include "ocore/Faults/Exceptions.h"
 #include "ocore/Faults/Trace.h"
-#include "ocore/OrdoParse/OrdoParseException.h"
 #include "ocore/Resources/ResourceLibrary.h"
-#include "ocore/User/Registry.h"
 #include "plugin_ui/Reports/UserMessage.h"
 
 namespace zent {
@@ -16,18 +13,11 @@ namespace {
 
 /// Resource strings of the boxes.
 namespace text {
-constexpr std::uint32_t failure = 11601;
-constexpr std::uint32_t failureAdvice = 11602;
 constexpr std::uint32_t title = 11606;
 constexpr std::uint32_t outOfMemory = 11607;
 constexpr std::uint32_t stopping = 11620;
 constexpr std::uint32_t unknownFailureAdvice = 11621;
 } // namespace text
-
-struct MessageIds {
-    std::uint32_t first;
-    std::uint32_t second;
-};
 
 /// How the box gets its title: by number, or as a text if there is one.
 struct Title {
@@ -48,28 +38,6 @@ bool isA(const std::exception& exception) {
     return dynamic_cast<const E*>(&exception) != nullptr;
 }
 
-MessageIds chooseMessages(const std::exception& exception) {
-    if (isA<DevModeOverflowException>(exception)) {
-        return {11608, 11609};
-    }
-    if (isA<ResourceAcquisitionException>(exception)) {
-        return {11610, 11611};
-    }
-    if (isA<SpoolDataException>(exception)) {
-        return {11612, 11613};
-    }
-    if (isA<RegistryRequestException>(exception)) {
-        return {11614, text::failureAdvice};
-    }
-    if (isA<OrdoParseException>(exception)) {
-        return {11615, 11616};
-    }
-    if (isA<FileException>(exception)) {
-        return {11617, 11618};
-    }
-    return {text::failure, text::failureAdvice};
-}
-
 CXString loadTitle(platform::WindowHandle owner, const Title& title) {
     if (!title.text.isEmpty()) {
         return title.text;
@@ -83,21 +51,15 @@ CXString loadTitle(platform::WindowHandle owner, const Title& title) {
     return found.isEmpty() ? ResourceLibrary().getString(text::title) : found;
 }
 
-/// What only this failure can tell its user; mostly nothing.
-CXString explain(const std::exception& exception) {
-    const auto* const store = dynamic_cast<const RegistryRequestException*>(&exception);
-    return store != nullptr ? getStoreExplanation(*store) : CXString();
-}
-
-void compose(UserMessage& message, const Context& context, const CXString& title, MessageIds ids,
+void compose(UserMessage& message, const Context& context, const CXString& title, ReportTexts texts,
              bool isStoppingOffered, const CXString& explanation, const CXString& errorNumber) {
     const ResourceLibrary library;
-    CXString body = library.getString(ids.first);
+    CXString body = library.getString(texts.failure);
     const auto addParagraph = [&body](const CXString& paragraph) {
         body += u"\r\n\r\n";
         body += paragraph;
     };
-    addParagraph(library.getString(ids.second));
+    addParagraph(library.getString(texts.advice));
     if (context.extraMessageId != 0) {
         addParagraph(library.getString(context.extraMessageId));
     }
@@ -158,7 +120,9 @@ std::int32_t showReport(const std::exception& exception, const Title& title,
         const CXString details = getDetailsReport(exception);
         traceReport(context, details);
         UserMessage message(context.owner);
-        compose(message, context, titleText, chooseMessages(exception), false, explain(exception),
+        const auto* const own = dynamic_cast<const TarvoException*>(&exception);
+        compose(message, context, titleText, own != nullptr ? own->getReportTexts() : ReportTexts(),
+                false, own != nullptr ? own->getExplanation() : CXString(),
                 getErrorNumberText(exception));
         answer = message.show();
     });
@@ -182,36 +146,13 @@ bool reportUnknown(const Title& title, const Context& context) noexcept {
         traceReport(context, CXString());
         UserMessage message(context.owner);
         compose(message, context, loadTitle(context.owner, title),
-                {text::failure, text::unknownFailureAdvice}, true, CXString(), CXString());
+                {.advice = text::unknownFailureAdvice}, true, CXString(), CXString());
         isStopping = message.show() == messageAnswer::cancel;
     });
     return isStopping;
 }
 
 } // namespace
-
-ResultCode resultCodeOf(const std::exception& exception) noexcept {
-    if (const auto* own = dynamic_cast<const TarvoException*>(&exception)) {
-        return own->getResultCode();
-    }
-    return isA<std::bad_alloc>(exception) ? ZENT_ERR_OUT_OF_MEMORY : ZENT_ERR_STD_EXCEPTION;
-}
-
-CXString getDetailsReport(const std::exception& exception) {
-    CXString details = formatText("%S\r\n", platform::getTypeName(typeid(exception)));
-    if (const auto* parse = dynamic_cast<const OrdoParseException*>(&exception)) {
-        details += formatText("\tError Type: %s\r\n", parse->getCodeName());
-    }
-    if (const auto* own = dynamic_cast<const TarvoException*>(&exception)) {
-        details +=
-            formatText("Location: %s, line %d\r\n", own->getLocationFile(), own->getLocationLine());
-        details += u"Message is:\r\n\t";
-        details += own->getMessage();
-    } else {
-        details += u"No additional information available.\r\n";
-    }
-    return details;
-}
 
 void reportException(const std::exception& exception, std::uint32_t titleId,
                      const CXString& locationName, std::uint32_t extraMessageId,

@@ -3,17 +3,10 @@
 #include <cstdint>
 #include <exception>
 
-#include "ocore/Faults/ResultCode.h"
 #include "ocore/Text/CXString.h"
 #include "platform/System.h"
 
 namespace zent {
-
-/// What an exported call returns for a caught exception.
-ResultCode resultCodeOf(const std::exception& exception) noexcept;
-
-/// Type, location and message of an exception, for the trace.
-CXString getDetailsReport(const std::exception& exception);
 
 /// Shows a caught exception to the user as a box of resource strings with the error number, and
 /// passes the details to the trace. To be called from the exception's handler: raises nothing of

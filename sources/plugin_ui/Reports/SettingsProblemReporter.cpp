@@ -12,6 +12,7 @@ namespace zent {
 namespace {
 
 namespace text {
+constexpr std::uint32_t stockTitle = 7350;
 constexpr std::uint32_t notice = 11541;
 constexpr std::uint32_t question = 11553;
 constexpr std::uint32_t nothingChanges = 11557;
@@ -19,14 +20,18 @@ constexpr std::uint32_t nothingChanges = 11557;
 
 } // namespace
 
-SettingsProblemReporter::SettingsProblemReporter(std::uint32_t policy)
-    : m_isReporting(false), m_mode(policy), m_policy(policy) {}
-
 SettingsProblemReporter::SettingsProblemReporter(platform::WindowHandle owner,
                                                  const CXString& title, bool offersChoice,
                                                  std::uint32_t mode, std::uint32_t policy)
-    : m_isReporting(true), m_mode(mode), m_title(title), m_owner(owner),
-      m_offersChoice(offersChoice), m_policy(policy) {}
+    : m_owner(owner), m_title(title), m_offersChoice(offersChoice), m_mode(mode), m_policy(policy) {
+}
+
+SettingsProblemReporter SettingsProblemReporter::forStock(platform::WindowHandle owner,
+                                                          bool mayDecline) {
+    // The one mode in which it is for the caller to say whether there is a choice.
+    return {owner, ResourceLibrary().getString(text::stockTitle), mayDecline,
+            reportMode::silentKeep, problemPolicy::repair};
+}
 
 bool SettingsProblemReporter::isChoiceOffered() const {
     return m_offersChoice || m_mode != reportMode::silentKeep;
@@ -47,7 +52,7 @@ CXString SettingsProblemReporter::getLabel() const {
 
 std::uint32_t SettingsProblemReporter::report(const SettingsProblemList& problems,
                                               const Settings& defaults) const {
-    if (problems.isEmpty() || !m_isReporting) {
+    if (problems.isEmpty()) {
         return m_policy;
     }
     const CXString text = RepairReport(problems, defaults).getText(getWording());

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "ocore/Repair/ProblemReporter.h"
 #include "ocore/Repair/RepairReport.h"
 #include "platform/System.h"
 
@@ -10,12 +11,6 @@ class WindowSystem;
 }
 
 namespace zent {
-
-/// What becomes of a ticket with problems. The numbers are those of the interface.
-namespace problemPolicy {
-constexpr std::uint32_t repair = 1;
-constexpr std::uint32_t keep = 2;
-} // namespace problemPolicy
 
 /// How problems are reported. The numbers are those of the interface.
 namespace reportMode {
@@ -27,24 +22,18 @@ constexpr std::uint32_t reportChoice = 5;
 } // namespace reportMode
 
 /// Tells the user of a ticket's problems, and decides what becomes of it.
-class SettingsProblemReporter {
+class SettingsProblemReporter final : public ProblemReporter {
 public:
-    /// Without a report: the policy is the answer.
-    explicit SettingsProblemReporter(std::uint32_t policy);
-    /// With a report. The user's refusal outdoes the policy; `offersChoice` is whether there is
-    /// anything to refuse, which in other modes than silentKeep there always is.
+    /// The user's refusal outdoes the policy; `offersChoice` is whether there is anything to
+    /// refuse, which in other modes than silentKeep there always is.
     SettingsProblemReporter(platform::WindowHandle owner, const CXString& title, bool offersChoice,
                             std::uint32_t mode, std::uint32_t policy);
-    virtual ~SettingsProblemReporter() = default;
+    /// For a stock that the user has described. The title is a resource string's.
+    static SettingsProblemReporter forStock(platform::WindowHandle owner, bool mayDecline);
 
-    bool isSilent() const { return !m_isReporting; }
-    /// A problemPolicy. `defaults` are the printer's default settings, from which repairs take
-    /// their values.
-    std::uint32_t report(const SettingsProblemList& problems, const Settings& defaults) const;
-
-protected:
-    SettingsProblemReporter(const SettingsProblemReporter&) = default;
-    SettingsProblemReporter& operator=(const SettingsProblemReporter&) = default;
+    bool isSilent() const override { return false; }
+    std::uint32_t report(const SettingsProblemList& problems,
+                         const Settings& defaults) const override;
 
 private:
     bool isChoiceOffered() const;
@@ -55,11 +44,10 @@ private:
     /// Where no dialog can be shown.
     bool isRefusedInBox(const CXString& text) const;
 
-    bool m_isReporting;
-    std::uint32_t m_mode;
+    platform::WindowHandle m_owner;
     CXString m_title;
-    platform::WindowHandle m_owner = nullptr;
-    bool m_offersChoice = false;
+    bool m_offersChoice;
+    std::uint32_t m_mode;
     std::uint32_t m_policy;
 };
 

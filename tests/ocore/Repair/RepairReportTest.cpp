@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "ocore/Checking/SettingsValidator.h"
 #include "ocore/Faults/Exceptions.h"
+#include "ocore/Repair/TicketRepair.h"
 #include "plugin_ui/CurrentWindowSystem.h"
 #include "plugin_ui/Reports/BoxCapture.h"
 #include "plugin_ui/Reports/JobTicketUserMessage.h"
@@ -44,7 +46,7 @@ const char* const defaults = "sides=one-sided media-col{media-size{x-dimension=2
 class RepairReportTest : public testing::Test {
 protected:
     RepairReportTest() : m_capabilities((useResourceLibrary(), capabilitiesOf(offered))) {
-        m_capabilities.validate(m_ticket, m_problems);
+        validate(m_capabilities, m_ticket, m_problems);
     }
 
     WindowSystemReplacement m_noWindows{nullptr}; // so that all is asked in boxes
@@ -100,7 +102,7 @@ TEST_F(RepairReportTest, TheListTellsProgramsTheSame) {
                                "job-name=name:" +
                                std::string(256, 'n') + " sides=both"));
     SettingsProblemList problems;
-    m_capabilities.validate(m_ticket, problems);
+    validate(m_capabilities, m_ticket, problems);
     const RepairReport report(problems, m_defaults);
     ASSERT_EQ(report.getEntries().size(), 3U);
     const RepairEntry& name = report.getEntries()[0];
@@ -131,8 +133,8 @@ TEST_F(RepairReportTest, WithoutWindowsABoxAsks) {
         const BoxCapture boxes(button);
         Settings ticket(listOf("copies=2 sides=both"));
         bool hadProblems = false;
-        const bool isUsable = m_capabilities.applyCapabilitiesToJobTicket(
-            ticket, m_defaults, hadProblems,
+        const bool isUsable = applyCapabilitiesToJobTicket(
+            m_capabilities, ticket, m_defaults, hadProblems,
             SettingsProblemReporter(nullptr, u"title", true, reportMode::reportChoice,
                                     problemPolicy::repair));
         EXPECT_TRUE(hadProblems);

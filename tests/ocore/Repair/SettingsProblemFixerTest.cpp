@@ -6,6 +6,7 @@
 #include "ocore/Checking/FailedEmbeddedSpacesCapability.h"
 #include "ocore/Checking/FailedRangeCapability.h"
 #include "ocore/Checking/MissingFeatureProblem.h"
+#include "ocore/Checking/SettingsValidator.h"
 #include "ocore/Checking/UnsupportedAttribute.h"
 #include "ocore/Checking/UnsupportedValue.h"
 #include "ocore/Faults/Exceptions.h"
@@ -47,11 +48,11 @@ protected:
         const Capabilities capabilities = capabilitiesOf(offered, model);
         Settings settings(&ticket);
         SettingsProblemList problems;
-        capabilities.validate(settings, problems);
+        validate(capabilities, settings, problems);
         const Settings values(listOf(defaults));
         SettingsProblemFixer(values).fix(problems);
         SettingsProblemList remaining;
-        EXPECT_TRUE(capabilities.validate(settings, remaining)) << textOfProblems(remaining);
+        EXPECT_TRUE(validate(capabilities, settings, remaining)) << textOfProblems(remaining);
         return textOfList(ticket);
     }
 };

@@ -6,6 +6,7 @@
 #include "ocore/Printer/NonDriverBasedPrinter.h"
 #include "plugin_ui/CurrentWindowSystem.h"
 #include "plugin_ui/Reports/BoxCapture.h"
+#include "plugin_ui/Reports/SettingsProblemReporter.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/ListText.h"
 #include "support/Raised.h"
@@ -169,7 +170,9 @@ TEST(StockTest, IsRepairedUnlessTheUserDeclines) {
         const WindowSystemReplacement noWindows(nullptr);
         const BoxCapture boxes(row.button);
         const auto stock = stockOf(row.ticket, StockType::user);
-        EXPECT_EQ(stock->validate(printer, row.mayDecline, nullptr), row.isValid);
+        EXPECT_EQ(stock->validate(printer.getCapabilities(), printer.getDefaults().getSettings(),
+                                  SettingsProblemReporter::forStock(nullptr, row.mayDecline)),
+                  row.isValid);
         EXPECT_EQ(stock->getKind(), row.kind);
         EXPECT_EQ(settingsOf(*stock), row.settings);
         ASSERT_EQ(boxes.shown().size(), row.boxes);
