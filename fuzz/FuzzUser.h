@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "SessionArguments.h"
-#include "plugin_ui/CurrentWindowSystem.h"
+#include "plugin_ui/Reports/CurrentWindowSystem.h"
 #include "plugin_ui/Reports/UserMessage.h"
 #include "support/FakeWindowSystem.h"
 

@@ -3,8 +3,8 @@
 #include "ZENT_API/CallFrame.h"
 #include "ocore/Stock/StockInformation.h"
 #include "ocore/Stock/StockList.h"
-#include "plugin_ui/CurrentWindowSystem.h"
 #include "plugin_ui/Features/JobNotesUIDialog.h"
+#include "plugin_ui/Reports/CurrentWindowSystem.h"
 
 using namespace zent;
 

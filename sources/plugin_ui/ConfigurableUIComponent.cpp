@@ -1,18 +1,17 @@
 #include "plugin_ui/ConfigurableUIComponent.h"
 
-#include "plugin_ui/Features/UIFeature.h"
-
 namespace zent {
 
 bool ConfigurableUIComponent::configure() {
     std::size_t survivors = 0;
     for (std::size_t i = 0; i < getChildren().size();) {
-        auto* const feature = dynamic_cast<UIFeature*>(getChildren()[i].get());
-        if (feature != nullptr && !feature->isSupported()) {
-            removeChild(*feature);
+        MessageProcessor& child = *getChildren()[i];
+        const Support support = child.getSupport();
+        if (support == Support::unsupported) {
+            removeChild(child);
             continue;
         }
-        survivors += feature != nullptr ? 1 : 0;
+        survivors += support == Support::supported ? 1 : 0;
         ++i;
     }
     return survivors > 0;
@@ -21,9 +20,7 @@ bool ConfigurableUIComponent::configure() {
 void ConfigurableUIComponent::setParentFeature(FeatureEnum feature) {
     m_parentFeature = feature;
     for (const auto& child : getChildren()) {
-        if (auto* const childFeature = dynamic_cast<UIFeature*>(child.get())) {
-            childFeature->setParentFeature(feature);
-        }
+        child->setParentFeature(feature);
     }
 }
 

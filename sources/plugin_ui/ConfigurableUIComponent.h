@@ -21,7 +21,7 @@ public:
     /// hidden. Returns whether any of the children is a feature that stays.
     virtual bool configure();
     /// The page-level feature that this works in. Goes on to the children that are features.
-    virtual void setParentFeature(FeatureEnum feature);
+    void setParentFeature(FeatureEnum feature) override;
 
     UIConfiguration& getConfiguration() const { return m_configuration; }
     const Capabilities& getCapabilities() const { return *m_configuration.capabilities; }

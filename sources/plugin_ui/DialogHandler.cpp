@@ -2,8 +2,8 @@
 
 #include "ocore/Stock/StockInformation.h"
 #include "platform/KeepForever.h"
-#include "plugin_ui/CurrentWindowSystem.h"
 #include "plugin_ui/FirstFailure.h"
+#include "plugin_ui/Reports/CurrentWindowSystem.h"
 #include "plugin_ui/Reports/ExceptionReport.h"
 
 namespace zent {

@@ -1,8 +1,33 @@
 #include "plugin_ui/MessageProcessor.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace zent {
 
 namespace {
+
+struct Handler {
+    std::uint32_t message;
+    bool (MessageProcessor::*handle)(const DialogMessage&, std::intptr_t&);
+};
+
+constexpr Handler handlers[] = {
+    {platform::event::initDialog, &MessageProcessor::onInitDialog},
+    {platform::event::command, &MessageProcessor::onCommand},
+    {platform::event::notify, &MessageProcessor::onNotify},
+    {platform::event::destroy, &MessageProcessor::onDestroy},
+    {UIM_SHOW, &MessageProcessor::onShow},
+    {UIM_HIDE, &MessageProcessor::onHide},
+    {UIM_ENABLE, &MessageProcessor::onEnable},
+    {UIM_DISABLE, &MessageProcessor::onDisable},
+    {UIM_VALIDATE, &MessageProcessor::onValidate},
+    {UIM_VALIDATE_FOR_SAVE, &MessageProcessor::onValidateForSave},
+    {UIM_SETTINGS_CHANGED, &MessageProcessor::onSettingsChanged},
+    {UIM_FEATURE_ANNOUNCE, &MessageProcessor::onFeatureAnnounce},
+    {UIM_LOCK, &MessageProcessor::onLock},
+    {UIM_UNLOCK, &MessageProcessor::onUnlock},
+};
 
 /// The answer of a node whose children have no objection: only a refusal ends the walk.
 bool concludeValidation(bool isAccepted, std::intptr_t& result) {
@@ -13,78 +38,9 @@ bool concludeValidation(bool isAccepted, std::intptr_t& result) {
 } // namespace
 
 bool MessageProcessor::processMessage(const DialogMessage& message, std::intptr_t& result) {
-    switch (message.getMessage()) {
-    case platform::event::initDialog:
-        return onInitDialog(message, result);
-    case platform::event::command:
-        return onCommand(message, result);
-    case platform::event::notify:
-        return onNotify(message, result);
-    case platform::event::destroy:
-        return onDestroy(message, result);
-    case UIM_SHOW:
-        return onShow(message, result);
-    case UIM_HIDE:
-        return onHide(message, result);
-    case UIM_ENABLE:
-        return onEnable(message, result);
-    case UIM_DISABLE:
-        return onDisable(message, result);
-    case UIM_VALIDATE:
-        return onValidate(message, result);
-    case UIM_VALIDATE_FOR_SAVE:
-        return onValidateForSave(message, result);
-    case UIM_SETTINGS_CHANGED:
-        return onSettingsChanged(message, result);
-    case UIM_FEATURE_ANNOUNCE:
-        return onFeatureAnnounce(message, result);
-    case UIM_LOCK:
-        return onLock(message, result);
-    case UIM_UNLOCK:
-        return onUnlock(message, result);
-    default:
-        return onOtherMessage(message, result);
-    }
-}
-
-bool MessageProcessor::onInitDialog(const DialogMessage& message, std::intptr_t& result) {
-    return processChildren(message, result);
-}
-bool MessageProcessor::onCommand(const DialogMessage& message, std::intptr_t& result) {
-    return processChildren(message, result);
-}
-bool MessageProcessor::onNotify(const DialogMessage& message, std::intptr_t& result) {
-    return processChildren(message, result);
-}
-bool MessageProcessor::onShow(const DialogMessage& message, std::intptr_t& result) {
-    return processChildren(message, result);
-}
-bool MessageProcessor::onHide(const DialogMessage& message, std::intptr_t& result) {
-    return processChildren(message, result);
-}
-bool MessageProcessor::onEnable(const DialogMessage& message, std::intptr_t& result) {
-    return processChildren(message, result);
-}
-bool MessageProcessor::onDisable(const DialogMessage& message, std::intptr_t& result) {
-    return processChildren(message, result);
-}
-bool MessageProcessor::onSettingsChanged(const DialogMessage& message, std::intptr_t& result) {
-    return processChildren(message, result);
-}
-bool MessageProcessor::onOtherMessage(const DialogMessage& message, std::intptr_t& result) {
-    return processChildren(message, result);
-}
-bool MessageProcessor::onDestroy(const DialogMessage& message, std::intptr_t& result) {
-    return processChildren(message, result);
-}
-bool MessageProcessor::onFeatureAnnounce(const DialogMessage& message, std::intptr_t& result) {
-    return processChildren(message, result);
-}
-bool MessageProcessor::onLock(const DialogMessage& message, std::intptr_t& result) {
-    return processChildren(message, result);
-}
-bool MessageProcessor::onUnlock(const DialogMessage& message, std::intptr_t& result) {
-    return processChildren(message, result);
+    const auto* const row = std::ranges::find(handlers, message.getMessage(), &Handler::message);
+    const auto handle = row != std::end(handlers) ? row->handle : &MessageProcessor::onOtherMessage;
+    return (this->*handle)(message, result);
 }
 
 bool MessageProcessor::onValidate(const DialogMessage& message, std::intptr_t& result) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "plugin_ui/DialogMessage.h"
 #include "plugin_ui/UIComponent.h"
 
@@ -16,29 +17,40 @@ public:
         return false;
     }
 
-    // What is told of none of them below, they only pass the message on.
-    virtual bool onInitDialog(const DialogMessage& message, std::intptr_t& result);
-    virtual bool onCommand(const DialogMessage& message, std::intptr_t& result);
-    virtual bool onNotify(const DialogMessage& message, std::intptr_t& result);
-    virtual bool onShow(const DialogMessage& message, std::intptr_t& result);
-    virtual bool onHide(const DialogMessage& message, std::intptr_t& result);
-    virtual bool onEnable(const DialogMessage& message, std::intptr_t& result);
-    virtual bool onDisable(const DialogMessage& message, std::intptr_t& result);
+    // A handler that a class doesn't replace only passes the message on.
+#define ZENT_MESSAGE_HANDLER(name)                                                                 \
+    virtual bool name(const DialogMessage& message, std::intptr_t& result) {                       \
+        return processChildren(message, result);                                                   \
+    }
+    ZENT_MESSAGE_HANDLER(onInitDialog)
+    ZENT_MESSAGE_HANDLER(onCommand)
+    ZENT_MESSAGE_HANDLER(onNotify)
+    ZENT_MESSAGE_HANDLER(onShow)
+    ZENT_MESSAGE_HANDLER(onHide)
+    ZENT_MESSAGE_HANDLER(onEnable)
+    ZENT_MESSAGE_HANDLER(onDisable)
+    ZENT_MESSAGE_HANDLER(onSettingsChanged)
+    ZENT_MESSAGE_HANDLER(onOtherMessage)
+    ZENT_MESSAGE_HANDLER(onDestroy)
+    ZENT_MESSAGE_HANDLER(onFeatureAnnounce)
+    ZENT_MESSAGE_HANDLER(onLock)
+    ZENT_MESSAGE_HANDLER(onUnlock)
+#undef ZENT_MESSAGE_HANDLER
     /// Children first: the first refusal ends the walk, and is the result. With none, asks
     /// validate().
     virtual bool onValidate(const DialogMessage& message, std::intptr_t& result);
     virtual bool onValidateForSave(const DialogMessage& message, std::intptr_t& result);
-    virtual bool onSettingsChanged(const DialogMessage& message, std::intptr_t& result);
-    virtual bool onOtherMessage(const DialogMessage& message, std::intptr_t& result);
-    virtual bool onDestroy(const DialogMessage& message, std::intptr_t& result);
-    virtual bool onFeatureAnnounce(const DialogMessage& message, std::intptr_t& result);
-    virtual bool onLock(const DialogMessage& message, std::intptr_t& result);
-    virtual bool onUnlock(const DialogMessage& message, std::intptr_t& result);
 
     /// Whether what the user has entered may go into the ticket, or into a file. One that refuses
     /// has told the user why.
     virtual bool validate(platform::WindowHandle /*window*/) { return true; }
     virtual bool validateForSave(platform::WindowHandle window) { return validate(window); }
+
+    // What concerns components that stand for a feature of the ticket; others know nothing of it.
+    enum class Support { notAFeature, supported, unsupported };
+    virtual Support getSupport() { return Support::notAFeature; }
+    virtual void setParentFeature(FeatureEnum /*feature*/) {}
+    virtual void setSettings(FeatureSettings* /*settings*/) {}
 };
 
 } // namespace zent

@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include "plugin_ui/CurrentWindowSystem.h"
 #include "plugin_ui/DialogFitting.h"
 #include "plugin_ui/DialogValidation.h"
+#include "plugin_ui/Reports/CurrentWindowSystem.h"
 
 namespace zent {
 

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "plugin_ui/CurrentWindowSystem.h"
+#include "plugin_ui/Reports/CurrentWindowSystem.h"
 #include "plugin_ui/Reports/UserMessage.h"
 #include "support/AllocationFailure.h"
 #include "support/EveryCall.h"

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "ZENT_API/ZENTSession.h"
-#include "plugin_ui/CurrentWindowSystem.h"
 #include "plugin_ui/Reports/BoxCapture.h"
+#include "plugin_ui/Reports/CurrentWindowSystem.h"
 #include "support/DialogUser.h"
 #include "support/ListText.h"
 #include "support/ScratchPreferences.h"

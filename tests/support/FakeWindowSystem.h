@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "plugin_ui/CurrentWindowSystem.h"
+#include "plugin_ui/Reports/CurrentWindowSystem.h"
 
 namespace zent::test {
 

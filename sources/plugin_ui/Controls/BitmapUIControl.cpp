@@ -1,6 +1,6 @@
 #include "plugin_ui/Controls/BitmapUIControl.h"
 
-#include "plugin_ui/CurrentWindowSystem.h"
+#include "plugin_ui/Reports/CurrentWindowSystem.h"
 
 namespace zent {
 

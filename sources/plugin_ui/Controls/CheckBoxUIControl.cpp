@@ -1,7 +1,7 @@
 #include "plugin_ui/Controls/CheckBoxUIControl.h"
 
 #include "ocore/Resources/ResourceLibrary.h"
-#include "plugin_ui/CurrentWindowSystem.h"
+#include "plugin_ui/Reports/CurrentWindowSystem.h"
 
 namespace zent {
 

@@ -5,7 +5,7 @@
 
 #include "ocore/Faults/Exceptions.h"
 #include "plugin_ui/Controls/CharacterFilter.h"
-#include "plugin_ui/CurrentWindowSystem.h"
+#include "plugin_ui/Reports/CurrentWindowSystem.h"
 
 namespace zent {
 

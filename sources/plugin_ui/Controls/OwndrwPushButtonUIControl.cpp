@@ -1,6 +1,6 @@
 #include "plugin_ui/Controls/OwndrwPushButtonUIControl.h"
 
-#include "plugin_ui/CurrentWindowSystem.h"
+#include "plugin_ui/Reports/CurrentWindowSystem.h"
 
 namespace zent {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "plugin_ui/CurrentWindowSystem.h"
+#include "plugin_ui/Reports/CurrentWindowSystem.h"
 
 namespace zent {
 

@@ -1,7 +1,7 @@
 #include "plugin_ui/Controls/TextBoxUIControl.h"
 
 #include "ocore/Faults/Exceptions.h"
-#include "plugin_ui/CurrentWindowSystem.h"
+#include "plugin_ui/Reports/CurrentWindowSystem.h"
 
 namespace zent {
 

@@ -1,7 +1,7 @@
 #include "plugin_ui/Controls/UIControl.h"
 
-#include "plugin_ui/CurrentWindowSystem.h"
 #include "plugin_ui/FirstFailure.h"
+#include "plugin_ui/Reports/CurrentWindowSystem.h"
 
 namespace zent {
 

@@ -1,8 +1,8 @@
 #include "plugin_ui/Features/UIFeature.h"
 
 #include "plugin_ui/Controls/StaticUIControl.h"
-#include "plugin_ui/CurrentWindowSystem.h"
 #include "plugin_ui/FirstFailure.h"
+#include "plugin_ui/Reports/CurrentWindowSystem.h"
 
 namespace zent {
 
@@ -35,9 +35,7 @@ bool UIFeature::onDestroy(const DialogMessage& message, std::intptr_t& result) {
 void UIFeature::setSettings(FeatureSettings* settings) {
     m_settings = settings;
     for (const auto& child : getChildren()) {
-        if (auto* const feature = dynamic_cast<UIFeature*>(child.get())) {
-            feature->setSettings(settings);
-        }
+        child->setSettings(settings);
     }
 }
 

@@ -17,6 +17,7 @@ public:
     virtual FeatureSettings* getSettings() { return m_settings; }
     /// Whether the printer has the feature. If not, this object goes before the dialog starts.
     virtual bool isSupported() = 0;
+    Support getSupport() final { return isSupported() ? Support::supported : Support::unsupported; }
     /// Makes the controls show what the settings hold.
     virtual void updateFeatureWithNewSettings() = 0;
     /// Fills the controls with what the printer offers: once per start of the dialog, after the
@@ -30,7 +31,7 @@ public:
     bool onDestroy(const DialogMessage& message, std::intptr_t& result) override;
 
     /// Also for the children that are features.
-    void setSettings(FeatureSettings* settings);
+    void setSettings(FeatureSettings* settings) override;
 
 protected:
     platform::WindowHandle getWindow() const { return m_window; }

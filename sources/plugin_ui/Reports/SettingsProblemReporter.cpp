@@ -3,7 +3,7 @@
 #include "ocore/Faults/TarvoException.h"
 #include "ocore/Faults/Trace.h"
 #include "ocore/Resources/ResourceLibrary.h"
-#include "plugin_ui/CurrentWindowSystem.h"
+#include "plugin_ui/Reports/CurrentWindowSystem.h"
 #include "plugin_ui/Reports/PrinterLimitationsDialog.h"
 #include "plugin_ui/Reports/UserMessage.h"
 

@@ -4,8 +4,8 @@
 
 #include "PrintText.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
-#include "plugin_ui/CurrentWindowSystem.h"
 #include "plugin_ui/Reports/BoxCapture.h"
+#include "plugin_ui/Reports/CurrentWindowSystem.h"
 #include "plugin_ui/Reports/SettingsProblemReporter.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/ListText.h"

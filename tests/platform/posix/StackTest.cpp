@@ -6,7 +6,7 @@
 #include <pthread.h>
 #include <sys/mman.h>
 
-#include "plugin_ui/CurrentWindowSystem.h"
+#include "plugin_ui/Reports/CurrentWindowSystem.h"
 #include "plugin_ui/Reports/UserMessage.h"
 #include "support/EveryCall.h"
 #include "support/ScratchPreferences.h"

@@ -1,4 +1,4 @@
-#include "plugin_ui/CurrentWindowSystem.h"
+#include "plugin_ui/Reports/CurrentWindowSystem.h"
 
 #include <atomic>
 
