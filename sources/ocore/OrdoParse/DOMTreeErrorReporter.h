@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include <xercesc/sax/ErrorHandler.hpp>
 
 #include "ocore/Text/CXString.h"
@@ -29,7 +31,7 @@ public:
     const CXString& getMessages() const { return m_messages; }
 
 private:
-    void add(const char* format, const xercesc::SAXParseException& report);
+    void add(std::u16string_view kind, const xercesc::SAXParseException& report);
 
     bool m_warningSeen = false;
     bool m_errorSeen = false;

@@ -1,8 +1,11 @@
 #include "ocore/OrdoParse/ParserMemory.h"
 
 #include <algorithm>
+#include <atomic>
 #include <limits>
+#include <memory>
 #include <new>
+#include <utility>
 
 #include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
@@ -22,7 +25,28 @@ struct ParserMemory::Large {
     std::size_t bytes;
 };
 
+namespace {
+
+// What waits for the next document. Whoever uses it has taken it away.
+std::atomic<std::byte*> keptPiece{nullptr};
+std::atomic<void*> keptSpare{nullptr};
+
+std::unique_ptr<std::byte[]> takePiece(std::size_t size) {
+    std::unique_ptr<std::byte[]> piece(keptPiece.exchange(nullptr));
+    return piece != nullptr ? std::move(piece) : std::make_unique_for_overwrite<std::byte[]>(size);
+}
+
+} // namespace
+
+ParserMemory::ParserMemory(std::size_t bytes, std::size_t blocks)
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): what is released below is kept
+    : m_mostBytes(bytes), m_mostBlocks(blocks), m_firstPiece(takePiece(firstPiece)),
+      m_pieces(m_firstPiece.get(), firstPiece, std::pmr::new_delete_resource()),
+      m_spare(static_cast<Large*>(keptSpare.exchange(nullptr))) {}
+
 ParserMemory::~ParserMemory() {
+    delete[] keptPiece.exchange(m_firstPiece.release());
+    ::operator delete(keptSpare.exchange(m_spare));
     for (Large* block = m_newest; block != nullptr;) {
         Large* const older = block->older;
         ::operator delete(block);
@@ -75,7 +99,9 @@ ParserMemory::Head* ParserMemory::allocateLarge(std::size_t size) {
     if (size > std::numeric_limits<std::size_t>::max() - heads) {
         throw std::bad_alloc();
     }
-    auto* const block = new (::operator new(heads + size)) Large{m_newest, nullptr, size};
+    const bool isSpare = m_spare != nullptr && m_spare->bytes == size;
+    void* const memory = isSpare ? std::exchange(m_spare, nullptr) : ::operator new(heads + size);
+    auto* const block = new (memory) Large{m_newest, nullptr, size};
     m_bytes += size;
     if (m_newest != nullptr) {
         m_newest->newer = block;
@@ -89,6 +115,9 @@ void ParserMemory::deallocateLarge(Large* block) {
     (block->newer != nullptr ? block->newer->older : m_newest) = block->older;
     if (block->older != nullptr) {
         block->older->newer = block->newer;
+    }
+    if (block->bytes <= largestSpare) {
+        std::swap(block, m_spare);
     }
     ::operator delete(block);
 }

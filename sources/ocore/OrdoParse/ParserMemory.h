@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <memory>
 #include <memory_resource>
 
 #include <xercesc/framework/MemoryManager.hpp>
@@ -16,7 +17,10 @@ namespace zent {
 ///
 /// A parser asks for some hundreds of small blocks before it has read anything, which is a third of
 /// the time that a short ticket takes. So these are cut from one piece and used again by size; the
-/// heap serves large ones alone.
+/// heap serves large ones alone. The last of those to come back waits for the next of its size: a
+/// parser takes one for each entity that it reads, and for hundreds of them in a document type. It
+/// and the first piece wait for the next document, too, since heaps give so much memory back to the
+/// system, and get it anew page by page.
 ///
 /// It also bounds what a hostile document makes the parser keep before any event tells of it, such
 /// as the attributes of a tag that doesn't end.
@@ -28,8 +32,7 @@ public:
     static constexpr std::size_t unbounded = std::numeric_limits<std::size_t>::max();
 
     /// `bytes` is what may be out at a time, `blocks` how many may be asked for between two events.
-    explicit ParserMemory(std::size_t bytes = unbounded, std::size_t blocks = unbounded)
-        : m_mostBytes(bytes), m_mostBlocks(blocks) {}
+    explicit ParserMemory(std::size_t bytes = unbounded, std::size_t blocks = unbounded);
     ~ParserMemory() override;
     ParserMemory(const ParserMemory&) = delete;
     ParserMemory& operator=(const ParserMemory&) = delete;
@@ -52,6 +55,7 @@ private:
     static constexpr std::size_t step = 64;        // the sizes of small blocks, in bytes
     static constexpr std::size_t sizeClasses = 65; // of up to 4 KiB; class 0 stays empty
     static constexpr std::size_t firstPiece = std::size_t{96} * 1024;
+    static constexpr std::size_t largestSpare = std::size_t{256} * 1024;
 
     Head* allocateSmall(std::size_t sizeClass);
     Head* allocateLarge(std::size_t size);
@@ -61,9 +65,11 @@ private:
     std::size_t m_mostBlocks;
     std::size_t m_bytes = 0;
     std::size_t m_blocks = 0;
-    std::pmr::monotonic_buffer_resource m_pieces{firstPiece, std::pmr::new_delete_resource()};
+    std::unique_ptr<std::byte[]> m_firstPiece;
+    std::pmr::monotonic_buffer_resource m_pieces;
     std::array<Head*, sizeClasses> m_free{}; // blocks to be used again
     Large* m_newest = nullptr;
+    Large* m_spare = nullptr; // not among those that are out
 };
 
 } // namespace zent
