@@ -2,6 +2,7 @@
 // footer of level, size and signature. Mutated as bytes a stream is only ever damaged; so it is
 // expanded, mutated as the document or the fields that it holds, and compressed anew.
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <string>
@@ -26,17 +27,23 @@ struct Blob {
     std::string footer; // after the stream: a level, a size and a signature
 };
 
+/// What the stream at the beginning holds. `used` becomes the stream's size.
 std::optional<std::string> expand(const std::string& bytes, std::size_t& used) {
-    std::string content(mostExpanded, '\0');
-    auto size = static_cast<uLongf>(content.size());
-    auto length = static_cast<uLong>(bytes.size());
-    if (uncompress2(reinterpret_cast<Bytef*>(content.data()), &size,
-                    reinterpret_cast<const Bytef*>(bytes.data()), &length) != Z_OK) {
-        return std::nullopt;
+    std::string content;
+    int result = Z_BUF_ERROR;
+    for (std::size_t room = 4 * bytes.size() + 64; result == Z_BUF_ERROR; room *= 8) {
+        content.resize(std::min(room, mostExpanded));
+        auto size = static_cast<uLongf>(content.size());
+        auto length = static_cast<uLong>(bytes.size());
+        result = uncompress2(reinterpret_cast<Bytef*>(content.data()), &size,
+                             reinterpret_cast<const Bytef*>(bytes.data()), &length);
+        used = length;
+        content.resize(size);
+        if (room >= mostExpanded) {
+            break;
+        }
     }
-    used = length;
-    content.resize(size);
-    return content;
+    return result == Z_OK ? std::optional(content) : std::nullopt;
 }
 
 /// The places where a stream can begin: at once, or after the choice of the target and a header.

@@ -137,11 +137,13 @@ public:
             return m_document;
         }
         static constexpr std::array kinds{
-            &Mutation::remove,      &Mutation::repeat,      &Mutation::insertCopy,
-            &Mutation::insert,      &Mutation::rename,      &Mutation::changeSyntax,
-            &Mutation::setText,     &Mutation::mutateText,  &Mutation::wrap,
-            &Mutation::repeatOften, &Mutation::insertEntity};
-        return (this->*pick(kinds, m_random))(pick(m_elements, m_random));
+            &Mutation::remove, &Mutation::repeat,       &Mutation::insert,  &Mutation::insertCopy,
+            &Mutation::rename, &Mutation::changeSyntax, &Mutation::setText, &Mutation::mutateText,
+            &Mutation::wrap,   &Mutation::change};
+        // A large document takes the time of many small ones, and large ones breed larger ones.
+        const bool shrinks = m_document.size() > large && below(m_random, 8) != 0;
+        const auto kind = shrinks ? &Mutation::remove : pick(kinds, m_random);
+        return (this->*kind)(pick(m_elements, m_random));
     }
 
     /// With something in an element: before all else in it or after that.
@@ -157,11 +159,22 @@ public:
         return replaced(place, place, content);
     }
 
+    /// One of the smaller elements, most often.
     std::string pickText() {
-        return m_elements.empty() ? std::string() : textOf(pick(m_elements, m_random));
+        if (m_elements.empty()) {
+            return {};
+        }
+        constexpr int tries = 4;
+        std::string text = textOf(pick(m_elements, m_random));
+        for (int i = 0; i < tries && text.size() > large / 4; ++i) {
+            text = textOf(pick(m_elements, m_random));
+        }
+        return text;
     }
 
 private:
+    static constexpr std::size_t large = 4096;
+
     std::string replaced(std::size_t begin, std::size_t end, const std::string& by) const {
         return m_document.substr(0, begin) + by + m_document.substr(end);
     }
@@ -183,6 +196,17 @@ private:
             }
         }
         return replaced(element.end, element.end, copies);
+    }
+    /// What makes a document slow to read is rare.
+    std::string change(const Element& element) {
+        switch (below(m_random, 16)) {
+        case 0:
+            return repeatOften(element);
+        case 1:
+            return insertEntity(element);
+        default:
+            return setText(element);
+        }
     }
     std::string insertCopy(const Element& element) { return put(textOf(element)); }
     std::string insert(const Element& /*element*/) {

@@ -164,7 +164,7 @@ public:
     explicit Play(FuzzInput input) : m_input(input) {}
 
     void run() {
-        constexpr int mostActs = 64;
+        constexpr int mostActs = 24;
         for (int acts = 0; acts < mostActs && !m_input.isAtEnd(); ++acts) {
             act();
             require(readFile() == m_file);
