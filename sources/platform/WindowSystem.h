@@ -95,9 +95,9 @@ using CharacterFilter = std::function<bool(std::u16string_view text, std::int32_
 ///
 /// The order of events. Creating a dialog makes all windows from the template and then sends
 /// event::initDialog (wParam 0, lParam 0), before anything is visible. The user's acts arrive as
-/// commands and notifications. What the program does itself raises no event, but for setText and
-/// setNumber on edit items, which raise notification::editChanged whenever the text changes, and
-/// for send(), which is what it says. event::destroy comes last, when the items still stand.
+/// commands and notifications. What the program does itself raises no event, but for setText
+/// on edit items, which raises notification::editChanged whenever the text changes, and for send(),
+/// which is what it says. event::destroy comes last, when the items still stand.
 ///
 /// Text crosses the port as plain UTF-16, since an adapter may be a library of its own. Lines in it
 /// end with CR LF, in edit items of several lines too; those of one line keep what they are given.
@@ -187,12 +187,6 @@ public:
 
     // ---- Edit items ----------------------------------------------------------------------------
 
-    /// A decimal number as the text; -1 as unsigned is 4294967295.
-    virtual void setNumber(WindowHandle dialog, std::uint16_t item, std::int32_t number,
-                           bool isSigned) = 0;
-    /// The number that the text begins with, behind blanks; 0 if it is none or too large. "-" is
-    /// part of it only if signed.
-    virtual std::int32_t getNumber(WindowHandle dialog, std::uint16_t item, bool isSigned) = 0;
     /// How much the user can enter, in UTF-16 units: of what would go beyond, as many whole
     /// characters as there is room for. 0 for as much as the window system takes.
     virtual void setTextLimit(WindowHandle dialog, std::uint16_t item, std::uint32_t units) = 0;

@@ -189,23 +189,8 @@ TEST_F(WindowSystemTest, ALineIsTakenUpToItsEnd) {
     });
 }
 
-TEST_F(WindowSystemTest, NumbersAndLines) {
+TEST_F(WindowSystemTest, Lines) {
     run([&](WindowHandle dialog) {
-        for (const auto& [text, asSigned, asUnsigned] :
-             Rows<const char16_t*, std::int32_t, std::int32_t>{{u"", 0, 0},
-                                                               {u"  42 sheets", 42, 42},
-                                                               {u"-5", -5, 0},
-                                                               {u"4294967295", 0, -1},
-                                                               {u"99999999999999999999", 0, 0}}) {
-            windows().setText(dialog, number, text);
-            EXPECT_EQ(windows().getNumber(dialog, number, true), asSigned);
-            EXPECT_EQ(windows().getNumber(dialog, number, false), asUnsigned);
-        }
-        EXPECT_EQ(told([&] { windows().setNumber(dialog, number, -1, true); }), "command 10 768");
-        EXPECT_EQ(windows().getText(dialog, number), u"-1");
-        windows().setNumber(dialog, number, -1, false);
-        EXPECT_EQ(windows().getText(dialog, number), u"4294967295");
-
         user::type(dialog, notes, u"\rtwo");
         EXPECT_EQ(windows().getText(dialog, notes), u"one\r\ntwo");
         windows().selectText(dialog, notes, 3, 6);

@@ -91,6 +91,20 @@ TEST(NumberTextTest, Texts) {
     EXPECT_EQ(formatDecimal(1.26, 3), u"1.3");
 }
 
+TEST(NumberTextTest, TextsBeginWithWholeNumbers) {
+    for (const auto& [text, asSigned, asUnsigned] :
+         Rows<const char16_t*, std::int64_t, std::int64_t>{{u"", 0, 0},
+                                                           {u"  42 sheets", 42, 42},
+                                                           {u"-5", -5, 0},
+                                                           {u"-2147483648", -2147483648LL, 0},
+                                                           {u"2147483648", 0, 2147483648LL},
+                                                           {u"4294967295", 0, 4294967295LL},
+                                                           {u"99999999999999999999", 0, 0}}) {
+        EXPECT_EQ(parseInteger(text, true), asSigned);
+        EXPECT_EQ(parseInteger(text, false), asUnsigned);
+    }
+}
+
 TEST(NumberTextTest, StepsGoAgainstTheSign) {
     const NumberBounds<double> decimals{-1, 2};
     EXPECT_DOUBLE_EQ(stepDecimal(0.5, 1, -1, &decimals), 0.6);

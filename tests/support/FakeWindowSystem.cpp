@@ -269,22 +269,6 @@ std::vector<platform::WindowSystem::Item> FakeWindowSystem::getItems(Window dial
 void FakeWindowSystem::moveItem(Window dialog, std::size_t index, const Rectangle& place) {
     findDialog(dialog)->items.at(index).place = place;
 }
-void FakeWindowSystem::setNumber(Window dialog, Id id, std::int32_t number, bool isSigned) {
-    setText(dialog, id,
-            isSigned ? CXString::Format(u"%d", number)
-                     : CXString::Format(u"%u", static_cast<std::uint32_t>(number)));
-}
-std::int32_t FakeWindowSystem::getNumber(Window dialog, Id id, bool isSigned) {
-    const std::string text = CXString(getText(dialog, id)).toNarrow();
-    try {
-        const std::int64_t number = std::stoll(text);
-        const bool fits = isSigned ? number == static_cast<std::int32_t>(number)
-                                   : number == static_cast<std::uint32_t>(number);
-        return fits ? static_cast<std::int32_t>(number) : 0;
-    } catch (const std::logic_error&) {
-        return 0;
-    }
-}
 void FakeWindowSystem::setDefaultButton(Window dialog, Id id) {
     findDialog(dialog)->defaultButton = id;
 }

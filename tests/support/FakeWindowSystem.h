@@ -109,8 +109,6 @@ public:
     void setToolTip(Window dialog, Id id, std::u16string_view text) override {
         at(dialog, id).toolTip = text;
     }
-    void setNumber(Window dialog, Id id, std::int32_t number, bool isSigned) override;
-    std::int32_t getNumber(Window dialog, Id id, bool isSigned) override;
     void setTextLimit(Window /*dialog*/, Id /*id*/, std::uint32_t /*units*/) override {}
     bool setCharacterFilter(Window dialog, Id id, platform::CharacterFilter filter) override {
         at(dialog, id).filter = std::move(filter);

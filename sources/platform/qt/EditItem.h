@@ -11,9 +11,6 @@ public:
     static std::unique_ptr<Item> make(Dialog& dialog, const DialogTemplate::Item& source);
 
     void setFilter(CharacterFilter filter) { m_rule.filter = std::move(filter); }
-    // As the port tells them.
-    void setNumber(std::int32_t number, bool isSigned);
-    std::int32_t number(bool isSigned) const;
     /// 0 for none.
     void setLimit(std::uint32_t units);
     /// Positions count a line end of several lines as two, as the text of the port has it; an `end`

@@ -221,16 +221,6 @@ void QtWindowSystem::setToolTip(WindowHandle dialog, std::uint16_t item, std::u1
 
 // ---- Edit items --------------------------------------------------------------------------------
 
-void QtWindowSystem::setNumber(WindowHandle dialog, std::uint16_t item, std::int32_t number,
-                               bool isSigned) {
-    onItem<EditItem>(dialog, item, [&](EditItem& found) { found.setNumber(number, isSigned); });
-}
-
-std::int32_t QtWindowSystem::getNumber(WindowHandle dialog, std::uint16_t item, bool isSigned) {
-    return onItem<EditItem>(dialog, item,
-                            [&](const EditItem& found) { return found.number(isSigned); });
-}
-
 void QtWindowSystem::setTextLimit(WindowHandle dialog, std::uint16_t item, std::uint32_t units) {
     onItem<EditItem>(dialog, item, [&](EditItem& found) { found.setLimit(units); });
 }

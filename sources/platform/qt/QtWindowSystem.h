@@ -47,9 +47,6 @@ public:
 
     // ---- Edit items ----------------------------------------------------------------------------
 
-    void setNumber(WindowHandle dialog, std::uint16_t item, std::int32_t number,
-                   bool isSigned) override;
-    std::int32_t getNumber(WindowHandle dialog, std::uint16_t item, bool isSigned) override;
     void setTextLimit(WindowHandle dialog, std::uint16_t item, std::uint32_t units) override;
     bool setCharacterFilter(WindowHandle dialog, std::uint16_t item,
                             CharacterFilter filter) override;

@@ -1,9 +1,5 @@
 // Edit items, and the edit part of combo boxes.
 
-#include <algorithm>
-#include <limits>
-#include <string>
-
 #include "platform/win32/DialogItem.h"
 #include "platform/win32/EditFilter.h"
 #include "platform/win32/Win32WindowSystem.h"
@@ -31,41 +27,7 @@ EditFilter* findOrAttachFilter(HWND edit) {
     return static_cast<EditFilter*>(SubclassedItem::of(edit));
 }
 
-/// The number that a text begins with, 0 if it is none or lies beyond a limit.
-std::int64_t parseNumber(std::u16string_view text, bool isSigned) {
-    const std::size_t start = std::min(text.find_first_not_of(u" \t"), text.size());
-    text.remove_prefix(start);
-    const bool isNegative = isSigned && text.starts_with(u'-');
-    text.remove_prefix(isNegative ? 1 : 0);
-    const std::int64_t limit =
-        isSigned ? std::numeric_limits<std::int32_t>::max() + std::int64_t{isNegative}
-                 : std::int64_t{std::numeric_limits<std::uint32_t>::max()};
-    std::int64_t number = 0;
-    for (const char16_t digit : text.substr(0, text.find_first_not_of(u"0123456789"))) {
-        number = number * 10 + (digit - u'0');
-        if (number > limit) {
-            return 0;
-        }
-    }
-    return isNegative ? -number : number;
-}
-
 } // namespace
-
-void Win32WindowSystem::setNumber(WindowHandle dialog, std::uint16_t item, std::int32_t number,
-                                  bool isSigned) {
-    if (DialogItem(dialog, item, edits)) {
-        const std::string digits =
-            isSigned ? std::to_string(number) : std::to_string(static_cast<std::uint32_t>(number));
-        setText(dialog, item, std::u16string(digits.begin(), digits.end()));
-    }
-}
-
-std::int32_t Win32WindowSystem::getNumber(WindowHandle dialog, std::uint16_t item, bool isSigned) {
-    const DialogItem found(dialog, item, edits);
-    return found ? static_cast<std::int32_t>(parseNumber(getWindowText(found.window()), isSigned))
-                 : 0;
-}
 
 void Win32WindowSystem::setTextLimit(WindowHandle dialog, std::uint16_t item, std::uint32_t units) {
     if (const DialogItem found(dialog, item, edits); found) {

@@ -72,13 +72,13 @@ void NumberBoxUIControl::displayControl() {
     }
     switch (m_numberType) {
     case NumberType::unsignedInteger:
-        system.setNumber(getWindow(), m_editId, getInteger(), false);
+        system.setText(getWindow(), m_editId, CXString::Format(u"%u", getInteger()));
         return;
     case NumberType::decimal:
         system.setText(getWindow(), m_editId, formatDecimal(m_value, m_decimals));
         return;
     case NumberType::signedInteger:
-        system.setNumber(getWindow(), m_editId, getInteger(), true);
+        system.setText(getWindow(), m_editId, CXString::Format(u"%d", getInteger()));
         return;
     }
     Raise<UnknownCaseException>{}(
@@ -130,14 +130,14 @@ bool NumberBoxUIControl::processControlMessage(const DialogMessage& message,
 }
 
 double NumberBoxUIControl::readNumber() const {
-    platform::WindowSystem& system = windowSystem();
+    const std::u16string text = windowSystem().getText(getWindow(), m_editId);
     switch (m_numberType) {
     case NumberType::unsignedInteger:
-        return static_cast<std::uint32_t>(system.getNumber(getWindow(), m_editId, false));
+        return static_cast<double>(parseInteger(text, false));
     case NumberType::decimal:
-        return parseDecimal(system.getText(getWindow(), m_editId));
+        return parseDecimal(text);
     case NumberType::signedInteger:
-        return system.getNumber(getWindow(), m_editId, true);
+        return static_cast<double>(parseInteger(text, true));
     }
     Raise<UnknownCaseException>{}(
         "NumberBoxUIControl::displayControl() Unknown ANL value for disposition.\r\n");
@@ -162,7 +162,7 @@ void NumberBoxUIControl::handleLeave() {
         return;
     }
     const auto [lower, upper] = *m_integerBounds;
-    const std::int32_t number = windowSystem().getNumber(getWindow(), m_editId, true);
+    const std::int64_t number = parseInteger(windowSystem().getText(getWindow(), m_editId), true);
     if (number < lower || number > upper) {
         setValue(number < lower ? lower : upper);
         notifyObservers();

@@ -12,6 +12,23 @@ std::uint16_t countDigits(std::int32_t number) {
     return static_cast<std::uint16_t>(std::to_string(number).size());
 }
 
+std::int64_t parseInteger(std::u16string_view text, bool isSigned) {
+    text.remove_prefix(std::min(text.find_first_not_of(u" \t"), text.size()));
+    const bool isNegative = isSigned && text.starts_with(u'-');
+    text.remove_prefix(isNegative ? 1 : 0);
+    const std::int64_t limit =
+        isSigned ? std::numeric_limits<std::int32_t>::max() + std::int64_t{isNegative}
+                 : std::int64_t{std::numeric_limits<std::uint32_t>::max()};
+    std::int64_t number = 0;
+    for (const char16_t digit : text.substr(0, text.find_first_not_of(u"0123456789"))) {
+        number = number * 10 + (digit - u'0');
+        if (number > limit) {
+            return 0;
+        }
+    }
+    return isNegative ? -number : number;
+}
+
 double parseDecimal(std::u16string_view text) {
     const auto first = std::ranges::find_if(text, [](char16_t unit) { return unit != u' '; });
     std::string narrow;

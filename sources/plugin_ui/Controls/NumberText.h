@@ -13,6 +13,9 @@ enum class NumberType : std::int32_t { unsignedInteger = 1, decimal = 2, signedI
 /// The length that the text of a number needs: its digits, and the sign of a negative one.
 std::uint16_t countDigits(std::int32_t number);
 
+/// The whole number that a text begins with, after blanks; 0 if it is none, or has more than 32
+/// bits. "-" is part of it only if signed.
+std::int64_t parseInteger(std::u16string_view text, bool isSigned);
 /// The number that a text begins with, 0 if it is none; whatever the locale.
 double parseDecimal(std::u16string_view text);
 /// With two digits behind the point if so many are asked for, with one for any other number.
