@@ -5,11 +5,9 @@
 #include <typeinfo>
 
 #include "ocore/Text/CXString.h"
+#include "platform/WindowHandle.h"
 
 namespace zent::platform {
-
-/// A window of the application, or null.
-using WindowHandle = void*;
 
 /// Shows a titled text with an icon and buttons and returns the button pressed (1 OK, 2 Cancel).
 /// `flags` are those of the Windows message box: 16, 32, 48, 64 icons, 8192 task modal, 1 OK and

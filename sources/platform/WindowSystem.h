@@ -2,93 +2,16 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "platform/Dialog.h"
 #include "platform/ResourceModule.h"
-#include "platform/System.h"
 
 namespace zent::platform {
-
-/// Numbers of the events of a dialog. They are those of the Windows dialog manager, whichever
-/// toolkit is below.
-namespace event {
-constexpr std::uint32_t destroy = 2;
-constexpr std::uint32_t drawItem = 0x2B; // wParam: the item; lParam: a const DrawRequest*
-constexpr std::uint32_t notify = 78;     // wParam: the item; lParam: a const Notification*
-constexpr std::uint32_t initDialog = 272;
-constexpr std::uint32_t command = 273;          // wParam: the item, and a notification code << 16
-constexpr std::uint32_t horizontalScroll = 276; // wParam: position << 16; lParam: the item
-} // namespace event
-
-/// Notification codes of event::command, by the kind of item.
-namespace notification {
-constexpr std::uint32_t clicked = 0;           // buttons of all kinds
-constexpr std::uint32_t comboSelected = 1;     // the user chose an item
-constexpr std::uint32_t comboEdited = 5;       // the text of an editable combo box changed
-constexpr std::uint32_t listSelected = 1;      // list boxes
-constexpr std::uint32_t listDoubleClicked = 2; // list boxes
-constexpr std::uint32_t editChanged = 0x300;   // after each change of the text, by whomever
-constexpr std::uint32_t editLeft = 0x200;      // the item lost the keyboard focus
-// Codes of event::notify.
-constexpr std::int32_t spinStep = -722;
-constexpr std::int32_t listViewChanged = -101; // a row's selection or check mark
-constexpr std::int32_t listViewActivated = -3; // double click
-} // namespace notification
-
-/// What happened to an item, for event::notify.
-struct Notification {
-    std::uint16_t item = 0;
-    std::int32_t code = 0;
-    std::int32_t row = -1;     // list views: the row
-    std::int32_t column = 0;   // list views
-    std::int32_t position = 0; // spins: before the step
-    std::int32_t delta = 0;    // spins: 1 down, -1 up, or more
-};
-
-/// An owner-drawn button that wants drawing, for event::drawItem. It is valid during the event.
-struct DrawRequest {
-    std::uint16_t item = 0;
-    std::uint32_t action = 1; // bit 1 the whole item, bit 2 the selection changed
-    std::uint32_t state = 0;  // bit 1 pressed, bit 4 disabled
-    void* canvas = nullptr;   // for WindowSystem::drawBitmap
-};
-
-/// A rectangle in pixels; right and bottom lie just outside.
-struct Rectangle {
-    std::int32_t left = 0;
-    std::int32_t top = 0;
-    std::int32_t right = 0;
-    std::int32_t bottom = 0;
-    std::int32_t width() const { return right - left; }
-    std::int32_t height() const { return bottom - top; }
-    bool operator==(const Rectangle&) const = default;
-};
-
-/// Receives the events of one dialog, on the thread that runs it.
-class DialogProcedure {
-public:
-    virtual ~DialogProcedure() = default;
-    /// Returns whether the event was handled; `result` is the message result, read back by
-    /// WindowSystem::send. Words that hold pointers are pointer-sized. No exception may leave but
-    /// one that is to end in the application.
-    virtual bool processEvent(WindowHandle dialog, std::uint32_t message, std::uintptr_t wParam,
-                              std::intptr_t lParam, std::intptr_t& result) = 0;
-
-protected:
-    DialogProcedure() = default;
-    DialogProcedure(const DialogProcedure&) = default;
-    DialogProcedure& operator=(const DialogProcedure&) = default;
-};
-
-/// Says whether a character may be typed into an edit item: given the item's text, the part of it
-/// that is selected ([start, end), equal for none), and the character.
-using CharacterFilter = std::function<bool(std::u16string_view text, std::int32_t selectionStart,
-                                           std::int32_t selectionEnd, char16_t character)>;
 
 /// The window system, at the level of a dialog and its items. All of it belongs to the thread that
 /// runs the dialog; items are named by their id in the template.
@@ -134,27 +57,44 @@ public:
     virtual WindowHandle createModeless(std::span<const std::byte> dialogTemplate,
                                         const ResourceModule& resources, WindowHandle owner,
                                         DialogProcedure& procedure) = 0;
+    /// The dialog that a window is; for any other, one that isn't there.
+    virtual Dialog& getDialog(WindowHandle /*window*/) { return none<Dialog>(); }
+
     /// Ends a modal dialog when the event at hand is done; validation has passed.
-    virtual void endDialog(WindowHandle dialog, std::intptr_t value) = 0;
-    virtual void destroyDialog(WindowHandle dialog) = 0;
+    virtual void endDialog(WindowHandle dialog, std::intptr_t value) {
+        getDialog(dialog).end(value);
+    }
+    virtual void destroyDialog(WindowHandle dialog) { getDialog(dialog).destroy(); }
     /// Delivers a message to the dialog's procedure, now, and gives the message result.
     virtual std::intptr_t send(WindowHandle dialog, std::uint32_t message, std::uintptr_t wParam,
-                               std::intptr_t lParam) = 0;
+                               std::intptr_t lParam) {
+        return getDialog(dialog).send(message, wParam, lParam);
+    }
     /// Tells the sheet that holds the dialog, if any, that something changed.
-    virtual void reportChanged(WindowHandle dialog) = 0;
+    virtual void reportChanged(WindowHandle dialog) { getDialog(dialog).reportChanged(); }
 
-    virtual void setCaption(WindowHandle dialog, std::u16string_view text) = 0;
+    virtual void setCaption(WindowHandle dialog, std::u16string_view text) {
+        getDialog(dialog).setCaption(text);
+    }
     /// Of any window of the application, not only a dialog.
     virtual std::u16string getCaption(WindowHandle window) = 0;
-    virtual bool isVisible(WindowHandle dialog) = 0;
+    virtual bool isVisible(WindowHandle dialog) { return getDialog(dialog).isVisible(); }
     /// Of a dialog on the screen, its frame included, and the inner area, from (0, 0).
-    virtual Rectangle getWindowRectangle(WindowHandle dialog) = 0;
-    virtual Rectangle getClientRectangle(WindowHandle dialog) = 0;
-    virtual void moveWindow(WindowHandle dialog, const Rectangle& place) = 0;
+    virtual Rectangle getWindowRectangle(WindowHandle dialog) {
+        return getDialog(dialog).getWindowRectangle();
+    }
+    virtual Rectangle getClientRectangle(WindowHandle dialog) {
+        return getDialog(dialog).getClientRectangle();
+    }
+    virtual void moveWindow(WindowHandle dialog, const Rectangle& place) {
+        getDialog(dialog).moveTo(place);
+    }
     /// What of the screen is free for windows.
-    virtual Rectangle getWorkArea(WindowHandle dialog) = 0;
+    virtual Rectangle getWorkArea(WindowHandle dialog) { return getDialog(dialog).getWorkArea(); }
     /// Dialog units of this dialog's font as pixels.
-    virtual Rectangle mapDialogUnits(WindowHandle dialog, const Rectangle& units) = 0;
+    virtual Rectangle mapDialogUnits(WindowHandle dialog, const Rectangle& units) {
+        return getDialog(dialog).mapDialogUnits(units);
+    }
 
     // ---- Any item ------------------------------------------------------------------------------
 
@@ -166,91 +106,178 @@ public:
         /// radio button, also a default or an owner-drawn button, but no plain one.
         bool isMarkedButton = false;
     };
-    virtual std::vector<Item> getItems(WindowHandle dialog) = 0;
-    virtual bool hasItem(WindowHandle dialog, std::uint16_t item) = 0;
+    virtual std::vector<Item> getItems(WindowHandle dialog) {
+        std::vector<Item> items;
+        for (const DialogItem* const item : getDialog(dialog).getItems()) {
+            items.push_back({item->getId(), item->getPlace(), item->isMarkedButton()});
+        }
+        return items;
+    }
+    virtual bool hasItem(WindowHandle dialog, std::uint16_t item) {
+        return getDialog(dialog).item<DialogItem>(item).isThere();
+    }
     /// Moves the item at an index of getItems, since labels may share an id.
-    virtual void moveItem(WindowHandle dialog, std::size_t index, const Rectangle& place) = 0;
-    virtual void showItem(WindowHandle dialog, std::uint16_t item, bool isShown) = 0;
-    virtual bool isItemShown(WindowHandle dialog, std::uint16_t item) = 0;
-    virtual void enableItem(WindowHandle dialog, std::uint16_t item, bool isEnabled) = 0;
-    virtual bool isItemEnabled(WindowHandle dialog, std::uint16_t item) = 0;
-    virtual void focusItem(WindowHandle dialog, std::uint16_t item) = 0;
+    virtual void moveItem(WindowHandle dialog, std::size_t index, const Rectangle& place) {
+        getDialog(dialog).getItems().at(index)->moveTo(place);
+    }
+    virtual void showItem(WindowHandle dialog, std::uint16_t item, bool isShown) {
+        getDialog(dialog).item<DialogItem>(item).show(isShown);
+    }
+    virtual bool isItemShown(WindowHandle dialog, std::uint16_t item) {
+        return getDialog(dialog).item<DialogItem>(item).isShown();
+    }
+    virtual void enableItem(WindowHandle dialog, std::uint16_t item, bool isEnabled) {
+        getDialog(dialog).item<DialogItem>(item).enable(isEnabled);
+    }
+    virtual bool isItemEnabled(WindowHandle dialog, std::uint16_t item) {
+        return getDialog(dialog).item<DialogItem>(item).isEnabled();
+    }
+    virtual void focusItem(WindowHandle dialog, std::uint16_t item) {
+        getDialog(dialog).item<DialogItem>(item).focus();
+    }
     /// Takes an item away for good.
-    virtual void removeItem(WindowHandle dialog, std::uint16_t item) = 0;
-    virtual void setText(WindowHandle dialog, std::uint16_t item, std::u16string_view text) = 0;
-    virtual std::u16string getText(WindowHandle dialog, std::uint16_t item) = 0;
-    virtual void setToolTip(WindowHandle dialog, std::uint16_t item, std::u16string_view text) = 0;
+    virtual void removeItem(WindowHandle dialog, std::uint16_t item) {
+        getDialog(dialog).item<DialogItem>(item).remove();
+    }
+    virtual void setText(WindowHandle dialog, std::uint16_t item, std::u16string_view text) {
+        getDialog(dialog).item<DialogItem>(item).setText(text);
+    }
+    virtual std::u16string getText(WindowHandle dialog, std::uint16_t item) {
+        return getDialog(dialog).item<DialogItem>(item).getText();
+    }
+    virtual void setToolTip(WindowHandle dialog, std::uint16_t item, std::u16string_view text) {
+        getDialog(dialog).item<DialogItem>(item).setToolTip(text);
+    }
     /// Keeps a number with an item under a name, for programs that look at the dialog from outside:
     /// a window property, until the dialog's end. Does nothing where windows have none.
-    virtual void setProperty(WindowHandle /*dialog*/, std::uint16_t /*item*/,
-                             std::u16string_view /*name*/, std::uintptr_t /*value*/) {}
+    virtual void setProperty(WindowHandle dialog, std::uint16_t item, std::u16string_view name,
+                             std::uintptr_t value) {
+        getDialog(dialog).item<DialogItem>(item).setProperty(name, value);
+    }
 
     // ---- Edit items ----------------------------------------------------------------------------
 
     /// How much the user can enter, in UTF-16 units: of what would go beyond, as many whole
     /// characters as there is room for. 0 for as much as the window system takes.
-    virtual void setTextLimit(WindowHandle dialog, std::uint16_t item, std::uint32_t units) = 0;
+    virtual void setTextLimit(WindowHandle dialog, std::uint16_t item, std::uint32_t units) {
+        getDialog(dialog).item<TextItem>(item).setLimit(units);
+    }
     /// Asked for each character that is typed or pasted, for one of two units twice, and takes both
     /// or none; what it refuses is dropped in silence. Backspace, Escape and the keys of the
     /// keyboard's own editing are never refused. False if the window system can't do it.
     virtual bool setCharacterFilter(WindowHandle dialog, std::uint16_t item,
-                                    CharacterFilter filter) = 0;
+                                    CharacterFilter filter) {
+        return getDialog(dialog).item<TextItem>(item).setFilter(std::move(filter));
+    }
     virtual void selectText(WindowHandle dialog, std::uint16_t item, std::int32_t start,
-                            std::int32_t end) = 0;
+                            std::int32_t end) {
+        getDialog(dialog).item<TextItem>(item).selectText(start, end);
+    }
     /// Lets a read-only edit item look like part of the page.
-    virtual void setTransparent(WindowHandle dialog, std::uint16_t item) = 0;
+    virtual void setTransparent(WindowHandle dialog, std::uint16_t item) {
+        getDialog(dialog).item<TextItem>(item).setTransparent();
+    }
 
     // ---- Buttons, check boxes and radio buttons ------------------------------------------------
 
     /// Makes a push button the one that Enter presses, in place of the one that was.
-    virtual void setDefaultButton(WindowHandle dialog, std::uint16_t item) = 0;
-    virtual void setChecked(WindowHandle dialog, std::uint16_t item, bool isChecked) = 0;
-    virtual bool isChecked(WindowHandle dialog, std::uint16_t item) = 0;
+    virtual void setDefaultButton(WindowHandle dialog, std::uint16_t item) {
+        getDialog(dialog).item<ButtonItem>(item).makeDefault();
+    }
+    virtual void setChecked(WindowHandle dialog, std::uint16_t item, bool isChecked) {
+        getDialog(dialog).item<ButtonItem>(item).setChecked(isChecked);
+    }
+    virtual bool isChecked(WindowHandle dialog, std::uint16_t item) {
+        return getDialog(dialog).item<ButtonItem>(item).isChecked();
+    }
 
     // ---- Combo boxes and list boxes ------------------------------------------------------------
 
-    virtual void clearList(WindowHandle dialog, std::uint16_t item) = 0;
+    virtual void clearList(WindowHandle dialog, std::uint16_t item) {
+        getDialog(dialog).item<ChoiceItem>(item).clear();
+    }
     /// `position` -1 appends. Gives the index.
     virtual std::int32_t addToList(WindowHandle dialog, std::uint16_t item,
                                    std::u16string_view text, std::uintptr_t value,
-                                   std::int32_t position) = 0;
-    virtual void removeFromList(WindowHandle dialog, std::uint16_t item, std::int32_t index) = 0;
-    virtual std::int32_t getListCount(WindowHandle dialog, std::uint16_t item) = 0;
+                                   std::int32_t position) {
+        return getDialog(dialog).item<ChoiceItem>(item).add(text, value, position);
+    }
+    virtual void removeFromList(WindowHandle dialog, std::uint16_t item, std::int32_t index) {
+        getDialog(dialog).item<ChoiceItem>(item).removeEntry(index);
+    }
+    virtual std::int32_t getListCount(WindowHandle dialog, std::uint16_t item) {
+        return getDialog(dialog).item<ChoiceItem>(item).getCount();
+    }
     /// -1 for none.
-    virtual std::int32_t getSelected(WindowHandle dialog, std::uint16_t item) = 0;
-    virtual void select(WindowHandle dialog, std::uint16_t item, std::int32_t index) = 0;
+    virtual std::int32_t getSelected(WindowHandle dialog, std::uint16_t item) {
+        return getDialog(dialog).item<ChoiceItem>(item).getSelected();
+    }
+    virtual void select(WindowHandle dialog, std::uint16_t item, std::int32_t index) {
+        getDialog(dialog).item<ChoiceItem>(item).select(index);
+    }
     virtual std::u16string getListText(WindowHandle dialog, std::uint16_t item,
-                                       std::int32_t index) = 0;
+                                       std::int32_t index) {
+        return getDialog(dialog).item<ChoiceItem>(item).getEntryText(index);
+    }
     virtual void setListText(WindowHandle dialog, std::uint16_t item, std::int32_t index,
-                             std::u16string_view text) = 0;
+                             std::u16string_view text) {
+        getDialog(dialog).item<ChoiceItem>(item).setEntryText(index, text);
+    }
     virtual std::uintptr_t getListValue(WindowHandle dialog, std::uint16_t item,
-                                        std::int32_t index) = 0;
+                                        std::int32_t index) {
+        return getDialog(dialog).item<ChoiceItem>(item).getEntryValue(index);
+    }
 
     // ---- List views ----------------------------------------------------------------------------
 
-    enum class ListViewStyle { icons, details, checkedDetails };
-    virtual void setListViewStyle(WindowHandle dialog, std::uint16_t item, ListViewStyle style) = 0;
+    using ListViewStyle = RowsItem::Style;
+    virtual void setListViewStyle(WindowHandle dialog, std::uint16_t item, ListViewStyle style) {
+        getDialog(dialog).item<RowsItem>(item).setStyle(style);
+    }
     /// `width` in pixels.
     virtual void addColumn(WindowHandle dialog, std::uint16_t item, std::u16string_view title,
-                           std::int32_t width) = 0;
+                           std::int32_t width) {
+        getDialog(dialog).item<RowsItem>(item).addColumn(title, width);
+    }
     /// `icon` is an icon resource, 0 for none. Gives the row.
     virtual std::int32_t addRow(WindowHandle dialog, std::uint16_t item, std::u16string_view text,
-                                std::uint32_t icon, std::uintptr_t value) = 0;
+                                std::uint32_t icon, std::uintptr_t value) {
+        return getDialog(dialog).item<RowsItem>(item).addRow(text, icon, value);
+    }
     virtual void setCell(WindowHandle dialog, std::uint16_t item, std::int32_t row,
-                         std::int32_t column, std::u16string_view text) = 0;
+                         std::int32_t column, std::u16string_view text) {
+        getDialog(dialog).item<RowsItem>(item).setCell(row, column, text);
+    }
     virtual std::u16string getCell(WindowHandle dialog, std::uint16_t item, std::int32_t row,
-                                   std::int32_t column) = 0;
-    virtual void removeRow(WindowHandle dialog, std::uint16_t item, std::int32_t row) = 0;
-    virtual void clearRows(WindowHandle dialog, std::uint16_t item) = 0;
-    virtual std::int32_t getRowCount(WindowHandle dialog, std::uint16_t item) = 0;
-    virtual std::uintptr_t getRowValue(WindowHandle dialog, std::uint16_t item,
-                                       std::int32_t row) = 0;
-    virtual std::vector<std::int32_t> getSelectedRows(WindowHandle dialog, std::uint16_t item) = 0;
+                                   std::int32_t column) {
+        return getDialog(dialog).item<RowsItem>(item).getCell(row, column);
+    }
+    virtual void removeRow(WindowHandle dialog, std::uint16_t item, std::int32_t row) {
+        getDialog(dialog).item<RowsItem>(item).removeRow(row);
+    }
+    virtual void clearRows(WindowHandle dialog, std::uint16_t item) {
+        getDialog(dialog).item<RowsItem>(item).clearRows();
+    }
+    virtual std::int32_t getRowCount(WindowHandle dialog, std::uint16_t item) {
+        return getDialog(dialog).item<RowsItem>(item).getRowCount();
+    }
+    virtual std::uintptr_t getRowValue(WindowHandle dialog, std::uint16_t item, std::int32_t row) {
+        return getDialog(dialog).item<RowsItem>(item).getRowValue(row);
+    }
+    virtual std::vector<std::int32_t> getSelectedRows(WindowHandle dialog, std::uint16_t item) {
+        return getDialog(dialog).item<RowsItem>(item).getSelectedRows();
+    }
     /// Selects this row alone; -1 for none.
-    virtual void selectRow(WindowHandle dialog, std::uint16_t item, std::int32_t row) = 0;
+    virtual void selectRow(WindowHandle dialog, std::uint16_t item, std::int32_t row) {
+        getDialog(dialog).item<RowsItem>(item).selectRow(row);
+    }
     virtual void setRowChecked(WindowHandle dialog, std::uint16_t item, std::int32_t row,
-                               bool isChecked) = 0;
-    virtual bool isRowChecked(WindowHandle dialog, std::uint16_t item, std::int32_t row) = 0;
+                               bool isChecked) {
+        getDialog(dialog).item<RowsItem>(item).setRowChecked(row, isChecked);
+    }
+    virtual bool isRowChecked(WindowHandle dialog, std::uint16_t item, std::int32_t row) {
+        return getDialog(dialog).item<RowsItem>(item).isRowChecked(row);
+    }
 
     // ---- Sliders, scroll bars and spins --------------------------------------------------------
 
@@ -258,9 +285,15 @@ public:
     // notification::spinStep is not 0. The text of its buddy follows if its style says so.
 
     virtual void setRange(WindowHandle dialog, std::uint16_t item, std::int32_t lower,
-                          std::int32_t upper) = 0;
-    virtual void setPosition(WindowHandle dialog, std::uint16_t item, std::int32_t position) = 0;
-    virtual std::int32_t getPosition(WindowHandle dialog, std::uint16_t item) = 0;
+                          std::int32_t upper) {
+        getDialog(dialog).item<RangeItem>(item).setRange(lower, upper);
+    }
+    virtual void setPosition(WindowHandle dialog, std::uint16_t item, std::int32_t position) {
+        getDialog(dialog).item<RangeItem>(item).setPosition(position);
+    }
+    virtual std::int32_t getPosition(WindowHandle dialog, std::uint16_t item) {
+        return getDialog(dialog).item<RangeItem>(item).getPosition();
+    }
 
     // ---- Pictures ------------------------------------------------------------------------------
 
@@ -268,10 +301,14 @@ public:
     /// out. 0 shows none. `clearsGround`: unless it is set, what was shown there before may stay
     /// under the bitmap until the item is drawn again.
     virtual void setBitmap(WindowHandle dialog, std::uint16_t item, std::uint32_t bitmap,
-                           bool clearsGround) = 0;
+                           bool clearsGround) {
+        getDialog(dialog).item<PictureItem>(item).setBitmap(bitmap, clearsGround);
+    }
     /// Draws a bitmap resource, masked likewise, during event::drawItem.
-    virtual void drawBitmap(WindowHandle dialog, const DrawRequest& request,
-                            std::uint32_t bitmap) = 0;
+    virtual void drawBitmap(WindowHandle /*dialog*/, const DrawRequest& request,
+                            std::uint32_t bitmap) {
+        request.drawBitmap(bitmap);
+    }
 
     // ---- Beside dialogs ------------------------------------------------------------------------
 

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "platform/DialogEvents.h"
+#include "platform/DialogItems.h"
+#include "platform/KeepForever.h"
+#include "platform/WindowHandle.h"
+
+namespace zent::platform {
+
+/// The object of a class that stands for what isn't there: a dialog, or a kind of item.
+template <typename Kind>
+Kind& none() {
+    static Kind& object = keepForever<Kind>();
+    return object;
+}
+
+/// An open dialog. All of it belongs to the thread that runs the dialog.
+///
+/// The order of events. Creating a dialog makes all windows from the template and then sends
+/// event::initDialog (wParam 0, lParam 0), before anything is visible. The user's acts arrive as
+/// commands and notifications. What the program does itself raises no event, but for setText on
+/// edit items, which raises notification::editChanged whenever the text changes, and for send(),
+/// which is what it says. event::destroy comes last, when the items still stand.
+///
+/// What this class does by itself is nothing: so it stands for a dialog that isn't there.
+class Dialog {
+public:
+    Dialog() = default;
+    virtual ~Dialog() = default;
+    Dialog(const Dialog&) = delete;
+    Dialog& operator=(const Dialog&) = delete;
+
+    virtual WindowHandle getHandle() { return nullptr; }
+
+    /// Ends a modal dialog when the event at hand is done; validation has passed.
+    virtual void end(std::intptr_t /*value*/) {}
+    /// Ends a modeless one.
+    virtual void destroy() {}
+    /// Delivers a message to the dialog's procedure, now, and gives the message result.
+    virtual std::intptr_t send(std::uint32_t /*message*/, std::uintptr_t /*wParam*/,
+                               std::intptr_t /*lParam*/) {
+        return 0;
+    }
+    /// Tells the sheet that holds the dialog, if any, that something changed.
+    virtual void reportChanged() {}
+
+    virtual void setCaption(std::u16string_view /*text*/) {}
+    virtual bool isVisible() const { return false; }
+    /// On the screen, the frame included.
+    virtual Rectangle getWindowRectangle() const { return {}; }
+    /// The inner area, from (0, 0).
+    virtual Rectangle getClientRectangle() const { return {}; }
+    virtual void moveTo(const Rectangle& /*place*/) {}
+    /// What of the screen is free for windows.
+    virtual Rectangle getWorkArea() const { return {}; }
+    /// Dialog units of this dialog's font as pixels.
+    virtual Rectangle mapDialogUnits(const Rectangle& /*units*/) const { return {}; }
+
+    /// In the order of the template.
+    virtual std::vector<DialogItem*> getItems() const { return {}; }
+    /// The first item of an id, null if there is none.
+    virtual DialogItem* findItem(std::uint16_t /*id*/) const { return nullptr; }
+    /// The same, if it is of a kind; else one that isn't there.
+    template <typename Kind = DialogItem>
+    Kind& item(std::uint16_t id) const {
+        auto* const found = dynamic_cast<Kind*>(findItem(id));
+        return found != nullptr ? *found : none<Kind>();
+    }
+};
+
+} // namespace zent::platform
