@@ -6,7 +6,6 @@
 #include <QRadioButton>
 #include <QStyleOptionFocusRect>
 
-#include "platform/WindowSystem.h"
 #include "platform/qt/Dialog.h"
 
 namespace zent::platform::qt {
@@ -53,7 +52,9 @@ protected:
         DrawRequest request;
         request.item = m_id;
         request.state = (isDown() ? pressed : 0) | (isEnabled() ? 0 : disabled);
-        request.canvas = &painter;
+        request.drawBitmap = [&](std::uint32_t bitmap) {
+            painter.drawPixmap(0, 0, m_dialog.pictures().bitmap(bitmap));
+        };
         m_dialog.tellDraw(request);
         if (hasFocus()) {
             QStyleOptionFocusRect option;
@@ -107,7 +108,7 @@ ButtonItem::ButtonItem(Dialog& dialog, const DialogTemplate::Item& source, QAbst
         makeDefault();
     }
     QObject::connect(&button, &QAbstractButton::clicked, &button,
-                     [this] { this->dialog().tellCommand(id(), notification::clicked); });
+                     [this] { this->dialog().tellCommand(getId(), notification::clicked); });
 }
 
 bool ButtonItem::isMarkedButton() const {

@@ -3,25 +3,25 @@
 #include <QAbstractButton>
 #include <QButtonGroup>
 
+#include "platform/DialogItems.h"
 #include "platform/qt/Item.h"
 
 namespace zent::platform::qt {
 
 /// A push button, check box, radio button or owner-drawn button.
-class ButtonItem final : public Item {
+class ButtonItem final : public Item, public platform::ButtonItem {
 public:
     ButtonItem(Dialog& dialog, const DialogTemplate::Item& source);
 
     QString text() const override { return m_button.text(); }
-    void setText(const QString& text) override { m_button.setText(text); }
+    void showText(const QString& text) override { m_button.setText(text); }
     bool isMarkedButton() const override;
 
-    bool isChecked() const { return m_button.isChecked(); }
-    /// Leaves the other buttons of the group alone.
-    void setChecked(bool isChecked);
+    bool isChecked() const override { return m_button.isChecked(); }
+    void setChecked(bool isChecked) override;
 
     bool isDefault() const;
-    void makeDefault();
+    void makeDefault() override;
     /// Of radio buttons that switch each other off. Gives whether this is one.
     bool joinGroup(QButtonGroup& group);
 

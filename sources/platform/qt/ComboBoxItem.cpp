@@ -2,7 +2,6 @@
 
 #include <QLineEdit>
 
-#include "platform/WindowSystem.h"
 #include "platform/qt/ComboStyle.h"
 #include "platform/qt/Dialog.h"
 
@@ -12,7 +11,7 @@ ComboBoxItem::ComboBoxItem(Dialog& dialog, const DialogTemplate::Item& source)
     : ComboBoxItem(dialog, source, *new QComboBox(&dialog)) {}
 
 ComboBoxItem::ComboBoxItem(Dialog& dialog, const DialogTemplate::Item& source, QComboBox& combo)
-    : ListItem(dialog, source, combo, (source.style & comboStyle::sorted) != 0), m_combo(combo) {
+    : ChoiceItem(dialog, source, combo, (source.style & comboStyle::sorted) != 0), m_combo(combo) {
     // The height in the template is that of the list when it is open.
     constexpr DialogTemplate::Place closed{0, 0, 0, 13};
     combo.resize(combo.width(), dialog.units().toPixels(closed).height());
@@ -20,7 +19,7 @@ ComboBoxItem::ComboBoxItem(Dialog& dialog, const DialogTemplate::Item& source, Q
         letEdit();
     }
     QObject::connect(&combo, &QComboBox::activated, &combo,
-                     [this] { this->dialog().tellCommand(id(), notification::comboSelected); });
+                     [this] { this->dialog().tellCommand(getId(), notification::comboSelected); });
 }
 
 void ComboBoxItem::letEdit() {
@@ -31,17 +30,17 @@ void ComboBoxItem::letEdit() {
     // Else a text that equals one of the list but for case turns into it when the user leaves.
     QObject::disconnect(edit, &QLineEdit::editingFinished, &m_combo, nullptr);
     QObject::connect(edit, &QLineEdit::textEdited, &m_combo,
-                     [this] { dialog().tellCommand(id(), notification::comboEdited); });
+                     [this] { dialog().tellCommand(getId(), notification::comboEdited); });
 }
 
-void ComboBoxItem::setText(const QString& text) {
+void ComboBoxItem::showText(const QString& text) {
     if (m_combo.isEditable()) {
         m_combo.setEditText(text);
     }
 }
 
 /// An edited text selects nothing.
-int ComboBoxItem::selected() const {
+int ComboBoxItem::getSelected() const {
     const int index = m_combo.currentIndex();
     return m_combo.currentText() == m_combo.itemText(index) ? index : -1;
 }
@@ -49,20 +48,20 @@ int ComboBoxItem::selected() const {
 void ComboBoxItem::select(int index) { m_combo.setCurrentIndex(isIndex(index) ? index : -1); }
 
 /// The box would select a neighbour of the one that goes.
-void ComboBoxItem::remove(int index) {
+void ComboBoxItem::removeEntry(int index) {
     if (index == m_combo.currentIndex()) {
         m_combo.setCurrentIndex(-1);
     }
     m_combo.removeItem(index);
 }
 
-void ComboBoxItem::setEntryText(int index, const QString& text) {
+void ComboBoxItem::showEntryText(int index, const QString& text) {
     if (isIndex(index)) {
         m_combo.setItemText(index, text);
     }
 }
 
-std::uintptr_t ComboBoxItem::entryValue(int index) const {
+std::uintptr_t ComboBoxItem::getEntryValue(int index) const {
     return m_combo.itemData(index).toULongLong();
 }
 
@@ -73,7 +72,7 @@ void ComboBoxItem::insert(int index, const QString& text, std::uintptr_t value) 
     m_combo.insertItem(index, text, static_cast<qulonglong>(value));
     if (isNoneSelected) {
         m_combo.setCurrentIndex(-1);
-        setText(edited);
+        showText(edited);
     }
 }
 

@@ -2,25 +2,25 @@
 
 #include <QComboBox>
 
-#include "platform/qt/ListItem.h"
+#include "platform/qt/ChoiceItem.h"
 
 namespace zent::platform::qt {
 
 /// A list of texts that drops down, below a text to edit or not.
-class ComboBoxItem final : public ListItem {
+class ComboBoxItem final : public ChoiceItem {
 public:
     ComboBoxItem(Dialog& dialog, const DialogTemplate::Item& source);
 
     QString text() const override { return m_combo.currentText(); }
-    void setText(const QString& text) override;
-    int count() const override { return m_combo.count(); }
-    int selected() const override;
+    void showText(const QString& text) override;
+    int getCount() const override { return m_combo.count(); }
+    int getSelected() const override;
     void select(int index) override;
     void clear() override { m_combo.clear(); }
-    void remove(int index) override;
+    void removeEntry(int index) override;
     QString entryText(int index) const override { return m_combo.itemText(index); }
-    void setEntryText(int index, const QString& text) override;
-    std::uintptr_t entryValue(int index) const override;
+    void showEntryText(int index, const QString& text) override;
+    std::uintptr_t getEntryValue(int index) const override;
 
 private:
     ComboBoxItem(Dialog& dialog, const DialogTemplate::Item& source, QComboBox& combo);

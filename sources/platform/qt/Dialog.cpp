@@ -12,6 +12,7 @@
 #include "platform/KeepForever.h"
 #include "platform/qt/ButtonItem.h"
 #include "platform/qt/Caption.h"
+#include "platform/qt/Place.h"
 #include "platform/qt/SpinItem.h"
 #include "platform/qt/StaticItem.h"
 #include "platform/qt/Text.h"
@@ -51,7 +52,7 @@ Dialog* Dialog::create(std::span<const std::byte> bytes, const ResourceModule& r
 Dialog* Dialog::find(WindowHandle handle) {
     const auto& dialogs = liveDialogs();
     const auto found = std::find_if(dialogs.begin(), dialogs.end(),
-                                    [&](Dialog* dialog) { return dialog->handle() == handle; });
+                                    [&](Dialog* dialog) { return dialog->getHandle() == handle; });
     return found == dialogs.end() ? nullptr : *found;
 }
 
@@ -133,7 +134,7 @@ void Dialog::chooseDefault() {
         if (button != nullptr && button->isDefault()) {
             return;
         }
-        if (button != nullptr && button->id() == okItem) {
+        if (button != nullptr && button->getId() == okItem) {
             accepting = button;
         }
     }
@@ -241,7 +242,7 @@ void Dialog::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool hasDefault = std::any_of(m_items.begin(), m_items.end(), [](const auto& item) {
         const auto* const button = dynamic_cast<const ButtonItem*>(item.get());
-        return button != nullptr && button->isDefault();
+        return button != nullptr && button->isThere() && button->isDefault();
     });
     if (isEnter && !hasDefault) {
         tellCommand(okItem, notification::clicked);
@@ -272,7 +273,7 @@ void Dialog::reject() {
 
 std::intptr_t Dialog::send(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam) {
     std::intptr_t result = 0;
-    m_procedure.processEvent(handle(), message, wParam, lParam, result);
+    m_procedure.processEvent(getHandle(), message, wParam, lParam, result);
     return result;
 }
 
@@ -325,20 +326,20 @@ void Dialog::noticeFocus(const QWidget* left) {
 // ---- Items and places --------------------------------------------------------------------------
 
 Item* Dialog::findItem(std::uint16_t id) const {
-    const auto found = std::find_if(m_items.begin(), m_items.end(),
-                                    [&](const auto& item) { return item->id() == id; });
+    const auto found = std::find_if(m_items.begin(), m_items.end(), [&](const auto& item) {
+        return item->isThere() && item->getId() == id;
+    });
     return found == m_items.end() ? nullptr : found->get();
 }
 
-void Dialog::removeItem(std::uint16_t id) {
-    const auto found = std::find_if(m_items.begin(), m_items.end(),
-                                    [&](const auto& item) { return item->id() == id; });
-    if (found != m_items.end()) {
-        (*found)->widget().hide();
-        (*found)->widget().setObjectName(QString());
-        m_removed.push_back(std::move(*found));
-        m_items.erase(found);
+std::vector<DialogItem*> Dialog::getItems() const {
+    std::vector<DialogItem*> items;
+    for (const auto& item : m_items) {
+        if (item->isThere()) {
+            items.push_back(item.get());
+        }
     }
+    return items;
 }
 
 /// Where it will stand, unless it is told another place: only its size changes until then.
@@ -349,12 +350,23 @@ void Dialog::placeInTheMiddle() {
     setAttribute(Qt::WA_Moved, false);
 }
 
-void Dialog::moveTo(const QRect& place) {
+void Dialog::moveTo(const Rectangle& rectangle) {
+    const QRect place = toQt(rectangle);
     const QSize frame = frameGeometry().size() - size();
     setFixedSize((place.size() - frame).expandedTo(QSize(0, 0)).boundedTo(largestWindow));
     if (place.topLeft() != frameGeometry().topLeft()) {
         move(place.topLeft());
     }
 }
+
+void Dialog::setCaption(std::u16string_view text) { setWindowTitle(toTitle(toQt(text))); }
+
+Rectangle Dialog::getWindowRectangle() const { return fromQt(frameGeometry()); }
+
+Rectangle Dialog::getClientRectangle() const { return fromQt(rect()); }
+
+Rectangle Dialog::getWorkArea() const { return fromQt(screen()->availableGeometry()); }
+
+Rectangle Dialog::mapDialogUnits(const Rectangle& units) const { return m_units.toPixels(units); }
 
 } // namespace zent::platform::qt

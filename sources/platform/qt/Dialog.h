@@ -9,9 +9,9 @@
 #include <QDialog>
 #include <QRect>
 
+#include "platform/Dialog.h"
 #include "platform/DialogTemplate.h"
 #include "platform/ResourceModule.h"
-#include "platform/WindowSystem.h"
 #include "platform/qt/DialogUnits.h"
 #include "platform/qt/Item.h"
 #include "platform/qt/ModalRun.h"
@@ -20,7 +20,7 @@
 namespace zent::platform::qt {
 
 /// A dialog and its items. What the user does goes to its procedure.
-class Dialog final : public QDialog {
+class Dialog final : public QDialog, public platform::Dialog {
 public:
     /// Makes the window and its items, and nothing yet of what the user sees. Null for bytes that
     /// are no template, or with an item of an unknown class. The owner, if there is one, destroys
@@ -32,17 +32,26 @@ public:
 
     ~Dialog() override;
 
-    WindowHandle handle() { return static_cast<QWidget*>(this); }
+    WindowHandle getHandle() override { return static_cast<QWidget*>(this); }
 
     /// Starts a created dialog and stays in it until it ends; destroys it.
     std::intptr_t runModal();
     /// Starts a created dialog and shows it.
     void startModeless();
-    void end(std::intptr_t value);
-    /// Ends a modeless dialog. The object goes once the event at hand is done.
-    void destroy();
 
-    std::intptr_t send(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam);
+    void end(std::intptr_t value) override;
+    /// The object goes once the event at hand is done.
+    void destroy() override;
+    std::intptr_t send(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam) override;
+    void setCaption(std::u16string_view text) override;
+    bool isVisible() const override { return QDialog::isVisible(); }
+    Rectangle getWindowRectangle() const override;
+    Rectangle getClientRectangle() const override;
+    void moveTo(const Rectangle& place) override;
+    Rectangle getWorkArea() const override;
+    Rectangle mapDialogUnits(const Rectangle& units) const override;
+    std::vector<DialogItem*> getItems() const override;
+    Item* findItem(std::uint16_t id) const override;
 
     // What the user did. Dialogs that haven't started, or have ended, say nothing of it.
     void tellCommand(std::uint16_t item, std::uint32_t code);
@@ -51,19 +60,12 @@ public:
     void tellScroll(std::uint16_t item, int position);
     void tellDraw(const DrawRequest& request);
 
-    /// The items in the order of the template.
-    const std::vector<std::unique_ptr<Item>>& items() const { return m_items; }
     /// Gives the focus to the next item in the template that takes it by keyboard. Gives true, as
     /// an event handler does.
     bool focusBehind(const QWidget& widget);
-    /// The first with this number, null if there is none.
-    Item* findItem(std::uint16_t id) const;
-    void removeItem(std::uint16_t id);
 
     Pictures& pictures() { return m_pictures; }
     const DialogUnits& units() const { return m_units; }
-    /// With its frame.
-    void moveTo(const QRect& place);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -90,7 +92,6 @@ private:
     DialogUnits m_units;
     std::vector<std::unique_ptr<Item>> m_items;
     std::vector<std::unique_ptr<QButtonGroup>> m_radioGroups;
-    std::vector<std::unique_ptr<Item>> m_removed; // it may be their own event that removes them
     State m_state = State::created;
     ModalRun* m_run = nullptr; // of a modal dialog
 };

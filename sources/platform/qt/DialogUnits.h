@@ -5,7 +5,7 @@
 #include <QSizeF>
 
 #include "platform/DialogTemplate.h"
-#include "platform/WindowSystem.h"
+#include "platform/Rectangle.h"
 
 namespace zent::platform::qt {
 

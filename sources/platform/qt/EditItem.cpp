@@ -33,9 +33,9 @@ void EditItem::setLimit(std::uint32_t units) {
     m_rule.limit = units == 0 ? std::numeric_limits<std::size_t>::max() : units;
 }
 
-void EditItem::leaveFocus() { dialog().tellCommand(id(), notification::editLeft); }
+void EditItem::leaveFocus() { dialog().tellCommand(getId(), notification::editLeft); }
 
-void EditItem::tellChanged() { dialog().tellCommand(id(), notification::editChanged); }
+void EditItem::tellChanged() { dialog().tellCommand(getId(), notification::editChanged); }
 
 Qt::Alignment EditItem::alignment() const {
     return hasStyle(editStyle::center)  ? Qt::AlignHCenter

@@ -15,7 +15,7 @@ public:
     static bool isKindOf(const DialogTemplate::Item& source) { return (source.style & 0xF) == 7; }
 
     QString text() const override { return m_box.title(); }
-    void setText(const QString& text) override { m_box.setTitle(text); }
+    void showText(const QString& text) override { m_box.setTitle(text); }
     bool isMarkedButton() const override { return true; }
 
 private:

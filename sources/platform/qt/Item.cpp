@@ -10,6 +10,7 @@
 #include "platform/qt/GroupBoxItem.h"
 #include "platform/qt/ListBoxItem.h"
 #include "platform/qt/ListViewItem.h"
+#include "platform/qt/Place.h"
 #include "platform/qt/SimpleComboItem.h"
 #include "platform/qt/SliderItem.h"
 #include "platform/qt/SpinItem.h"
@@ -101,8 +102,25 @@ Item::Item(Dialog& dialog, const DialogTemplate::Item& source, QWidget& widget)
     }
 }
 
-std::u16string Item::contents() const { return fromQt(text()); }
+Rectangle Item::getPlace() const { return fromQt(m_widget.geometry()); }
 
-void Item::setContents(std::u16string_view contents) { setText(toQt(contents)); }
+void Item::moveTo(const Rectangle& place) { m_widget.setGeometry(toQt(place)); }
+
+/// The object stays: it may be its own event that removes it.
+void Item::remove() {
+    m_isThere = false;
+    m_widget.hide();
+    m_widget.setObjectName(QString());
+}
+
+std::u16string Item::getText() const { return fromQt(text()); }
+
+void Item::setText(std::u16string_view text) { showText(toQt(text)); }
+
+/// A tool tip that looks like markup would be shown as that.
+void Item::setToolTip(std::u16string_view text) {
+    const QString shown = toQt(text);
+    m_widget.setToolTip(Qt::mightBeRichText(shown) ? shown.toHtmlEscaped() : shown);
+}
 
 } // namespace zent::platform::qt

@@ -2,12 +2,11 @@
 
 #include <cstdint>
 #include <memory>
-#include <string>
-#include <string_view>
 
 #include <QString>
 #include <QWidget>
 
+#include "platform/DialogItem.h"
 #include "platform/DialogTemplate.h"
 
 namespace zent::platform::qt {
@@ -26,28 +25,32 @@ constexpr std::uint32_t tabStop = 0x00010000;
 
 /// An item of a dialog, with its widget. Each kind of item is a class of its own, with what it
 /// alone can do; what the user does to it, it tells the dialog.
-class Item {
+class Item : public virtual DialogItem {
 public:
     /// Makes an item of the class that the template names; null if there is no such class.
     static std::unique_ptr<Item> make(Dialog& dialog, const DialogTemplate::Item& source,
                                       Pictures& pictures);
 
-    virtual ~Item() = default;
-    Item(const Item&) = delete;
-    Item& operator=(const Item&) = delete;
+    bool isThere() const override { return m_isThere; }
+    std::uint16_t getId() const override { return m_id; }
+    Rectangle getPlace() const override;
+    void moveTo(const Rectangle& place) override;
+    bool isShown() const override { return !m_widget.isHidden(); }
+    void show(bool isShown) override { m_widget.setVisible(isShown); }
+    bool isEnabled() const override { return m_widget.isEnabledTo(m_widget.window()); }
+    void enable(bool isEnabled) override { m_widget.setEnabled(isEnabled); }
+    void focus() override { m_widget.setFocus(Qt::OtherFocusReason); }
+    void remove() override;
+    std::u16string getText() const override;
+    void setText(std::u16string_view text) override;
+    void setToolTip(std::u16string_view text) override;
 
     QWidget& widget() const { return m_widget; }
-    std::uint16_t id() const { return m_id; }
     std::uint32_t style() const { return m_style; }
     bool hasStyle(std::uint32_t bits) const { return (m_style & bits) == bits; }
 
     virtual QString text() const { return {}; }
-    virtual void setText(const QString& /*text*/) {}
-    /// The text as the port has it.
-    virtual std::u16string contents() const;
-    virtual void setContents(std::u16string_view contents);
-    /// As WindowSystem::Item tells it.
-    virtual bool isMarkedButton() const { return false; }
+    virtual void showText(const QString& /*text*/) {}
     /// The keyboard's focus went elsewhere.
     virtual void leaveFocus() {}
 
@@ -62,6 +65,7 @@ private:
     QWidget& m_widget;
     std::uint16_t m_id;
     std::uint32_t m_style;
+    bool m_isThere = true;
 };
 
 /// The text of a title; empty for a number.

@@ -107,21 +107,21 @@ LineEditItem::LineEditItem(Dialog& dialog, const DialogTemplate::Item& source, E
     edit.setReadOnly(hasStyle(editStyle::readOnly));
     edit.setEchoMode(hasStyle(editStyle::password) ? QLineEdit::Password : QLineEdit::Normal);
     edit.setAlignment(alignment() | Qt::AlignVCenter);
-    setText(textOf(source.title));
+    showText(textOf(source.title));
     QObject::connect(&edit, &QLineEdit::textChanged, &edit, [this] { tellChanged(); });
 }
 
-void LineEditItem::setText(const QString& text) {
+void LineEditItem::showText(const QString& text) {
     if (text != m_edit.text()) { // else the cursor and what can be undone stay
         m_edit.setText(text);
     }
 }
 
-void LineEditItem::setContents(std::u16string_view contents) {
-    setText(QString::fromUtf16(contents.data(), static_cast<qsizetype>(contents.size())));
+void LineEditItem::setText(std::u16string_view text) {
+    showText(QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size())));
 }
 
-void LineEditItem::select(std::int32_t start, std::int32_t end) {
+void LineEditItem::selectText(std::int32_t start, std::int32_t end) {
     const int length = static_cast<int>(m_edit.text().size());
     const int last = end < 0 ? length : std::min(end, length);
     if (start < 0) {
@@ -144,7 +144,7 @@ QString LineEditItem::accept(const QString& entered) const {
         static_cast<std::size_t>(hasSelection ? m_edit.selectionStart() : m_edit.cursorPosition());
     const auto end = hasSelection ? static_cast<std::size_t>(m_edit.selectionEnd()) : start;
     return QString::fromStdU16String(
-        rule().accept(contents(), start, end, entered.toStdU16String()));
+        rule().accept(getText(), start, end, entered.toStdU16String()));
 }
 
 } // namespace zent::platform::qt

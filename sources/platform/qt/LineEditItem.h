@@ -12,10 +12,10 @@ public:
     LineEditItem(Dialog& dialog, const DialogTemplate::Item& source);
 
     QString text() const override { return m_edit.text(); }
-    void setText(const QString& text) override;
-    std::u16string contents() const override { return m_edit.text().toStdU16String(); }
-    void setContents(std::u16string_view contents) override;
-    void select(std::int32_t start, std::int32_t end) override;
+    void showText(const QString& text) override;
+    std::u16string getText() const override { return m_edit.text().toStdU16String(); }
+    void setText(std::u16string_view text) override;
+    void selectText(std::int32_t start, std::int32_t end) override;
     void setTransparent() override;
 
 private:

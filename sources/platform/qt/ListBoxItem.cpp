@@ -1,6 +1,5 @@
 #include "platform/qt/ListBoxItem.h"
 
-#include "platform/WindowSystem.h"
 #include "platform/qt/Dialog.h"
 
 namespace zent::platform::qt {
@@ -17,9 +16,10 @@ ListBoxItem::ListBoxItem(Dialog& dialog, const DialogTemplate::Item& source)
 ListBoxItem::ListBoxItem(Dialog& dialog, const DialogTemplate::Item& source, QListWidget& list)
     : OpenListItem(dialog, source, list, list, (source.style & sorted) != 0) {
     QObject::connect(&list, &QListWidget::itemSelectionChanged, &list,
-                     [this] { this->dialog().tellCommand(id(), notification::listSelected); });
-    QObject::connect(&list, &QListWidget::itemDoubleClicked, &list,
-                     [this] { this->dialog().tellCommand(id(), notification::listDoubleClicked); });
+                     [this] { this->dialog().tellCommand(getId(), notification::listSelected); });
+    QObject::connect(&list, &QListWidget::itemDoubleClicked, &list, [this] {
+        this->dialog().tellCommand(getId(), notification::listDoubleClicked);
+    });
 }
 
 } // namespace zent::platform::qt

@@ -7,12 +7,11 @@
 
 #include "platform/qt/Dialog.h"
 #include "platform/qt/Pictures.h"
+#include "platform/qt/Text.h"
 
 namespace zent::platform::qt {
 
 namespace {
-
-using ListViewStyle = WindowSystem::ListViewStyle;
 
 constexpr std::uint32_t isTable = 1;
 constexpr std::uint32_t kindBits = 3;
@@ -51,8 +50,7 @@ ListViewItem::ListViewItem(Dialog& dialog, const DialogTemplate::Item& source, P
                              tell(notification::listViewActivated, place.row(), place.column());
                          });
     }
-    setListViewStyle((style() & kindBits) == isTable ? ListViewStyle::details
-                                                     : ListViewStyle::icons);
+    setStyle((style() & kindBits) == isTable ? Style::details : Style::icons);
     QObject::connect(&m_selection, &QItemSelectionModel::selectionChanged, &stack,
                      [this](const QItemSelection& now, const QItemSelection& before) {
                          tellSelection(now, before);
@@ -80,10 +78,10 @@ void ListViewItem::setUpIcons() {
     m_icons.setWordWrap(true);
 }
 
-void ListViewItem::setListViewStyle(ListViewStyle style) {
+void ListViewItem::setStyle(Style style) {
     const QScopedValueRollback guard(m_isProgramsChange, true);
-    m_hasMarks = style == ListViewStyle::checkedDetails;
-    QAbstractItemView* const view = style == ListViewStyle::icons
+    m_hasMarks = style == Style::checkedDetails;
+    QAbstractItemView* const view = style == Style::icons
                                         ? static_cast<QAbstractItemView*>(&m_icons)
                                         : static_cast<QAbstractItemView*>(&m_table);
     m_stack.setCurrentWidget(view);
@@ -93,18 +91,18 @@ void ListViewItem::setListViewStyle(ListViewStyle style) {
     }
 }
 
-void ListViewItem::addColumn(const QString& title, int width) {
+void ListViewItem::addColumn(std::u16string_view title, int width) {
     const int column = m_titledColumns++;
     if (m_model.columnCount() <= column) {
         m_model.setColumnCount(column + 1);
     }
-    m_model.setHorizontalHeaderItem(column, new QStandardItem(title));
+    m_model.setHorizontalHeaderItem(column, new QStandardItem(toQt(title)));
     m_table.setColumnWidth(column, width);
 }
 
-int ListViewItem::addRow(const QString& text, std::uint32_t icon, std::uintptr_t value) {
+int ListViewItem::addRow(std::u16string_view text, std::uint32_t icon, std::uintptr_t value) {
     const QScopedValueRollback guard(m_isProgramsChange, true);
-    auto* const cell = new QStandardItem(text);
+    auto* const cell = new QStandardItem(toQt(text));
     cell->setEditable(false);
     cell->setData(static_cast<qulonglong>(value), valueRole);
     if (icon != 0) {
@@ -115,9 +113,9 @@ int ListViewItem::addRow(const QString& text, std::uint32_t icon, std::uintptr_t
     return cell->row();
 }
 
-void ListViewItem::setCell(int row, int column, const QString& text) {
+void ListViewItem::setCell(int row, int column, std::u16string_view text) {
     const QScopedValueRollback guard(m_isProgramsChange, true);
-    if (row < 0 || row >= rowCount() || column < 0 || column >= m_model.columnCount()) {
+    if (row < 0 || row >= getRowCount() || column < 0 || column >= m_model.columnCount()) {
         return;
     }
     if (m_model.item(row, column) == nullptr) {
@@ -125,32 +123,32 @@ void ListViewItem::setCell(int row, int column, const QString& text) {
         cell->setEditable(false);
         m_model.setItem(row, column, cell);
     }
-    m_model.item(row, column)->setText(text);
+    m_model.item(row, column)->setText(toQt(text));
 }
 
-QString ListViewItem::cell(int row, int column) const {
+std::u16string ListViewItem::getCell(int row, int column) const {
     const QStandardItem* const cell = m_model.item(row, column);
-    return cell != nullptr ? cell->text() : QString();
+    return cell != nullptr ? fromQt(cell->text()) : std::u16string();
 }
 
 void ListViewItem::removeRow(int row) {
     const QScopedValueRollback guard(m_isProgramsChange, true);
-    if (row >= 0 && row < rowCount()) {
+    if (row >= 0 && row < getRowCount()) {
         m_model.removeRow(row);
     }
 }
 
 void ListViewItem::clearRows() {
     const QScopedValueRollback guard(m_isProgramsChange, true);
-    m_model.removeRows(0, rowCount());
+    m_model.removeRows(0, getRowCount());
 }
 
-std::uintptr_t ListViewItem::rowValue(int row) const {
+std::uintptr_t ListViewItem::getRowValue(int row) const {
     const QStandardItem* const cell = firstCell(row);
     return cell != nullptr ? cell->data(valueRole).toULongLong() : 0;
 }
 
-std::vector<std::int32_t> ListViewItem::selectedRows() const {
+std::vector<std::int32_t> ListViewItem::getSelectedRows() const {
     std::vector<std::int32_t> rows;
     for (const QModelIndex& place : m_selection.selectedRows()) {
         rows.push_back(place.row());
@@ -203,7 +201,7 @@ void ListViewItem::tell(std::int32_t code, int row, int column) {
         return;
     }
     Notification notification;
-    notification.item = id();
+    notification.item = getId();
     notification.code = code;
     notification.row = row;
     notification.column = column;

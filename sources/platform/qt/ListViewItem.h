@@ -8,29 +8,29 @@
 #include <QStandardItemModel>
 #include <QTreeView>
 
-#include "platform/WindowSystem.h"
+#include "platform/DialogItems.h"
 #include "platform/qt/Item.h"
 
 namespace zent::platform::qt {
 
 /// Rows of cells, shown as icons or as a table. Both views look at one model and one selection.
-class ListViewItem final : public Item {
+class ListViewItem final : public Item, public RowsItem {
 public:
     ListViewItem(Dialog& dialog, const DialogTemplate::Item& source, Pictures& pictures);
 
-    void setListViewStyle(WindowSystem::ListViewStyle style);
-    void addColumn(const QString& title, int width);
-    int addRow(const QString& text, std::uint32_t icon, std::uintptr_t value);
-    void setCell(int row, int column, const QString& text);
-    QString cell(int row, int column) const;
-    void removeRow(int row);
-    void clearRows();
-    int rowCount() const { return m_model.rowCount(); }
-    std::uintptr_t rowValue(int row) const;
-    std::vector<std::int32_t> selectedRows() const;
-    void selectRow(int row);
-    void setRowChecked(int row, bool isChecked);
-    bool isRowChecked(int row) const;
+    void setStyle(Style style) override;
+    void addColumn(std::u16string_view title, int width) override;
+    int addRow(std::u16string_view text, std::uint32_t icon, std::uintptr_t value) override;
+    std::u16string getCell(int row, int column) const override;
+    void setCell(int row, int column, std::u16string_view text) override;
+    void removeRow(int row) override;
+    void clearRows() override;
+    int getRowCount() const override { return m_model.rowCount(); }
+    std::uintptr_t getRowValue(int row) const override;
+    std::vector<std::int32_t> getSelectedRows() const override;
+    void selectRow(int row) override;
+    bool isRowChecked(int row) const override;
+    void setRowChecked(int row, bool isChecked) override;
 
 private:
     ListViewItem(Dialog& dialog, const DialogTemplate::Item& source, Pictures& pictures,

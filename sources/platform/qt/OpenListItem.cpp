@@ -6,9 +6,9 @@ namespace zent::platform::qt {
 
 OpenListItem::OpenListItem(Dialog& dialog, const DialogTemplate::Item& source, QWidget& widget,
                            QListWidget& list, bool isSorted)
-    : ListItem(dialog, source, widget, isSorted), m_list(list) {}
+    : ChoiceItem(dialog, source, widget, isSorted), m_list(list) {}
 
-int OpenListItem::selected() const {
+int OpenListItem::getSelected() const {
     const auto rows = m_list.selectionModel()->selectedRows();
     return rows.isEmpty() ? -1 : rows.front().row();
 }
@@ -24,9 +24,9 @@ void OpenListItem::clear() {
 }
 
 /// The list would select a neighbour of the one that goes.
-void OpenListItem::remove(int index) {
+void OpenListItem::removeEntry(int index) {
     const QSignalBlocker blocker(m_list);
-    if (index == selected()) {
+    if (index == getSelected()) {
         m_list.setCurrentRow(-1);
     }
     if (isIndex(index)) {
@@ -38,13 +38,13 @@ QString OpenListItem::entryText(int index) const {
     return isIndex(index) ? m_list.item(index)->text() : QString();
 }
 
-void OpenListItem::setEntryText(int index, const QString& text) {
+void OpenListItem::showEntryText(int index, const QString& text) {
     if (isIndex(index)) {
         m_list.item(index)->setText(text);
     }
 }
 
-std::uintptr_t OpenListItem::entryValue(int index) const {
+std::uintptr_t OpenListItem::getEntryValue(int index) const {
     return isIndex(index) ? m_list.item(index)->data(Qt::UserRole).toULongLong() : 0;
 }
 

@@ -2,21 +2,21 @@
 
 #include <QListWidget>
 
-#include "platform/qt/ListItem.h"
+#include "platform/qt/ChoiceItem.h"
 
 namespace zent::platform::qt {
 
 /// A list of texts that is open all the time; the item's widget is the list, or one around it.
-class OpenListItem : public ListItem {
+class OpenListItem : public ChoiceItem {
 public:
-    int count() const override { return m_list.count(); }
-    int selected() const override;
+    int getCount() const override { return m_list.count(); }
+    int getSelected() const override;
     void select(int index) override;
     void clear() override;
-    void remove(int index) override;
+    void removeEntry(int index) override;
     QString entryText(int index) const override;
-    void setEntryText(int index, const QString& text) override;
-    std::uintptr_t entryValue(int index) const override;
+    void showEntryText(int index, const QString& text) override;
+    std::uintptr_t getEntryValue(int index) const override;
 
 protected:
     OpenListItem(Dialog& dialog, const DialogTemplate::Item& source, QWidget& widget,

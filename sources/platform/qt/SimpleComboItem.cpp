@@ -4,7 +4,6 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
-#include "platform/WindowSystem.h"
 #include "platform/qt/Dialog.h"
 
 namespace zent::platform::qt {
@@ -49,12 +48,12 @@ SimpleComboItem::SimpleComboItem(Dialog& dialog, const DialogTemplate::Item& sou
     list().setFocusPolicy(Qt::ClickFocus);
     list().setFocusProxy(&m_edit);
     QObject::connect(&list(), &QListWidget::itemSelectionChanged, &box, [this] {
-        m_edit.setText(entryText(selected()));
-        this->dialog().tellCommand(id(), notification::comboSelected);
+        m_edit.setText(entryText(getSelected()));
+        this->dialog().tellCommand(getId(), notification::comboSelected);
     });
     QObject::connect(&m_edit, &QLineEdit::textEdited, &box, [this] {
         OpenListItem::select(-1);
-        this->dialog().tellCommand(id(), notification::comboEdited);
+        this->dialog().tellCommand(getId(), notification::comboEdited);
     });
 }
 

@@ -18,7 +18,7 @@ public:
     }
 
     QString text() const override { return m_edit.text(); }
-    void setText(const QString& text) override { m_edit.setText(text); }
+    void showText(const QString& text) override { m_edit.setText(text); }
     void select(int index) override;
     void clear() override;
 

@@ -33,10 +33,10 @@ QScrollBar& makeScrollBar(Dialog& dialog, std::uint32_t style) {
 } // namespace
 
 SliderItem::SliderItem(Dialog& dialog, const DialogTemplate::Item& source, QAbstractSlider& slider)
-    : RangeItem(dialog, source, slider), m_slider(slider) {
+    : Item(dialog, source, slider), m_slider(slider) {
     slider.setRange(0, 100);
     QObject::connect(&slider, &QAbstractSlider::valueChanged, &slider,
-                     [this](int position) { this->dialog().tellScroll(id(), position); });
+                     [this](int position) { this->dialog().tellScroll(getId(), position); });
 }
 
 void SliderItem::setRange(int lower, int upper) {

@@ -2,15 +2,16 @@
 
 #include <QAbstractSlider>
 
-#include "platform/qt/RangeItem.h"
+#include "platform/DialogItems.h"
+#include "platform/qt/Item.h"
 
 namespace zent::platform::qt {
 
 /// A slider or scroll bar.
-class SliderItem : public RangeItem {
+class SliderItem : public Item, public RangeItem {
 public:
     void setRange(int lower, int upper) override;
-    int position() const override { return m_slider.value(); }
+    int getPosition() const override { return m_slider.value(); }
     void setPosition(int position) override;
 
 protected:

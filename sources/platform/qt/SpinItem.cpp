@@ -7,7 +7,6 @@
 #include <QStyle>
 #include <QToolButton>
 
-#include "platform/WindowSystem.h"
 #include "platform/qt/Dialog.h"
 
 namespace zent::platform::qt {
@@ -65,7 +64,7 @@ SpinItem::SpinItem(Dialog& dialog, const DialogTemplate::Item& source)
     : SpinItem(dialog, source, *new Arrows(dialog)) {}
 
 SpinItem::SpinItem(Dialog& dialog, const DialogTemplate::Item& source, Arrows& arrows)
-    : RangeItem(dialog, source, arrows) {
+    : Item(dialog, source, arrows) {
     arrows.setItem(*this);
 }
 
@@ -78,7 +77,7 @@ void SpinItem::setRange(int lower, int upper) {
 void SpinItem::setPosition(int position) {
     m_position = std::clamp(position, m_lower, m_upper);
     if (m_buddy != nullptr && hasStyle(setsBuddysText)) {
-        m_buddy->setText(QString::number(m_position));
+        m_buddy->showText(QString::number(m_position));
     }
 }
 
@@ -103,7 +102,7 @@ void SpinItem::setBuddy(Item& buddy) {
 /// `steps` are positive upwards.
 void SpinItem::step(int steps) {
     Notification notification;
-    notification.item = id();
+    notification.item = getId();
     notification.code = notification::spinStep;
     notification.position = m_position;
     notification.delta = -steps;

@@ -1,16 +1,17 @@
 #pragma once
 
-#include "platform/qt/RangeItem.h"
+#include "platform/DialogItems.h"
+#include "platform/qt/Item.h"
 
 namespace zent::platform::qt {
 
 /// Two arrows, mostly beside an edit item, its buddy, that shows the number.
-class SpinItem final : public RangeItem {
+class SpinItem final : public Item, public RangeItem {
 public:
     SpinItem(Dialog& dialog, const DialogTemplate::Item& source);
 
     void setRange(int lower, int upper) override;
-    int position() const override { return m_position; }
+    int getPosition() const override { return m_position; }
     void setPosition(int position) override;
 
     bool wantsBuddy() const;

@@ -63,17 +63,17 @@ StaticItem::StaticItem(Dialog& dialog, const DialogTemplate::Item& source, Pictu
         break;
     default:
         alignText();
-        setText(textOf(source.title));
+        showText(textOf(source.title));
         break;
     }
 }
 
-void StaticItem::setText(const QString& text) {
+void StaticItem::showText(const QString& text) {
     m_text = text;
     m_label.setText(hasStyle(noMnemonic) ? QString(text).replace(u'&', QLatin1String("&&")) : text);
 }
 
-void StaticItem::setBitmap(std::uint32_t bitmap) {
+void StaticItem::setBitmap(std::uint32_t bitmap, bool /*clearsGround*/) {
     m_label.setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_label.setPixmap(bitmap == 0 ? QPixmap() : m_pictures.bitmap(bitmap));
 }
@@ -84,7 +84,7 @@ void StaticItem::showTemplatesPicture(const DialogTemplate::Name& title) {
         return;
     }
     if (kindOf(style()) == bitmap) {
-        setBitmap(*number);
+        setBitmap(*number, true);
         return;
     }
     constexpr int side = 32;

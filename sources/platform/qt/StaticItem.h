@@ -3,19 +3,19 @@
 #include <QFrame>
 #include <QLabel>
 
+#include "platform/DialogItems.h"
 #include "platform/qt/Item.h"
 
 namespace zent::platform::qt {
 
 /// A text, picture or line.
-class StaticItem final : public Item {
+class StaticItem final : public Item, public PictureItem {
 public:
     StaticItem(Dialog& dialog, const DialogTemplate::Item& source, Pictures& pictures);
 
     QString text() const override { return m_text; }
-    void setText(const QString& text) override;
-    /// 0 shows none.
-    void setBitmap(std::uint32_t bitmap);
+    void showText(const QString& text) override;
+    void setBitmap(std::uint32_t bitmap, bool clearsGround) override;
     /// The item that this one tells the name of.
     void setBuddy(QWidget& widget) { m_label.setBuddy(&widget); }
 

@@ -90,18 +90,18 @@ TextEditItem::TextEditItem(Dialog& dialog, const DialogTemplate::Item& source, Q
     QTextOption option = edit.document()->defaultTextOption();
     option.setAlignment(alignment());
     edit.document()->setDefaultTextOption(option);
-    setText(textOf(source.title));
+    showText(textOf(source.title));
     QObject::connect(&edit, &QPlainTextEdit::textChanged, &edit, [this] { noticeChange(); });
 }
 
-void TextEditItem::setText(const QString& text) {
+void TextEditItem::showText(const QString& text) {
     if (text != m_lastText) { // else the cursor and what can be undone stay
         m_edit.setPlainText(text);
         m_lastText = m_edit.toPlainText();
     }
 }
 
-void TextEditItem::select(std::int32_t start, std::int32_t end) {
+void TextEditItem::selectText(std::int32_t start, std::int32_t end) {
     const std::u16string text = fromQt(m_edit.toPlainText());
     QTextCursor cursor = m_edit.textCursor();
     if (start < 0) {

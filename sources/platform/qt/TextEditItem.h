@@ -12,8 +12,8 @@ public:
     TextEditItem(Dialog& dialog, const DialogTemplate::Item& source);
 
     QString text() const override { return m_edit.toPlainText(); }
-    void setText(const QString& text) override;
-    void select(std::int32_t start, std::int32_t end) override;
+    void showText(const QString& text) override;
+    void selectText(std::int32_t start, std::int32_t end) override;
     void setTransparent() override;
 
 private:
