@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "platform/win32/WindowsDialog.h"
+#include "platform/win32/Dialog.h"
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 DialogItem::DialogItem(WindowHandle dialog, std::uint16_t id)
-    : m_dialog(WindowsDialog::of(dialog)), m_id(id) {
+    : m_dialog(Dialog::of(dialog)), m_id(id) {
     if (m_dialog != nullptr) {
         m_window = m_dialog->find(id);
         m_kind = getItemKind(m_window);
@@ -31,16 +31,16 @@ LRESULT DialogItem::send(UINT message, WPARAM wParam, LPARAM lParam) const {
     if (m_window == nullptr) {
         return 0;
     }
-    const WindowsDialog::Silence silence(*m_dialog);
+    const Dialog::Silence silence(*m_dialog);
     return SendMessageW(m_window, message, wParam, lParam);
 }
 
 void DialogItem::leave() const {
     const HWND focus = GetFocus();
     if (focus != nullptr && (focus == m_window || IsChild(m_window, focus))) {
-        const WindowsDialog::Silence silence(*m_dialog);
+        const Dialog::Silence silence(*m_dialog);
         SendMessageW(m_dialog->window(), WM_NEXTDLGCTL, 0, FALSE);
     }
 }
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

@@ -9,9 +9,9 @@
 
 #include <windows.h>
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
-class WindowsDialog;
+class Dialog;
 
 /// An item that an operation of the port is about, with its dialog held while the operation lasts.
 /// There is none if the dialog has no item of that id, or one of another kind.
@@ -27,7 +27,7 @@ public:
     HWND window() const { return m_window; }
     ItemKind kind() const { return m_kind; }
     std::uint16_t id() const { return m_id; }
-    WindowsDialog& dialog() const { return *m_dialog; }
+    Dialog& dialog() const { return *m_dialog; }
     bool hasStyle(std::uint32_t style) const;
 
     /// Sends the item a message without an event that comes of it; 0 if there is no item.
@@ -39,10 +39,10 @@ public:
     void leave() const;
 
 private:
-    std::shared_ptr<WindowsDialog> m_dialog;
+    std::shared_ptr<Dialog> m_dialog;
     std::uint16_t m_id;
     HWND m_window = nullptr;
     ItemKind m_kind = ItemKind::other;
 };
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

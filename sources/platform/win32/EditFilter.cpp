@@ -8,7 +8,7 @@
 #include "platform/win32/WideText.h"
 #include "platform/win32/WindowText.h"
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 namespace {
 
@@ -101,4 +101,4 @@ std::u16string EditFilter::accept(std::u16string_view entered) const {
     return rule.accept(getWindowText(window()), start, end, entered);
 }
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

@@ -7,7 +7,7 @@
 #include "platform/WindowSystem.h"
 #include "platform/win32/SubclassedItem.h"
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 /// Lets in what an edit item takes of what is typed or pasted: within its limit, and what its
 /// filter passes, if it has one.
@@ -30,4 +30,4 @@ private:
     char16_t m_highSurrogate = u'\0'; // that waits for the other half of its character
 };
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

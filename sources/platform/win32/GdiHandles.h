@@ -5,7 +5,7 @@
 
 #include <windows.h>
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 struct DeleteGdiObject {
     void operator()(HGDIOBJ object) const { DeleteObject(object); }
@@ -51,4 +51,4 @@ private:
     HGDIOBJ m_previous;
 };
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

@@ -4,7 +4,7 @@
 
 #include <commctrl.h>
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 ItemKind getItemKind(HWND item) {
     struct Row {
@@ -29,4 +29,4 @@ ItemKind getItemKind(HWND item) {
     return ItemKind::other;
 }
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 /// What a dialog item is, by its window's class.
 enum class ItemKind {
@@ -20,4 +20,4 @@ enum class ItemKind {
 
 ItemKind getItemKind(HWND item);
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 namespace {
 
@@ -49,4 +49,4 @@ void MaskedBitmap::draw(HDC target, int x, int y) const {
     RestoreDC(target, state);
 }
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

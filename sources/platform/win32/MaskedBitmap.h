@@ -2,7 +2,7 @@
 
 #include "platform/win32/GdiHandles.h"
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 /// A picture whose background, what has the colour of its top left pixel, stays out when it is
 /// drawn: a mask of the background, and the picture with a black one. Both are put on the target by
@@ -21,4 +21,4 @@ private:
     SIZE m_size = {};
 };
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

@@ -1,6 +1,6 @@
 #include "platform/win32/ModelessKeys.h"
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 namespace {
 
@@ -35,4 +35,4 @@ LRESULT CALLBACK ModelessKeys::translate(int code, WPARAM removed, LPARAM messag
     return CallNextHookEx(nullptr, code, removed, message);
 }
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

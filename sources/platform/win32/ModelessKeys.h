@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 /// The keyboard of a modeless dialog: Tab, Enter, Escape and the like work in it, whichever message
 /// loop of the thread serves it. The loop is the application's or another dialog's, and neither
@@ -21,4 +21,4 @@ private:
     HHOOK m_hook;
 };
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

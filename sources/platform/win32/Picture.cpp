@@ -2,7 +2,7 @@
 
 #include "platform/win32/ResourceImages.h"
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 namespace {
 
@@ -45,4 +45,4 @@ LRESULT Picture::process(UINT message, WPARAM wParam, LPARAM lParam) {
     return result;
 }
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

@@ -6,7 +6,7 @@
 #include "platform/win32/MaskedBitmap.h"
 #include "platform/win32/SubclassedItem.h"
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 /// Draws a bitmap over a static item, on what shines through from the page.
 class Picture final : public SubclassedItem {
@@ -23,4 +23,4 @@ private:
     MaskedBitmap m_bitmap{nullptr};
 };
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

@@ -8,7 +8,7 @@
 #include "platform/BoundedBytes.h"
 #include "platform/ResourceType.h"
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 namespace {
 
@@ -115,4 +115,4 @@ OwnIcon createIcon(const ResourceModule& resources, std::uint32_t id, int width,
                                             TRUE, iconVersion, width, height, LR_DEFAULTCOLOR));
 }
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

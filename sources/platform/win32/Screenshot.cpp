@@ -5,7 +5,7 @@
 #include "platform/Files.h"
 #include "platform/win32/GdiHandles.h"
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 namespace {
 
@@ -82,4 +82,4 @@ bool saveAsBitmap(HWND window, const CXString& fileName) {
            write(*file, pixels.data(), pixels.size());
 }
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

@@ -4,9 +4,9 @@
 
 #include <windows.h>
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 /// Writes a window as it looks, with its frame, to a bitmap file; false on failure.
 bool saveAsBitmap(HWND window, const CXString& fileName);
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

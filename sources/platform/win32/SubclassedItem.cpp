@@ -2,9 +2,9 @@
 
 #include <exception>
 
-#include "platform/win32/WindowsDialog.h"
+#include "platform/win32/Dialog.h"
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 namespace {
 
@@ -65,7 +65,7 @@ LRESULT SubclassedItem::processSafely(UINT message, WPARAM wParam, LPARAM lParam
     try {
         return process(message, wParam, lParam);
     } catch (...) {
-        WindowsDialog::endBy(std::current_exception(), GetParent(m_window));
+        Dialog::endBy(std::current_exception(), GetParent(m_window));
         return 0;
     }
 }
@@ -75,4 +75,4 @@ void SubclassedItem::detach() {
     RemovePropW(m_window, procedureProperty);
 }
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

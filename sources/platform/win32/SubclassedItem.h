@@ -4,7 +4,7 @@
 
 #include <windows.h>
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 /// What a dialog item's messages go through before the item's own procedure sees them. It belongs
 /// to the item's window and goes with it.
@@ -35,4 +35,4 @@ private:
     HWND m_window;
 };
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

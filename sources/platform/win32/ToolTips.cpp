@@ -6,7 +6,7 @@
 
 #include <commctrl.h>
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 namespace {
 
@@ -50,4 +50,4 @@ void ToolTips::create(HWND dialog) {
     SendMessageW(m_window, TTM_SETMAXTIPWIDTH, 0, widestTip);
 }
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

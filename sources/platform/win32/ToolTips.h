@@ -4,7 +4,7 @@
 
 #include <windows.h>
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 /// The tool tips of a dialog's items. Their window comes with the first text and goes with the
 /// dialog that owns it.
@@ -19,4 +19,4 @@ private:
     HWND m_window = nullptr;
 };
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

@@ -1,15 +1,15 @@
 #include "platform/win32/Win32WindowSystem.h"
 
 #include "platform/KeepForever.h"
+#include "platform/win32/Dialog.h"
 #include "platform/win32/SeenDesktop.h"
 #include "platform/win32/WideText.h"
 #include "platform/win32/WindowText.h"
-#include "platform/win32/WindowsDialog.h"
 
 #include <commctrl.h>
 #include <prsht.h>
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 namespace {
 
@@ -19,19 +19,13 @@ Rectangle asRectangle(const RECT& rect) { return {rect.left, rect.top, rect.righ
 
 /// The dialog of bytes that are a template; null for others, which the system would read beyond
 /// their end.
-std::shared_ptr<WindowsDialog> makeDialog(std::span<const std::byte> dialogTemplate,
-                                          const ResourceModule& resources,
-                                          DialogProcedure& procedure) {
+std::shared_ptr<Dialog> makeDialog(std::span<const std::byte> dialogTemplate,
+                                   const ResourceModule& resources, DialogProcedure& procedure) {
     auto form = DialogTemplate::read(dialogTemplate);
-    return form ? std::make_shared<WindowsDialog>(std::move(*form), resources, procedure) : nullptr;
+    return form ? std::make_shared<Dialog>(std::move(*form), resources, procedure) : nullptr;
 }
 
 } // namespace
-
-WindowSystem* WindowSystem::find() {
-    static auto& system = keepForever<Win32WindowSystem>();
-    return isDesktopSeen() ? &system : nullptr;
-}
 
 Win32WindowSystem::Win32WindowSystem() {
     INITCOMMONCONTROLSEX classes = {};
@@ -55,13 +49,13 @@ WindowHandle Win32WindowSystem::createModeless(std::span<const std::byte> dialog
 }
 
 void Win32WindowSystem::endDialog(WindowHandle dialog, std::intptr_t value) {
-    if (const auto found = WindowsDialog::of(dialog)) {
+    if (const auto found = Dialog::of(dialog)) {
         found->end(value);
     }
 }
 
 void Win32WindowSystem::destroyDialog(WindowHandle dialog) {
-    if (const auto found = WindowsDialog::of(dialog)) {
+    if (const auto found = Dialog::of(dialog)) {
         found->destroy();
     }
 }
@@ -69,7 +63,7 @@ void Win32WindowSystem::destroyDialog(WindowHandle dialog) {
 std::intptr_t Win32WindowSystem::send(WindowHandle dialog, std::uint32_t message,
                                       std::uintptr_t wParam, std::intptr_t lParam) {
     std::intptr_t result = 0;
-    if (const auto found = WindowsDialog::of(dialog)) {
+    if (const auto found = Dialog::of(dialog)) {
         found->deliver(message, wParam, lParam, result);
     }
     return result;
@@ -122,6 +116,15 @@ Rectangle Win32WindowSystem::getWorkArea(WindowHandle dialog) {
 Rectangle Win32WindowSystem::mapDialogUnits(WindowHandle dialog, const Rectangle& units) {
     RECT rect = {units.left, units.top, units.right, units.bottom};
     return MapDialogRect(asWindow(dialog), &rect) != FALSE ? asRectangle(rect) : Rectangle();
+}
+
+} // namespace zent::platform::win32
+
+namespace zent::platform {
+
+WindowSystem* WindowSystem::find() {
+    static auto& system = keepForever<win32::Win32WindowSystem>();
+    return isDesktopSeen() ? &system : nullptr;
 }
 
 } // namespace zent::platform

@@ -2,7 +2,7 @@
 
 #include "platform/WindowSystem.h"
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 /// The window system of Windows. It has no state of its own: that lies in the dialogs and their
 /// windows. Each of the sources that define it has one subject.
@@ -117,4 +117,4 @@ public:
     bool saveScreenshot(WindowHandle dialog, std::u16string_view fileName) override;
 };
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

@@ -1,12 +1,12 @@
 // Edit items, and the edit part of combo boxes.
 
+#include "platform/win32/Dialog.h"
 #include "platform/win32/DialogItem.h"
 #include "platform/win32/EditFilter.h"
 #include "platform/win32/Win32WindowSystem.h"
 #include "platform/win32/WindowText.h"
-#include "platform/win32/WindowsDialog.h"
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 namespace {
 
@@ -63,4 +63,4 @@ void Win32WindowSystem::setTransparent(WindowHandle dialog, std::uint16_t item) 
     }
 }
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

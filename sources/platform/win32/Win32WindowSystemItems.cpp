@@ -1,13 +1,13 @@
 // Items of any kind, buttons, check boxes, sliders and pictures.
 
+#include "platform/win32/Dialog.h"
 #include "platform/win32/DialogItem.h"
 #include "platform/win32/Picture.h"
 #include "platform/win32/ResourceImages.h"
 #include "platform/win32/Win32WindowSystem.h"
 #include "platform/win32/WindowText.h"
-#include "platform/win32/WindowsDialog.h"
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 namespace {
 
@@ -18,7 +18,7 @@ Rectangle getPlace(HWND item, HWND dialog) {
     return {rect.left, rect.top, rect.right, rect.bottom};
 }
 
-bool isMarkedButton(const WindowsDialog::Item& item) {
+bool isMarkedButton(const Dialog::Item& item) {
     constexpr LONG lowestBits = 7;
     return item.kind == ItemKind::button &&
            (GetWindowLongW(item.window, GWL_STYLE) & lowestBits) != 0;
@@ -33,8 +33,8 @@ constexpr std::initializer_list<ItemKind> ranges = {ItemKind::slider, ItemKind::
 
 std::vector<WindowSystem::Item> Win32WindowSystem::getItems(WindowHandle dialog) {
     std::vector<Item> items;
-    if (const auto found = WindowsDialog::of(dialog)) {
-        for (const WindowsDialog::Item& item : found->items()) {
+    if (const auto found = Dialog::of(dialog)) {
+        for (const Dialog::Item& item : found->items()) {
             items.push_back(
                 {item.id, getPlace(item.window, found->window()), isMarkedButton(item)});
         }
@@ -47,7 +47,7 @@ bool Win32WindowSystem::hasItem(WindowHandle dialog, std::uint16_t item) {
 }
 
 void Win32WindowSystem::moveItem(WindowHandle dialog, std::size_t index, const Rectangle& place) {
-    const auto found = WindowsDialog::of(dialog);
+    const auto found = Dialog::of(dialog);
     if (found == nullptr || index >= found->items().size()) {
         return;
     }
@@ -64,7 +64,7 @@ void Win32WindowSystem::showItem(WindowHandle dialog, std::uint16_t item, bool i
         if (!isShown) {
             found.leave(); // else the keyboard would be lost
         }
-        const WindowsDialog::Silence silence(found.dialog());
+        const Dialog::Silence silence(found.dialog());
         ShowWindow(found.window(), isShown ? SW_SHOW : SW_HIDE);
     }
 }
@@ -92,7 +92,7 @@ bool Win32WindowSystem::isItemEnabled(WindowHandle dialog, std::uint16_t item) {
 void Win32WindowSystem::focusItem(WindowHandle dialog, std::uint16_t item) {
     const DialogItem found(dialog, item);
     if (found && found.hasStyle(WS_VISIBLE) && !found.hasStyle(WS_DISABLED)) {
-        const WindowsDialog::Silence silence(found.dialog()); // of a radio button, it would click
+        const Dialog::Silence silence(found.dialog()); // of a radio button, it would click
         SendMessageW(found.dialog().window(), WM_NEXTDLGCTL,
                      reinterpret_cast<WPARAM>(found.window()), TRUE);
     }
@@ -100,7 +100,7 @@ void Win32WindowSystem::focusItem(WindowHandle dialog, std::uint16_t item) {
 
 void Win32WindowSystem::removeItem(WindowHandle dialog, std::uint16_t item) {
     if (const DialogItem found(dialog, item); found) {
-        const WindowsDialog::Silence silence(found.dialog());
+        const Dialog::Silence silence(found.dialog());
         found.leave();
         found.dialog().removeItem(item);
     }
@@ -113,7 +113,7 @@ void Win32WindowSystem::setText(WindowHandle dialog, std::uint16_t item, std::u1
     }
     const bool isNewText = found.kind() == ItemKind::edit && getWindowText(found.window()) != text;
     {
-        const WindowsDialog::Silence silence(found.dialog());
+        const Dialog::Silence silence(found.dialog());
         setWindowText(found.window(), text);
     }
     // Items of several lines don't tell of this by themselves, and others tell of no change too.
@@ -146,7 +146,7 @@ void Win32WindowSystem::setDefaultButton(WindowHandle dialog, std::uint16_t item
     if (!found || getButtonType(found.window()) > BS_DEFPUSHBUTTON) {
         return;
     }
-    for (const WindowsDialog::Item& other : found.dialog().items()) {
+    for (const Dialog::Item& other : found.dialog().items()) {
         if (other.kind == ItemKind::button && getButtonType(other.window) == BS_DEFPUSHBUTTON) {
             SendMessageW(other.window, BM_SETSTYLE, BS_PUSHBUTTON, TRUE);
         }
@@ -234,7 +234,7 @@ void Win32WindowSystem::setBitmap(WindowHandle dialog, std::uint16_t item, std::
 
 void Win32WindowSystem::drawBitmap(WindowHandle dialog, const DrawRequest& request,
                                    std::uint32_t bitmap) {
-    const auto found = WindowsDialog::of(dialog);
+    const auto found = Dialog::of(dialog);
     if (found != nullptr && request.canvas != nullptr) {
         const auto& canvas = *static_cast<const DRAWITEMSTRUCT*>(request.canvas);
         const RECT& place = canvas.rcItem;
@@ -244,4 +244,4 @@ void Win32WindowSystem::drawBitmap(WindowHandle dialog, const DrawRequest& reque
     }
 }
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

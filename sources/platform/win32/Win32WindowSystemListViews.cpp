@@ -1,14 +1,14 @@
 // List views.
 
+#include "platform/win32/Dialog.h"
 #include "platform/win32/DialogItem.h"
 #include "platform/win32/ResourceImages.h"
 #include "platform/win32/WideText.h"
 #include "platform/win32/Win32WindowSystem.h"
-#include "platform/win32/WindowsDialog.h"
 
 #include <commctrl.h>
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 namespace {
 
@@ -86,7 +86,7 @@ void Win32WindowSystem::setListViewStyle(WindowHandle dialog, std::uint16_t item
         return;
     }
     constexpr DWORD extended = LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT;
-    const WindowsDialog::Silence silence(list.dialog());
+    const Dialog::Silence silence(list.dialog());
     switch (style) {
     case ListViewStyle::icons:
         list.setView(LVS_ICON);
@@ -239,4 +239,4 @@ bool Win32WindowSystem::isRowChecked(WindowHandle dialog, std::uint16_t item, st
                                          LPARAM{LVIS_STATEIMAGEMASK}) == LRESULT{withMark};
 }
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

@@ -4,7 +4,7 @@
 #include "platform/win32/WideText.h"
 #include "platform/win32/Win32WindowSystem.h"
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 namespace {
 
@@ -129,4 +129,4 @@ std::uintptr_t Win32WindowSystem::getListValue(WindowHandle dialog, std::uint16_
                                 : 0;
 }
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

@@ -3,15 +3,15 @@
 #include <array>
 
 #include "platform/Files.h"
+#include "platform/win32/Dialog.h"
 #include "platform/win32/Screenshot.h"
 #include "platform/win32/WideText.h"
 #include "platform/win32/Win32WindowSystem.h"
-#include "platform/win32/WindowsDialog.h"
 
 #include <cderr.h>
 #include <commdlg.h>
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 namespace {
 
@@ -80,7 +80,7 @@ bool Win32WindowSystem::showHelp(WindowHandle owner, std::u16string_view helpFil
     if (!getFileStamp(path).exists) {
         return false; // the system would ask the user where it is
     }
-    const auto dialog = WindowsDialog::of(owner);
+    const auto dialog = Dialog::of(owner);
     return dialog != nullptr
                ? dialog->showHelp(path, context)
                : WinHelpW(static_cast<HWND>(owner), wide(path), HELP_CONTEXT, context) != FALSE;
@@ -90,4 +90,4 @@ bool Win32WindowSystem::saveScreenshot(WindowHandle dialog, std::u16string_view 
     return saveAsBitmap(static_cast<HWND>(dialog), CXString(fileName));
 }
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

@@ -155,9 +155,9 @@ TEST_F(Win32WindowSystemTest, WindowsKeepWhatStandsBehindThem) {
 TEST_F(Win32WindowSystemTest, NothingStandsBeforeAWindowThatIsGone) {
     const HWND edit = CreateWindowExW(0, L"Edit", L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr,
                                       nullptr, nullptr);
-    EXPECT_TRUE(SubclassedItem::attach(std::make_unique<EditFilter>(edit)));
+    EXPECT_TRUE(win32::SubclassedItem::attach(std::make_unique<win32::EditFilter>(edit)));
     DestroyWindow(edit);
-    EXPECT_FALSE(SubclassedItem::attach(std::make_unique<EditFilter>(edit)));
+    EXPECT_FALSE(win32::SubclassedItem::attach(std::make_unique<win32::EditFilter>(edit)));
 }
 
 /// Such as the application's, which doesn't know of the dialog.
@@ -231,11 +231,11 @@ TEST_F(Win32WindowSystemTest, BrokenPicturesAreNone) {
              {"too many colours", change(whole, 32, 0x7FFFFFFF)},
          }) {
         m_resources.images[{bitmap, resourceType::bitmap}] = bytes;
-        EXPECT_EQ(createBitmap(m_resources, bitmap), nullptr) << fault;
+        EXPECT_EQ(win32::createBitmap(m_resources, bitmap), nullptr) << fault;
     }
     m_resources.images[{icon, resourceType::iconGroup}] = makeIconGroup(2);
-    EXPECT_EQ(createIcon(m_resources, icon, 16, 16), nullptr);
-    EXPECT_EQ(createIcon(m_resources, bitmap, 16, 16), nullptr);
+    EXPECT_EQ(win32::createIcon(m_resources, icon, 16, 16), nullptr);
+    EXPECT_EQ(win32::createIcon(m_resources, bitmap, 16, 16), nullptr);
 }
 
 } // namespace

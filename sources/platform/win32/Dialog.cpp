@@ -1,4 +1,4 @@
-#include "platform/win32/WindowsDialog.h"
+#include "platform/win32/Dialog.h"
 
 #include <algorithm>
 #include <utility>
@@ -7,7 +7,7 @@
 #include "platform/win32/ResourceImages.h"
 #include "platform/win32/WideText.h"
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 namespace {
 
@@ -24,11 +24,10 @@ private:
 
 } // namespace
 
-WindowsDialog::WindowsDialog(DialogTemplate form, const ResourceModule& resources,
-                             DialogProcedure& procedure)
+Dialog::Dialog(DialogTemplate form, const ResourceModule& resources, DialogProcedure& procedure)
     : m_form(std::move(form)), m_resources(resources), m_procedure(procedure) {}
 
-std::intptr_t WindowsDialog::runModal(std::span<const std::byte> dialogTemplate, HWND owner) {
+std::intptr_t Dialog::runModal(std::span<const std::byte> dialogTemplate, HWND owner) {
     m_isModal = true;
     m_isBeingOpened = true;
     const std::intptr_t value =
@@ -41,7 +40,7 @@ std::intptr_t WindowsDialog::runModal(std::span<const std::byte> dialogTemplate,
     return m_window != nullptr ? value : -1;
 }
 
-HWND WindowsDialog::createModeless(std::span<const std::byte> dialogTemplate, HWND owner) {
+HWND Dialog::createModeless(std::span<const std::byte> dialogTemplate, HWND owner) {
     m_isBeingOpened = true;
     const HWND window =
         CreateDialogIndirectParamW(getOwnModule(), AlignedTemplate(dialogTemplate).get(), owner,
@@ -58,35 +57,34 @@ HWND WindowsDialog::createModeless(std::span<const std::byte> dialogTemplate, HW
     return window;
 }
 
-void WindowsDialog::end(std::intptr_t value) {
+void Dialog::end(std::intptr_t value) {
     if (m_isModal) {
         m_hasEnded = true;
         EndDialog(m_window, value);
     }
 }
 
-void WindowsDialog::destroy() {
+void Dialog::destroy() {
     if (!m_isModal) {
         m_hasEnded = true;
         DestroyWindow(m_window);
     }
 }
 
-WindowsDialog* WindowsDialog::find(HWND window) {
+Dialog* Dialog::find(HWND window) {
     const bool isOwn =
         GetWindowLongPtrW(window, DWLP_DLGPROC) == reinterpret_cast<LONG_PTR>(&procedure);
-    return isOwn ? reinterpret_cast<WindowsDialog*>(GetWindowLongPtrW(window, GWLP_USERDATA))
-                 : nullptr;
+    return isOwn ? reinterpret_cast<Dialog*>(GetWindowLongPtrW(window, GWLP_USERDATA)) : nullptr;
 }
 
-std::shared_ptr<WindowsDialog> WindowsDialog::of(WindowHandle window) {
-    WindowsDialog* const dialog = find(static_cast<HWND>(window));
+std::shared_ptr<Dialog> Dialog::of(WindowHandle window) {
+    Dialog* const dialog = find(static_cast<HWND>(window));
     return dialog != nullptr ? dialog->shared_from_this() : nullptr;
 }
 
-void WindowsDialog::endBy(const std::exception_ptr& exception, HWND window) {
+void Dialog::endBy(const std::exception_ptr& exception, HWND window) {
     for (HWND at = window; at != nullptr; at = GetWindow(at, GW_OWNER)) {
-        WindowsDialog* const dialog = find(at);
+        Dialog* const dialog = find(at);
         if (dialog != nullptr && dialog->m_isBeingOpened) {
             dialog->m_exception = exception;
             dialog->end(-1);
@@ -97,25 +95,25 @@ void WindowsDialog::endBy(const std::exception_ptr& exception, HWND window) {
     std::rethrow_exception(exception);
 }
 
-bool WindowsDialog::deliver(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam,
-                            std::intptr_t& result) {
+bool Dialog::deliver(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam,
+                     std::intptr_t& result) {
     result = 0;
     const bool isHandled = m_procedure.processEvent(m_window, message, wParam, lParam, result);
     SetWindowLongPtrW(m_window, DWLP_MSGRESULT, result);
     return isHandled;
 }
 
-bool WindowsDialog::command(std::uint16_t item, std::uint32_t code) {
+bool Dialog::command(std::uint16_t item, std::uint32_t code) {
     std::intptr_t result = 0;
     return deliver(event::command, MAKEWPARAM(item, code), 0, result);
 }
 
-HWND WindowsDialog::find(std::uint16_t id) const {
+HWND Dialog::find(std::uint16_t id) const {
     const auto found = m_firstOfId.find(id);
     return found != m_firstOfId.end() ? found->second : nullptr;
 }
 
-void WindowsDialog::removeItem(std::uint16_t id) {
+void Dialog::removeItem(std::uint16_t id) {
     const HWND item = find(id);
     if (item != nullptr) {
         m_toolTips.set(m_window, item, u"");
@@ -125,25 +123,25 @@ void WindowsDialog::removeItem(std::uint16_t id) {
     }
 }
 
-void WindowsDialog::setProperty(HWND item, std::u16string_view name, std::uintptr_t value) {
+void Dialog::setProperty(HWND item, std::u16string_view name, std::uintptr_t value) {
     const auto place = m_properties.emplace(item, name).first;
     SetPropW(item, wide(place->second.c_str()), reinterpret_cast<HANDLE>(value));
 }
 
-bool WindowsDialog::showHelp(const CXString& helpFile, std::uint32_t context) {
+bool Dialog::showHelp(const CXString& helpFile, std::uint32_t context) {
     m_hasShownHelp = true;
     return WinHelpW(m_window, wide(helpFile), HELP_CONTEXT, context) != FALSE;
 }
 
 // ---- What the window is told --------------------------------------------------------------------
 
-INT_PTR CALLBACK WindowsDialog::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+INT_PTR CALLBACK Dialog::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_INITDIALOG) {
         SetWindowLongPtrW(window, GWLP_USERDATA, lParam);
-        reinterpret_cast<WindowsDialog*>(lParam)->m_window = window;
+        reinterpret_cast<Dialog*>(lParam)->m_window = window;
     }
     // What comes before is about the making of the items.
-    const std::shared_ptr<WindowsDialog> dialog = of(window);
+    const std::shared_ptr<Dialog> dialog = of(window);
     if (dialog == nullptr) {
         return FALSE;
     }
@@ -155,7 +153,7 @@ INT_PTR CALLBACK WindowsDialog::procedure(HWND window, UINT message, WPARAM wPar
     }
 }
 
-INT_PTR WindowsDialog::process(UINT message, WPARAM wParam, LPARAM lParam) {
+INT_PTR Dialog::process(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_INITDIALOG:
         open();
@@ -188,7 +186,7 @@ INT_PTR WindowsDialog::process(UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
-void WindowsDialog::open() {
+void Dialog::open() {
     listItems();
     loadImages();
     if (!m_isModal) {
@@ -209,7 +207,7 @@ void WindowsDialog::open() {
 }
 
 /// Of the screen, where the system would leave a dialog without an owner in the corner.
-void WindowsDialog::placeInTheMiddle() {
+void Dialog::placeInTheMiddle() {
     MONITORINFO info = {};
     info.cbSize = sizeof(info);
     GetMonitorInfoW(MonitorFromWindow(m_window, MONITOR_DEFAULTTOPRIMARY), &info);
@@ -224,7 +222,7 @@ void WindowsDialog::placeInTheMiddle() {
     SetWindowPos(m_window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void WindowsDialog::listItems() {
+void Dialog::listItems() {
     m_items.clear();
     m_firstOfId.clear();
     for (HWND item = GetWindow(m_window, GW_CHILD); item != nullptr;
@@ -237,7 +235,7 @@ void WindowsDialog::listItems() {
 
 /// The system looks for the pictures of the items in the module that a dialog belongs to, and these
 /// dialogs come with another one.
-void WindowsDialog::loadImages() {
+void Dialog::loadImages() {
     const std::size_t count = std::min(m_items.size(), m_form.items.size());
     for (std::size_t i = 0; i < count; ++i) {
         const auto* const resource = std::get_if<std::uint16_t>(&m_form.items[i].title);
@@ -247,7 +245,7 @@ void WindowsDialog::loadImages() {
     }
 }
 
-void WindowsDialog::loadImage(HWND label, std::uint32_t type, std::uint16_t resource) {
+void Dialog::loadImage(HWND label, std::uint32_t type, std::uint16_t resource) {
     if (type == SS_ICON) {
         m_icons.push_back(createIcon(m_resources, resource, GetSystemMetrics(SM_CXICON),
                                      GetSystemMetrics(SM_CYICON)));
@@ -262,7 +260,7 @@ void WindowsDialog::loadImage(HWND label, std::uint32_t type, std::uint16_t reso
 
 /// Unless the procedure has put the focus on an item. The system would choose before the procedure
 /// has shown any.
-void WindowsDialog::focusFirstItem() {
+void Dialog::focusFirstItem() {
     if (m_hasEnded || IsChild(m_window, GetFocus())) {
         return;
     }
@@ -273,7 +271,7 @@ void WindowsDialog::focusFirstItem() {
     }
 }
 
-void WindowsDialog::onDestroy() {
+void Dialog::onDestroy() {
     m_hasEnded = true;
     std::intptr_t result = 0;
     deliver(event::destroy, 0, 0, result);
@@ -285,10 +283,10 @@ void WindowsDialog::onDestroy() {
     }
 }
 
-void WindowsDialog::onGone() {
+void Dialog::onGone() {
     m_keys.reset();
     SetWindowLongPtrW(m_window, GWLP_USERDATA, 0);
     m_self.reset();
 }
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

@@ -21,13 +21,13 @@
 
 #include <commctrl.h>
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 /// A dialog of the library, from its window's creation to its end: turns what the window is told
 /// into the port's events. It is always held by shared pointers, since an event may end its window.
-class WindowsDialog : public std::enable_shared_from_this<WindowsDialog> {
+class Dialog : public std::enable_shared_from_this<Dialog> {
 public:
-    WindowsDialog(DialogTemplate form, const ResourceModule& resources, DialogProcedure& procedure);
+    Dialog(DialogTemplate form, const ResourceModule& resources, DialogProcedure& procedure);
 
     // ---- Opening and ending --------------------------------------------------------------------
 
@@ -40,7 +40,7 @@ public:
     void destroy();
 
     /// The dialog that a window is; null for all other windows.
-    static std::shared_ptr<WindowsDialog> of(WindowHandle window);
+    static std::shared_ptr<Dialog> of(WindowHandle window);
     /// Ends a dialog, or the modal one that a modeless one stands before, by an exception, which
     /// can't pass through the system's message loop: it is raised again by what opened the dialog.
     static void endBy(const std::exception_ptr& exception, HWND window);
@@ -75,18 +75,18 @@ public:
     /// an edit item lost the focus.
     class Silence {
     public:
-        explicit Silence(WindowsDialog& dialog) : m_dialog(dialog) { ++m_dialog.m_silences; }
+        explicit Silence(Dialog& dialog) : m_dialog(dialog) { ++m_dialog.m_silences; }
         ~Silence() { --m_dialog.m_silences; }
         Silence(const Silence&) = delete;
         Silence& operator=(const Silence&) = delete;
 
     private:
-        WindowsDialog& m_dialog;
+        Dialog& m_dialog;
     };
 
 private:
     static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    static WindowsDialog* find(HWND window);
+    static Dialog* find(HWND window);
     INT_PTR process(UINT message, WPARAM wParam, LPARAM lParam);
 
     void open();
@@ -120,7 +120,7 @@ private:
     std::vector<OwnIcon> m_icons;
     ToolTips m_toolTips;
     std::unique_ptr<ModelessKeys> m_keys;
-    std::shared_ptr<WindowsDialog> m_self; // of a modeless dialog, as long as the window stands
+    std::shared_ptr<Dialog> m_self; // of a modeless dialog, as long as the window stands
     std::exception_ptr m_exception;
     int m_silences = 0;
     bool m_isModal = false;
@@ -129,4 +129,4 @@ private:
     bool m_hasShownHelp = false;
 };
 
-} // namespace zent::platform
+} // namespace zent::platform::win32

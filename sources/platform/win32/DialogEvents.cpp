@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <optional>
 
-#include "platform/win32/WindowsDialog.h"
+#include "platform/win32/Dialog.h"
 
-namespace zent::platform {
+namespace zent::platform::win32 {
 
 namespace {
 
@@ -82,7 +82,7 @@ int moveScrollBar(HWND bar, std::uint32_t code) {
 
 } // namespace
 
-bool WindowsDialog::onCommand(std::uint16_t id, std::uint32_t code, HWND control) {
+bool Dialog::onCommand(std::uint16_t id, std::uint32_t code, HWND control) {
     // The keyboard's commands come without a control where the dialog has no such item.
     const auto notification =
         control != nullptr ? asNotification(control, code) : std::optional(notification::clicked);
@@ -101,7 +101,7 @@ bool WindowsDialog::onCommand(std::uint16_t id, std::uint32_t code, HWND control
 }
 
 /// By the mouse or a key: Enter and Escape press OK and Cancel, the cross in the frame is Cancel.
-bool WindowsDialog::onClick(std::uint16_t id) {
+bool Dialog::onClick(std::uint16_t id) {
     const HWND item = find(id);
     if (item != nullptr && !IsWindowEnabled(item)) {
         return true;
@@ -114,7 +114,7 @@ bool WindowsDialog::onClick(std::uint16_t id) {
     return isHandled;
 }
 
-bool WindowsDialog::onNotify(const NMHDR& header) {
+bool Dialog::onNotify(const NMHDR& header) {
     if (!raisesEvents()) {
         return false;
     }
@@ -129,14 +129,14 @@ bool WindowsDialog::onNotify(const NMHDR& header) {
     }
 }
 
-bool WindowsDialog::notify(const Notification& notification) {
+bool Dialog::notify(const Notification& notification) {
     std::intptr_t result = 0;
     const bool isHandled = deliver(event::notify, notification.item,
                                    reinterpret_cast<std::intptr_t>(&notification), result);
     return isHandled || result != 0;
 }
 
-bool WindowsDialog::onSpinStep(const NMUPDOWN& step) {
+bool Dialog::onSpinStep(const NMUPDOWN& step) {
     int lower = 0;
     int upper = 0;
     SendMessageW(step.hdr.hwndFrom, UDM_GETRANGE32, reinterpret_cast<WPARAM>(&lower),
@@ -151,7 +151,7 @@ bool WindowsDialog::onSpinStep(const NMUPDOWN& step) {
     return notify(notification);
 }
 
-bool WindowsDialog::onListView(const NMLISTVIEW& row) {
+bool Dialog::onListView(const NMLISTVIEW& row) {
     constexpr UINT marks = LVIS_SELECTED | LVIS_STATEIMAGEMASK;
     const bool isActivated = row.hdr.code == NM_DBLCLK;
     const bool isChanged =
@@ -168,7 +168,7 @@ bool WindowsDialog::onListView(const NMLISTVIEW& row) {
     return notify(notification);
 }
 
-bool WindowsDialog::onScroll(std::uint32_t code, HWND control) {
+bool Dialog::onScroll(std::uint32_t code, HWND control) {
     const ItemKind kind = getItemKind(control);
     const bool isSlider = kind == ItemKind::slider;
     if ((!isSlider && kind != ItemKind::scrollBar) || code == SB_ENDSCROLL || !raisesEvents()) {
@@ -181,7 +181,7 @@ bool WindowsDialog::onScroll(std::uint32_t code, HWND control) {
     return deliver(event::horizontalScroll, MAKEWPARAM(0, position), GetDlgCtrlID(control), result);
 }
 
-bool WindowsDialog::onDrawItem(const DRAWITEMSTRUCT& request) {
+bool Dialog::onDrawItem(const DRAWITEMSTRUCT& request) {
     if (request.CtlType != ODT_BUTTON) {
         return false;
     }
@@ -204,7 +204,7 @@ bool WindowsDialog::onDrawItem(const DRAWITEMSTRUCT& request) {
     return true;
 }
 
-HBRUSH WindowsDialog::onColor(HDC target, HWND control) const {
+HBRUSH Dialog::onColor(HDC target, HWND control) const {
     if (!m_transparent.contains(control)) {
         return nullptr;
     }
@@ -213,4 +213,4 @@ HBRUSH WindowsDialog::onColor(HDC target, HWND control) const {
     return GetSysColorBrush(COLOR_3DFACE);
 }
 
-} // namespace zent::platform
+} // namespace zent::platform::win32
