@@ -50,7 +50,6 @@ struct DrawRequest {
     std::uint32_t state = 0;  // bit 1 pressed, bit 4 disabled
     /// Draws a bitmap resource on the button; what has the colour of its top left pixel stays out.
     std::function<void(std::uint32_t bitmap)> drawBitmap;
-    void* canvas = nullptr; // for WindowSystem::drawBitmap
 };
 
 /// Receives the events of one dialog, on the thread that runs it.

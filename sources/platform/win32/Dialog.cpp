@@ -6,10 +6,15 @@
 #include "platform/win32/Module.h"
 #include "platform/win32/ResourceImages.h"
 #include "platform/win32/WideText.h"
+#include "platform/win32/WindowText.h"
+
+#include <prsht.h>
 
 namespace zent::platform::win32 {
 
 namespace {
+
+Rectangle asRectangle(const RECT& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
 
 /// A copy at an address that the system accepts for a template.
 class AlignedTemplate {
@@ -108,19 +113,26 @@ bool Dialog::command(std::uint16_t item, std::uint32_t code) {
     return deliver(event::command, MAKEWPARAM(item, code), 0, result);
 }
 
-HWND Dialog::find(std::uint16_t id) const {
-    const auto found = m_firstOfId.find(id);
-    return found != m_firstOfId.end() ? found->second : nullptr;
+Item* Dialog::findItem(std::uint16_t id) const {
+    const auto found = std::find_if(m_items.begin(), m_items.end(), [&](const auto& item) {
+        return item->isThere() && item->getId() == id;
+    });
+    return found != m_items.end() ? found->get() : nullptr;
 }
 
-void Dialog::removeItem(std::uint16_t id) {
-    const HWND item = find(id);
-    if (item != nullptr) {
-        m_toolTips.set(m_window, item, u"");
-        m_transparent.erase(item);
-        DestroyWindow(item);
-        listItems();
+std::vector<DialogItem*> Dialog::getItems() const {
+    std::vector<DialogItem*> items;
+    for (const auto& item : m_items) {
+        if (item->isThere()) {
+            items.push_back(item.get());
+        }
     }
+    return items;
+}
+
+void Dialog::forget(HWND item) {
+    m_toolTips.set(m_window, item, u"");
+    m_transparent.erase(item);
 }
 
 void Dialog::setProperty(HWND item, std::u16string_view name, std::uintptr_t value) {
@@ -128,9 +140,56 @@ void Dialog::setProperty(HWND item, std::u16string_view name, std::uintptr_t val
     SetPropW(item, wide(place->second.c_str()), reinterpret_cast<HANDLE>(value));
 }
 
-bool Dialog::showHelp(const CXString& helpFile, std::uint32_t context) {
+bool Dialog::showHelp(const std::u16string& helpFile, std::uint32_t context) {
     m_hasShownHelp = true;
-    return WinHelpW(m_window, wide(helpFile), HELP_CONTEXT, context) != FALSE;
+    return WinHelpW(m_window, wide(helpFile.c_str()), HELP_CONTEXT, context) != FALSE;
+}
+
+// ---- The window ---------------------------------------------------------------------------------
+
+std::intptr_t Dialog::send(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam) {
+    const auto kept = shared_from_this(); // the event may end it
+    std::intptr_t result = 0;
+    deliver(message, wParam, lParam, result);
+    return result;
+}
+
+void Dialog::reportChanged() {
+    SendMessageW(GetParent(m_window), PSM_CHANGED, reinterpret_cast<WPARAM>(m_window),
+                 reinterpret_cast<LPARAM>(m_window));
+}
+
+void Dialog::setCaption(std::u16string_view text) { setWindowText(m_window, text); }
+
+bool Dialog::isVisible() const { return IsWindowVisible(m_window) != FALSE; }
+
+Rectangle Dialog::getWindowRectangle() const {
+    RECT rect = {};
+    GetWindowRect(m_window, &rect);
+    return asRectangle(rect);
+}
+
+Rectangle Dialog::getClientRectangle() const {
+    RECT rect = {};
+    GetClientRect(m_window, &rect);
+    return asRectangle(rect);
+}
+
+void Dialog::moveTo(const Rectangle& place) {
+    MoveWindow(m_window, place.left, place.top, place.width(), place.height(),
+               IsWindowVisible(m_window));
+}
+
+Rectangle Dialog::getWorkArea() const {
+    MONITORINFO info = {};
+    info.cbSize = sizeof(info);
+    GetMonitorInfoW(MonitorFromWindow(m_window, MONITOR_DEFAULTTONEAREST), &info);
+    return asRectangle(info.rcWork);
+}
+
+Rectangle Dialog::mapDialogUnits(const Rectangle& units) const {
+    RECT rect = {units.left, units.top, units.right, units.bottom};
+    return MapDialogRect(m_window, &rect) != FALSE ? asRectangle(rect) : Rectangle();
 }
 
 // ---- What the window is told --------------------------------------------------------------------
@@ -223,13 +282,9 @@ void Dialog::placeInTheMiddle() {
 }
 
 void Dialog::listItems() {
-    m_items.clear();
-    m_firstOfId.clear();
     for (HWND item = GetWindow(m_window, GW_CHILD); item != nullptr;
          item = GetWindow(item, GW_HWNDNEXT)) {
-        const auto id = static_cast<std::uint16_t>(GetDlgCtrlID(item));
-        m_items.push_back({item, id, getItemKind(item)});
-        m_firstOfId.emplace(id, item);
+        m_items.push_back(Item::make(*this, item));
     }
 }
 
@@ -239,8 +294,8 @@ void Dialog::loadImages() {
     const std::size_t count = std::min(m_items.size(), m_form.items.size());
     for (std::size_t i = 0; i < count; ++i) {
         const auto* const resource = std::get_if<std::uint16_t>(&m_form.items[i].title);
-        if (resource != nullptr && m_items[i].kind == ItemKind::label) {
-            loadImage(m_items[i].window, m_form.items[i].style & SS_TYPEMASK, *resource);
+        if (resource != nullptr && m_items[i]->kind() == ItemKind::label) {
+            loadImage(m_items[i]->window(), m_form.items[i].style & SS_TYPEMASK, *resource);
         }
     }
 }

@@ -6,14 +6,14 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
+#include "platform/Dialog.h"
 #include "platform/DialogTemplate.h"
-#include "platform/WindowSystem.h"
+#include "platform/ResourceModule.h"
 #include "platform/win32/GdiHandles.h"
-#include "platform/win32/ItemKind.h"
+#include "platform/win32/Item.h"
 #include "platform/win32/ModelessKeys.h"
 #include "platform/win32/ToolTips.h"
 
@@ -25,7 +25,7 @@ namespace zent::platform::win32 {
 
 /// A dialog of the library, from its window's creation to its end: turns what the window is told
 /// into the port's events. It is always held by shared pointers, since an event may end its window.
-class Dialog : public std::enable_shared_from_this<Dialog> {
+class Dialog final : public platform::Dialog, public std::enable_shared_from_this<Dialog> {
 public:
     Dialog(DialogTemplate form, const ResourceModule& resources, DialogProcedure& procedure);
 
@@ -36,8 +36,6 @@ public:
     std::intptr_t runModal(std::span<const std::byte> dialogTemplate, HWND owner);
     /// Null if it couldn't be made. The window keeps this object.
     HWND createModeless(std::span<const std::byte> dialogTemplate, HWND owner);
-    void end(std::intptr_t value);
-    void destroy();
 
     /// The dialog that a window is; null for all other windows.
     static std::shared_ptr<Dialog> of(WindowHandle window);
@@ -51,37 +49,51 @@ public:
     /// Tells the procedure of a command, whoever's doing it is.
     bool command(std::uint16_t item, std::uint32_t code);
 
-    // ---- The window and its items --------------------------------------------------------------
+    // ---- As the port has it --------------------------------------------------------------------
 
-    struct Item {
-        HWND window = nullptr;
-        std::uint16_t id = 0;
-        ItemKind kind = ItemKind::other;
-    };
+    WindowHandle getHandle() override { return m_window; }
+    void end(std::intptr_t value) override;
+    void destroy() override;
+    std::intptr_t send(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam) override;
+    void reportChanged() override;
+    void setCaption(std::u16string_view text) override;
+    bool isVisible() const override;
+    Rectangle getWindowRectangle() const override;
+    Rectangle getClientRectangle() const override;
+    void moveTo(const Rectangle& place) override;
+    /// Of the screen that the dialog is on.
+    Rectangle getWorkArea() const override;
+    Rectangle mapDialogUnits(const Rectangle& units) const override;
+    std::vector<DialogItem*> getItems() const override;
+    Item* findItem(std::uint16_t id) const override;
+
+    // ---- For its items -------------------------------------------------------------------------
+
     HWND window() const { return m_window; }
     const ResourceModule& resources() const { return m_resources; }
-    /// In the order of the template.
-    const std::vector<Item>& items() const { return m_items; }
-    /// The window of the first item of an id, or null.
-    HWND find(std::uint16_t id) const;
-    void removeItem(std::uint16_t id);
+    /// In the order of the template, with those that were removed.
+    const std::vector<std::unique_ptr<Item>>& items() const { return m_items; }
     void setToolTip(HWND item, std::u16string_view text) { m_toolTips.set(m_window, item, text); }
     /// Lets the page shine through an edit item that is read-only.
     void setTransparent(HWND edit) { m_transparent.insert(edit); }
     void setProperty(HWND item, std::u16string_view name, std::uintptr_t value);
-    bool showHelp(const CXString& helpFile, std::uint32_t context);
+    /// Before an item's window goes.
+    void forget(HWND item);
+    bool showHelp(const std::u16string& helpFile, std::uint32_t context);
 
     /// While it lives, what happens to items is the program's doing and raises no event, but that
     /// an edit item lost the focus.
     class Silence {
     public:
-        explicit Silence(Dialog& dialog) : m_dialog(dialog) { ++m_dialog.m_silences; }
-        ~Silence() { --m_dialog.m_silences; }
+        explicit Silence(Dialog& dialog) : m_dialog(dialog.shared_from_this()) {
+            ++m_dialog->m_silences;
+        }
+        ~Silence() { --m_dialog->m_silences; }
         Silence(const Silence&) = delete;
         Silence& operator=(const Silence&) = delete;
 
     private:
-        Dialog& m_dialog;
+        std::shared_ptr<Dialog> m_dialog; // an event may end it
     };
 
 private:
@@ -112,8 +124,7 @@ private:
     const ResourceModule& m_resources;
     DialogProcedure& m_procedure;
     HWND m_window = nullptr;
-    std::vector<Item> m_items;
-    std::unordered_map<std::uint16_t, HWND> m_firstOfId;
+    std::vector<std::unique_ptr<Item>> m_items;
     std::set<HWND> m_transparent;
     std::set<std::pair<HWND, std::u16string>> m_properties;
     std::vector<OwnBitmap> m_bitmaps; // of the template's items

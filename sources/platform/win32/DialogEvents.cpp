@@ -4,6 +4,8 @@
 #include <optional>
 
 #include "platform/win32/Dialog.h"
+#include "platform/win32/MaskedBitmap.h"
+#include "platform/win32/ResourceImages.h"
 
 namespace zent::platform::win32 {
 
@@ -102,8 +104,8 @@ bool Dialog::onCommand(std::uint16_t id, std::uint32_t code, HWND control) {
 
 /// By the mouse or a key: Enter and Escape press OK and Cancel, the cross in the frame is Cancel.
 bool Dialog::onClick(std::uint16_t id) {
-    const HWND item = find(id);
-    if (item != nullptr && !IsWindowEnabled(item)) {
+    const Item* const item = findItem(id);
+    if (item != nullptr && !item->isEnabled()) {
         return true;
     }
     const bool isHandled = command(id, notification::clicked);
@@ -190,12 +192,16 @@ bool Dialog::onDrawItem(const DRAWITEMSTRUCT& request) {
         return true;
     }
     FillRect(request.hDC, &request.rcItem, GetSysColorBrush(COLOR_3DFACE));
-    DRAWITEMSTRUCT canvas = request;
     DrawRequest wanted;
     wanted.item = static_cast<std::uint16_t>(request.CtlID);
     wanted.action = request.itemAction;
     wanted.state = request.itemState;
-    wanted.canvas = &canvas;
+    wanted.drawBitmap = [&](std::uint32_t bitmap) {
+        const RECT& place = request.rcItem;
+        const MaskedBitmap picture(createBitmap(m_resources, bitmap));
+        picture.draw(request.hDC, (place.left + place.right - picture.size().cx) / 2,
+                     (place.top + place.bottom - picture.size().cy) / 2);
+    };
     std::intptr_t result = 0;
     deliver(event::drawItem, request.CtlID, reinterpret_cast<std::intptr_t>(&wanted), result);
     if ((request.itemState & ODS_FOCUS) != 0) {

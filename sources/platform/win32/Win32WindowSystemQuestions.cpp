@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "platform/Files.h"
+#include "platform/System.h"
 #include "platform/win32/Dialog.h"
 #include "platform/win32/Screenshot.h"
 #include "platform/win32/WideText.h"
@@ -76,14 +76,14 @@ std::optional<std::u16string> Win32WindowSystem::askForSaveFile(WindowHandle own
 
 bool Win32WindowSystem::showHelp(WindowHandle owner, std::u16string_view helpFile,
                                  std::uint32_t context) {
-    const CXString path(helpFile);
-    if (!getFileStamp(path).exists) {
+    const std::u16string path(helpFile);
+    if (GetFileAttributesW(wide(path.c_str())) == INVALID_FILE_ATTRIBUTES) {
         return false; // the system would ask the user where it is
     }
     const auto dialog = Dialog::of(owner);
-    return dialog != nullptr
-               ? dialog->showHelp(path, context)
-               : WinHelpW(static_cast<HWND>(owner), wide(path), HELP_CONTEXT, context) != FALSE;
+    return dialog != nullptr ? dialog->showHelp(path, context)
+                             : WinHelpW(static_cast<HWND>(owner), wide(path.c_str()), HELP_CONTEXT,
+                                        context) != FALSE;
 }
 
 bool Win32WindowSystem::saveScreenshot(WindowHandle dialog, std::u16string_view fileName) {
