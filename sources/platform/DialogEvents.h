@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <functional>
 
-#include "platform/WindowHandle.h"
-
 namespace zent::platform {
+
+class Dialog;
 
 /// Numbers of the events of a dialog. They are those of the Windows dialog manager, whichever
 /// toolkit is below.
@@ -59,7 +59,7 @@ public:
     /// Returns whether the event was handled; `result` is the message result, read back by
     /// Dialog::send. Words that hold pointers are pointer-sized. No exception may leave but one
     /// that is to end in the application.
-    virtual bool processEvent(WindowHandle dialog, std::uint32_t message, std::uintptr_t wParam,
+    virtual bool processEvent(Dialog& dialog, std::uint32_t message, std::uintptr_t wParam,
                               std::intptr_t lParam, std::intptr_t& result) = 0;
 
 protected:

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/WindowSystem.h"
+#include "platform/DialogItems.h"
 
 namespace zent::platform {
 

@@ -54,9 +54,9 @@ public:
                                    DialogProcedure& procedure) = 0;
     /// The same without a loop: shown, and destroyed by destroyDialog, by a close, or with its
     /// owner; null if it couldn't be made.
-    virtual WindowHandle createModeless(std::span<const std::byte> dialogTemplate,
-                                        const ResourceModule& resources, WindowHandle owner,
-                                        DialogProcedure& procedure) = 0;
+    virtual Dialog* createModeless(std::span<const std::byte> dialogTemplate,
+                                   const ResourceModule& resources, WindowHandle owner,
+                                   DialogProcedure& procedure) = 0;
     /// The dialog that a window is; for any other, one that isn't there.
     virtual Dialog& getDialog(WindowHandle /*window*/) { return none<Dialog>(); }
 
@@ -333,7 +333,9 @@ public:
                           std::uint32_t context) = 0;
 
     /// For tests and documents: writes the dialog as it looks to a PNG or BMP file.
-    virtual bool saveScreenshot(WindowHandle dialog, std::u16string_view fileName) = 0;
+    virtual bool saveScreenshot(WindowHandle /*dialog*/, std::u16string_view /*fileName*/) {
+        return false;
+    }
 
 protected:
     WindowSystem() = default;

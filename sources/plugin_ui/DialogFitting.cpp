@@ -2,24 +2,21 @@
 
 #include <algorithm>
 
-#include "plugin_ui/Reports/CurrentWindowSystem.h"
-
 namespace zent {
 
 namespace {
 
 using platform::Rectangle;
-using Item = platform::WindowSystem::Item;
 
 /// Dialog units.
 constexpr std::int32_t marginUnits = 7;
 constexpr std::int32_t markedInsetUnits = 3;
 
-Rectangle boundingBox(std::span<const Item> items, std::uint16_t firstItem,
+Rectangle boundingBox(std::span<const FittedItem> items, std::uint16_t firstItem,
                       const DialogExtent& extent) {
-    const auto first = std::ranges::find(items, firstItem, &Item::id);
+    const auto first = std::ranges::find(items, firstItem, &FittedItem::id);
     Rectangle box = first != items.end() ? first->place : extent.client;
-    for (const Item& item : items) {
+    for (const FittedItem& item : items) {
         const std::int32_t inset = item.isMarkedButton ? extent.markedInset : 0;
         box.left = std::min(box.left, item.place.left);
         box.top = std::min(box.top, item.place.top + inset);
@@ -33,16 +30,16 @@ Rectangle moved(const Rectangle& place, std::int32_t x, std::int32_t y) {
     return {place.left + x, place.top + y, place.right + x, place.bottom + y};
 }
 
-DialogExtent measureDialog(platform::WindowSystem& system, platform::WindowHandle dialog) {
+DialogExtent measureDialog(const platform::Dialog& dialog) {
     const Rectangle margin{marginUnits, marginUnits, marginUnits, marginUnits};
     const Rectangle inset{0, 0, 0, markedInsetUnits};
-    return {system.getWindowRectangle(dialog), system.getClientRectangle(dialog),
-            system.mapDialogUnits(dialog, margin), system.mapDialogUnits(dialog, inset).bottom};
+    return {dialog.getWindowRectangle(), dialog.getClientRectangle(), dialog.mapDialogUnits(margin),
+            dialog.mapDialogUnits(inset).bottom};
 }
 
 } // namespace
 
-DialogFit fitDialog(std::span<const Item> items, std::uint16_t firstItem,
+DialogFit fitDialog(std::span<const FittedItem> items, std::uint16_t firstItem,
                     const DialogExtent& extent) {
     const auto& [window, client, margin, inset] = extent;
     const Rectangle found = boundingBox(items, firstItem, extent);
@@ -56,14 +53,17 @@ DialogFit fitDialog(std::span<const Item> items, std::uint16_t firstItem,
     return fit;
 }
 
-void fitDialogToContent(platform::WindowHandle dialog, std::uint16_t firstItem) {
-    platform::WindowSystem& system = windowSystem();
-    const std::vector<Item> items = system.getItems(dialog);
-    const DialogFit fit = fitDialog(items, firstItem, measureDialog(system, dialog));
-    for (std::size_t i = 0; fit.movesItems() && i < items.size(); ++i) {
-        system.moveItem(dialog, i, moved(items[i].place, fit.moveX, fit.moveY));
+void fitDialogToContent(platform::Dialog& dialog, std::uint16_t firstItem) {
+    const std::vector<platform::DialogItem*> items = dialog.getItems();
+    std::vector<FittedItem> fitted;
+    for (const platform::DialogItem* const item : items) {
+        fitted.push_back({item->getId(), item->getPlace(), item->isMarkedButton()});
     }
-    system.moveWindow(dialog, fit.window);
+    const DialogFit fit = fitDialog(fitted, firstItem, measureDialog(dialog));
+    for (std::size_t i = 0; fit.movesItems() && i < items.size(); ++i) {
+        items[i]->moveTo(moved(fitted[i].place, fit.moveX, fit.moveY));
+    }
+    dialog.moveTo(fit.window);
 }
 
 Rectangle placePopup(const Rectangle& window, std::int32_t right, std::int32_t top,

@@ -2,7 +2,7 @@
 
 #include <span>
 
-#include "platform/WindowSystem.h"
+#include "platform/Dialog.h"
 
 namespace zent {
 
@@ -24,13 +24,20 @@ struct DialogFit {
     bool movesItems() const { return moveX != 0 || moveY != 0; }
 };
 
+/// An item as it stands in a dialog.
+struct FittedItem {
+    std::uint16_t id = 0;
+    platform::Rectangle place;
+    bool isMarkedButton = false;
+};
+
 /// Items count whether they are shown or not. The content begins as the item `firstItem`, or as the
 /// dialog's inner area where there is no such item.
-DialogFit fitDialog(std::span<const platform::WindowSystem::Item> items, std::uint16_t firstItem,
+DialogFit fitDialog(std::span<const FittedItem> items, std::uint16_t firstItem,
                     const DialogExtent& extent);
 
 /// Fits a dialog's window to its items.
-void fitDialogToContent(platform::WindowHandle dialog, std::uint16_t firstItem);
+void fitDialogToContent(platform::Dialog& dialog, std::uint16_t firstItem);
 
 /// The place of a popup whose right edge is wanted at `right` and whose top at `top`: it rises if
 /// it would pass the bottom of the work area.

@@ -3,7 +3,6 @@
 #include "ocore/Stock/StockInformation.h"
 #include "platform/KeepForever.h"
 #include "plugin_ui/FirstFailure.h"
-#include "plugin_ui/Reports/CurrentWindowSystem.h"
 #include "plugin_ui/Reports/ExceptionReport.h"
 
 namespace zent {
@@ -25,7 +24,7 @@ const CXString& location() {
 
 } // namespace
 
-bool DialogHandler::processEvent(platform::WindowHandle dialog, std::uint32_t message,
+bool DialogHandler::processEvent(platform::Dialog& dialog, std::uint32_t message,
                                  std::uintptr_t wParam, std::intptr_t lParam,
                                  std::intptr_t& result) {
     result = 0;
@@ -36,9 +35,11 @@ bool DialogHandler::processEvent(platform::WindowHandle dialog, std::uint32_t me
         }
         return processMessage(DialogMessage(dialog, message, wParam, lParam), result);
     } catch (const std::exception& exception) {
-        reportException(dialog, exception, titleOfWindow, location(), noFurtherText, u"");
+        reportException(dialog.getHandle(), exception, titleOfWindow, location(), noFurtherText,
+                        u"");
     } catch (...) {
-        if (reportUnknownException(dialog, titleOfWindow, location(), noFurtherText, u"")) {
+        if (reportUnknownException(dialog.getHandle(), titleOfWindow, location(), noFurtherText,
+                                   u"")) {
             throw;
         }
     }
@@ -46,7 +47,7 @@ bool DialogHandler::processEvent(platform::WindowHandle dialog, std::uint32_t me
     return false;
 }
 
-void DialogHandler::startTree(platform::WindowHandle window, std::intptr_t& result) {
+void DialogHandler::startTree(platform::Dialog& dialog, std::intptr_t& result) {
     FirstFailure failure;
     const auto deliver = [&](const DialogMessage& message) {
         failure.attempt([&] { processMessage(message, result); });
@@ -55,14 +56,14 @@ void DialogHandler::startTree(platform::WindowHandle window, std::intptr_t& resu
     if (m_bindStockInformation) {
         getConfiguration().stockInformation->setSettings(&m_workingSettings);
     }
-    failure.attempt([&] { onDialogCreated(window); });
+    failure.attempt([&] { onDialogCreated(dialog); });
     const auto settings = reinterpret_cast<std::intptr_t>(&m_workingSettings);
-    deliver(DialogMessage(window, platform::event::initDialog, 0, settings));
-    failure.attempt([&] { onDialogReady(window); });
-    deliver(DialogMessage(window, UIM_SHOW));
-    deliver(DialogMessage(window, UIM_SETTINGS_CHANGED));
+    deliver(DialogMessage(dialog, platform::event::initDialog, 0, settings));
+    failure.attempt([&] { onDialogReady(dialog); });
+    deliver(DialogMessage(dialog, UIM_SHOW));
+    deliver(DialogMessage(dialog, UIM_SETTINGS_CHANGED));
     if (getConfiguration().readOnly) {
-        deliver(DialogMessage(window, UIM_LOCK));
+        deliver(DialogMessage(dialog, UIM_LOCK));
     }
     failure.raise();
 }

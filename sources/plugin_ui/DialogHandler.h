@@ -19,13 +19,13 @@ public:
     /// Exceptions of the library and the standard are shown to the user, and the event is over; any
     /// other leaves only if the user wants to stop. A validation that fails is a refusal. At the
     /// dialog's start one failure is shown, and the rest of the start still happens.
-    bool processEvent(platform::WindowHandle dialog, std::uint32_t message, std::uintptr_t wParam,
+    bool processEvent(platform::Dialog& dialog, std::uint32_t message, std::uintptr_t wParam,
                       std::intptr_t lParam, std::intptr_t& result) override;
 
     /// The window is there, and the tree hasn't heard of it yet.
-    virtual void onDialogCreated(platform::WindowHandle /*window*/) {}
+    virtual void onDialogCreated(platform::Dialog& /*dialog*/) {}
     /// The tree is ready, and nothing is shown yet.
-    virtual void onDialogReady(platform::WindowHandle /*window*/) {}
+    virtual void onDialogReady(platform::Dialog& /*dialog*/) {}
     /// The configuration is as read-only again as it was at the start.
     bool onDestroy(const DialogMessage& message, std::intptr_t& result) override;
     /// Copies the working settings over the caller's.
@@ -38,7 +38,7 @@ protected:
     void setTarget(FeatureSettings& settings);
 
 private:
-    void startTree(platform::WindowHandle window, std::intptr_t& result);
+    void startTree(platform::Dialog& dialog, std::intptr_t& result);
 
     FeatureSettings* m_targetSettings = nullptr;
     FeatureSettings m_workingSettings;

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "platform/WindowSystem.h"
+#include "platform/Dialog.h"
 
 namespace zent {
 
@@ -28,11 +28,12 @@ constexpr std::intptr_t refused = 2;
 /// never kept. Words that may hold a pointer are as wide as one.
 class DialogMessage {
 public:
-    DialogMessage(platform::WindowHandle window, std::uint32_t message, std::uintptr_t wParam = 0,
+    DialogMessage(platform::Dialog& dialog, std::uint32_t message, std::uintptr_t wParam = 0,
                   std::intptr_t lParam = 0)
-        : m_window(window), m_message(message), m_wParam(wParam), m_lParam(lParam) {}
+        : m_dialog(dialog), m_message(message), m_wParam(wParam), m_lParam(lParam) {}
 
-    platform::WindowHandle getWindow() const { return m_window; }
+    platform::Dialog& getDialog() const { return m_dialog; }
+    platform::WindowHandle getWindow() const { return m_dialog.getHandle(); }
     std::uint32_t getMessage() const { return m_message; }
     std::uintptr_t getWParam() const { return m_wParam; }
     std::intptr_t getLParam() const { return m_lParam; }
@@ -50,11 +51,11 @@ public:
                getNotification() == notification;
     }
 
-    /// Sends the message to its window, through the window system; gives the message result.
-    std::intptr_t resend() const;
+    /// Sends the message to its window; gives the message result.
+    std::intptr_t resend() const { return m_dialog.send(m_message, m_wParam, m_lParam); }
 
 private:
-    platform::WindowHandle m_window;
+    platform::Dialog& m_dialog;
     std::uint32_t m_message;
     std::uintptr_t m_wParam;
     std::intptr_t m_lParam;

@@ -4,12 +4,12 @@
 
 namespace zent {
 
-bool validateDialog(platform::WindowHandle window) {
-    return DialogMessage(window, UIM_VALIDATE).resend() == validation::accepted;
+bool validateDialog(platform::Dialog& dialog) {
+    return DialogMessage(dialog, UIM_VALIDATE).resend() == validation::accepted;
 }
 
-bool validateDialogForSave(platform::WindowHandle window) {
-    return DialogMessage(window, UIM_VALIDATE_FOR_SAVE).resend() == validation::accepted;
+bool validateDialogForSave(platform::Dialog& dialog) {
+    return DialogMessage(dialog, UIM_VALIDATE_FOR_SAVE).resend() == validation::accepted;
 }
 
 } // namespace zent

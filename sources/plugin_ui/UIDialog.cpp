@@ -24,7 +24,7 @@ UIDialog::UIDialog(UIConfiguration& configuration, std::uint32_t templateId,
 }
 
 UIDialog::~UIDialog() {
-    if (m_modelessWindow != nullptr) {
+    if (m_modeless != nullptr) {
         closeModeless();
     }
 }
@@ -59,34 +59,38 @@ bool UIDialog::runModal(platform::WindowHandle owner, FeatureSettings& settings)
 void UIDialog::runModeless(platform::WindowHandle owner, FeatureSettings& settings) {
     m_modelessLibrary = std::make_unique<ResourceLibrary>();
     setTarget(settings);
-    m_modelessWindow = windowSystem().createModeless(m_templateResource.getTemplate(),
-                                                     m_modelessLibrary->getModule(), owner, *this);
+    m_modeless = windowSystem().createModeless(m_templateResource.getTemplate(),
+                                               m_modelessLibrary->getModule(), owner, *this);
 }
 
-void UIDialog::onDialogCreated(platform::WindowHandle window) {
-    m_dialogWindow = window;
+platform::WindowHandle UIDialog::getModelessWindow() const {
+    return m_modeless != nullptr ? m_modeless->getHandle() : nullptr;
+}
+
+void UIDialog::onDialogCreated(platform::Dialog& dialog) {
+    m_dialog = &dialog;
     if (!m_title.isEmpty()) {
-        windowSystem().setCaption(window, m_title);
+        dialog.setCaption(m_title);
     }
     if (m_fitToContent) {
-        fitDialogToContent(window, m_okId);
+        fitDialogToContent(dialog, m_okId);
     }
 }
 
-void UIDialog::onDialogReady(platform::WindowHandle window) {
-    platform::WindowSystem& system = windowSystem();
+void UIDialog::onDialogReady(platform::Dialog& dialog) {
     if (m_screenX != 0 || m_screenY != 0) {
-        system.moveWindow(window, placePopup(system.getWindowRectangle(window), m_screenX,
-                                             m_screenY, system.getWorkArea(window)));
+        dialog.moveTo(
+            placePopup(dialog.getWindowRectangle(), m_screenX, m_screenY, dialog.getWorkArea()));
     }
-    system.setDefaultButton(window, m_okId); // a template merged in may have brought another
-    system.showItem(window, m_okId, true);
-    system.showItem(window, m_cancelId, true);
+    auto& accepting = dialog.item<platform::ButtonItem>(m_okId);
+    accepting.makeDefault(); // a template merged in may have brought another
+    accepting.show(true);
+    dialog.item(m_cancelId).show(true);
 }
 
 bool UIDialog::onCommand(const DialogMessage& message, std::intptr_t& result) {
     if (message.getItem() == m_okId) {
-        if (validateDialog(message.getWindow())) {
+        if (validateDialog(message.getDialog())) {
             accept();
         }
         return true;
@@ -99,8 +103,8 @@ bool UIDialog::onCommand(const DialogMessage& message, std::intptr_t& result) {
 }
 
 void UIDialog::accept() {
-    if (m_modelessWindow == nullptr) {
-        windowSystem().endDialog(m_dialogWindow, accepted);
+    if (m_modeless == nullptr) {
+        m_dialog->end(accepted);
         return;
     }
     commitSettings();
@@ -109,21 +113,19 @@ void UIDialog::accept() {
 }
 
 void UIDialog::cancel() {
-    if (m_modelessWindow == nullptr) {
-        windowSystem().endDialog(m_dialogWindow, cancelled);
+    if (m_modeless == nullptr) {
+        m_dialog->end(cancelled);
     } else {
         closeModeless();
     }
 }
 
-void UIDialog::closeModeless() {
-    windowSystem().destroyDialog(std::exchange(m_modelessWindow, nullptr));
-}
+void UIDialog::closeModeless() { std::exchange(m_modeless, nullptr)->destroy(); }
 
 bool UIDialog::onDestroy(const DialogMessage& message, std::intptr_t& result) {
     const bool isHandled = DialogHandler::onDestroy(message, result);
-    m_dialogWindow = nullptr;
-    m_modelessWindow = nullptr; // it may have been closed by its frame
+    m_dialog = &platform::none<platform::Dialog>();
+    m_modeless = nullptr; // it may have been closed by its frame
     return isHandled;
 }
 

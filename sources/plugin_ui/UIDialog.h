@@ -41,10 +41,10 @@ public:
     std::uint16_t getOkId() const { return m_okId; }
     std::uint16_t getCancelId() const { return m_cancelId; }
     /// Null unless the dialog was opened modeless and is open.
-    platform::WindowHandle getModelessWindow() const { return m_modelessWindow; }
+    platform::WindowHandle getModelessWindow() const;
 
-    void onDialogCreated(platform::WindowHandle window) override;
-    void onDialogReady(platform::WindowHandle window) override;
+    void onDialogCreated(platform::Dialog& dialog) override;
+    void onDialogReady(platform::Dialog& dialog) override;
     bool onCommand(const DialogMessage& message, std::intptr_t& result) override;
     bool onDestroy(const DialogMessage& message, std::intptr_t& result) override;
 
@@ -60,8 +60,8 @@ private:
     bool m_fitToContent = true;
     std::int32_t m_screenX = 0;
     std::int32_t m_screenY = 0;
-    platform::WindowHandle m_dialogWindow = nullptr;
-    platform::WindowHandle m_modelessWindow = nullptr;
+    platform::Dialog* m_dialog = &platform::none<platform::Dialog>(); // while it is open
+    platform::Dialog* m_modeless = nullptr;                           // the same, if it is modeless
     std::unique_ptr<ResourceLibrary> m_modelessLibrary; // holds the pictures of the window
 };
 

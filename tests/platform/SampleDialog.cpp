@@ -78,10 +78,11 @@ std::span<const std::byte> SampleResources::findResource(std::uint32_t id, std::
     return std::as_bytes(std::span(found));
 }
 
-bool Recorder::processEvent(platform::WindowHandle dialog, std::uint32_t message,
-                            std::uintptr_t wParam, std::intptr_t lParam, std::intptr_t& result) {
+bool Recorder::processEvent(platform::Dialog& opened, std::uint32_t message, std::uintptr_t wParam,
+                            std::intptr_t lParam, std::intptr_t& result) {
     const auto item = static_cast<std::uint16_t>(wParam & 0xFFFF);
     const auto code = static_cast<std::uint32_t>(wParam >> 16);
+    platform::WindowHandle const dialog = opened.getHandle();
     result = answer;
     if (message == platform::event::initDialog) {
         note("init", {});

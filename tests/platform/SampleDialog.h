@@ -5,7 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/WindowSystem.h"
+#include "platform/Dialog.h"
+#include "platform/ResourceModule.h"
 
 namespace zent::test {
 
@@ -56,7 +57,7 @@ public:
     bool notesFocus = false;
     std::string log;
 
-    bool processEvent(platform::WindowHandle dialog, std::uint32_t message, std::uintptr_t wParam,
+    bool processEvent(platform::Dialog& dialog, std::uint32_t message, std::uintptr_t wParam,
                       std::intptr_t lParam, std::intptr_t& result) override;
 
 private:

@@ -414,7 +414,9 @@ TEST_F(WindowSystemTest, ClosesByCommand) {
 
 TEST_F(WindowSystemTest, ModelessDialogsGoWithTheirOwners) {
     const auto open = [&](WindowHandle owner) {
-        return windows().createModeless(sampleTemplate(), m_resources, owner, m_recorder);
+        Dialog* const opened =
+            windows().createModeless(sampleTemplate(), m_resources, owner, m_recorder);
+        return opened != nullptr ? opened->getHandle() : nullptr;
     };
     const WindowHandle owner = open(nullptr);
     ASSERT_NE(owner, nullptr);

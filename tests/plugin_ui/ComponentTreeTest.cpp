@@ -11,6 +11,8 @@ namespace {
 
 using Log = std::string;
 
+platform::Dialog& noDialog = platform::none<platform::Dialog>();
+
 /// Writes down what reaches it, and answers as told.
 class Node : public MessageProcessorWithChildren {
 public:
@@ -44,10 +46,10 @@ TEST(ComponentTreeTest, MessagesGoDepthFirstUntilOneIsHandled) {
     root.makeChild<Node>(log, "b");
     root.makeChild<Node>(log, "c");
     std::intptr_t result = 0;
-    EXPECT_FALSE(root.processMessage({nullptr, platform::event::command, 8}, result));
+    EXPECT_FALSE(root.processMessage({noDialog, platform::event::command, 8}, result));
     EXPECT_EQ(log, "root command; a command; a1 command; b command; c command; ");
     log.clear();
-    EXPECT_TRUE(root.processMessage({nullptr, platform::event::command, 9}, result));
+    EXPECT_TRUE(root.processMessage({noDialog, platform::event::command, 9}, result));
     EXPECT_EQ(log, "root command; a command; a1 command; b command; ");
 }
 
@@ -76,7 +78,7 @@ TEST(ComponentTreeTest, TheFirstRefusalEndsAValidation) {
             root.makeChild<Node>(log, "b", row.secondAccepts);
             root.makeChild<Node>(log, "c");
             std::intptr_t result = 0;
-            root.processMessage({nullptr, message}, result);
+            root.processMessage({noDialog, message}, result);
             EXPECT_EQ(log, row.asked);
             EXPECT_EQ(result, row.result);
         }

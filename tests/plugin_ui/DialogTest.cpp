@@ -133,7 +133,7 @@ TEST_F(DialogTest, AFailureAtTheStartLeavesTheRestOfTheDialog) {
         m_windows.onceOpen([&](Window window) {
             EXPECT_EQ(m_windows.shownItems(window),
                       (std::vector<std::uint16_t>{label, edit, ok, cancel}));
-            EXPECT_EQ(m_windows.getText(window, edit), u"a");
+            EXPECT_EQ(m_windows.item(window, edit).getText(), u"a");
             m_windows.type(window, edit, u"b");
             m_windows.click(window, ok);
         });
@@ -158,15 +158,14 @@ TEST_F(DialogTest, ABoxThatCantBeFilteredIsAFault) {
     addEntry();
     m_windows.setCanFilter(false);
     const BoxCapture boxes;
-    m_windows.onceOpen([&](Window window) { EXPECT_TRUE(m_windows.isItemShown(window, ok)); });
+    m_windows.onceOpen([&](Window window) { EXPECT_TRUE(m_windows.item(window, ok).isShown()); });
     m_dialog.runModal(nullptr, m_ticket);
     EXPECT_EQ(boxes.shown().size(), 1U);
 }
 
 TEST_F(DialogTest, EnterAccepts) {
-    constexpr std::uint16_t accepts = 30;
-    m_dialog.setButtonIds(accepts, cancel);
-    m_windows.onceOpen([&](Window window) { EXPECT_EQ(m_windows.defaultButton(window), accepts); });
+    m_dialog.setButtonIds(button, cancel);
+    m_windows.onceOpen([&](Window window) { EXPECT_EQ(m_windows.defaultButton(window), button); });
     m_dialog.runModal(nullptr, m_ticket);
 }
 
@@ -186,11 +185,11 @@ TEST_F(DialogTest, AModelessDialogCommitsAtOKAndTells) {
     m_dialog.runModeless(nullptr, m_ticket); // a second run begins with what the ticket holds
     window = m_dialog.getModelessWindow();
     m_windows.type(window, edit, u"b");
-    EXPECT_EQ(m_windows.getText(window, edit), u"ab");
+    EXPECT_EQ(m_windows.item(window, edit).getText(), u"ab");
     m_windows.click(window, cancel);
     EXPECT_EQ(ticket(), "job-sheet-message=text:a");
     EXPECT_EQ(counter.count(), 1);
-    EXPECT_FALSE(m_windows.isVisible(window));
+    EXPECT_FALSE(m_windows.getDialog(window).isVisible());
 }
 
 TEST_F(DialogTest, WhatIsLockedStaysDisabledUntilItIsUnlocked) {
@@ -201,19 +200,19 @@ TEST_F(DialogTest, WhatIsLockedStaysDisabledUntilItIsUnlocked) {
     m_dialog.makeChild<DialogLaunchButtonUIFeature>(m_configuration, std::move(inner), button);
     m_configuration.readOnly = true;
     m_windows.onceOpen([&](Window window) {
-        EXPECT_FALSE(m_windows.isItemEnabled(window, edit));
+        EXPECT_FALSE(m_windows.item(window, edit).isEnabled());
         entry.getTextBox().enable();
-        EXPECT_FALSE(m_windows.isItemEnabled(window, edit));
+        EXPECT_FALSE(m_windows.item(window, edit).isEnabled());
         m_windows.click(window, button); // opens what can be read
-        m_windows.send(window, UIM_UNLOCK, 0, 0);
-        EXPECT_TRUE(m_windows.isItemEnabled(window, edit));
+        m_windows.getDialog(window).send(UIM_UNLOCK, 0, 0);
+        EXPECT_TRUE(m_windows.item(window, edit).isEnabled());
         EXPECT_FALSE(m_configuration.readOnly);
-        m_windows.send(window, UIM_LOCK, 0, 0);
+        m_windows.getDialog(window).send(UIM_LOCK, 0, 0);
         EXPECT_TRUE(m_configuration.readOnly);
     });
     bool isInnerLocked = false;
     m_windows.onceOpen(
-        [&](Window window) { isInnerLocked = !m_windows.isItemEnabled(window, edit); });
+        [&](Window window) { isInnerLocked = !m_windows.item(window, edit).isEnabled(); });
     EXPECT_FALSE(m_dialog.runModal(nullptr, m_ticket));
     EXPECT_TRUE(isInnerLocked);
 
@@ -221,11 +220,11 @@ TEST_F(DialogTest, WhatIsLockedStaysDisabledUntilItIsUnlocked) {
     m_configuration.readOnly = false;
     for (int run = 0; run < 2; ++run) {
         m_windows.onceOpen([&](Window window) {
-            EXPECT_TRUE(m_windows.isItemEnabled(window, edit));
+            EXPECT_TRUE(m_windows.item(window, edit).isEnabled());
             entry.getTextBox().disable();
             entry.getTextBox().enable();
-            EXPECT_TRUE(m_windows.isItemEnabled(window, edit));
-            m_windows.send(window, UIM_LOCK, 0, 0);
+            EXPECT_TRUE(m_windows.item(window, edit).isEnabled());
+            m_windows.getDialog(window).send(UIM_LOCK, 0, 0);
         });
         EXPECT_FALSE(m_dialog.runModal(nullptr, m_ticket));
         EXPECT_FALSE(m_configuration.readOnly);
@@ -242,12 +241,11 @@ TEST_F(DialogTest, NoTemplateNoDialog) {
 // ---- The place of windows and items ------------------------------------------------------------
 
 using platform::Rectangle;
-using Item = platform::WindowSystem::Item;
 
 TEST(DialogFittingTest, ItemsBeginAtTheMargin) {
     struct Row {
         const char* what;
-        std::vector<Item> items;
+        std::vector<FittedItem> items;
         std::int32_t moveX;
         std::int32_t moveY;
         Rectangle window;
@@ -292,7 +290,7 @@ TEST(DialogFittingTest, PopupsRiseToStayInTheWorkArea) {
 TEST_F(DialogTest, OpensWhereItIsWanted) {
     m_dialog.setScreenPosition(300, 120);
     m_windows.onceOpen([&](Window window) {
-        const Rectangle place = m_windows.getWindowRectangle(window);
+        const Rectangle place = m_windows.getDialog(window).getWindowRectangle();
         EXPECT_EQ(place.right, 300);
         EXPECT_EQ(place.top, 120);
         // Items from (7, 7) to (170, 64) units, a margin of 7, and the frame.

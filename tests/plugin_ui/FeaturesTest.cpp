@@ -134,9 +134,9 @@ TEST_F(FeaturesTest, AValueOfTheUsersOwnIsAskedFor) {
     EXPECT_EQ(run(pink,
                   [&](Window window) {
                       m_windows.onceOpen([&](Window asking) {
-                          EXPECT_EQ(m_windows.getText(asking, customEdit), u"pink");
+                          EXPECT_EQ(m_windows.item(asking, customEdit).getText(), u"pink");
                           m_windows.clear(asking, customEdit);
-                          EXPECT_FALSE(m_windows.isItemEnabled(asking, ok));
+                          EXPECT_FALSE(m_windows.item(asking, ok).isEnabled());
                       });
                       m_windows.choose(window, combo, 3);
                       EXPECT_EQ(choices(window),
@@ -164,7 +164,7 @@ TEST_F(FeaturesTest, AValueOfTheUsersOwnIsAskedFor) {
     EXPECT_EQ(run(longColor,
                   [&](Window window) {
                       m_windows.onceOpen([&](Window asking) {
-                          EXPECT_EQ(m_windows.getText(asking, customEdit).size(), 40U);
+                          EXPECT_EQ(m_windows.item(asking, customEdit).getText().size(), 40U);
                           m_windows.click(asking, ok);
                           EXPECT_EQ(boxes.shown().size(), 1U);
                       });
@@ -182,23 +182,23 @@ TEST_F(FeaturesTest, CheckBoxesStandForTwoValuesAndTheDefault) {
         FeatureValue(antiAliasing, u"none"), ConfigurableUIComponent::jobLevel);
     EXPECT_EQ(run("",
                   [&](Window window) {
-                      EXPECT_TRUE(m_windows.isChecked(window, defaultBox));
-                      EXPECT_FALSE(m_windows.isItemEnabled(window, box));
+                      EXPECT_TRUE(m_windows.item(window, defaultBox).isChecked());
+                      EXPECT_FALSE(m_windows.item(window, box).isEnabled());
                       m_windows.click(window, box); // in vain
                       m_windows.click(window, defaultBox);
-                      EXPECT_TRUE(m_windows.isItemEnabled(window, box));
+                      EXPECT_TRUE(m_windows.item(window, box).isEnabled());
                   }),
               "anti-aliasing=none");
     EXPECT_EQ(run("anti-aliasing=none",
                   [&](Window window) {
-                      EXPECT_FALSE(m_windows.isChecked(window, defaultBox));
-                      EXPECT_FALSE(m_windows.isChecked(window, box));
+                      EXPECT_FALSE(m_windows.item(window, defaultBox).isChecked());
+                      EXPECT_FALSE(m_windows.item(window, box).isChecked());
                       m_windows.click(window, box);
                   }),
               "anti-aliasing=standard");
     EXPECT_EQ(run("anti-aliasing=standard",
                   [&](Window window) {
-                      EXPECT_TRUE(m_windows.isChecked(window, box));
+                      EXPECT_TRUE(m_windows.item(window, box).isChecked());
                       m_windows.click(window, defaultBox);
                   }),
               "");
@@ -213,13 +213,13 @@ TEST_F(FeaturesTest, ANumberMayBeLeftToThePrinter) {
             5, inverts, ConfigurableUIComponent::jobLevel);
         m_ticket.setAttrNodeList(AttrNodeList());
         m_windows.onceOpen([&](Window window) {
-            EXPECT_EQ(m_windows.getText(window, range), u"(1 - 250)");
-            EXPECT_EQ(m_windows.getText(window, number), u"5");
-            EXPECT_EQ(m_windows.isChecked(window, box), inverts);
-            EXPECT_FALSE(m_windows.isItemEnabled(window, number));
+            EXPECT_EQ(m_windows.item(window, range).getText(), u"(1 - 250)");
+            EXPECT_EQ(m_windows.item(window, number).getText(), u"5");
+            EXPECT_EQ(m_windows.item(window, box).isChecked(), inverts);
+            EXPECT_FALSE(m_windows.item(window, number).isEnabled());
             m_windows.click(window, box);
             EXPECT_EQ(m_windows.spin(window, spin, -1), 1); // the spin's own position is of no use
-            EXPECT_EQ(m_windows.getText(window, number), u"6");
+            EXPECT_EQ(m_windows.item(window, number).getText(), u"6");
             m_windows.type(window, number, u"00"); // three digits at most
             m_windows.click(window, ok);
         });
@@ -227,7 +227,7 @@ TEST_F(FeaturesTest, ANumberMayBeLeftToThePrinter) {
         EXPECT_EQ(ticket(), "media-col{media-order-count=600}");
         EXPECT_EQ(feature.getLastValue(), 600);
         m_windows.onceOpen([&](Window window) {
-            EXPECT_TRUE(m_windows.isItemEnabled(window, number));
+            EXPECT_TRUE(m_windows.item(window, number).isEnabled());
             m_windows.click(window, box);
             m_windows.click(window, ok);
         });
@@ -262,30 +262,30 @@ TEST_F(ControlsTest, NumberBoxes) {
         EXPECT_EQ(control.getInteger(), -250); // for the validation to find
         control.setClampOnLeave(true);
         m_windows.leave(window, number);
-        EXPECT_EQ(m_windows.getText(window, number), u"1");
+        EXPECT_EQ(m_windows.item(window, number).getText(), u"1");
         m_windows.spin(window, spin, -200);
         EXPECT_EQ(control.getInteger(), 99);
 
         control.setNumberType(NumberType::decimal);
         control.setDecimals(3);
         control.setValue(1.5);
-        EXPECT_EQ(m_windows.getText(window, number), u"1.5");
+        EXPECT_EQ(m_windows.item(window, number).getText(), u"1.5");
         control.setDecimals(2);
         m_windows.spin(window, spin, 1);
-        EXPECT_EQ(m_windows.getText(window, number), u"1.49");
+        EXPECT_EQ(m_windows.item(window, number).getText(), u"1.49");
         m_windows.spin(window, spin, -100); // beyond the bound: stays
         EXPECT_EQ(control.getValue(), 1.49);
 
         // What is shown is less than what is held, and doesn't come back.
         m_notified = 0;
         control.setValue(1.254);
-        EXPECT_EQ(m_windows.getText(window, number), u"1.25");
+        EXPECT_EQ(m_windows.item(window, number).getText(), u"1.25");
         EXPECT_EQ(control.getValue(), 1.254);
         EXPECT_EQ(m_notified, 0);
 
         control.setNumberType(NumberType::unsignedInteger);
         control.setValue(4294967295.0);
-        EXPECT_EQ(m_windows.getText(window, number), u"4294967295");
+        EXPECT_EQ(m_windows.item(window, number).getText(), u"4294967295");
         EXPECT_EQ(control.getValue(), 4294967295.0);
         control.setNumberType(NumberType(4));
         EXPECT_THROW(control.displayControl(), UnknownCaseException);
@@ -310,7 +310,7 @@ TEST_F(ControlsTest, RadioButtonsAndSliders) {
         EXPECT_EQ(m_notified, 0);
         m_windows.click(window, otherRadio);
         EXPECT_EQ(buttons.getCheckedId(), otherRadio);
-        EXPECT_FALSE(m_windows.isChecked(window, radio));
+        EXPECT_FALSE(m_windows.item(window, radio).isChecked());
         m_windows.slide(window, track, -7);
         EXPECT_EQ(slider.getValue(), -7);
         EXPECT_EQ(m_notified, 2);
@@ -333,8 +333,8 @@ TEST_F(ControlsTest, DrawnButtonsShowWhatTheyAre) {
                                           .action = row.action,
                                           .state = row.state,
                                           .drawBitmap = [&](auto bitmap) { drawn = bitmap; }};
-            m_windows.send(window, platform::event::drawItem, box,
-                           reinterpret_cast<std::intptr_t>(&request));
+            m_windows.getDialog(window).send(platform::event::drawItem, box,
+                                             reinterpret_cast<std::intptr_t>(&request));
             EXPECT_EQ(drawn, row.bitmap);
         }
     });

@@ -65,7 +65,7 @@ public:
     std::intptr_t send(std::uint32_t message, std::uintptr_t wParam,
                        std::intptr_t lParam) override {
         std::intptr_t result = 0;
-        m_procedure.processEvent(getHandle(), message, wParam, lParam, result);
+        m_procedure.processEvent(*this, message, wParam, lParam, result);
         return result;
     }
     void command(std::uint16_t id, std::uint32_t code) { send(event::command, id | code << 16, 0); }
@@ -177,7 +177,7 @@ platform::Dialog* FakeWindowSystem::createModeless(std::span<const std::byte> di
     m_dialogs.push_back(std::make_unique<FakeDialog>(*this, *parsed, procedure));
     FakeDialog& dialog = *m_dialogs.back();
     dialog.send(event::initDialog, 0, 0);
-    return dialog.getHandle();
+    return &dialog;
 }
 
 std::intptr_t FakeWindowSystem::runModal(std::span<const std::byte> dialogTemplate,
@@ -185,7 +185,7 @@ std::intptr_t FakeWindowSystem::runModal(std::span<const std::byte> dialogTempla
                                          platform::DialogProcedure& procedure) {
     const auto acts = m_acts.empty() ? [](Window) {} : m_acts.front();
     m_acts.erase(m_acts.begin(), m_acts.begin() + (m_acts.empty() ? 0 : 1));
-    Window const window = createModeless(dialogTemplate, resources, owner, procedure);
+    Window const window = createModeless(dialogTemplate, resources, owner, procedure)->getHandle();
     acts(window);
     FakeDialog& dialog = *findDialog(window);
     const std::intptr_t value = dialog.isEnded ? dialog.value : 0;

@@ -110,9 +110,9 @@ public:
     std::intptr_t runModal(std::span<const std::byte> dialogTemplate,
                            const platform::ResourceModule& resources, Window owner,
                            platform::DialogProcedure& procedure) override;
-    Window createModeless(std::span<const std::byte> dialogTemplate,
-                          const platform::ResourceModule& resources, Window owner,
-                          platform::DialogProcedure& procedure) override;
+    platform::Dialog* createModeless(std::span<const std::byte> dialogTemplate,
+                                     const platform::ResourceModule& resources, Window owner,
+                                     platform::DialogProcedure& procedure) override;
     platform::Dialog& getDialog(Window window) override;
     std::u16string getCaption(Window window) override;
     std::int32_t showMessageBox(Window, std::u16string_view, std::u16string_view,
@@ -126,7 +126,6 @@ public:
         return std::nullopt;
     }
     bool showHelp(Window, std::u16string_view, std::uint32_t) override { return false; }
-    bool saveScreenshot(Window, std::u16string_view) override { return false; }
 
 private:
     friend class FakeDialog;

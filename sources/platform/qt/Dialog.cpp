@@ -273,7 +273,7 @@ void Dialog::reject() {
 
 std::intptr_t Dialog::send(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam) {
     std::intptr_t result = 0;
-    m_procedure.processEvent(getHandle(), message, wParam, lParam, result);
+    m_procedure.processEvent(*this, message, wParam, lParam, result);
     return result;
 }
 

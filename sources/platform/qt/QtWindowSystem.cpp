@@ -32,16 +32,16 @@ std::intptr_t QtWindowSystem::runModal(std::span<const std::byte> dialogTemplate
     return dialog != nullptr ? dialog->runModal() : notMade;
 }
 
-WindowHandle QtWindowSystem::createModeless(std::span<const std::byte> dialogTemplate,
-                                            const ResourceModule& resources, WindowHandle owner,
-                                            DialogProcedure& procedure) {
+platform::Dialog* QtWindowSystem::createModeless(std::span<const std::byte> dialogTemplate,
+                                                 const ResourceModule& resources,
+                                                 WindowHandle owner, DialogProcedure& procedure) {
     Dialog* const dialog = Dialog::create(dialogTemplate, resources, findWidget(owner), procedure);
     if (dialog == nullptr) {
         return nullptr;
     }
     const WindowHandle handle = dialog->getHandle();
     dialog->startModeless();
-    return Dialog::find(handle) != nullptr ? handle : nullptr;
+    return Dialog::find(handle);
 }
 
 platform::Dialog& QtWindowSystem::getDialog(WindowHandle window) {

@@ -45,7 +45,7 @@ std::intptr_t Dialog::runModal(std::span<const std::byte> dialogTemplate, HWND o
     return m_window != nullptr ? value : -1;
 }
 
-HWND Dialog::createModeless(std::span<const std::byte> dialogTemplate, HWND owner) {
+Dialog* Dialog::createModeless(std::span<const std::byte> dialogTemplate, HWND owner) {
     m_isBeingOpened = true;
     const HWND window =
         CreateDialogIndirectParamW(getOwnModule(), AlignedTemplate(dialogTemplate).get(), owner,
@@ -59,7 +59,7 @@ HWND Dialog::createModeless(std::span<const std::byte> dialogTemplate, HWND owne
         return nullptr;
     }
     ShowWindow(window, SW_SHOW);
-    return window;
+    return this;
 }
 
 void Dialog::end(std::intptr_t value) {
@@ -103,7 +103,7 @@ void Dialog::endBy(const std::exception_ptr& exception, HWND window) {
 bool Dialog::deliver(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam,
                      std::intptr_t& result) {
     result = 0;
-    const bool isHandled = m_procedure.processEvent(m_window, message, wParam, lParam, result);
+    const bool isHandled = m_procedure.processEvent(*this, message, wParam, lParam, result);
     SetWindowLongPtrW(m_window, DWLP_MSGRESULT, result);
     return isHandled;
 }

@@ -35,7 +35,7 @@ public:
     /// the form was read from.
     std::intptr_t runModal(std::span<const std::byte> dialogTemplate, HWND owner);
     /// Null if it couldn't be made. The window keeps this object.
-    HWND createModeless(std::span<const std::byte> dialogTemplate, HWND owner);
+    Dialog* createModeless(std::span<const std::byte> dialogTemplate, HWND owner);
 
     /// The dialog that a window is; null for all other windows.
     static std::shared_ptr<Dialog> of(WindowHandle window);

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/WindowSystem.h"
+#include "platform/DialogItems.h"
 #include "platform/win32/SubclassedItem.h"
 
 namespace zent::platform::win32 {

@@ -37,9 +37,10 @@ std::intptr_t Win32WindowSystem::runModal(std::span<const std::byte> dialogTempl
     return dialog != nullptr ? dialog->runModal(dialogTemplate, asWindow(owner)) : -1;
 }
 
-WindowHandle Win32WindowSystem::createModeless(std::span<const std::byte> dialogTemplate,
-                                               const ResourceModule& resources, WindowHandle owner,
-                                               DialogProcedure& procedure) {
+platform::Dialog* Win32WindowSystem::createModeless(std::span<const std::byte> dialogTemplate,
+                                                    const ResourceModule& resources,
+                                                    WindowHandle owner,
+                                                    DialogProcedure& procedure) {
     const auto dialog = makeDialog(dialogTemplate, resources, procedure);
     return dialog != nullptr ? dialog->createModeless(dialogTemplate, asWindow(owner)) : nullptr;
 }

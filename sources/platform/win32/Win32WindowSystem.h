@@ -12,9 +12,9 @@ public:
     std::intptr_t runModal(std::span<const std::byte> dialogTemplate,
                            const ResourceModule& resources, WindowHandle owner,
                            DialogProcedure& procedure) override;
-    WindowHandle createModeless(std::span<const std::byte> dialogTemplate,
-                                const ResourceModule& resources, WindowHandle owner,
-                                DialogProcedure& procedure) override;
+    platform::Dialog* createModeless(std::span<const std::byte> dialogTemplate,
+                                     const ResourceModule& resources, WindowHandle owner,
+                                     DialogProcedure& procedure) override;
     platform::Dialog& getDialog(WindowHandle window) override;
     std::u16string getCaption(WindowHandle window) override;
     std::int32_t showMessageBox(WindowHandle owner, std::u16string_view body,

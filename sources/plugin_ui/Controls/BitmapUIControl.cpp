@@ -1,7 +1,5 @@
 #include "plugin_ui/Controls/BitmapUIControl.h"
 
-#include "plugin_ui/Reports/CurrentWindowSystem.h"
-
 namespace zent {
 
 namespace {
@@ -15,11 +13,6 @@ void BitmapUIControl::setBitmap(std::uint32_t bitmap) {
     displayControl();
 }
 
-void BitmapUIControl::displayControl() {
-    if (hasWindow()) {
-        windowSystem().setBitmap(getWindow(), getItemIds().front(), m_bitmap,
-                                 m_bitmap != overWhatIsThere);
-    }
-}
+void BitmapUIControl::displayControl() { item().setBitmap(m_bitmap, m_bitmap != overWhatIsThere); }
 
 } // namespace zent

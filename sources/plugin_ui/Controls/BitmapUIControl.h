@@ -5,10 +5,10 @@
 namespace zent {
 
 /// A picture, whose background stays out.
-class BitmapUIControl : public UIControl {
+class BitmapUIControl : public UIControlOf<platform::PictureItem> {
 public:
     explicit BitmapUIControl(std::uint16_t item, std::uint32_t bitmap = 0)
-        : UIControl(item), m_bitmap(bitmap) {}
+        : UIControlOf(item), m_bitmap(bitmap) {}
 
     /// A bitmap resource, 0 for none.
     void setBitmap(std::uint32_t bitmap);

@@ -1,7 +1,6 @@
 #include "plugin_ui/Controls/CheckBoxUIControl.h"
 
 #include "ocore/Resources/ResourceLibrary.h"
-#include "plugin_ui/Reports/CurrentWindowSystem.h"
 
 namespace zent {
 
@@ -15,24 +14,20 @@ void CheckBoxUIControl::setCaptionId(std::uint32_t stringId) {
     displayCaption();
 }
 
-void CheckBoxUIControl::displayControl() {
-    if (hasWindow()) {
-        windowSystem().setChecked(getWindow(), getItem(), m_isChecked);
-    }
-}
+void CheckBoxUIControl::displayControl() { item().setChecked(m_isChecked); }
 
 void CheckBoxUIControl::displayCaption() {
     if (hasWindow() && m_captionId != 0) {
-        windowSystem().setText(getWindow(), getItem(), ResourceLibrary().getString(m_captionId));
+        item().setText(ResourceLibrary().getString(m_captionId));
     }
 }
 
 bool CheckBoxUIControl::processControlMessage(const DialogMessage& message,
                                               std::intptr_t& /*result*/) {
-    if (!message.isCommand(getItem(), platform::notification::clicked)) {
+    if (!message.isCommand(getItemId(), platform::notification::clicked)) {
         return false;
     }
-    const bool isChecked = windowSystem().isChecked(getWindow(), getItem());
+    const bool isChecked = item().isChecked();
     if (isChecked != m_isChecked) {
         m_isChecked = isChecked;
         notifyObservers();

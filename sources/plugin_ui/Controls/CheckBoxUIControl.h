@@ -5,9 +5,9 @@
 namespace zent {
 
 /// A box with a mark, or without.
-class CheckBoxUIControl : public UIControl {
+class CheckBoxUIControl : public UIControlOf<platform::ButtonItem> {
 public:
-    explicit CheckBoxUIControl(std::uint16_t item) : UIControl(item) {}
+    explicit CheckBoxUIControl(std::uint16_t item) : UIControlOf(item) {}
 
     bool isChecked() const { return m_isChecked; }
     void setChecked(bool isChecked);
@@ -18,7 +18,6 @@ public:
     bool processControlMessage(const DialogMessage& message, std::intptr_t& result) override;
 
 private:
-    std::uint16_t getItem() const { return getItemIds().front(); }
     void displayCaption();
 
     bool m_isChecked = false;

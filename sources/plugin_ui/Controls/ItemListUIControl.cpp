@@ -2,27 +2,21 @@
 
 #include <algorithm>
 
-#include "plugin_ui/Reports/CurrentWindowSystem.h"
-
 namespace zent {
 
-ItemListUIControl::ItemListUIControl(std::uint16_t item, std::uint16_t label) : UIControl(item) {
+ItemListUIControl::ItemListUIControl(std::uint16_t item, std::uint16_t label) : UIControlOf(item) {
     UIControl::addItem(label);
 }
 
 void ItemListUIControl::clear() {
     m_list.clear();
-    if (hasWindow()) {
-        windowSystem().clearList(getWindow(), getItem());
-    }
+    item().clear();
 }
 
 void ItemListUIControl::addItem(const CXString& text, std::uint32_t value, std::int32_t position) {
     const bool isInside = position > 0 && position < getItemCount();
     m_list.insert(isInside ? m_list.begin() + position : m_list.end(), {text, value});
-    if (hasWindow()) {
-        windowSystem().addToList(getWindow(), getItem(), text, value, isInside ? position : -1);
-    }
+    item().add(text, value, isInside ? position : -1);
 }
 
 std::int32_t ItemListUIControl::findValue(std::uint32_t value) const {
@@ -32,10 +26,8 @@ std::int32_t ItemListUIControl::findValue(std::uint32_t value) const {
 
 void ItemListUIControl::setItemText(std::int32_t index, const CXString& text) {
     m_list.at(static_cast<std::size_t>(index)).text = text;
-    if (hasWindow()) {
-        windowSystem().setListText(getWindow(), getItem(), index, text);
-        displayControl(); // a toolkit that puts a new item in the place has lost the choice
-    }
+    item().setEntryText(index, text);
+    displayControl(); // a toolkit that puts a new item in the place has lost the choice
 }
 
 const CXString& ItemListUIControl::getItemText(std::int32_t index) const {
@@ -44,10 +36,8 @@ const CXString& ItemListUIControl::getItemText(std::int32_t index) const {
 
 void ItemListUIControl::sort() {
     std::ranges::stable_sort(m_list, {}, &Entry::text);
-    if (hasWindow()) {
-        showEntries();
-        displayControl();
-    }
+    showEntries();
+    displayControl();
 }
 
 void ItemListUIControl::select(std::uint32_t value) {
@@ -55,24 +45,19 @@ void ItemListUIControl::select(std::uint32_t value) {
     displayControl();
 }
 
-void ItemListUIControl::displayControl() {
-    if (hasWindow()) {
-        windowSystem().select(getWindow(), getItem(), findValue(m_selectedValue));
-    }
-}
+void ItemListUIControl::displayControl() { item().select(findValue(m_selectedValue)); }
 
 void ItemListUIControl::setControlCallBack() { showEntries(); }
 
 void ItemListUIControl::showEntries() {
-    platform::WindowSystem& system = windowSystem();
-    system.clearList(getWindow(), getItem());
+    item().clear();
     for (const Entry& entry : m_list) {
-        system.addToList(getWindow(), getItem(), entry.text, entry.value, -1);
+        item().add(entry.text, entry.value, -1);
     }
 }
 
 bool ItemListUIControl::takeSelection() {
-    const std::int32_t index = windowSystem().getSelected(getWindow(), getItem());
+    const std::int32_t index = item().getSelected();
     if (index < 0 || index >= getItemCount()) {
         return false;
     }

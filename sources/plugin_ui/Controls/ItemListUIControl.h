@@ -8,7 +8,7 @@ namespace zent {
 
 /// A list of texts with a value each, of which the user chooses one: what combo boxes and list
 /// boxes have in common. The list is kept here and shown by the item.
-class ItemListUIControl : public UIControl {
+class ItemListUIControl : public UIControlOf<platform::ChoiceItem> {
 public:
     void clear();
     /// At an index; -1 or 0 appends.
@@ -34,7 +34,6 @@ protected:
     /// `label` may be 0.
     ItemListUIControl(std::uint16_t item, std::uint16_t label);
 
-    std::uint16_t getItem() const { return getItemIds().front(); }
     /// Takes over what the user has chosen; whether it is another value.
     bool takeSelection();
     void setText(const CXString& text) { m_text = text; }

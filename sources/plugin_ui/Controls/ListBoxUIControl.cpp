@@ -4,7 +4,7 @@ namespace zent {
 
 bool ListBoxUIControl::processControlMessage(const DialogMessage& message,
                                              std::intptr_t& /*result*/) {
-    if (!message.isCommand(getItem(), platform::notification::listSelected)) {
+    if (!message.isCommand(getItemId(), platform::notification::listSelected)) {
         return false;
     }
     takeSelection();

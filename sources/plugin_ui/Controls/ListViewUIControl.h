@@ -6,21 +6,21 @@ namespace zent {
 
 /// Rows with a text in each column. It stays usable while the dialog is locked, for the rows can be
 /// read. Rows live in the window: they are filled anew each time the dialog starts.
-class ListViewUIControl : public UIControl {
+class ListViewUIControl : public UIControlOf<platform::RowsItem> {
 public:
-    explicit ListViewUIControl(std::uint16_t item) : UIControl(item) {}
+    explicit ListViewUIControl(std::uint16_t item) : UIControlOf(item) {}
 
-    void setStyle(platform::WindowSystem::ListViewStyle style);
+    void setStyle(platform::RowsItem::Style style);
     /// `width` in pixels.
     void addColumn(const CXString& title, std::int32_t width);
     /// Gives the row, or -1 while there is no dialog. `icon` is an icon resource, 0 for none.
-    std::int32_t addRow(const CXString& text, std::uint32_t value, std::uint32_t icon = 0);
+    std::int32_t addRow(const CXString& text, std::uintptr_t value, std::uint32_t icon = 0);
     void setCell(std::int32_t row, std::int32_t column, const CXString& text);
     void removeRow(std::int32_t row);
     void clear();
 
     std::int32_t getRowCount() const;
-    std::uint32_t getRowValue(std::int32_t row) const;
+    std::uintptr_t getRowValue(std::int32_t row) const;
     std::vector<std::int32_t> getSelectedRows() const;
     /// -1 selects none.
     void selectRow(std::int32_t row);
@@ -33,8 +33,6 @@ public:
     bool onLock(const DialogMessage& message, std::intptr_t& result) override;
 
 private:
-    std::uint16_t getItem() const { return getItemIds().front(); }
-
     bool m_isActivation = false;
 };
 

@@ -5,7 +5,6 @@
 
 #include "ocore/Faults/Exceptions.h"
 #include "plugin_ui/Controls/CharacterFilter.h"
-#include "plugin_ui/Reports/CurrentWindowSystem.h"
 
 namespace zent {
 
@@ -20,7 +19,7 @@ const T* addressOf(const std::optional<T>& value) {
 
 NumberBoxUIControl::NumberBoxUIControl(std::uint16_t edit, std::uint16_t spin,
                                        std::initializer_list<std::uint16_t> labels)
-    : UIControl(edit), m_editId(edit), m_spinId(spin) {
+    : UIControlOf(edit), m_spinId(spin) {
     addItem(spin);
     for (const std::uint16_t label : labels) {
         addItem(label);
@@ -29,9 +28,7 @@ NumberBoxUIControl::NumberBoxUIControl(std::uint16_t edit, std::uint16_t spin,
 
 void NumberBoxUIControl::setMaxLength(std::uint16_t length) {
     m_maxLength = length;
-    if (hasWindow()) {
-        windowSystem().setTextLimit(getWindow(), m_editId, m_maxLength);
-    }
+    item().setLimit(m_maxLength);
 }
 
 void NumberBoxUIControl::setBounds(std::int32_t lower, std::int32_t upper) {
@@ -65,20 +62,19 @@ void NumberBoxUIControl::displayControl() {
         return;
     }
     const Showing showing(*this);
-    platform::WindowSystem& system = windowSystem();
     if (m_isEmpty) {
-        system.setText(getWindow(), m_editId, u"");
+        item().setText(u"");
         return;
     }
     switch (m_numberType) {
     case NumberType::unsignedInteger:
-        system.setText(getWindow(), m_editId, CXString::Format(u"%u", getInteger()));
+        item().setText(CXString::Format(u"%u", getInteger()));
         return;
     case NumberType::decimal:
-        system.setText(getWindow(), m_editId, formatDecimal(m_value, m_decimals));
+        item().setText(formatDecimal(m_value, m_decimals));
         return;
     case NumberType::signedInteger:
-        system.setText(getWindow(), m_editId, CXString::Format(u"%d", getInteger()));
+        item().setText(CXString::Format(u"%d", getInteger()));
         return;
     }
     Raise<UnknownCaseException>{}(
@@ -86,16 +82,13 @@ void NumberBoxUIControl::displayControl() {
 }
 
 void NumberBoxUIControl::setControlCallBack() {
-    platform::WindowSystem& system = windowSystem();
-    if (!system.hasItem(getWindow(), m_editId)) {
+    if (!item().isThere()) {
         Raise<UnknownCaseException>{}(
             "NumberBoxUIControl::setControlCallBack() Unknown Resource ID.\r\n");
     }
-    system.setProperty(getWindow(), m_editId, u"SC_TYPE",
-                       static_cast<std::uintptr_t>(m_numberType));
-    system.setTextLimit(getWindow(), m_editId, m_maxLength);
-    const bool isFiltered = system.setCharacterFilter(
-        getWindow(), m_editId,
+    item().setProperty(u"SC_TYPE", static_cast<std::uintptr_t>(m_numberType));
+    item().setLimit(m_maxLength);
+    const bool isFiltered = item().setFilter(
         [this](std::u16string_view text, std::int32_t start, std::int32_t end, char16_t character) {
             return acceptsNumberCharacter(m_numberType, {text, start, end, m_maxLength}, character);
         });
@@ -107,13 +100,13 @@ void NumberBoxUIControl::setControlCallBack() {
 
 bool NumberBoxUIControl::processControlMessage(const DialogMessage& message,
                                                std::intptr_t& result) {
-    if (message.isCommand(m_editId, platform::notification::editChanged)) {
+    if (message.isCommand(getItemId(), platform::notification::editChanged)) {
         if (!isShowing()) {
             handleChange();
         }
         return true;
     }
-    if (message.isCommand(m_editId, platform::notification::editLeft)) {
+    if (message.isCommand(getItemId(), platform::notification::editLeft)) {
         handleLeave();
         return true;
     }
@@ -130,7 +123,7 @@ bool NumberBoxUIControl::processControlMessage(const DialogMessage& message,
 }
 
 double NumberBoxUIControl::readNumber() const {
-    const std::u16string text = windowSystem().getText(getWindow(), m_editId);
+    const std::u16string text = item().getText();
     switch (m_numberType) {
     case NumberType::unsignedInteger:
         return static_cast<double>(parseInteger(text, false));
@@ -152,7 +145,7 @@ void NumberBoxUIControl::storeValue(double value, bool isEmpty) {
 }
 
 void NumberBoxUIControl::handleChange() {
-    const bool isEmpty = windowSystem().getText(getWindow(), m_editId).empty();
+    const bool isEmpty = item().getText().empty();
     storeValue(isEmpty ? 0 : readNumber(), isEmpty);
 }
 
@@ -162,7 +155,7 @@ void NumberBoxUIControl::handleLeave() {
         return;
     }
     const auto [lower, upper] = *m_integerBounds;
-    const std::int64_t number = parseInteger(windowSystem().getText(getWindow(), m_editId), true);
+    const std::int64_t number = parseInteger(item().getText(), true);
     if (number < lower || number > upper) {
         setValue(number < lower ? lower : upper);
         notifyObservers();
@@ -170,14 +163,13 @@ void NumberBoxUIControl::handleLeave() {
 }
 
 void NumberBoxUIControl::handleStep(const platform::Notification& step) {
-    platform::WindowSystem& system = windowSystem();
-    const double shown = parseDecimal(system.getText(getWindow(), m_editId));
+    const double shown = parseDecimal(item().getText());
     if (m_numberType == NumberType::decimal) {
         const double next = stepDecimal(shown, m_decimals, step.delta, addressOf(m_decimalBounds));
-        system.setText(getWindow(), m_editId, formatDecimal(next, m_decimals));
+        item().setText(formatDecimal(next, m_decimals));
     } else {
         const std::int32_t next = stepInteger(shown, step.delta, addressOf(m_integerBounds));
-        system.setText(getWindow(), m_editId, CXString::Format(u"%d", next));
+        item().setText(CXString::Format(u"%d", next));
     }
     handleChange(); // which the text has brought about already if it has changed
 }

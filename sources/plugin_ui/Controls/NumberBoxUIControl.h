@@ -9,7 +9,7 @@
 namespace zent {
 
 /// A box that takes a number, with a spin to step it if there is one.
-class NumberBoxUIControl : public UIControl {
+class NumberBoxUIControl : public UIControlOf<platform::TextItem> {
 public:
     /// `spin` may be 0.
     explicit NumberBoxUIControl(std::uint16_t edit, std::uint16_t spin = 0,
@@ -43,7 +43,6 @@ private:
     double readNumber() const;
     void storeValue(double value, bool isEmpty);
 
-    std::uint16_t m_editId;
     std::uint16_t m_spinId;
     NumberType m_numberType = NumberType::signedInteger;
     std::uint16_t m_maxLength = 10;

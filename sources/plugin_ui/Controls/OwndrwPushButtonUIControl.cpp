@@ -1,12 +1,10 @@
 #include "plugin_ui/Controls/OwndrwPushButtonUIControl.h"
 
-#include "plugin_ui/Reports/CurrentWindowSystem.h"
-
 namespace zent {
 
 void OwndrwPushButtonUIControl::setControlCallBack() {
     const auto keep = [this](std::u16string_view name, std::uint32_t bitmap) {
-        windowSystem().setProperty(getWindow(), getItem(), name, bitmap);
+        getFirstItem().setProperty(name, bitmap);
     };
     keep(u"SC_ID", m_bitmaps.normal);
     keep(u"SC_DN_ID", m_bitmaps.pressed);
@@ -15,7 +13,7 @@ void OwndrwPushButtonUIControl::setControlCallBack() {
 
 bool OwndrwPushButtonUIControl::processControlMessage(const DialogMessage& message,
                                                       std::intptr_t& result) {
-    if (message.getMessage() == platform::event::drawItem && message.getItem() == getItem()) {
+    if (message.getMessage() == platform::event::drawItem && message.getItem() == getItemId()) {
         draw(*message.getObject<const platform::DrawRequest>());
         return true;
     }
@@ -36,7 +34,7 @@ void OwndrwPushButtonUIControl::draw(const platform::DrawRequest& request) const
     } else if ((request.state & isDisabled) != 0) {
         bitmap = m_bitmaps.disabled;
     }
-    windowSystem().drawBitmap(getWindow(), request, bitmap);
+    request.drawBitmap(bitmap);
 }
 
 } // namespace zent

@@ -13,7 +13,7 @@ PushButtonUIControl::PushButtonUIControl(std::uint16_t item, std::uint32_t toolT
 
 bool PushButtonUIControl::processControlMessage(const DialogMessage& message,
                                                 std::intptr_t& /*result*/) {
-    if (!message.isCommand(getItem(), platform::notification::clicked)) {
+    if (!message.isCommand(getItemId(), platform::notification::clicked)) {
         return false;
     }
     notifyObservers();

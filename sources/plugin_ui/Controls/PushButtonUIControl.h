@@ -13,9 +13,6 @@ public:
 
     bool processControlMessage(const DialogMessage& message, std::intptr_t& result) override;
     bool onLock(const DialogMessage& message, std::intptr_t& result) override;
-
-protected:
-    std::uint16_t getItem() const { return getItemIds().front(); }
 };
 
 } // namespace zent

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "plugin_ui/Reports/CurrentWindowSystem.h"
-
 namespace zent {
 
 void RadioButtonUIControl::setCheckedId(std::uint16_t item) {
@@ -11,16 +9,22 @@ void RadioButtonUIControl::setCheckedId(std::uint16_t item) {
     displayControl();
 }
 
+void RadioButtonUIControl::bindItems(const platform::Dialog& dialog) {
+    UIControl::bindItems(dialog);
+    m_buttons.clear();
+    for (const std::uint16_t id : getItemIds()) {
+        m_buttons.push_back(&dialog.item<platform::ButtonItem>(id));
+    }
+}
+
 void RadioButtonUIControl::displayControl() {
-    if (!hasWindow()) {
-        return;
+    for (platform::ButtonItem* const button : m_buttons) {
+        button->setChecked(false);
     }
-    platform::WindowSystem& system = windowSystem();
-    for (const std::uint16_t button : getItemIds()) {
-        system.setChecked(getWindow(), button, false);
-    }
-    if (m_checkedId != 0) {
-        system.setChecked(getWindow(), m_checkedId, true);
+    for (platform::ButtonItem* const button : m_buttons) {
+        if (button->isThere() && button->getId() == m_checkedId) {
+            button->setChecked(true);
+        }
     }
 }
 
@@ -36,11 +40,10 @@ bool RadioButtonUIControl::processControlMessage(const DialogMessage& message,
         return false;
     }
     // A button is told of as clicked when the keyboard's focus reaches it, too.
-    const auto checked = std::ranges::find_if(getItemIds(), [&](std::uint16_t button) {
-        return windowSystem().isChecked(getWindow(), button);
-    });
-    if (checked != getItemIds().end() && *checked != m_checkedId) {
-        m_checkedId = *checked;
+    const auto checked = std::ranges::find_if(
+        m_buttons, [](const platform::ButtonItem* button) { return button->isChecked(); });
+    if (checked != m_buttons.end() && (*checked)->getId() != m_checkedId) {
+        m_checkedId = (*checked)->getId();
         notifyObservers();
     }
     return true;

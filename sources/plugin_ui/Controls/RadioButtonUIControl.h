@@ -17,10 +17,14 @@ public:
     void displayControl() override;
     bool processControlMessage(const DialogMessage& message, std::intptr_t& result) override;
 
+protected:
+    void bindItems(const platform::Dialog& dialog) override;
+
 private:
     bool isClickOnButton(const DialogMessage& message) const;
 
     std::uint16_t m_checkedId = 0;
+    std::vector<platform::ButtonItem*> m_buttons; // while the dialog is open
 };
 
 } // namespace zent

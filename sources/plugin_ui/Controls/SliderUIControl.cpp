@@ -1,12 +1,10 @@
 #include "plugin_ui/Controls/SliderUIControl.h"
 
-#include "plugin_ui/Reports/CurrentWindowSystem.h"
-
 namespace zent {
 
 SliderUIControl::SliderUIControl(std::uint16_t trackBar,
                                  std::initializer_list<std::uint16_t> labels)
-    : UIControl(trackBar) {
+    : UIControlOf(trackBar) {
     for (const std::uint16_t label : labels) {
         addItem(label);
     }
@@ -23,25 +21,17 @@ void SliderUIControl::setValue(std::int32_t value) {
     displayControl();
 }
 
-void SliderUIControl::setControlCallBack() {
-    if (hasWindow()) {
-        windowSystem().setRange(getWindow(), getItem(), m_lower, m_upper);
-    }
-}
+void SliderUIControl::setControlCallBack() { item().setRange(m_lower, m_upper); }
 
-void SliderUIControl::displayControl() {
-    if (hasWindow()) {
-        windowSystem().setPosition(getWindow(), getItem(), m_value);
-    }
-}
+void SliderUIControl::displayControl() { item().setPosition(m_value); }
 
 bool SliderUIControl::processControlMessage(const DialogMessage& message,
                                             std::intptr_t& /*result*/) {
     if (message.getMessage() != platform::event::horizontalScroll ||
-        message.getLParam() != getItem()) {
+        message.getLParam() != getItemId()) {
         return false;
     }
-    const std::int32_t position = windowSystem().getPosition(getWindow(), getItem());
+    const std::int32_t position = item().getPosition();
     if (position != m_value) {
         m_value = position;
         notifyObservers();

@@ -7,7 +7,7 @@
 namespace zent {
 
 /// A track bar.
-class SliderUIControl : public UIControl {
+class SliderUIControl : public UIControlOf<platform::RangeItem> {
 public:
     explicit SliderUIControl(std::uint16_t trackBar,
                              std::initializer_list<std::uint16_t> labels = {});
@@ -21,8 +21,6 @@ public:
     bool processControlMessage(const DialogMessage& message, std::intptr_t& result) override;
 
 private:
-    std::uint16_t getItem() const { return getItemIds().front(); }
-
     std::int32_t m_lower = 0;
     std::int32_t m_upper = 100;
     std::int32_t m_value = 0;

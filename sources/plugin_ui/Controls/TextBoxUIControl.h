@@ -8,7 +8,7 @@
 namespace zent {
 
 /// A box that takes a text, or shows one.
-class TextBoxUIControl : public UIControl {
+class TextBoxUIControl : public UIControlOf<platform::TextItem> {
 public:
     /// `maximumLength` in UTF-16 units.
     TextBoxUIControl(std::uint16_t edit, std::initializer_list<std::uint16_t> labels,
@@ -30,7 +30,6 @@ public:
     bool processControlMessage(const DialogMessage& message, std::intptr_t& result) override;
 
 private:
-    std::uint16_t m_editId;
     CXString m_text;
     std::uint32_t m_maxLength;
     FilterMode m_filterMode;

@@ -1,11 +1,10 @@
 #include "plugin_ui/Controls/UIControl.h"
 
 #include "plugin_ui/FirstFailure.h"
-#include "plugin_ui/Reports/CurrentWindowSystem.h"
 
 namespace zent {
 
-UIControl::UIControl(std::uint16_t item) : m_toolTipItem(item) { addItem(item); }
+UIControl::UIControl(std::uint16_t item) { addItem(item); }
 
 void UIControl::addItem(std::uint16_t item) {
     if (item != 0) {
@@ -13,11 +12,22 @@ void UIControl::addItem(std::uint16_t item) {
     }
 }
 
+void UIControl::bindItems(const platform::Dialog& dialog) {
+    m_items.clear();
+    for (const std::uint16_t id : m_itemIds) {
+        m_items.push_back(&dialog.item(id));
+    }
+}
+
+platform::DialogItem& UIControl::getFirstItem() const {
+    return m_items.empty() ? platform::none<platform::DialogItem>() : *m_items.front();
+}
+
 bool UIControl::onInitDialog(const DialogMessage& message, std::intptr_t& result) {
-    m_window = message.getWindow();
-    platform::WindowSystem& system = windowSystem();
-    if (!m_itemIds.empty() && system.hasItem(m_window, m_itemIds.front())) {
-        m_isEnabled = system.isItemEnabled(m_window, m_itemIds.front());
+    m_dialog = &message.getDialog();
+    bindItems(*m_dialog);
+    if (getFirstItem().isThere()) {
+        m_isEnabled = getFirstItem().isEnabled();
     }
     FirstFailure failure;
     failure.attempt([this] { setControlCallBack(); });
@@ -25,7 +35,7 @@ bool UIControl::onInitDialog(const DialogMessage& message, std::intptr_t& result
         enableItems(false);
     }
     if (!m_toolTipText.isEmpty()) {
-        system.setToolTip(m_window, m_toolTipItem, m_toolTipText);
+        getFirstItem().setToolTip(m_toolTipText);
     }
     bool isHandled = false;
     failure.attempt([&] { isHandled = processChildren(message, result); });
@@ -86,26 +96,25 @@ bool UIControl::onUnlock(const DialogMessage& /*message*/, std::intptr_t& /*resu
 
 bool UIControl::onDestroy(const DialogMessage& message, std::intptr_t& result) {
     const bool isHandled = processChildren(message, result);
-    m_window = nullptr;
+    m_dialog = &platform::none<platform::Dialog>();
+    bindItems(*m_dialog);
     m_isLocked = false;
     return isHandled;
 }
 
 void UIControl::setToolTip(const CXString& text) {
     m_toolTipText = text;
-    if (hasWindow()) {
-        windowSystem().setToolTip(m_window, m_toolTipItem, m_toolTipText);
-    }
+    getFirstItem().setToolTip(m_toolTipText);
 }
 
 void UIControl::deliver(std::uint32_t message) {
     std::intptr_t result = 0;
-    processMessage(DialogMessage(m_window, message), result);
+    processMessage(DialogMessage(*m_dialog, message), result);
 }
 
 void UIControl::showItems(bool isShown) {
-    for (const std::uint16_t item : m_itemIds) {
-        windowSystem().showItem(m_window, item, isShown);
+    for (platform::DialogItem* const item : m_items) {
+        item->show(isShown);
     }
 }
 
@@ -114,8 +123,8 @@ void UIControl::enableItems(bool isEnabled) {
         return;
     }
     m_isEnabled = isEnabled;
-    for (const std::uint16_t item : m_itemIds) {
-        windowSystem().enableItem(m_window, item, isEnabled);
+    for (platform::DialogItem* const item : m_items) {
+        item->enable(isEnabled);
     }
 }
 

@@ -14,7 +14,8 @@ namespace zent {
 /// observers when the user changes it.
 ///
 /// Controls are made before there is a window. What is set then is kept, and shown when the dialog
-/// starts or the next time that something is set.
+/// starts or the next time that something is set. Until then, and after the dialog's end, its items
+/// are objects that do nothing.
 class UIControl : public MessageProcessorWithChildren, public ObserverSubject {
 public:
     virtual void setCaptionId(std::uint32_t /*stringId*/) {}
@@ -56,10 +57,13 @@ protected:
 
     /// One more item that shows, hides, enables and disables with the control; 0 is none.
     void addItem(std::uint16_t item);
+    /// Gets the items from a dialog that starts, or from none when it has ended.
+    virtual void bindItems(const platform::Dialog& dialog);
     const std::vector<std::uint16_t>& getItemIds() const { return m_itemIds; }
-    /// Null while there is no dialog.
-    platform::WindowHandle getWindow() const { return m_window; }
-    bool hasWindow() const { return m_window != nullptr; }
+    /// The first, 0 if there is none.
+    std::uint16_t getItemId() const { return m_itemIds.empty() ? std::uint16_t{0} : m_itemIds[0]; }
+    platform::DialogItem& getFirstItem() const;
+    bool hasWindow() const { return m_dialog->getHandle() != nullptr; }
 
     /// While it lives the control shows its value: what its items tell of that is no act of the
     /// user's.
@@ -80,14 +84,30 @@ private:
     void showItems(bool isShown);
     void enableItems(bool isEnabled);
 
-    platform::WindowHandle m_window = nullptr;
+    platform::Dialog* m_dialog = &platform::none<platform::Dialog>();
     std::vector<std::uint16_t> m_itemIds;
+    std::vector<platform::DialogItem*> m_items; // while the dialog is open
     bool m_isEnabled = true;
     bool m_isLocked = false;
     bool m_forwardCommands = false;
     int m_showings = 0;
-    std::uint16_t m_toolTipItem;
     CXString m_toolTipText;
+};
+
+/// A control whose first item is of a kind.
+template <typename Kind>
+class UIControlOf : public UIControl {
+protected:
+    using UIControl::UIControl;
+
+    Kind& item() const { return *m_item; }
+    void bindItems(const platform::Dialog& dialog) override {
+        UIControl::bindItems(dialog);
+        m_item = &dialog.item<Kind>(getItemId());
+    }
+
+private:
+    Kind* m_item = &platform::none<Kind>();
 };
 
 } // namespace zent

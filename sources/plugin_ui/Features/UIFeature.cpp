@@ -2,12 +2,11 @@
 
 #include "plugin_ui/Controls/StaticUIControl.h"
 #include "plugin_ui/FirstFailure.h"
-#include "plugin_ui/Reports/CurrentWindowSystem.h"
 
 namespace zent {
 
 bool UIFeature::onInitDialog(const DialogMessage& message, std::intptr_t& result) {
-    m_window = message.getWindow();
+    m_dialog = &message.getDialog();
     m_settings = message.getObject<FeatureSettings>();
     bool isHandled = false;
     FirstFailure failure;
@@ -28,7 +27,7 @@ bool UIFeature::onSettingsChanged(const DialogMessage& message, std::intptr_t& r
 
 bool UIFeature::onDestroy(const DialogMessage& message, std::intptr_t& result) {
     const bool isHandled = processChildren(message, result);
-    m_window = nullptr;
+    m_dialog = &platform::none<platform::Dialog>();
     return isHandled;
 }
 
@@ -43,13 +42,13 @@ void UIFeature::addStaticControl(std::uint16_t item) { makeChild<StaticUIControl
 
 void UIFeature::deliver(std::uint32_t message) {
     std::intptr_t result = 0;
-    processMessage(DialogMessage(m_window, message), result);
+    processMessage(DialogMessage(*m_dialog, message), result);
 }
 
 void UIFeature::refreshSelf() { deliver(UIM_SETTINGS_CHANGED); }
-void UIFeature::refreshDialog() { DialogMessage(m_window, UIM_SETTINGS_CHANGED).resend(); }
+void UIFeature::refreshDialog() { DialogMessage(*m_dialog, UIM_SETTINGS_CHANGED).resend(); }
 void UIFeature::enableSelf() { deliver(UIM_ENABLE); }
 void UIFeature::disableSelf() { deliver(UIM_DISABLE); }
-void UIFeature::reportChanged() { windowSystem().reportChanged(m_window); }
+void UIFeature::reportChanged() { m_dialog->reportChanged(); }
 
 } // namespace zent

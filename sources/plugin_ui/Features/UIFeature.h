@@ -34,7 +34,7 @@ public:
     void setSettings(FeatureSettings* settings) override;
 
 protected:
-    platform::WindowHandle getWindow() const { return m_window; }
+    platform::WindowHandle getWindow() const { return m_dialog->getHandle(); }
 
     /// A label that shows and hides with the feature.
     void addStaticControl(std::uint16_t item);
@@ -49,7 +49,7 @@ protected:
 private:
     void deliver(std::uint32_t message);
 
-    platform::WindowHandle m_window = nullptr;
+    platform::Dialog* m_dialog = &platform::none<platform::Dialog>();
     FeatureSettings* m_settings = nullptr;
 };
 

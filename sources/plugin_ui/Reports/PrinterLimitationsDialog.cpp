@@ -23,13 +23,12 @@ PrinterLimitationsDialog::PrinterLimitationsDialog(const CXString& title, const 
 
 std::intptr_t PrinterLimitationsDialog::run(platform::WindowSystem& system,
                                             platform::WindowHandle owner) {
-    m_system = &system;
     const ResourceLibrary library;
     const ResourceData dialog = library.loadDialog(templateId);
     return system.runModal(dialog.getBytes().bytes(), library.getModule(), owner, *this);
 }
 
-bool PrinterLimitationsDialog::processEvent(platform::WindowHandle dialog, std::uint32_t message,
+bool PrinterLimitationsDialog::processEvent(platform::Dialog& dialog, std::uint32_t message,
                                             std::uintptr_t wParam, std::intptr_t /*lParam*/,
                                             std::intptr_t& /*result*/) {
     if (message == platform::event::initDialog) {
@@ -44,19 +43,21 @@ bool PrinterLimitationsDialog::processEvent(platform::WindowHandle dialog, std::
         return false;
     }
     const bool isRefusal = button == item::refuse && m_offersChoice;
-    m_system->endDialog(dialog, isRefusal ? refused : agreed);
+    dialog.end(isRefusal ? refused : agreed);
     return true;
 }
 
-void PrinterLimitationsDialog::fill(platform::WindowHandle dialog) {
-    m_system->setCaption(dialog, m_title);
-    m_system->setText(dialog, item::label, m_label);
-    m_system->setText(dialog, item::report, m_report);
+void PrinterLimitationsDialog::fill(platform::Dialog& dialog) const {
+    dialog.setCaption(m_title);
+    dialog.item(item::label).setText(m_label);
+    dialog.item(item::report).setText(m_report);
     if (!m_offersChoice) {
         // The button on the right stays, so that the row looks as it does in other boxes.
-        m_system->setText(dialog, item::refuse, m_system->getText(dialog, item::agree));
-        m_system->removeItem(dialog, item::agree);
-        m_system->focusItem(dialog, item::refuse);
+        platform::DialogItem& agreeing = dialog.item(item::agree);
+        platform::DialogItem& remaining = dialog.item(item::refuse);
+        remaining.setText(agreeing.getText());
+        agreeing.remove();
+        remaining.focus();
     }
 }
 

@@ -22,13 +22,12 @@ public:
     /// means, -1 if it couldn't be made. Raises what ResourceLibrary raises.
     std::intptr_t run(platform::WindowSystem& system, platform::WindowHandle owner);
 
-    bool processEvent(platform::WindowHandle dialog, std::uint32_t message, std::uintptr_t wParam,
+    bool processEvent(platform::Dialog& dialog, std::uint32_t message, std::uintptr_t wParam,
                       std::intptr_t lParam, std::intptr_t& result) override;
 
 private:
-    void fill(platform::WindowHandle dialog);
+    void fill(platform::Dialog& dialog) const;
 
-    platform::WindowSystem* m_system = nullptr; // while it runs
     CXString m_title;
     CXString m_label;
     CXString m_report;

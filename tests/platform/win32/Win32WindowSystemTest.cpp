@@ -84,12 +84,12 @@ public:
     std::function<void(WindowHandle)> onInit = [](WindowHandle) {};
     std::function<void(WindowHandle)> onDestroy = [](WindowHandle) {};
 
-    bool processEvent(WindowHandle dialog, std::uint32_t message, std::uintptr_t /*wParam*/,
+    bool processEvent(Dialog& dialog, std::uint32_t message, std::uintptr_t /*wParam*/,
                       std::intptr_t /*lParam*/, std::intptr_t& result) override {
         if (message == event::initDialog) {
-            onInit(dialog);
+            onInit(dialog.getHandle());
         } else if (message == event::destroy) {
-            onDestroy(dialog);
+            onDestroy(dialog.getHandle());
         }
         result = 5;
         return true;
@@ -163,7 +163,7 @@ TEST_F(Win32WindowSystemTest, NothingStandsBeforeAWindowThatIsGone) {
 /// Such as the application's, which doesn't know of the dialog.
 TEST_F(Win32WindowSystemTest, ModelessDialogsHaveTheirKeysInAnyLoop) {
     const WindowHandle dialog =
-        windows().createModeless(sample(), m_resources, nullptr, m_procedure);
+        windows().createModeless(sample(), m_resources, nullptr, m_procedure)->getHandle();
     EXPECT_EQ(user::focused(dialog), number);
     PostMessageW(GetFocus(), WM_KEYDOWN, VK_TAB, 1);
     MSG message = {};
