@@ -9,6 +9,7 @@
 #include "plugin_ui/Reports/CurrentWindowSystem.h"
 #include "support/DialogUser.h"
 #include "support/ListText.h"
+#include "support/OpenDialog.h"
 #include "support/ScratchPreferences.h"
 #include "support/Screenshots.h"
 
@@ -55,10 +56,9 @@ private:
 
 /// Puts a text in the place of what an edit item holds, with the keyboard.
 inline void retype(platform::WindowHandle dialog, std::uint16_t item, std::u16string_view text) {
-    platform::WindowSystem& system = windowSystem();
-    system.focusItem(dialog, item);
-    const auto length = static_cast<std::int32_t>(system.getText(dialog, item).size());
-    system.selectText(dialog, item, 0, length);
+    at(dialog, item).focus();
+    const auto length = static_cast<std::int32_t>(at(dialog, item).getText().size());
+    at<platform::TextItem>(dialog, item).selectText(0, length);
     user::press(dialog, user::Key::remove);
     user::type(dialog, item, text);
 }

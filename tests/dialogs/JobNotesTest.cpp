@@ -40,8 +40,8 @@ TEST(JobNotesTest, WhatIsTypedIsInTheTicketAfterOK) {
     job.setTicket("copies=3 job-sheet-message=text:Old job-message-to-operator=text:Hurry");
     user::onceOpen([](WindowHandle dialog) {
         EXPECT_EQ(windowSystem().getCaption(dialog), u"Job notes");
-        EXPECT_EQ(windowSystem().getText(dialog, item::jobName), u"Untitled");
-        EXPECT_EQ(windowSystem().getText(dialog, item::banner), u"Old");
+        EXPECT_EQ(at(dialog, item::jobName).getText(), u"Untitled");
+        EXPECT_EQ(at(dialog, item::banner).getText(), u"Old");
         retype(dialog, item::jobName, u"Annual report!");
         user::type(dialog, item::account, u"4711-a");
         user::type(dialog, item::sender, u"M\u00fcller");
@@ -126,7 +126,7 @@ TEST(JobNotesTest, TheAccountHasADialogWhereThereIsMoreToIt) {
         });
     };
     const auto openFrom = [](WindowHandle dialog) {
-        EXPECT_FALSE(windowSystem().isItemShown(dialog, item::account));
+        EXPECT_FALSE(at(dialog, item::account).isShown());
         user::click(dialog, item::accountButton);
     };
     user::onceOpen([&](WindowHandle dialog) {
@@ -195,7 +195,7 @@ TEST(JobNotesTest, BoxesTakeNoMoreThanThePrinter) {
 TEST(JobNotesTest, BoxesShowWhatTheyTake) {
     const DialogSession job(capitalAccount);
     user::onceOpen([](WindowHandle dialog) {
-        const auto shown = [&](std::uint16_t item) { return windowSystem().getText(dialog, item); };
+        const auto shown = [&](std::uint16_t item) { return at(dialog, item).getText(); };
         user::type(dialog, item::phone, u"\t");
         user::paste(dialog, item::phone, u"\r\n");
         EXPECT_EQ(shown(item::phone), u"");
@@ -218,8 +218,8 @@ TEST(JobNotesTest, WhatNobodyTouchesStaysAsItWas) {
     job.settings().setString(_FI(feature::jobRecipientName), tooLong);
     const std::string before = job.ticket();
     user::onceOpen([&](WindowHandle dialog) {
-        EXPECT_EQ(windowSystem().getText(dialog, item::operatorMessage), twoLines.view());
-        EXPECT_EQ(windowSystem().getText(dialog, item::recipient), tooLong.view());
+        EXPECT_EQ(at(dialog, item::operatorMessage).getText(), twoLines.view());
+        EXPECT_EQ(at(dialog, item::recipient).getText(), tooLong.view());
         user::click(dialog, item::ok); // in vain
         EXPECT_EQ(job.boxes().size(), 1U);
         user::click(dialog, item::cancel);
@@ -245,11 +245,10 @@ TEST(JobNotesTest, PreferencesFillBoxesAndLockThem) {
     job.prefer(u"USE_LOGON_NAME_PREFERENCE");
     job.prefer(u"ACCOUNT_REQUIRED_PREFERENCE");
     user::onceOpen([&](WindowHandle dialog) {
-        platform::WindowSystem& system = windowSystem();
-        EXPECT_FALSE(system.isItemEnabled(dialog, item::jobName));
-        EXPECT_FALSE(system.isItemEnabled(dialog, item::sender));
-        EXPECT_TRUE(system.isItemEnabled(dialog, item::recipient));
-        EXPECT_EQ(system.getText(dialog, item::sender), User::getLogonName().view());
+        EXPECT_FALSE(at(dialog, item::jobName).isEnabled());
+        EXPECT_FALSE(at(dialog, item::sender).isEnabled());
+        EXPECT_TRUE(at(dialog, item::recipient).isEnabled());
+        EXPECT_EQ(at(dialog, item::sender).getText(), User::getLogonName().view());
         user::type(dialog, item::jobName, u"x");
         user::click(dialog, item::ok);
         EXPECT_EQ(job.boxes().size(), 1U); // no account
@@ -282,9 +281,8 @@ TEST(JobNotesTest, EachPrinterHasThem) {
             for (const auto& group : {std::vector{item::jobName, item::account},
                                       {item::sender, item::recipient, item::phone},
                                       {item::banner, item::operatorMessage}}) {
-                EXPECT_TRUE(std::ranges::is_partitioned(group, [&](std::uint16_t edit) {
-                    return windowSystem().isItemShown(dialog, edit);
-                }));
+                EXPECT_TRUE(std::ranges::is_partitioned(
+                    group, [&](std::uint16_t edit) { return at(dialog, edit).isShown(); }));
             }
             user::click(dialog, item::ok);
         });

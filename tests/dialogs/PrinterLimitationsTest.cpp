@@ -54,16 +54,15 @@ TEST(PrinterLimitationsTest, TheUserAgreesToARepairOrNot) {
         const DialogSession job;
         job.setTicket("copies=3 media-col{media-type=handmade}");
         user::onceOpen([&](WindowHandle dialog) {
-            platform::WindowSystem& system = windowSystem();
-            EXPECT_EQ(system.getCaption(dialog), u"Mine");
-            EXPECT_EQ(system.getText(dialog, item::label),
+            EXPECT_EQ(windowSystem().getCaption(dialog), u"Mine");
+            EXPECT_EQ(at(dialog, item::label).getText(),
                       resourceText(row.mode == 4 ? 11557 : 11553).view());
-            const std::u16string report = system.getText(dialog, item::report);
+            const std::u16string report = at(dialog, item::report).getText();
             EXPECT_NE(report.find(u"\tMedia type"), std::u16string::npos);
             EXPECT_EQ(report.find(u"->") != std::u16string::npos, row.mode != 4);
             keepScreenshot(dialog, "printer-limitations");
             user::type(dialog, item::report, u"x"); // to be read only
-            EXPECT_EQ(system.getText(dialog, item::report), report);
+            EXPECT_EQ(at(dialog, item::report).getText(), report);
             row.act(dialog);
         });
         EXPECT_EQ(apply(job, row.mode, title), (Applied{ZENT_OK, 1, row.usable}));
@@ -103,10 +102,9 @@ TEST(PrinterLimitationsTest, ANoticeHasOneButton) {
         SettingsProblemList problems;
         EXPECT_FALSE(validate(capabilities, ticket, problems));
         user::onceOpen([&](WindowHandle dialog) {
-            platform::WindowSystem& system = windowSystem();
-            EXPECT_EQ(system.getText(dialog, item::label), resourceText(11541).view());
-            EXPECT_FALSE(system.hasItem(dialog, item::ok));
-            EXPECT_EQ(system.getText(dialog, item::cancel), u"OK");
+            EXPECT_EQ(at(dialog, item::label).getText(), resourceText(11541).view());
+            EXPECT_FALSE(at(dialog, item::ok).isThere());
+            EXPECT_EQ(at(dialog, item::cancel).getText(), u"OK");
             EXPECT_EQ(user::focused(dialog), item::cancel);
             if (closes) {
                 user::close(dialog);

@@ -8,6 +8,7 @@
 
 #include "platform/SampleDialog.h"
 #include "support/DialogUser.h"
+#include "support/OpenDialog.h"
 #include "support/Rows.h"
 #include "support/ScratchFolder.h"
 #include "support/Screenshots.h"
@@ -38,7 +39,7 @@ protected:
         user::onceOpen([&](WindowHandle dialog) {
             m_recorder.log.clear();
             acts(dialog);
-            windows().endDialog(dialog, 7);
+            dialogOf(dialog).end(7);
         });
         return runSample();
     }
@@ -57,27 +58,26 @@ protected:
 TEST_F(WindowSystemTest, TellsFromCreationToTheEnd) {
     m_recorder.onInit = [&](WindowHandle dialog) {
         EXPECT_EQ(m_recorder.log, "init");
-        EXPECT_FALSE(windows().isVisible(dialog));
-        EXPECT_EQ(windows().getText(dialog, notes), u"one");
-        EXPECT_EQ(windows().getText(dialog, label), u"A & B");
+        EXPECT_FALSE(dialogOf(dialog).isVisible());
+        EXPECT_EQ(at(dialog, notes).getText(), u"one");
+        EXPECT_EQ(at(dialog, label).getText(), u"A & B");
         EXPECT_EQ(windows().getCaption(dialog), u"Sample");
-        windows().setCaption(dialog, u"Report [*]");
-        windows().showItem(dialog, picture, false);
+        dialogOf(dialog).setCaption(u"Report [*]");
+        at(dialog, picture).show(false);
     };
     const std::intptr_t value = run([&](WindowHandle dialog) {
         keepScreenshot(dialog, "sample");
-        EXPECT_TRUE(windows().isVisible(dialog));
+        EXPECT_TRUE(dialogOf(dialog).isVisible());
         EXPECT_EQ(windows().getCaption(dialog), u"Report [*]");
-        EXPECT_TRUE(windows().isItemShown(dialog, number));
-        EXPECT_FALSE(windows().isItemShown(dialog, picture));
+        EXPECT_TRUE(at(dialog, number).isShown());
+        EXPECT_FALSE(at(dialog, picture).isShown());
         m_recorder.answer = 5;
-        EXPECT_EQ(told([&] { EXPECT_EQ(windows().send(dialog, 32771, 0, 0), 5); }),
-                  "message 32771");
+        EXPECT_EQ(told([&] { EXPECT_EQ(dialogOf(dialog).send(32771, 0, 0), 5); }), "message 32771");
     });
     EXPECT_EQ(value, 7);
     EXPECT_EQ(m_recorder.log, "destroy");
 
-    m_recorder.onInit = [&](WindowHandle dialog) { windows().endDialog(dialog, 3); };
+    m_recorder.onInit = [&](WindowHandle dialog) { dialogOf(dialog).end(3); };
     EXPECT_EQ(told([&] { EXPECT_EQ(runSample(), 3); }), "init; destroy"); // it was never shown
 }
 
@@ -96,30 +96,30 @@ TEST_F(WindowSystemTest, ExceptionsEndInTheApplication) {
 
 TEST_F(WindowSystemTest, ItemsThatAreNotThereDoNothing) {
     run([&](WindowHandle dialog) {
-        EXPECT_FALSE(windows().hasItem(dialog, absent));
-        windows().setText(dialog, absent, u"x");
-        EXPECT_EQ(windows().getText(dialog, absent), u"");
-        windows().setChecked(dialog, number, true); // of another kind
-        EXPECT_FALSE(windows().isChecked(dialog, number));
-        EXPECT_EQ(windows().getListCount(dialog, duplex), 0);
-        windows().removeItem(dialog, duplex);
-        EXPECT_FALSE(windows().hasItem(dialog, duplex));
+        EXPECT_FALSE(at(dialog, absent).isThere());
+        at(dialog, absent).setText(u"x");
+        EXPECT_EQ(at(dialog, absent).getText(), u"");
+        at<ButtonItem>(dialog, number).setChecked(true); // of another kind
+        EXPECT_FALSE(at<ButtonItem>(dialog, number).isChecked());
+        EXPECT_EQ(at<ChoiceItem>(dialog, duplex).getCount(), 0);
+        at(dialog, duplex).remove();
+        EXPECT_FALSE(at(dialog, duplex).isThere());
     });
 }
 
 TEST_F(WindowSystemTest, TakesWhatTheFilterPasses) {
     m_recorder.onInit = [&](WindowHandle dialog) {
-        windows().setTextLimit(dialog, number, 5);
-        windows().setCharacterFilter(
-            dialog, number,
-            [](std::u16string_view text, std::int32_t start, std::int32_t, char16_t character) {
+        at<TextItem>(dialog, number).setLimit(5);
+        at<TextItem>(dialog, number)
+            .setFilter([](std::u16string_view text, std::int32_t start, std::int32_t,
+                          char16_t character) {
                 const bool isFirstMinus =
                     character == u'-' && start == 0 && text.find(u'-') == std::u16string_view::npos;
                 return isFirstMinus || (character >= u'0' && character <= u'9');
             });
     };
     run([&](WindowHandle dialog) {
-        const auto text = [&] { return windows().getText(dialog, number); };
+        const auto text = [&] { return at(dialog, number).getText(); };
         for (const std::u16string_view refused : {u"x", u"\u20ac", u"\t"}) {
             EXPECT_EQ(told([&] { user::type(dialog, number, refused); }), "");
             EXPECT_EQ(told([&] { user::paste(dialog, number, refused); }), "");
@@ -127,7 +127,7 @@ TEST_F(WindowSystemTest, TakesWhatTheFilterPasses) {
         }
         user::paste(dialog, number, std::u16string(5000, u'7'));
         EXPECT_EQ(text(), u"77777");
-        windows().selectText(dialog, number, 0, -1);
+        at<TextItem>(dialog, number).selectText(0, -1);
         user::press(dialog, Key::remove);
         m_recorder.log.clear();
         EXPECT_EQ(told([&] { user::type(dialog, number, u"1a2-"); }),
@@ -136,14 +136,14 @@ TEST_F(WindowSystemTest, TakesWhatTheFilterPasses) {
         user::paste(dialog, number, u"x3-4y5678");
         EXPECT_EQ(text(), u"12345"); // as many as there is room for
         user::press(dialog, Key::backspace);
-        windows().selectText(dialog, number, 0, 3);
+        at<TextItem>(dialog, number).selectText(0, 3);
         user::type(dialog, number, u"x");
         EXPECT_EQ(text(), u"1234");
         user::type(dialog, number, u"-");
         EXPECT_EQ(text(), u"-4");
         // The program isn't asked, nor bound.
-        EXPECT_EQ(told([&] { windows().setText(dialog, number, u"free text"); }), "command 10 768");
-        EXPECT_EQ(told([&] { windows().setText(dialog, number, u"free text"); }), "");
+        EXPECT_EQ(told([&] { at(dialog, number).setText(u"free text"); }), "command 10 768");
+        EXPECT_EQ(told([&] { at(dialog, number).setText(u"free text"); }), "");
         EXPECT_EQ(text(), u"free text");
     });
 }
@@ -152,20 +152,20 @@ TEST_F(WindowSystemTest, TakesWholeCharactersWithinTheLimit) {
     constexpr std::u16string_view emoji = u"\U0001F600";
     run([&](WindowHandle dialog) {
         const auto entered = [&](std::uint16_t item, auto enter, std::u16string_view text) {
-            windows().setText(dialog, item, u"");
+            at(dialog, item).setText(u"");
             enter(dialog, item, text);
-            return windows().getText(dialog, item);
+            return at(dialog, item).getText();
         };
         for (const auto& enter : {user::type, user::paste}) {
             for (const std::uint16_t item : {number, notes}) {
-                windows().setTextLimit(dialog, item, 4);
+                at<TextItem>(dialog, item).setLimit(4);
                 EXPECT_EQ(entered(item, enter, u"abc\U0001F600"), u"abc");
                 EXPECT_EQ(entered(item, enter, u"ab\U0001F600d"), u"ab\U0001F600");
             }
         }
         EXPECT_EQ(entered(number, user::paste, u"abc\U0001F600d"), u"abc"); // and no gap
         // A filter that passes but one half passes none.
-        windows().setCharacterFilter(dialog, number, [&](auto, auto, auto, char16_t character) {
+        at<TextItem>(dialog, number).setFilter([&](auto, auto, auto, char16_t character) {
             return character != emoji.back();
         });
         EXPECT_EQ(entered(number, user::type, emoji), u"");
@@ -175,32 +175,32 @@ TEST_F(WindowSystemTest, TakesWholeCharactersWithinTheLimit) {
 
 TEST_F(WindowSystemTest, ALineIsTakenUpToItsEnd) {
     run([&](WindowHandle dialog) {
-        windows().setText(dialog, number, u"4711-FIN");
-        windows().selectText(dialog, number, 0, -1);
+        at(dialog, number).setText(u"4711-FIN");
+        at<TextItem>(dialog, number).selectText(0, -1);
         user::paste(dialog, number, u"4711\r\nFIN");
-        EXPECT_EQ(windows().getText(dialog, number), u"4711");
+        EXPECT_EQ(at(dialog, number).getText(), u"4711");
         // What the program sets stays as it is, line ends of one-line items included.
-        windows().setText(dialog, number, u"a\nb");
-        EXPECT_EQ(windows().getText(dialog, number), u"a\nb");
-        windows().setText(dialog, notes, u"");
-        windows().setTextLimit(dialog, notes, 100);
+        at(dialog, number).setText(u"a\nb");
+        EXPECT_EQ(at(dialog, number).getText(), u"a\nb");
+        at(dialog, notes).setText(u"");
+        at<TextItem>(dialog, notes).setLimit(100);
         user::paste(dialog, notes, u"a\nb\r\nc");
-        EXPECT_EQ(windows().getText(dialog, notes), u"a\r\nb\r\nc");
+        EXPECT_EQ(at(dialog, notes).getText(), u"a\r\nb\r\nc");
     });
 }
 
 TEST_F(WindowSystemTest, Lines) {
     run([&](WindowHandle dialog) {
         user::type(dialog, notes, u"\rtwo");
-        EXPECT_EQ(windows().getText(dialog, notes), u"one\r\ntwo");
-        windows().selectText(dialog, notes, 3, 6);
+        EXPECT_EQ(at(dialog, notes).getText(), u"one\r\ntwo");
+        at<TextItem>(dialog, notes).selectText(3, 6);
         EXPECT_EQ(told([&] { user::type(dialog, notes, u"x"); }), "command 11 768");
-        EXPECT_EQ(windows().getText(dialog, notes), u"onexwo");
-        windows().setText(dialog, notes, u"a\r\nb");
-        EXPECT_EQ(windows().getText(dialog, notes), u"a\r\nb");
-        windows().focusItem(dialog, notes);
+        EXPECT_EQ(at(dialog, notes).getText(), u"onexwo");
+        at(dialog, notes).setText(u"a\r\nb");
+        EXPECT_EQ(at(dialog, notes).getText(), u"a\r\nb");
+        at(dialog, notes).focus();
         m_recorder.notesFocus = true;
-        EXPECT_EQ(told([&] { windows().focusItem(dialog, duplex); }), "command 11 512");
+        EXPECT_EQ(told([&] { at(dialog, duplex).focus(); }), "command 11 512");
         m_recorder.notesFocus = false;
     });
 }
@@ -210,7 +210,7 @@ TEST_F(WindowSystemTest, ChecksAndRadios) {
         const auto marks = [&] {
             std::string result;
             for (const std::uint16_t item : {duplex, firstRadio, secondRadio, otherRadio}) {
-                result += windows().isChecked(dialog, item) ? '1' : '0';
+                result += at<ButtonItem>(dialog, item).isChecked() ? '1' : '0';
             }
             return result;
         };
@@ -222,14 +222,14 @@ TEST_F(WindowSystemTest, ChecksAndRadios) {
         EXPECT_EQ(marks(), "1011");
         // What the program does raises nothing and moves no other mark.
         EXPECT_EQ(told([&] {
-                      windows().setChecked(dialog, duplex, false);
-                      windows().setChecked(dialog, secondRadio, false);
-                      windows().setChecked(dialog, firstRadio, true);
+                      at<ButtonItem>(dialog, duplex).setChecked(false);
+                      at<ButtonItem>(dialog, secondRadio).setChecked(false);
+                      at<ButtonItem>(dialog, firstRadio).setChecked(true);
                   }),
                   "");
         EXPECT_EQ(marks(), "0101");
-        windows().enableItem(dialog, duplex, false);
-        EXPECT_FALSE(windows().isItemEnabled(dialog, duplex));
+        at(dialog, duplex).enable(false);
+        EXPECT_FALSE(at(dialog, duplex).isEnabled());
         EXPECT_EQ(told([&] { user::click(dialog, duplex); }), "");
     });
 }
@@ -237,37 +237,37 @@ TEST_F(WindowSystemTest, ChecksAndRadios) {
 TEST_F(WindowSystemTest, Lists) {
     m_recorder.onInit = [&](WindowHandle dialog) {
         for (const std::uint16_t item : {choice, ownChoice, openChoice, list}) {
-            EXPECT_EQ(windows().addToList(dialog, item, u"cherry", 3, -1), 0);
-            EXPECT_EQ(windows().addToList(dialog, item, u"apple", 1, 0), 0);
-            EXPECT_EQ(windows().addToList(dialog, item, u"banana", 0xFFFFFFFF, 1), 1);
-            EXPECT_EQ(windows().getSelected(dialog, item), -1);
+            EXPECT_EQ(at<ChoiceItem>(dialog, item).add(u"cherry", 3, -1), 0);
+            EXPECT_EQ(at<ChoiceItem>(dialog, item).add(u"apple", 1, 0), 0);
+            EXPECT_EQ(at<ChoiceItem>(dialog, item).add(u"banana", 0xFFFFFFFF, 1), 1);
+            EXPECT_EQ(at<ChoiceItem>(dialog, item).getSelected(), -1);
         }
-        EXPECT_EQ(windows().addToList(dialog, list, u"blueberry", 4, -1), 2); // it is sorted
+        EXPECT_EQ(at<ChoiceItem>(dialog, list).add(u"blueberry", 4, -1), 2); // it is sorted
     };
     run([&](WindowHandle dialog) {
         for (const std::uint16_t item : {choice, ownChoice, openChoice, list}) {
             const std::string event = "command " + std::to_string(item);
             EXPECT_THAT(told([&] { user::choose(dialog, item, 1); }), EndsWith(event + " 1"));
-            EXPECT_EQ(windows().getSelected(dialog, item), 1);
-            EXPECT_EQ(windows().getListText(dialog, item, 1), u"banana");
-            EXPECT_EQ(windows().getListValue(dialog, item, 1), 0xFFFFFFFFU);
+            EXPECT_EQ(at<ChoiceItem>(dialog, item).getSelected(), 1);
+            EXPECT_EQ(at<ChoiceItem>(dialog, item).getEntryText(1), u"banana");
+            EXPECT_EQ(at<ChoiceItem>(dialog, item).getEntryValue(1), 0xFFFFFFFFU);
             EXPECT_EQ(told([&] {
-                          windows().select(dialog, item, 0);
-                          windows().setListText(dialog, item, 2, u"date");
-                          windows().removeFromList(dialog, item, 0);
+                          at<ChoiceItem>(dialog, item).select(0);
+                          at<ChoiceItem>(dialog, item).setEntryText(2, u"date");
+                          at<ChoiceItem>(dialog, item).removeEntry(0);
                       }),
                       "");
-            EXPECT_EQ(windows().getSelected(dialog, item), -1);
-            EXPECT_EQ(windows().getListText(dialog, item, 1), u"date");
-            EXPECT_EQ(windows().getListCount(dialog, item), item == list ? 3 : 2);
+            EXPECT_EQ(at<ChoiceItem>(dialog, item).getSelected(), -1);
+            EXPECT_EQ(at<ChoiceItem>(dialog, item).getEntryText(1), u"date");
+            EXPECT_EQ(at<ChoiceItem>(dialog, item).getCount(), item == list ? 3 : 2);
             if (item == ownChoice || item == openChoice) {
-                windows().select(dialog, item, 0);
+                at<ChoiceItem>(dialog, item).select(0);
                 EXPECT_EQ(told([&] { user::type(dialog, item, u"s"); }), event + " 5");
-                EXPECT_EQ(windows().getText(dialog, item), u"bananas");
-                EXPECT_EQ(windows().getSelected(dialog, item), -1);
+                EXPECT_EQ(at(dialog, item).getText(), u"bananas");
+                EXPECT_EQ(at<ChoiceItem>(dialog, item).getSelected(), -1);
             }
-            windows().clearList(dialog, item);
-            EXPECT_EQ(windows().getListCount(dialog, item), 0);
+            at<ChoiceItem>(dialog, item).clear();
+            EXPECT_EQ(at<ChoiceItem>(dialog, item).getCount(), 0);
         }
     });
 }
@@ -275,65 +275,65 @@ TEST_F(WindowSystemTest, Lists) {
 TEST_F(WindowSystemTest, ListViews) {
     using RowNumbers = std::vector<std::int32_t>;
     m_recorder.onInit = [&](WindowHandle dialog) {
-        windows().setListViewStyle(dialog, table, WindowSystem::ListViewStyle::checkedDetails);
-        windows().addColumn(dialog, table, u"Name", 80);
-        windows().addColumn(dialog, table, u"Size", 60);
+        at<RowsItem>(dialog, table).setStyle(RowsItem::Style::checkedDetails);
+        at<RowsItem>(dialog, table).addColumn(u"Name", 80);
+        at<RowsItem>(dialog, table).addColumn(u"Size", 60);
         for (const std::uintptr_t value : {7U, 8U, 9U}) {
-            const std::int32_t row = windows().addRow(dialog, table, u"row", 0, value);
-            windows().setCell(dialog, table, row, 1, u"A4");
+            const std::int32_t row = at<RowsItem>(dialog, table).addRow(u"row", 0, value);
+            at<RowsItem>(dialog, table).setCell(row, 1, u"A4");
         }
-        windows().setRowChecked(dialog, table, 0, true);
-        windows().selectRow(dialog, table, 0);
+        at<RowsItem>(dialog, table).setRowChecked(0, true);
+        at<RowsItem>(dialog, table).selectRow(0);
         EXPECT_EQ(m_recorder.log, "init");
     };
     run([&](WindowHandle dialog) {
-        EXPECT_EQ(windows().getSelectedRows(dialog, table), RowNumbers{0});
-        EXPECT_EQ(windows().getCell(dialog, table, 2, 1), u"A4");
+        EXPECT_EQ(at<RowsItem>(dialog, table).getSelectedRows(), RowNumbers{0});
+        EXPECT_EQ(at<RowsItem>(dialog, table).getCell(2, 1), u"A4");
         EXPECT_THAT(told([&] { user::clickRow(dialog, table, 2); }), HasSubstr("notify 20 -101 2"));
-        EXPECT_EQ(windows().getSelectedRows(dialog, table), RowNumbers{2});
-        EXPECT_FALSE(windows().isRowChecked(dialog, table, 2));
+        EXPECT_EQ(at<RowsItem>(dialog, table).getSelectedRows(), RowNumbers{2});
+        EXPECT_FALSE(at<RowsItem>(dialog, table).isRowChecked(2));
         EXPECT_THAT(told([&] { user::checkRow(dialog, table, 1); }), HasSubstr("notify 20 -101 1"));
-        EXPECT_TRUE(windows().isRowChecked(dialog, table, 1));
+        EXPECT_TRUE(at<RowsItem>(dialog, table).isRowChecked(1));
 
-        EXPECT_EQ(told([&] { windows().removeRow(dialog, table, 0); }), "");
-        EXPECT_EQ(windows().getRowCount(dialog, table), 2);
-        EXPECT_EQ(windows().getRowValue(dialog, table, 0), 8U);
-        EXPECT_TRUE(windows().isRowChecked(dialog, table, 0));
-        windows().clearRows(dialog, table);
-        EXPECT_EQ(windows().getSelectedRows(dialog, table), RowNumbers());
+        EXPECT_EQ(told([&] { at<RowsItem>(dialog, table).removeRow(0); }), "");
+        EXPECT_EQ(at<RowsItem>(dialog, table).getRowCount(), 2);
+        EXPECT_EQ(at<RowsItem>(dialog, table).getRowValue(0), 8U);
+        EXPECT_TRUE(at<RowsItem>(dialog, table).isRowChecked(0));
+        at<RowsItem>(dialog, table).clearRows();
+        EXPECT_EQ(at<RowsItem>(dialog, table).getSelectedRows(), RowNumbers());
     });
 }
 
 TEST_F(WindowSystemTest, SlidersAndSpins) {
     m_recorder.onInit = [&](WindowHandle dialog) {
         for (const std::uint16_t item : {slider, scrolled, spin}) {
-            windows().setRange(dialog, item, -5, 20);
-            windows().setPosition(dialog, item, 3);
+            at<RangeItem>(dialog, item).setRange(-5, 20);
+            at<RangeItem>(dialog, item).setPosition(3);
         }
         EXPECT_EQ(m_recorder.log, "init");
     };
     run([&](WindowHandle dialog) {
         EXPECT_EQ(told([&] { user::moveSlider(dialog, slider, 4); }), "scroll 21 4");
-        EXPECT_EQ(windows().getPosition(dialog, slider), 4);
-        EXPECT_EQ(windows().getPosition(dialog, scrolled), 3);
-        windows().setPosition(dialog, slider, 100);
-        EXPECT_EQ(windows().getPosition(dialog, slider), 20);
+        EXPECT_EQ(at<RangeItem>(dialog, slider).getPosition(), 4);
+        EXPECT_EQ(at<RangeItem>(dialog, scrolled).getPosition(), 3);
+        at<RangeItem>(dialog, slider).setPosition(100);
+        EXPECT_EQ(at<RangeItem>(dialog, slider).getPosition(), 20);
 
         EXPECT_EQ(told([&] { user::spin(dialog, spin, true); }), "notify 22 -722 3 -1");
         EXPECT_EQ(told([&] { user::spin(dialog, spin, false); }), "notify 22 -722 4 1");
-        EXPECT_EQ(windows().getPosition(dialog, spin), 3);
+        EXPECT_EQ(at<RangeItem>(dialog, spin).getPosition(), 3);
         m_recorder.answer = 1; // against the step
         user::spin(dialog, spin, true);
-        EXPECT_EQ(windows().getPosition(dialog, spin), 3);
+        EXPECT_EQ(at<RangeItem>(dialog, spin).getPosition(), 3);
     });
 }
 
 TEST_F(WindowSystemTest, IsUsedByKeyboard) {
     m_recorder.onInit = [&](WindowHandle dialog) {
-        windows().showItem(dialog, notes, false);
-        windows().enableItem(dialog, choice, false);
-        windows().setChecked(dialog, firstRadio, true);
-        windows().setChecked(dialog, otherRadio, true);
+        at(dialog, notes).show(false);
+        at(dialog, choice).enable(false);
+        at<ButtonItem>(dialog, firstRadio).setChecked(true);
+        at<ButtonItem>(dialog, otherRadio).setChecked(true);
     };
     run([&](WindowHandle dialog) {
         std::vector<std::uint16_t> order = {user::focused(dialog)};
@@ -346,7 +346,7 @@ TEST_F(WindowSystemTest, IsUsedByKeyboard) {
                                                 number));
         user::press(dialog, Key::shiftTab);
         EXPECT_EQ(user::focused(dialog), cancel);
-        windows().focusItem(dialog, duplex);
+        at(dialog, duplex).focus();
         EXPECT_EQ(told([&] { user::press(dialog, Key::space); }), "command 12 0");
         EXPECT_EQ(told([&] { user::press(dialog, Key::enter); }), "command 1 0");
     });
@@ -364,13 +364,13 @@ TEST_F(WindowSystemTest, EnterPressesTheDefaultButton) {
                            .add(cancel, T::button, stop | 1, {115, 25, 50, 14}, u"Cancel")
                            .build();
     user::onceOpen([&](WindowHandle dialog) {
-        windows().setDefaultButton(dialog, ok);
+        at<ButtonItem>(dialog, ok).makeDefault();
         EXPECT_EQ(user::focused(dialog), number);
         EXPECT_EQ(told([&] { user::press(dialog, Key::enter); }), "command 1 0");
         keepScreenshot(dialog, "default-button");
-        windows().focusItem(dialog, cancel); // which Enter presses as long as it has the focus
+        at(dialog, cancel).focus(); // which Enter presses as long as it has the focus
         EXPECT_EQ(told([&] { user::press(dialog, Key::enter); }), "command 2 0");
-        windows().endDialog(dialog, 1);
+        dialogOf(dialog).end(1);
     });
     m_recorder.onCommand[cancel] = [](WindowHandle) {};
     windows().runModal(bytes, m_resources, nullptr, m_recorder);
@@ -379,24 +379,24 @@ TEST_F(WindowSystemTest, EnterPressesTheDefaultButton) {
 TEST_F(WindowSystemTest, WithoutAnOwnerDialogsStandInTheMiddle) {
     constexpr std::int32_t tolerance = 40; // of window managers, and of frames
     const auto isInTheMiddle = [](WindowHandle dialog) {
-        const Rectangle place = windows().getWindowRectangle(dialog);
-        const Rectangle area = windows().getWorkArea(dialog);
+        const Rectangle place = dialogOf(dialog).getWindowRectangle();
+        const Rectangle area = dialogOf(dialog).getWorkArea();
         return std::abs(place.left + place.right - area.left - area.right) < 2 * tolerance &&
                std::abs(place.top + place.bottom - area.top - area.bottom) < 2 * tolerance;
     };
     m_recorder.onInit = [](WindowHandle dialog) { // by its size alone, as fitting does
-        Rectangle place = windows().getWindowRectangle(dialog);
+        Rectangle place = dialogOf(dialog).getWindowRectangle();
         place.right -= 200;
-        windows().moveWindow(dialog, place);
+        dialogOf(dialog).moveTo(place);
     };
     run([&](WindowHandle dialog) { EXPECT_TRUE(isInTheMiddle(dialog)); });
     m_recorder.onInit = [](WindowHandle dialog) {
-        Rectangle place = windows().getWindowRectangle(dialog);
-        windows().moveWindow(dialog, {3, 4, 3 + place.width(), 4 + place.height()});
+        Rectangle place = dialogOf(dialog).getWindowRectangle();
+        dialogOf(dialog).moveTo({3, 4, 3 + place.width(), 4 + place.height()});
     };
     run([&](WindowHandle dialog) {
-        EXPECT_EQ(windows().getWindowRectangle(dialog).left, 3);
-        EXPECT_EQ(windows().getWindowRectangle(dialog).top, 4);
+        EXPECT_EQ(dialogOf(dialog).getWindowRectangle().left, 3);
+        EXPECT_EQ(dialogOf(dialog).getWindowRectangle().top, 4);
     });
 }
 
@@ -406,7 +406,7 @@ TEST_F(WindowSystemTest, ClosesByCommand) {
         m_recorder.onCommand.clear();
         user::onceOpen(act);
         EXPECT_EQ(told([&] { EXPECT_EQ(runSample(), 0); }), "init; command 2 0; destroy");
-        m_recorder.onCommand[cancel] = [&](WindowHandle dialog) { windows().endDialog(dialog, 2); };
+        m_recorder.onCommand[cancel] = [&](WindowHandle dialog) { dialogOf(dialog).end(2); };
         user::onceOpen(act);
         EXPECT_EQ(runSample(), 2);
     }
@@ -420,59 +420,59 @@ TEST_F(WindowSystemTest, ModelessDialogsGoWithTheirOwners) {
     };
     const WindowHandle owner = open(nullptr);
     ASSERT_NE(owner, nullptr);
-    EXPECT_TRUE(windows().isVisible(owner));
+    EXPECT_TRUE(dialogOf(owner).isVisible());
     m_recorder.onCommand[ok] = [&](WindowHandle dialog) {
-        windows().destroyDialog(dialog);
-        EXPECT_FALSE(windows().hasItem(dialog, ok));
+        dialogOf(dialog).destroy();
+        EXPECT_FALSE(at(dialog, ok).isThere());
     };
     const WindowHandle first = open(owner);
     EXPECT_EQ(told([&] { user::click(first, ok); }), "command 1 0; destroy");
-    EXPECT_TRUE(windows().isVisible(owner));
+    EXPECT_TRUE(dialogOf(owner).isVisible());
     const WindowHandle second = open(owner);
-    EXPECT_EQ(told([&] { windows().destroyDialog(owner); }), "destroy; destroy");
-    EXPECT_FALSE(windows().isVisible(second));
-    EXPECT_FALSE(windows().isVisible(owner));
+    EXPECT_EQ(told([&] { dialogOf(owner).destroy(); }), "destroy; destroy");
+    EXPECT_FALSE(dialogOf(second).isVisible());
+    EXPECT_FALSE(dialogOf(owner).isVisible());
 }
 
 TEST_F(WindowSystemTest, DialogsOpenDialogs) {
     Recorder inner;
-    inner.onCommand[ok] = [&](WindowHandle dialog) { windows().endDialog(dialog, 1); };
+    inner.onCommand[ok] = [&](WindowHandle dialog) { dialogOf(dialog).end(1); };
     m_recorder.onCommand[duplex] = [&](WindowHandle dialog) {
         EXPECT_EQ(windows().runModal(sampleTemplate(), m_resources, dialog, inner), 1);
     };
     run([&](WindowHandle dialog) {
         user::onceOpen([](WindowHandle opened) { user::click(opened, ok); });
         EXPECT_EQ(told([&] { user::click(dialog, duplex); }), "command 12 0");
-        EXPECT_TRUE(windows().isVisible(dialog));
+        EXPECT_TRUE(dialogOf(dialog).isVisible());
     });
     EXPECT_EQ(inner.log, "init; command 1 0; destroy");
 }
 
 TEST_F(WindowSystemTest, MeasuresAndMoves) {
     run([&](WindowHandle dialog) {
-        const Rectangle inside = windows().mapDialogUnits(dialog, {0, 0, 300, 200});
+        const Rectangle inside = dialogOf(dialog).mapDialogUnits({0, 0, 300, 200});
         EXPECT_GT(inside.right, 300);
-        EXPECT_EQ(windows().getClientRectangle(dialog), inside);
-        const auto items = windows().getItems(dialog);
+        EXPECT_EQ(dialogOf(dialog).getClientRectangle(), inside);
+        const auto items = dialogOf(dialog).getItems();
         ASSERT_EQ(items.size(), 20U);
         std::vector<std::uint16_t> marked;
-        for (const auto& item : items) {
-            marked.insert(marked.end(), item.isMarkedButton ? 1 : 0, item.id);
+        for (const DialogItem* const item : items) {
+            marked.insert(marked.end(), item->isMarkedButton() ? 1 : 0, item->getId());
         }
         EXPECT_THAT(marked, testing::ElementsAre(frame, duplex, firstRadio, secondRadio, otherRadio,
                                                  drawn, ok));
-        EXPECT_EQ(items[1].id, label);
-        EXPECT_EQ(items[1].place, windows().mapDialogUnits(dialog, {5, 12, 45, 20}));
-        windows().moveItem(dialog, 1, {30, 40, 90, 55});
-        EXPECT_EQ(windows().getItems(dialog)[1].place, (Rectangle{30, 40, 90, 55}));
+        EXPECT_EQ(items[1]->getId(), label);
+        EXPECT_EQ(items[1]->getPlace(), dialogOf(dialog).mapDialogUnits({5, 12, 45, 20}));
+        items[1]->moveTo({30, 40, 90, 55});
+        EXPECT_EQ(items[1]->getPlace(), (Rectangle{30, 40, 90, 55}));
 
-        Rectangle place = windows().getWindowRectangle(dialog);
+        Rectangle place = dialogOf(dialog).getWindowRectangle();
         place = {place.left + 7, place.top + 5, place.right - 13, place.bottom + 12};
-        windows().moveWindow(dialog, place);
-        EXPECT_EQ(windows().getWindowRectangle(dialog), place);
-        EXPECT_EQ(windows().getClientRectangle(dialog),
+        dialogOf(dialog).moveTo(place);
+        EXPECT_EQ(dialogOf(dialog).getWindowRectangle(), place);
+        EXPECT_EQ(dialogOf(dialog).getClientRectangle(),
                   (Rectangle{0, 0, inside.right - 20, inside.bottom + 7}));
-        EXPECT_GT(windows().getWorkArea(dialog).width(), 100);
+        EXPECT_GT(dialogOf(dialog).getWorkArea().width(), 100);
     });
 }
 
@@ -518,25 +518,25 @@ std::size_t countPixels(const std::string& file, std::uint32_t colour) {
 TEST_F(WindowSystemTest, ShowsPicturesWithoutTheirGround) {
     const ScratchFolder folder;
     m_recorder.onInit = [&](WindowHandle dialog) {
-        windows().setBitmap(dialog, picture, redPicture, true);
-        windows().enableItem(dialog, drawn, false);
+        at<PictureItem>(dialog, picture).setBitmap(redPicture, true);
+        at(dialog, drawn).enable(false);
     };
-    m_recorder.onDraw = [&](WindowHandle dialog, const DrawRequest& request) {
+    m_recorder.onDraw = [](WindowHandle, const DrawRequest& request) {
         EXPECT_EQ(request.item, drawn);
         EXPECT_EQ(request.state & 5, 4U);
-        windows().drawBitmap(dialog, request, redPicture);
+        request.drawBitmap(redPicture);
     };
     run([&](WindowHandle dialog) {
         const auto count = [&](std::uint32_t colour) {
-            EXPECT_TRUE(windows().saveScreenshot(dialog, folder.file("dialog.bmp")));
+            EXPECT_TRUE(user::saveScreenshot(dialog, folder.path() / "dialog.bmp"));
             return countPixels(folder.read("dialog.bmp"), colour);
         };
         EXPECT_EQ(count(0xFF0000), 32U); // in both items
         EXPECT_EQ(count(0x0000FF), 0U);
-        windows().setBitmap(dialog, picture, 0, true);
+        at<PictureItem>(dialog, picture).setBitmap(0, true);
         EXPECT_EQ(count(0xFF0000), 16U);
-        windows().setListViewStyle(dialog, table, WindowSystem::ListViewStyle::icons);
-        windows().addRow(dialog, table, u"row", redPicture, 0);
+        at<RowsItem>(dialog, table).setStyle(RowsItem::Style::icons);
+        at<RowsItem>(dialog, table).addRow(u"row", redPicture, 0);
         EXPECT_GE(count(0xFF0000), 32U); // icons may be drawn larger
     });
 }

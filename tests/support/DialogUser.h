@@ -1,10 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <string_view>
 
-#include "platform/System.h"
+#include "platform/WindowHandle.h"
 
 /// Acts on dialogs as a person does, through the toolkit's own input: each adapter of the window
 /// system has its own. What is done to an item that is hidden or disabled is done in vain.
@@ -33,5 +34,8 @@ void moveSlider(platform::WindowHandle dialog, std::uint16_t item, std::int32_t 
 void spin(platform::WindowHandle dialog, std::uint16_t item, bool up);
 /// By the window system's own means, such as the cross in the frame.
 void close(platform::WindowHandle dialog);
+
+/// Writes what the user sees of a dialog to a PNG or BMP file; false on failure.
+bool saveScreenshot(platform::WindowHandle dialog, const std::filesystem::path& file);
 
 } // namespace zent::test::user

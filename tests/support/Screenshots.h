@@ -5,8 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "ocore/Text/CXString.h"
-#include "platform/WindowSystem.h"
+#include "support/DialogUser.h"
 
 namespace zent::test {
 
@@ -14,8 +13,7 @@ namespace zent::test {
 inline void keepScreenshot(platform::WindowHandle dialog, const std::string& name) {
     const char* const folder = std::getenv("ZENT_SCREENSHOTS");
     if (folder != nullptr) {
-        const CXString file((folder + name + ZENT_SCREENSHOT_SUFFIX).c_str());
-        EXPECT_TRUE(platform::WindowSystem::find()->saveScreenshot(dialog, file)) << name;
+        EXPECT_TRUE(user::saveScreenshot(dialog, folder + name + ZENT_SCREENSHOT_SUFFIX)) << name;
     }
 }
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include <QApplication>
-#include <QPixmap>
 
 #include "platform/qt/Caption.h"
 #include "platform/qt/Dialog.h"
@@ -73,13 +72,6 @@ std::optional<std::u16string> QtWindowSystem::askForSaveFile(WindowHandle owner,
 bool QtWindowSystem::showHelp(WindowHandle /*owner*/, std::u16string_view /*helpFile*/,
                               std::uint32_t /*context*/) {
     return false;
-}
-
-bool QtWindowSystem::saveScreenshot(WindowHandle dialog, std::u16string_view fileName) {
-    const QString path = toQt(fileName);
-    const bool isBitmap = path.endsWith(QLatin1String(".bmp"), Qt::CaseInsensitive);
-    Dialog* const found = Dialog::find(dialog);
-    return found != nullptr && found->grab().save(path, isBitmap ? "BMP" : "PNG");
 }
 
 } // namespace zent::platform::qt

@@ -22,7 +22,6 @@ public:
     std::optional<std::u16string> askForSaveFile(WindowHandle owner,
                                                  const FileQuestion& question) override;
     bool showHelp(WindowHandle owner, std::u16string_view helpFile, std::uint32_t context) override;
-    bool saveScreenshot(WindowHandle dialog, std::u16string_view fileName) override;
 };
 
 } // namespace zent::platform::qt

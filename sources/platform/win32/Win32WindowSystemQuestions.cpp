@@ -1,10 +1,9 @@
-// What stands beside dialogs: message boxes, file questions, help, and pictures of dialogs.
+// What stands beside dialogs: message boxes, file questions and help.
 
 #include <array>
 
 #include "platform/System.h"
 #include "platform/win32/Dialog.h"
-#include "platform/win32/Screenshot.h"
 #include "platform/win32/WideText.h"
 #include "platform/win32/Win32WindowSystem.h"
 
@@ -84,10 +83,6 @@ bool Win32WindowSystem::showHelp(WindowHandle owner, std::u16string_view helpFil
     return dialog != nullptr ? dialog->showHelp(path, context)
                              : WinHelpW(static_cast<HWND>(owner), wide(path.c_str()), HELP_CONTEXT,
                                         context) != FALSE;
-}
-
-bool Win32WindowSystem::saveScreenshot(WindowHandle dialog, std::u16string_view fileName) {
-    return saveAsBitmap(static_cast<HWND>(dialog), CXString(fileName));
 }
 
 } // namespace zent::platform::win32

@@ -235,4 +235,8 @@ void spin(WindowHandle dialog, std::uint16_t item, bool up) {
 
 void close(WindowHandle dialog) { widgetOf(dialog)->close(); }
 
+bool saveScreenshot(WindowHandle dialog, const std::filesystem::path& file) {
+    return widgetOf(dialog)->grab().save(QString::fromStdU16String(file.u16string()));
+}
+
 } // namespace zent::test::user

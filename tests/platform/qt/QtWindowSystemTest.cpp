@@ -16,6 +16,7 @@
 #include "platform/SampleDialog.h"
 #include "platform/WindowSystem.h"
 #include "support/DialogUser.h"
+#include "support/OpenDialog.h"
 #include "support/ScratchFolder.h"
 #include "support/TemplateBuilder.h"
 
@@ -40,7 +41,7 @@ protected:
              WindowHandle owner = nullptr) {
         user::onceOpen([acts](WindowHandle dialog) {
             acts(dialog);
-            windows().endDialog(dialog, 1);
+            dialogOf(dialog).end(1);
         });
         windows().runModal(builder.build(), m_resources, owner, m_recorder);
     }
@@ -66,7 +67,7 @@ TEST_F(QtWindowSystemTest, MnemonicsOfLabelsAndGroupsLeadToTheItemBehind) {
         EXPECT_EQ(user::focused(dialog), 4);
         pressWithAlt(dialog, Qt::Key_S);
         EXPECT_EQ(user::focused(dialog), 6);
-        EXPECT_FALSE(windows().isChecked(dialog, 6));
+        EXPECT_FALSE(at<ButtonItem>(dialog, 6).isChecked());
     });
 }
 
@@ -106,15 +107,15 @@ TEST_F(QtWindowSystemTest, AllWaysIntoABoxAreFiltered) {
     builder.add(3, TemplateBuilder::edit, stop, {5, 5, 60, 12});
     for (const Way way : ways) {
         run(builder, [&](WindowHandle dialog) {
-            windows().setTextLimit(dialog, 3, 3);
-            windows().setCharacterFilter(dialog, 3, [](auto, auto, auto, char16_t character) {
+            at<TextItem>(dialog, 3).setLimit(3);
+            at<TextItem>(dialog, 3).setFilter([](auto, auto, auto, char16_t character) {
                 return character >= u'0' && character <= u'9';
             });
             auto& edit = *static_cast<QWidget*>(dialog)->findChild<QLineEdit*>(QStringLiteral("3"));
             way(edit);
-            EXPECT_EQ(windows().getText(dialog, 3), u"12");
+            EXPECT_EQ(at(dialog, 3).getText(), u"12");
             edit.undo();
-            EXPECT_EQ(windows().getText(dialog, 3), u"");
+            EXPECT_EQ(at(dialog, 3).getText(), u"");
         });
     }
 }
@@ -125,17 +126,17 @@ TEST_F(QtWindowSystemTest, SpinsServeTheirBuddies) {
     builder.add(3, TemplateBuilder::edit, stop, {5, 5, 60, 12})
         .add(4, u"msctls_updown32", shown | allForBuddy, {100, 50, 10, 10});
     run(builder, [](WindowHandle dialog) {
-        const auto items = windows().getItems(dialog);
-        EXPECT_EQ(items[0].place.right, items[1].place.left);
-        EXPECT_EQ(items[1].place.right, windows().mapDialogUnits(dialog, {0, 0, 65, 0}).right);
-        windows().setRange(dialog, 4, 1, 3);
-        windows().setPosition(dialog, 4, 2);
-        EXPECT_EQ(windows().getText(dialog, 3), u"2");
+        const auto items = dialogOf(dialog).getItems();
+        EXPECT_EQ(items[0]->getPlace().right, items[1]->getPlace().left);
+        EXPECT_EQ(items[1]->getPlace().right, dialogOf(dialog).mapDialogUnits({0, 0, 65, 0}).right);
+        at<RangeItem>(dialog, 4).setRange(1, 3);
+        at<RangeItem>(dialog, 4).setPosition(2);
+        EXPECT_EQ(at(dialog, 3).getText(), u"2");
         user::press(dialog, Key::up);
         user::press(dialog, Key::up);
-        EXPECT_EQ(windows().getText(dialog, 3), u"3");
+        EXPECT_EQ(at(dialog, 3).getText(), u"3");
         user::press(dialog, Key::down);
-        EXPECT_EQ(windows().getText(dialog, 3), u"2");
+        EXPECT_EQ(at(dialog, 3).getText(), u"2");
     });
 }
 
@@ -144,12 +145,12 @@ TEST_F(QtWindowSystemTest, OpenCombosAreUsedByKeyboard) {
     builder.add(3, TemplateBuilder::comboBox, stop | 1, {5, 5, 60, 60});
     run(builder, [](WindowHandle dialog) {
         for (const auto* const text : {u"A4", u"A3"}) {
-            windows().addToList(dialog, 3, text, 0, -1);
+            at<ChoiceItem>(dialog, 3).add(text, 0, -1);
         }
-        windows().select(dialog, 3, 0);
+        at<ChoiceItem>(dialog, 3).select(0);
         user::press(dialog, Key::down);
-        EXPECT_EQ(windows().getText(dialog, 3), u"A3");
-        EXPECT_EQ(windows().getSelected(dialog, 3), 1);
+        EXPECT_EQ(at(dialog, 3).getText(), u"A3");
+        EXPECT_EQ(at<ChoiceItem>(dialog, 3).getSelected(), 1);
     });
 }
 
@@ -169,7 +170,7 @@ TEST_F(QtWindowSystemTest, EndsWithAWindowOfTheHost) {
         [&](WindowHandle dialog) {
             EXPECT_EQ(static_cast<QWidget*>(dialog)->parentWidget(), host.get());
             host.reset();
-            EXPECT_FALSE(windows().hasItem(dialog, 3));
+            EXPECT_FALSE(at(dialog, 3).isThere());
         },
         host.get());
     EXPECT_EQ(m_recorder.log, "init; destroy");

@@ -10,6 +10,7 @@
 #include "platform/win32/EditFilter.h"
 #include "platform/win32/ResourceImages.h"
 #include "support/DialogUser.h"
+#include "support/OpenDialog.h"
 #include "support/Rows.h"
 #include "support/ScratchFolder.h"
 #include "support/TemplateBuilder.h"
@@ -19,6 +20,8 @@
 namespace zent::platform {
 namespace {
 
+using test::at;
+using test::dialogOf;
 using test::Rows;
 using test::TemplateBuilder;
 namespace user = test::user;
@@ -126,11 +129,10 @@ TEST_F(Win32WindowSystemTest, WindowsKeepWhatStandsBehindThem) {
     m_procedure.onInit = [&](WindowHandle dialog) {
         EXPECT_NE(GetWindowLongPtrW(static_cast<HWND>(dialog), GWLP_USERDATA), 0);
         own = GetWindowLongPtrW(itemOf(dialog, number), GWLP_WNDPROC);
-        windows().setCharacterFilter(dialog, number,
-                                     [filtered](auto, auto, auto, auto) { return true; });
-        windows().setBitmap(dialog, drawing, bitmap, true);
-        windows().setProperty(dialog, number, u"SC_TYPE", 2);
-        windows().setTextLimit(dialog, number, 7);
+        at<TextItem>(dialog, number).setFilter([filtered](auto, auto, auto, auto) { return true; });
+        at<PictureItem>(dialog, drawing).setBitmap(bitmap, true);
+        at(dialog, number).setProperty(u"SC_TYPE", 2);
+        at<TextItem>(dialog, number).setLimit(7);
     };
     m_procedure.onDestroy = [&](WindowHandle dialog) {
         const HWND edit = itemOf(dialog, number);
@@ -143,9 +145,9 @@ TEST_F(Win32WindowSystemTest, WindowsKeepWhatStandsBehindThem) {
                   bitmap);
     };
     user::onceOpen([&](WindowHandle dialog) {
-        EXPECT_EQ(windows().send(dialog, 32774, 0, 0), 5);
+        EXPECT_EQ(dialogOf(dialog).send(32774, 0, 0), 5);
         EXPECT_EQ(GetWindowLongPtrW(static_cast<HWND>(dialog), DWLP_MSGRESULT), 5);
-        windows().endDialog(dialog, 1);
+        dialogOf(dialog).end(1);
     });
     EXPECT_EQ(windows().runModal(sample(), m_resources, nullptr, m_procedure), 1);
     EXPECT_EQ(filtered.use_count(), 1);
@@ -172,14 +174,14 @@ TEST_F(Win32WindowSystemTest, ModelessDialogsHaveTheirKeysInAnyLoop) {
         DispatchMessageW(&message);
     }
     EXPECT_EQ(user::focused(dialog), duplex);
-    windows().destroyDialog(dialog);
+    dialogOf(dialog).destroy();
 }
 
 TEST_F(Win32WindowSystemTest, PicturesOfTheTemplateAreOfItsResources) {
     m_procedure.onInit = [&](WindowHandle dialog) {
         EXPECT_NE(SendMessageW(itemOf(dialog, photo), STM_GETIMAGE, IMAGE_BITMAP, 0), 0);
         EXPECT_NE(SendMessageW(itemOf(dialog, mark), STM_GETIMAGE, IMAGE_ICON, 0), 0);
-        windows().endDialog(dialog, 1);
+        dialogOf(dialog).end(1);
     };
     EXPECT_EQ(windows().runModal(sample(), m_resources, nullptr, m_procedure), 1);
 }

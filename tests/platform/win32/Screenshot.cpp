@@ -1,13 +1,15 @@
-#include "platform/win32/Screenshot.h"
-
+#include <fstream>
 #include <vector>
 
-#include "platform/Files.h"
 #include "platform/win32/GdiHandles.h"
+#include "support/DialogUser.h"
 
-namespace zent::platform::win32 {
+namespace zent::test::user {
 
 namespace {
+
+using platform::win32::MemorySurface;
+using platform::win32::OwnBitmap;
 
 /// The surface of a window with its frame, while the object lives.
 class FrameSurface {
@@ -52,14 +54,15 @@ BITMAPFILEHEADER fileHeaderOf(const BITMAPINFOHEADER& header) {
     return file;
 }
 
-bool write(OpenFile& file, const void* data, std::size_t length) {
-    std::size_t done = 0;
-    return file.write(data, length, done) && done == length;
+template <typename Part>
+void write(std::ofstream& file, const Part& part) {
+    file.write(reinterpret_cast<const char*>(&part), sizeof(part));
 }
 
 } // namespace
 
-bool saveAsBitmap(HWND window, const CXString& fileName) {
+bool saveScreenshot(platform::WindowHandle dialog, const std::filesystem::path& file) {
+    const HWND window = static_cast<HWND>(dialog);
     RECT place = {};
     if (GetWindowRect(window, &place) == FALSE) {
         return false;
@@ -76,10 +79,12 @@ bool saveAsBitmap(HWND window, const CXString& fileName) {
                   DIB_RGB_COLORS) == 0) {
         return false;
     }
-    const auto file = OpenFile::createForWriting(fileName);
-    return file != nullptr && write(*file, &fileHeader, sizeof(fileHeader)) &&
-           write(*file, &info.bmiHeader, sizeof(info.bmiHeader)) &&
-           write(*file, pixels.data(), pixels.size());
+    std::ofstream output(file, std::ios::binary);
+    write(output, fileHeader);
+    write(output, info.bmiHeader);
+    output.write(reinterpret_cast<const char*>(pixels.data()),
+                 static_cast<std::streamsize>(pixels.size()));
+    return output.good();
 }
 
-} // namespace zent::platform::win32
+} // namespace zent::test::user
