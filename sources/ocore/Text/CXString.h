@@ -9,9 +9,12 @@
 
 #include "ocore/Text/FormatArgument.h"
 #include "ocore/Text/StringBlock.h"
-#include "platform/ResourceModule.h"
 
 namespace zent {
+
+namespace platform {
+class ResourceModule;
+}
 
 /// The one text class of the library: 16-bit units, reference-counted, copy-on-write.
 ///

@@ -5,6 +5,7 @@
 #include "ocore/Text/PositionalFormat.h"
 #include "ocore/Text/PrintfFormat.h"
 #include "platform/CodePage.h"
+#include "platform/ResourceModule.h"
 
 namespace zent {
 
