@@ -18,7 +18,9 @@ function(zent_install_link target folder name)
         file(CREATE_LINK \"${target}\" \"\${folder}/${name}\" SYMBOLIC)
         message(STATUS \"Installing: \${folder}/${name} -> ${target}\")")
 endfunction()
-zent_install_link(zent27/libzent27.so ${CMAKE_INSTALL_LIBDIR} libzent27.so)
+foreach(name libzent27.so libzent27.so.${PROJECT_VERSION_MAJOR})
+    zent_install_link(zent27/${name} ${CMAKE_INSTALL_LIBDIR} ${name})
+endforeach()
 zent_install_link(../${home}/jobticket ${CMAKE_INSTALL_BINDIR} jobticket)
 
 configure_file(cmake/zent27.pc.in ${CMAKE_BINARY_DIR}/zent27.pc @ONLY)
@@ -29,7 +31,7 @@ install(FILES apps/jobticket/jobticket.bash
     DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME jobticket)
 
 # The pages lead to each other and to what they speak of, so they stand as they do here.
-install(FILES README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES README.md CHANGES.md CONTRIBUTING.md SECURITY.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY docs examples DESTINATION ${CMAKE_INSTALL_DOCDIR} PATTERN .gitattributes EXCLUDE)
 install(FILES include/zent27.h DESTINATION ${CMAKE_INSTALL_DOCDIR}/include)
 install(FILES resources/ordo-v02025.dtd DESTINATION ${CMAKE_INSTALL_DOCDIR}/resources)

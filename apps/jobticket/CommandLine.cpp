@@ -12,6 +12,7 @@
 #include "Spelling.h"
 #include "Text.h"
 #include "TicketFile.h"
+#include "zent_version.h"
 
 namespace jobticket {
 

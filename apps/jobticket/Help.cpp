@@ -6,6 +6,7 @@
 #include "Command.h"
 #include "Text.h"
 #include "TicketFile.h"
+#include "zent_version.h"
 
 namespace jobticket {
 
@@ -251,10 +252,14 @@ std::string writeOptions(const Command& command) {
     return text.empty() ? "" : ".RS\n" + text + ".RE\n";
 }
 
-/// What stands in place of a line of the page: ".\" @synopsis", ".\" @options COMMAND".
+/// What stands in place of a line of the page: ".\" @title", ".\" @synopsis",
+/// ".\" @options COMMAND".
 std::string replaceLine(const std::string& line) {
     const std::string synopsis = ".\\\" @synopsis\n";
     const std::string optionsOf = ".\\\" @options ";
+    if (line == ".\\\" @title\n") {
+        return ".TH JOBTICKET 1 \"\" \"jobticket " ZENT_VERSION "\" \"Job tickets\"\n";
+    }
     if (line == synopsis) {
         return writeSynopsis();
     }
