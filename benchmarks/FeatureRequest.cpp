@@ -16,9 +16,9 @@ namespace {
 constexpr std::int32_t resolutionPerInch = 600;
 constexpr std::int32_t dotsPerInch = 3;
 constexpr std::int32_t rangeLength = 4;
-constexpr FeatureEnum firstNumber = 1000; // so that numbers have the usual length
-constexpr FeatureEnum firstMemberOnly = 114;
-constexpr FeatureEnum lastMemberOnly = 119;
+constexpr std::int32_t firstNumber = 1000; // so that numbers have the usual length
+constexpr FeatureEnum firstMemberOnly = feature::coverType;
+constexpr FeatureEnum lastMemberOnly = feature::paperSourceNumber;
 
 std::string narrow(const std::u16string& ascii) { return {ascii.begin(), ascii.end()}; }
 
@@ -68,7 +68,7 @@ FeatureRequest::FeatureRequest(FeatureEnum feature, std::u16string name,
       m_memberOnly(feature >= firstMemberOnly && feature <= lastMemberOnly),
       m_text(valueFor(feature, syntax)),
       m_number(syntax == u"enum" ? std::stoi(narrow(m_text))
-                                 : static_cast<std::int32_t>(firstNumber + feature)),
+                                 : firstNumber + static_cast<std::int32_t>(feature)),
       m_narrowValue(m_kind == Kind::text ? narrow(m_text) : std::to_string(m_number)) {}
 
 ZentResult FeatureRequest::set(ZentSessionType session, TarvoJtSettingsType settings,

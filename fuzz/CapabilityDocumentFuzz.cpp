@@ -22,8 +22,6 @@ using zent::fuzz::require;
 
 constexpr std::uint32_t models = 51;
 constexpr std::uint32_t languages = 3;
-constexpr FeatureEnum firstFeature = 2;
-constexpr FeatureEnum lastFeature = 137;
 
 class InputSource final : public CapabilitySource {
 public:
@@ -92,7 +90,7 @@ void askAbout(const Capabilities& capabilities, const _FI& feature) {
 }
 
 void askAll(const Capabilities& capabilities) {
-    for (FeatureEnum feature = firstFeature; feature <= lastFeature; ++feature) {
+    for (FeatureEnum feature = feature::first; feature <= feature::last; ++feature) {
         askAbout(capabilities, _FI(feature));
     }
     ask([&] { capabilities.getResolutionValues(true); });

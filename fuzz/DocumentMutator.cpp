@@ -88,7 +88,7 @@ const std::vector<std::string>& knownValues() {
                                        "99999",      "true",       "x",        "-2147483648",
                                        "4294967296", "&#xD;&#xA;", "a %s b%n", "&#x20AC;"};
         const FeatureValueDataBase table;
-        for (std::int32_t value = 1; value < FeatureValueDataBase::firstRunTimeValue; ++value) {
+        for (std::int32_t value = 1; value < value::firstRunTimeValue; ++value) {
             if (const FeatureValueReference info = table.findFeatureValueInfo(value)) {
                 found.push_back(info->m_text.toNarrow());
             }

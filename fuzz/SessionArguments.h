@@ -25,7 +25,7 @@ inline const std::vector<Text>& getValues(FeatureEnum feature) {
     static const auto values = [] {
         std::array<std::vector<Text>, 256> found;
         const FeatureValueDataBase table;
-        for (std::int32_t value = 0; value < FeatureValueDataBase::firstRunTimeValue; ++value) {
+        for (std::int32_t value = 0; value < value::firstRunTimeValue; ++value) {
             const FeatureValueReference info = table.findFeatureValueInfo(value);
             if (!info) {
                 continue;
@@ -140,8 +140,8 @@ public:
 
     /// A feature's name by its number, any text or null.
     const ZentChar* takeFeature() {
-        m_feature = m_input.takeByte();
-        if (m_feature == 0) {
+        m_feature = static_cast<FeatureEnum>(m_input.takeByte());
+        if (m_feature == feature::none) {
             return nullptr;
         }
         const FeatureDataBase features;
@@ -218,7 +218,7 @@ private:
     FuzzInput m_input;
     std::uint8_t m_nulls = 0; // for which arguments of the call null is given
     std::size_t m_place = 0;  // of the session
-    FeatureEnum m_feature = 0;
+    FeatureEnum m_feature = feature::none;
     Text m_name;
     Text m_value;
     Text m_title;

@@ -1,9 +1,7 @@
 #include "Feature.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdlib>
-#include <limits>
 #include <string_view>
 
 #include "ExitStatus.h"
@@ -16,71 +14,7 @@
 
 namespace jobticket {
 
-namespace {
-
-constexpr const char* hundredthsOfMillimetre = "1/100 mm";
-constexpr std::int32_t any = std::numeric_limits<std::int32_t>::min();
-
-struct Row {
-    zent::FeatureEnum feature;
-    Unit unit;
-};
-
-constexpr Unit noUnit = {"", any};
-constexpr Unit colorComponent = {"", 0};
-constexpr Unit shift = {hundredthsOfMillimetre, any};
-constexpr Unit dimension = {hundredthsOfMillimetre, 1};
-constexpr Unit pageNumber = {"page number", 1};
-
-// In the order of the features' numbers.
-constexpr std::array rows = {
-    Row{2, {"", 1}},                  // copies
-    Row{6, pageNumber},               // page-ranges
-    Row{18, {"form number", 1}},      // form-cycle-start
-    Row{19, shift},                   // forms-x-image-shift
-    Row{20, shift},                   // forms-y-image-shift
-    Row{38, shift},                   // x-side1-image-shift
-    Row{39, shift},                   // y-side1-image-shift
-    Row{40, shift},                   // x-side2-image-shift
-    Row{41, shift},                   // y-side2-image-shift
-    Row{42, shift},                   // x-image-shift
-    Row{43, shift},                   // y-image-shift
-    Row{48, colorComponent},          // color-srgb-red
-    Row{49, colorComponent},          // color-srgb-green
-    Row{50, colorComponent},          // color-srgb-blue
-    Row{51, colorComponent},          // color-hsv-hue
-    Row{52, colorComponent},          // color-hsv-saturation
-    Row{53, colorComponent},          // color-hsv-value
-    Row{54, colorComponent},          // color-device-cmyk-cyan
-    Row{55, colorComponent},          // color-device-cmyk-magenta
-    Row{56, colorComponent},          // color-device-cmyk-yellow
-    Row{57, colorComponent},          // color-device-cmyk-black
-    Row{61, {"", 0}},                 // trap-width-fast
-    Row{62, {"", 0}},                 // trap-width-slow
-    Row{90, {"pages", 1}},            // pages-per-subset
-    Row{91, pageNumber},              // force-front-side
-    Row{99, dimension},               // x-dimension
-    Row{100, dimension},              // y-dimension
-    Row{103, {"sheets", 1}},          // media-order-count
-    Row{105, {"holes", 0}},           // media-hole-count
-    Row{106, {"g/m2", 1}},            // media-weight-metric
-    Row{113, dimension},              // media-size
-    Row{115, {"document number", 1}}, // input-documents
-    Row{116, pageNumber},             // pages
-    Row{117, {"page number", 0}},     // insert-after-page-number
-    Row{118, {"sheets", 1}},          // insert-count
-};
-
-} // namespace
-
-const Unit& getUnit(zent::FeatureEnum feature) {
-    const auto row = std::lower_bound(
-        rows.begin(), rows.end(), feature,
-        [](const Row& candidate, zent::FeatureEnum wanted) { return candidate.feature < wanted; });
-    return row != rows.end() && row->feature == feature ? row->unit : noUnit;
-}
-
-bool isLength(const Unit& unit) { return std::string_view(unit.name) == hundredthsOfMillimetre; }
+bool isLength(const Unit& unit) { return unit.name == std::string_view(Unit::length); }
 
 std::string lengthInMillimetres(std::int32_t hundredths) {
     const std::int64_t size = std::abs(std::int64_t(hundredths));
@@ -240,7 +174,7 @@ std::string Feature::getLocation() const {
 std::vector<zent::FeatureValue> Feature::getValues() const {
     std::vector<zent::FeatureValue> values;
     for (std::int32_t number = zent::FeatureValue::unspecified + 1;
-         number < zent::FeatureValueDataBase::firstRunTimeValue; ++number) {
+         number < zent::value::firstRunTimeValue; ++number) {
         if (zent::FeatureValue::isValidNumber(number) &&
             zent::FeatureValue(number).belongsTo(getNumber())) {
             values.emplace_back(number);

@@ -12,14 +12,7 @@
 
 namespace jobticket {
 
-/// What the numbers of a feature count, and how small they can get. Upper bounds are a matter of
-/// the printer.
-struct Unit {
-    const char* name;    // "" if the number is no quantity
-    std::int32_t lowest; // a smaller number makes no sense on any printer
-};
-
-const Unit& getUnit(zent::FeatureEnum feature);
+using Unit = zent::FeatureUnit;
 
 /// Lengths are held in hundredths of a millimetre.
 bool isLength(const Unit& unit);
@@ -61,7 +54,7 @@ public:
     ValueKind getKind() const;
     /// "keyword", "number", ...: the kind and its unit in words.
     std::string describeKind() const;
-    const Unit& getUnit() const { return jobticket::getUnit(getNumber()); }
+    const Unit& getUnit() const { return m_id.getUnit(); }
     /// Whether the feature holds a set of values.
     bool takesSeveral() const { return m_id.isInSetOf(); }
     /// Whether values are allowed that the value table doesn't hold.

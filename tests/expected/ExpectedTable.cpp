@@ -39,13 +39,6 @@ std::u16string ExpectedRow::wide(const std::string& column) const {
     return {narrow.begin(), narrow.end()};
 }
 
-ExpectedRow::Cell::Cell(const char* name, const std::vector<std::uint32_t>& numbers)
-    : column(name) {
-    for (const std::uint32_t number : numbers) {
-        content += (content.empty() ? "" : " ") + std::to_string(number);
-    }
-}
-
 void ExpectedRow::expect(std::initializer_list<Cell> cells) const {
     for (const Cell& cell : cells) {
         EXPECT_EQ(cell.content, text(cell.column)) << cell.column;

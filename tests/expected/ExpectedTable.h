@@ -1,9 +1,9 @@
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 #include <map>
 #include <string>
-#include <type_traits>
 #include <vector>
 
 #include "ocore/Text/CXString.h"
@@ -29,9 +29,14 @@ public:
         Cell(const char* name, const CXString& text) : column(name), content(text.toNarrow()) {}
         Cell(const char* name, std::string text) : column(name), content(std::move(text)) {}
         template <typename Number>
-        requires std::is_arithmetic_v<Number> Cell(const char* name, Number number)
+        requires std::convertible_to<Number, std::int64_t> Cell(const char* name, Number number)
             : Cell(name, std::to_string(number)) {}
-        Cell(const char* name, const std::vector<std::uint32_t>& numbers);
+        template <typename Number>
+        Cell(const char* name, const std::vector<Number>& numbers) : column(name) {
+            for (const Number number : numbers) {
+                content += (content.empty() ? "" : " ") + std::to_string(number);
+            }
+        }
 
         std::string column;
         std::string content;

@@ -34,8 +34,8 @@ constexpr std::uint32_t autoRadioButton = 9;
 /// One whose names of media take no blanks.
 constexpr std::uint32_t modelWithoutBlanks = 17;
 
-constexpr FeatureEnum antiAliasing = 30;
-constexpr FeatureEnum mediaOrderCount = 103;
+constexpr FeatureEnum antiAliasing = feature::antiAliasing;
+constexpr FeatureEnum mediaOrderCount = feature::mediaOrderCount;
 
 TemplateBuilder items() {
     TemplateBuilder builder(u"Features");

@@ -24,8 +24,8 @@ namespace {
 
 constexpr std::uint32_t firstDocument = 11501;
 constexpr std::uint32_t lastDocument = 11540;
-constexpr FeatureEnum lastFeature = 137;
-constexpr FeatureEnum formCycleType = 17; // its set of values stands where others name members
+constexpr FeatureEnum formCycleType =
+    feature::formCycleType; // its set of values stands where others name members
 
 using Names = std::set<std::string>;
 
@@ -64,7 +64,7 @@ public:
     /// Those of the job and the members of all collections.
     Names features() const {
         Names names = texts("job-creation-attributes-supported");
-        for (FeatureEnum feature = 2; feature <= lastFeature; ++feature) {
+        for (FeatureEnum feature = feature::first; feature <= feature::last; ++feature) {
             if (feature != formCycleType &&
                 _CI::hasCapability(feature, CAPTYPE_SUPPORTED_FEATURES)) {
                 names.merge(texts(_FI(feature).getName().toNarrow() + "-supported"));
@@ -103,7 +103,7 @@ const std::map<std::uint32_t, Document>& documents() {
 /// The rows of the capability table by the outermost name of their place.
 std::multimap<std::string, CapabilityInfo> rowsByTopName() {
     std::multimap<std::string, CapabilityInfo> rows;
-    for (FeatureEnum feature = TJTF_ANY; feature <= lastFeature; ++feature) {
+    for (FeatureEnum feature = TJTF_ANY; feature <= feature::last; ++feature) {
         for (const CapabilityInfo& row : CapabilityDataBase().getRows(feature)) {
             const NestedAttrID& id = row.m_nestedID;
             const CXString& top =
@@ -190,7 +190,7 @@ TEST(CapabilityDocumentsTest, FeaturesAndCapabilitiesGoTogether) {
         EXPECT_TRUE(!features.contains("page-overrides") ||
                     document.texts("page-overrides-supported").contains("pages"))
             << resource;
-        for (FeatureEnum number = 2; number <= lastFeature; ++number) {
+        for (FeatureEnum number = feature::first; number <= feature::last; ++number) {
             const std::string name = _FI(number).getName().toNarrow();
             SCOPED_TRACE(std::to_string(resource) + ' ' + name);
             bool wanted = false;
@@ -266,7 +266,7 @@ TEST(CapabilityDocumentsTest, TextsThatUsersInventHaveALimit) {
     for (std::uint32_t model = 1; model <= 51; ++model) {
         for (const std::uint32_t form : {1U, 2U}) {
             const Capabilities capabilities(PrinterModel(model, postScript), form);
-            for (FeatureEnum number = 2; number <= lastFeature; ++number) {
+            for (FeatureEnum number = feature::first; number <= feature::last; ++number) {
                 const _FI feature(number);
                 if (capabilities.isUserDefinable(feature)) {
                     SCOPED_TRACE(testing::Message() << "model " << model << ", " << number);

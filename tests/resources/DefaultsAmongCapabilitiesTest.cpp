@@ -15,9 +15,8 @@
 namespace zent::test {
 namespace {
 
-constexpr FeatureEnum colorHsvHue = 51;
-constexpr FeatureEnum jobSaveDisposition = 125;
-constexpr FeatureEnum lastFeature = 137;
+constexpr FeatureEnum colorHsvHue = feature::colorHsvHue;
+constexpr FeatureEnum jobSaveDisposition = feature::jobSaveDisposition;
 
 bool isIn(FeatureEnum feature, std::initializer_list<FeatureEnum> features) {
     return std::ranges::find(features, feature) != features.end();
@@ -26,7 +25,7 @@ bool isIn(FeatureEnum feature, std::initializer_list<FeatureEnum> features) {
 /// The features that a ticket has a value of, beside the collections.
 std::vector<FeatureEnum> featuresOf(const FeatureSettings& ticket) {
     std::vector<FeatureEnum> features;
-    for (FeatureEnum number = 2; number <= lastFeature; ++number) {
+    for (FeatureEnum number = feature::first; number <= feature::last; ++number) {
         if (ticket.isSpecified(_FI(number)) &&
             !isIn(number, {feature::mediaCol, feature::mediaSize, jobSaveDisposition})) {
             features.push_back(number);
@@ -75,7 +74,7 @@ std::vector<FeatureEnum> expectedDefaults(std::uint32_t family, std::uint32_t fo
     } else {
         features.push_back(feature::impositionTemplate);
     }
-    if (!isIn(family, {15, 16, 20})) {
+    if (family != 15 && family != 16 && family != 20) {
         features.push_back(feature::mediaColor);
     }
     if (family <= 8 || family >= 15) {

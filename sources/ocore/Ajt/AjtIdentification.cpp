@@ -1,7 +1,7 @@
 // Who a job is from and for, what it is charged to, and the notes that go with it.
 
 #include "ocore/Ajt/AjtGroups.h"
-#include "ocore/Ajt/AjtValues.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/Resources/ResourceLibrary.h"
 
 namespace zent::ajt {

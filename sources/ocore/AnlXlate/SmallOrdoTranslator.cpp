@@ -12,7 +12,6 @@ namespace zent {
 
 namespace {
 
-constexpr FeatureEnum noFeature = 0;
 constexpr char16_t mark = u'*';
 
 using MemberCode = std::pair<CXString, CXString>;
@@ -57,14 +56,14 @@ public:
                 return;
             }
         }
-        current = noFeature;
+        current = feature::none;
     }
 
     void changeValue(AttrValue& value, FeatureEnum current) const {
         const CXString text = value.getIppValue();
         if (text.view().starts_with(mark) || m_values.hasAbbreviation(text)) {
             value.setIppValue(mark + text);
-        } else if (current != noFeature) {
+        } else if (current != feature::none) {
             const FeatureValueReference known = m_values.findFeatureValueInfo(current, text);
             if (known && !known->m_abbreviation.isEmpty()) {
                 value.setIppValue(known->m_abbreviation);
@@ -92,7 +91,7 @@ public:
                 return;
             }
         }
-        current = noFeature;
+        current = feature::none;
     }
 
     void changeValue(AttrValue& value, FeatureEnum current) const {
@@ -108,7 +107,7 @@ public:
                 return;
             }
         }
-        if (current == noFeature) {
+        if (current == feature::none) {
             return;
         }
         if (const FeatureValueInfo* const known =
@@ -126,13 +125,13 @@ private:
 
 bool SmallOrdoTranslator::prepareForOutput(const AttrNodeList& source, AttrNodeList* target) {
     *target = source;
-    FeatureEnum current = noFeature;
+    FeatureEnum current = feature::none;
     walk(*target, current, Encoder());
     return true;
 }
 
 void SmallOrdoTranslator::finishAfterInput(AttrNodeList* list) {
-    FeatureEnum current = noFeature;
+    FeatureEnum current = feature::none;
     walk(*list, current, Decoder());
 }
 

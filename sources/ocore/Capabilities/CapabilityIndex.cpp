@@ -25,7 +25,7 @@ CapabilityIndex::CapabilityIndex(const AttrNodeList& capabilities) {
 
 void CapabilityIndex::addFeatures() {
     const CapabilityDataBase table;
-    for (FeatureEnum number = TJTF_ANY + 1; _FI::isFeature(number); ++number) {
+    for (FeatureEnum number = feature::first; number <= feature::last; ++number) {
         AttributeCapabilities& attribute = m_attributes[_FI(number).getName().view()];
         attribute.feature = number;
         for (const CapabilityInfo& row : table.getRows(number)) {

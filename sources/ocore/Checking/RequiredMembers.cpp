@@ -4,13 +4,6 @@ namespace zent {
 
 namespace {
 
-constexpr FeatureEnum formSaveDisposition = 11;
-constexpr FeatureEnum separatorSheetsType = 87;
-constexpr FeatureEnum jobSaveDisposition = 125;
-constexpr FeatureEnum formSave = 127;
-constexpr FeatureEnum formsCol = 129;
-constexpr FeatureEnum finishingsCol = 132;
-
 struct RequiredMember {
     FeatureEnum collection;
     FeatureEnum member;
@@ -19,11 +12,11 @@ struct RequiredMember {
 // Each of these collections is about one choice, and whatever else it holds only adds to that
 // choice: how a job is saved, for instance, says nothing unless it is said that the job is saved.
 constexpr RequiredMember requiredMembers[] = {
-    {jobSaveDisposition, feature::saveDisposition},
-    {formSave, formSaveDisposition},
-    {formsCol, feature::formName}, // each member of the set
-    {feature::separatorSheets, separatorSheetsType},
-    {finishingsCol, feature::finishingTemplate},
+    {feature::jobSaveDisposition, feature::saveDisposition},
+    {feature::formSave, feature::formSaveDisposition},
+    {feature::formsCol, feature::formName}, // each member of the set
+    {feature::separatorSheets, feature::separatorSheetsType},
+    {feature::finishingsCol, feature::finishingTemplate},
 };
 
 } // namespace

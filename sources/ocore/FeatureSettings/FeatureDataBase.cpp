@@ -13,8 +13,6 @@ namespace zent {
 
 namespace {
 
-constexpr FeatureEnum firstFeature = 2;
-
 /// The rows by number, and the two ways to a number by text.
 struct FeatureStore {
     std::vector<FeatureInfo> byNumber; // the first is number 2, and there is no gap
@@ -29,9 +27,10 @@ FeatureInfo makeInfo(const FeatureRow& row) {
                      {},
                      row.displayStringID,
                      row.supportClass,
-                     SyntaxList(row.syntaxes)};
+                     SyntaxList(row.syntaxes),
+                     row.unit};
     for (const FeatureEnum related : row.related) {
-        if (related != 0) {
+        if (related != feature::none) {
             info.m_related.push_back(related);
         }
     }
@@ -58,7 +57,7 @@ using NumberByText = std::map<std::u16string_view, FeatureEnum>;
 
 const FeatureInfo* findByText(const NumberByText& map, const CXString& text) {
     const auto found = map.find(text.view());
-    return found == map.end() ? nullptr : &store().byNumber[found->second - firstFeature];
+    return found == map.end() ? nullptr : &store().byNumber[found->second - feature::first];
 }
 
 } // namespace
@@ -66,7 +65,7 @@ const FeatureInfo* findByText(const NumberByText& map, const CXString& text) {
 FeatureDataBase::FeatureDataBase() { sharedStore.get(buildStore); }
 
 bool FeatureDataBase::hasFeature(FeatureEnum feature) const {
-    return feature >= firstFeature && feature - firstFeature < store().byNumber.size();
+    return feature >= feature::first && feature <= feature::last;
 }
 
 const FeatureInfo* FeatureDataBase::findFeatureInfo(const CXString& uniqueID) const {
@@ -92,7 +91,7 @@ const FeatureInfo& FeatureDataBase::getFeatureInfo(FeatureEnum feature) const {
                                                 "could not find requested FeatureEnum %ld\r\n",
                                                 feature);
     }
-    return store().byNumber[feature - firstFeature];
+    return store().byNumber[feature - feature::first];
 }
 
 const FeatureInfo& FeatureDataBase::getFeatureInfo(const CXString& uniqueID) const {

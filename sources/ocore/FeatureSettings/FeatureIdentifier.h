@@ -27,6 +27,7 @@ public:
     /// The feature's name for users, from the resource library.
     CXString getDisplayString() const;
     std::uint32_t getSupportClass() const { return getInfo().m_supportClass; }
+    const FeatureUnit& getUnit() const { return getInfo().m_unit; }
 
     std::uint32_t getRelatedCount() const;
     FeatureEnum getRelated(std::uint32_t index) const { return getInfo().m_related[index]; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <vector>
 
 #include "ocore/Attributes/NestedAttrID.h"
@@ -16,6 +17,16 @@ constexpr std::uint32_t never = 2;
 constexpr std::uint32_t byModel = 3;
 } // namespace supportClass
 
+/// What the numbers of a feature count, and how small they can get. Upper bounds are a matter of
+/// the printer.
+struct FeatureUnit {
+    static constexpr const char* length = "1/100 mm";
+    static constexpr std::int32_t anyNumber = std::numeric_limits<std::int32_t>::min();
+
+    const char* name = "";           // "" if the number is no quantity
+    std::int32_t lowest = anyNumber; // a smaller number makes no sense on any printer
+};
+
 /// One row of the feature table.
 struct FeatureInfo {
     FeatureEnum m_feature;
@@ -27,6 +38,7 @@ struct FeatureInfo {
     std::uint32_t m_displayStringID;
     std::uint32_t m_supportClass;
     SyntaxList m_syntaxes;
+    FeatureUnit m_unit;
 };
 
 } // namespace zent

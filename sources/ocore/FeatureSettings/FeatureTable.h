@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <span>
 
-#include "ocore/FeatureSettings/FeatureEnum.h"
+#include "ocore/FeatureSettings/FeatureInfo.h"
 
 namespace zent {
 
@@ -17,7 +17,8 @@ struct FeatureRow {
     std::array<const char16_t*, 3> syntaxes; // null where there is none
     std::uint32_t supportClass;
     std::uint32_t displayStringID;
-    std::array<FeatureEnum, 2> related; // 0 where there is none
+    std::array<FeatureEnum, 2> related; // none fills up
+    FeatureUnit unit;
 };
 
 /// All features, in the order of their numbers, without a gap.

@@ -12,7 +12,7 @@ namespace zent {
 
 namespace {
 
-std::atomic<std::int32_t> nextRunTimeValue{FeatureValueDataBase::firstRunTimeValue};
+std::atomic<std::int32_t> nextRunTimeValue{value::firstRunTimeValue};
 
 std::vector<FeatureEnum> withRelated(FeatureEnum feature) {
     const _FI id(feature);
@@ -77,9 +77,7 @@ bool FeatureValue::belongsTo(FeatureEnum feature) const {
 
 bool FeatureValue::isShared() const { return belongsToAny() || getFeatureCount() > 1; }
 
-bool FeatureValue::isRunTimeValue() const {
-    return m_value >= FeatureValueDataBase::firstRunTimeValue;
-}
+bool FeatureValue::isRunTimeValue() const { return m_value >= value::firstRunTimeValue; }
 
 bool FeatureValue::operator<(const FeatureValue& other) const {
     if (isRunTimeValue() && other.isRunTimeValue()) {

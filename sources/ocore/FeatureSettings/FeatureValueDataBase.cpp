@@ -22,7 +22,7 @@ struct ValueStore {
     std::vector<ByText> byText;             // for each feature its own, of a few values mostly
     ByText byAbbreviation;
 
-    ValueStore() { byNumber.resize(FeatureValueInfo::firstRunTimeValue); }
+    ValueStore() { byNumber.resize(value::firstRunTimeValue); }
 
     void add(FeatureValueInfo&& added) {
         FeatureValueInfo& row = byNumber[static_cast<std::size_t>(added.m_value)];
@@ -52,13 +52,10 @@ FeatureValueInfo makeInfo(const FeatureValueRow& row) {
 }
 
 void addMediaNames(ValueStore& store) {
-    constexpr FeatureEnum media = 97;
-    constexpr FeatureEnum mediaKey = 98;
-    constexpr FeatureEnum mediaDescription = 104;
-    std::int32_t value = firstMediaName;
+    std::int32_t value = value::firstMediaName;
     for (const char16_t* const name : getMediaNames()) {
         store.add({value,
-                   {media, mediaKey, mediaDescription},
+                   {feature::media, feature::mediaKey, feature::mediaDescription},
                    name,
                    std::u16string_view(getMediaNameAbbreviation(value)),
                    getMediaNameDisplayStringID(value),
@@ -160,7 +157,7 @@ FeatureValueDataBase::getFeatureValueInfoByAbbreviation(const CXString& abbrevia
 }
 
 FeatureValueReference FeatureValueDataBase::findFeatureValueInfo(std::int32_t value) const {
-    if (value >= firstRunTimeValue) {
+    if (value >= value::firstRunTimeValue) {
         return RunTimeValues::find(value);
     }
     const FeatureValueInfo* const fixed = findFixed(value);

@@ -12,7 +12,6 @@ namespace zent {
 /// fail.
 class FeatureValueDataBase {
 public:
-    static constexpr std::int32_t firstRunTimeValue = FeatureValueInfo::firstRunTimeValue;
     /// Tickets from outside may bring values of bounded length.
     static constexpr std::int32_t maximumRunTimeLength = 4096;
 

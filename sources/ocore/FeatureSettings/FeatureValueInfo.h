@@ -10,9 +10,6 @@ namespace zent {
 
 /// One row of the value table.
 struct FeatureValueInfo {
-    /// The numbers of the fixed rows are below.
-    static constexpr std::int32_t firstRunTimeValue = 553;
-
     std::int32_t m_value;
     std::vector<FeatureEnum> m_features;
     CXString m_text; // as it goes into an attribute; unique for a feature, not overall

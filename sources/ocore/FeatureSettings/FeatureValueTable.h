@@ -12,7 +12,7 @@ namespace zent {
 /// One value as it is authored; FeatureValueDataBase makes a FeatureValueInfo of it.
 struct FeatureValueRow {
     std::int32_t value;
-    std::array<FeatureEnum, 3> features; // 0 where there is none
+    std::array<FeatureEnum, 3> features; // none fills up
     const char16_t* text;
     const char16_t* abbreviation;
     std::uint32_t displayStringID;
@@ -24,9 +24,8 @@ struct FeatureValueRow {
 std::span<const FeatureValueRow> getLowerValueRows();
 std::span<const FeatureValueRow> getUpperValueRows();
 
-/// The media names have the numbers from here on, in the order of the list, and belong to "media",
-/// "media-key" and "media-description".
-constexpr std::int32_t firstMediaName = 200;
+/// The media names, from value::firstMediaName on; they belong to "media", "media-key" and
+/// "media-description".
 std::span<const char16_t* const> getMediaNames();
 /// The display strings and abbreviations of the media names follow their numbers, with exceptions.
 std::uint32_t getMediaNameDisplayStringID(std::int32_t value);

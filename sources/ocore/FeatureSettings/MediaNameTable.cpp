@@ -381,7 +381,7 @@ std::u16string getMediaNameAbbreviation(std::int32_t value) {
         return {u't', static_cast<char16_t>(u'f' + (value - firstEngineeringSize))};
     }
     // "fj" is the first that the values in front leave free.
-    return inBase26(139 + value - firstMediaName);
+    return inBase26(139 + value - value::firstMediaName);
 }
 
 } // namespace zent

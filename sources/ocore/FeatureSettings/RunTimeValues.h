@@ -39,7 +39,7 @@ public:
 private:
     friend class RunTimeValues;
     bool isCounted() const {
-        return m_info != nullptr && m_info->m_value >= FeatureValueInfo::firstRunTimeValue;
+        return m_info != nullptr && m_info->m_value >= value::firstRunTimeValue;
     }
     void countUp() const noexcept;
     void countDown() const noexcept;

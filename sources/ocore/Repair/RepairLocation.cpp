@@ -11,8 +11,6 @@ namespace zent {
 
 namespace {
 
-constexpr FeatureEnum forceFrontSide = 91;
-constexpr FeatureEnum insertAfterPageNumber = 117;
 constexpr std::uint32_t wholeTicketText = 11552;
 
 using Step = SettingsContext::Step;
@@ -38,7 +36,7 @@ void setPages(RepairLocation& location, bool isFound, std::int32_t first, std::i
 /// What is no number, since the ticket may hold anything, counts as none.
 void readPages(RepairLocation& location, AttrNode& entry) {
     AttrNodeList* const list = embeddedList(entry);
-    if (location.feature == forceFrontSide && entry.getAttrValue().isPrimitiveInteger()) {
+    if (location.feature == feature::forceFrontSide && entry.getAttrValue().isPrimitiveInteger()) {
         const auto page = static_cast<const PrimitiveInteger&>(entry.getAttrValue()).getValue();
         setPages(location, true, page, page);
     }
@@ -52,7 +50,7 @@ void readPages(RepairLocation& location, AttrNode& entry) {
         const bool isFound = settings.getRange(_FI(feature::pages), &first, &last);
         setPages(location, isFound, first, last);
     } else if (location.feature == feature::insertSheet) {
-        const bool isFound = settings.getLong(_FI(insertAfterPageNumber), &first);
+        const bool isFound = settings.getLong(_FI(feature::insertAfterPageNumber), &first);
         setPages(location, isFound, first, first);
     }
 }
@@ -63,10 +61,10 @@ RepairLocation findLocation(const SettingsContext& context) {
     RepairLocation location;
     location.feature = context.getParentFeature();
     if (location.feature == TJTF_ANY) {
-        if (context.getAttributeName() != _FI(forceFrontSide).getName()) {
+        if (context.getAttributeName() != _FI(feature::forceFrontSide).getName()) {
             return location;
         }
-        location.feature = forceFrontSide;
+        location.feature = feature::forceFrontSide;
     }
     if (const Step* const entry = findEntry(context.getSteps(), _FI(location.feature).getName())) {
         location.entry = entry->position + 1;

@@ -23,20 +23,11 @@ const _FI& mediaCol = keepForever<_FI>(feature::mediaCol);
 
 /// What makes a description, in the order of comparison.
 constexpr FeatureEnum descriptionFeatures[] = {
-    feature::xDimension,
-    feature::yDimension,
-    feature::mediaType,
-    feature::mediaColor,
-    feature::mediaDescription,
-    feature::mediaWeightMetric,
-    feature::mediaHoleCount,
-    111, // media-pre-printed
-    112, // media-recycled
-    103, // media-order-count
-    107, // media-front-coating
-    108, // media-back-coating
-    109, // media-tooth
-    110, // media-grain
+    feature::xDimension,      feature::yDimension,        feature::mediaType,
+    feature::mediaColor,      feature::mediaDescription,  feature::mediaWeightMetric,
+    feature::mediaHoleCount,  feature::mediaPrePrinted,   feature::mediaRecycled,
+    feature::mediaOrderCount, feature::mediaFrontCoating, feature::mediaBackCoating,
+    feature::mediaTooth,      feature::mediaGrain,
 };
 
 constexpr std::uint32_t userSuffix = 7500;

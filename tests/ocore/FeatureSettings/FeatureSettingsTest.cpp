@@ -8,9 +8,9 @@
 namespace zent::test {
 namespace {
 
-const _FI copies(2);
-const _FI coverFront(120);
-const _FI overrides(122);
+const _FI copies(feature::copies);
+const _FI coverFront(feature::coverFront);
+const _FI overrides(feature::pageOverrides);
 
 FeatureSettings ticketOf(const char* text) { return FeatureSettings(listOf(text)); }
 std::string textOf(const FeatureSettings& ticket) { return textOfList(*ticket.getAttrNodeList()); }

@@ -20,7 +20,8 @@
 namespace zent::test {
 namespace {
 
-constexpr FeatureEnum lastFeature = 137;
+constexpr auto afterLast = static_cast<FeatureEnum>(feature::last + 1);
+
 constexpr std::uint32_t lastType = 12;
 
 /// An attribute's place as the tables write it: "media-size-supported:c / value:c / x-dimension" or
@@ -50,7 +51,7 @@ std::string joined(const SyntaxList& syntaxes) {
 TEST(FeatureTablesTest, FeaturesAreThoseOfTheTable) {
     const FeatureDataBase features;
     const std::vector<ExpectedRow> rows = readExpectedTable("features.tsv");
-    ASSERT_EQ(rows.size(), lastFeature - 1);
+    ASSERT_EQ(rows.size(), feature::last - TJTF_ANY);
     for (const ExpectedRow& row : rows) {
         SCOPED_TRACE(row.text("uniqueId"));
         const FeatureInfo& info =
@@ -68,7 +69,7 @@ TEST(FeatureTablesTest, FeaturesAreThoseOfTheTable) {
         EXPECT_EQ(&features.getFeatureInfoByAbbreviation(CXString(row.wide("abbreviation"))),
                   &info);
     }
-    for (const FeatureEnum number : {0U, TJTF_ANY, lastFeature + 1}) {
+    for (const FeatureEnum number : {feature::none, TJTF_ANY, afterLast}) {
         EXPECT_FALSE(features.hasFeature(number)) << number;
     }
     // "value" is the leaf of many features and the name of none.
@@ -154,7 +155,7 @@ TEST(FeatureTablesTest, CapabilitiesAreThoseOfTheTable) {
         EXPECT_EQ(_CI(feature, type).isInSetOf(),
                   row.text("location").ends_with(":s (names) / value"));
     }
-    for (FeatureEnum feature = 0; feature <= lastFeature + 1; ++feature) {
+    for (FeatureEnum feature = feature::none; feature <= afterLast; ++feature) {
         SCOPED_TRACE(feature);
         EXPECT_EQ(_CI::getCapabilityTypes(feature), types[feature]); // in the order of their types
         EXPECT_EQ(_CI::getCapabilityTypes(feature, capabilityClass::extension),
@@ -180,7 +181,7 @@ TEST(FeatureTablesTest, CapabilitiesAreEqualByFeatureAndType) {
 TEST(FeatureTablesTest, CapabilitiesThatAreNotThereAreNamed) {
     for (const auto& [feature, type, ending] : Rows<FeatureEnum, std::uint32_t, const char*>{
              {feature::copies, 4, "'4' for feature '2' (copies).\r\n"},
-             {lastFeature + 1, 1, "'1' for feature '138' (<unknown>!).\r\n"},
+             {afterLast, 1, "'1' for feature '138' (<unknown>!).\r\n"},
              {TJTF_ANY, 1, "'1' for feature '1' (<unknown>!).\r\n"}}) {
         const _CI capability(feature, type);
         EXPECT_EQ(raised<UnknownFeatureRequestException>([&] { capability.getName(); }),

@@ -34,22 +34,26 @@ std::string duplicate(const char* feature, const char* text) {
 
 TEST(FeatureValueTest, TheFeatureDecidesWhichValueATextIs) {
     for (const auto& [feature, text, value] : Rows<FeatureEnum, const char16_t*, std::int32_t>{
-             {5, u"none", 7}, {30, u"none", 20}, {82, u"top", 156}, {97, u"top", 457}}) {
+             {feature::impositionTemplate, u"none", value::impositionNone},
+             {feature::antiAliasing, u"none", value::antiAliasingNone},
+             {feature::outputBin, u"top", value::binTop},
+             {feature::media, u"top", value::mediaNameTop}}) {
         EXPECT_EQ(FeatureValue(feature, text).getValue(), value) << feature;
     }
-    EXPECT_EQ(FeatureValue(7, u"none"), FeatureValue(11, u"none"));
-    EXPECT_TRUE(FeatureValue(9).isShared());
-    EXPECT_FALSE(FeatureValue(4).isShared());
+    EXPECT_EQ(FeatureValue(feature::saveDisposition, u"none"),
+              FeatureValue(feature::formSaveDisposition, u"none"));
+    EXPECT_TRUE(FeatureValue(value::saveNone).isShared());
+    EXPECT_FALSE(FeatureValue(value::oneSided).isShared());
     EXPECT_TRUE(FeatureValue().isShared()); // belongs to all features
-    EXPECT_TRUE(FeatureValue(9).belongsTo(11));
-    EXPECT_FALSE(FeatureValue(9).belongsTo(5));
+    EXPECT_TRUE(FeatureValue(value::saveNone).belongsTo(feature::formSaveDisposition));
+    EXPECT_FALSE(FeatureValue(value::saveNone).belongsTo(feature::impositionTemplate));
 
     EXPECT_EQ(raised<Unknown>([] { FeatureValue(172).getText(); }),
               "FeatureValueDataBase::getFeatureValueInfo( ValueEnum ) could not find requested "
               "ValueEnum 172\r\n");
-    EXPECT_EQ(raised<Unknown>([] { FeatureValue(4, u"folded"); }),
+    EXPECT_EQ(raised<Unknown>([] { FeatureValue(feature::sides, u"folded"); }),
               unknownValue("folded", "'4' (sides)"));
-    EXPECT_EQ(raised<Unknown>([] { FeatureValue(999, u""); }),
+    EXPECT_EQ(raised<Unknown>([] { FeatureValue(FeatureEnum(999), u""); }),
               unknownValue("", "'999' (<unknown>!)"));
     EXPECT_EQ(raised<Unknown>([] { FeatureValue::createFromAbbreviation(u""); }),
               "FeatureValueDataBase::getFeatureValueInfoByAbbreviation() could not find requested "
@@ -57,47 +61,53 @@ TEST(FeatureValueTest, TheFeatureDecidesWhichValueATextIs) {
 }
 
 TEST(FeatureValueTest, ConvertsToTheSameTextOfAnotherFeature) {
-    EXPECT_EQ(FeatureValue(7).convertToFeature(_FI(30)), FeatureValue(20));
-    EXPECT_EQ(FeatureValue(4).convertToFeature(_FI(30)), FeatureValue());
-    EXPECT_EQ(FeatureValue(9).convertToFeature(_FI(11)), FeatureValue(9));
-    EXPECT_EQ(FeatureValue().convertToFeature(_FI(30)), FeatureValue());
-    EXPECT_TRUE(FeatureValue(149).isSameInfo(FeatureValue(149)));
-    EXPECT_FALSE(FeatureValue(183).isSameInfo(FeatureValue(189))); // other abbreviations
+    EXPECT_EQ(FeatureValue(value::impositionNone).convertToFeature(_FI(feature::antiAliasing)),
+              FeatureValue(value::antiAliasingNone));
+    EXPECT_EQ(FeatureValue(value::oneSided).convertToFeature(_FI(feature::antiAliasing)),
+              FeatureValue());
+    EXPECT_EQ(FeatureValue(value::saveNone).convertToFeature(_FI(feature::formSaveDisposition)),
+              FeatureValue(value::saveNone));
+    EXPECT_EQ(FeatureValue().convertToFeature(_FI(feature::antiAliasing)), FeatureValue());
+    EXPECT_TRUE(FeatureValue(value::separatorSlipSheets)
+                    .isSameInfo(FeatureValue(value::separatorSlipSheets)));
+    EXPECT_FALSE(FeatureValue(value::frontCoatingNone)
+                     .isSameInfo(FeatureValue(value::backCoatingNone))); // other abbreviations
 }
 
 TEST(FeatureValueTest, NewValuesAreSharedByRelatedFeatures) {
-    const FeatureValue value = create(97, u"foo");
-    EXPECT_GE(value.getValue(), 553);
-    EXPECT_EQ(create(21, u"bar").getValue(), value.getValue() + 1);
-    for (const FeatureEnum feature : {97U, 98U, 104U}) {
+    const FeatureValue value = create(feature::media, u"foo");
+    EXPECT_GE(value.getValue(), value::firstRunTimeValue);
+    EXPECT_EQ(create(feature::jobName, u"bar").getValue(), value.getValue() + 1);
+    for (const FeatureEnum feature :
+         {feature::media, feature::mediaKey, feature::mediaDescription}) {
         EXPECT_EQ(FeatureValue(feature, u"foo"), value);
     }
     EXPECT_TRUE(value.isRunTimeValue());
-    EXPECT_FALSE(FeatureValue(552).isRunTimeValue());
+    EXPECT_FALSE(FeatureValue(value::paperSource6).isRunTimeValue());
     EXPECT_EQ(value.getType(), AVTE_NAME); // by its syntax
     EXPECT_EQ(value.getAbbreviation(), u"");
     EXPECT_EQ(value.getDisplayString(), u"foo");
-    EXPECT_EQ(raised<Duplicate>([] { create(97, u"foo"); }), duplicate("97", "foo"));
-    EXPECT_THROW(create(104, u"foo"), Duplicate);
+    EXPECT_EQ(raised<Duplicate>([] { create(feature::media, u"foo"); }), duplicate("97", "foo"));
+    EXPECT_THROW(create(feature::mediaDescription, u"foo"), Duplicate);
     // Also what just one of the related features has.
     FeatureValueDataBase().addValue(
-        {900000, {35}, u"only-images", {}, 0, 0, syntax::name, AVTE_NAME});
-    EXPECT_THROW(create(34, u"only-images"), Duplicate);
-    EXPECT_FALSE(FeatureValue::isKnownValue(34, u"only-images"));
+        {900000, {feature::halftoneImages}, u"only-images", {}, 0, 0, syntax::name, AVTE_NAME});
+    EXPECT_THROW(create(feature::halftoneGraphics, u"only-images"), Duplicate);
+    EXPECT_FALSE(FeatureValue::isKnownValue(feature::halftoneGraphics, u"only-images"));
     EXPECT_THROW(create(TJTF_ANY, u"foo"), Unknown);
 }
 
 TEST(FeatureValueTest, FixedValuesComeBeforeThoseOfTheRunTime) {
-    const FeatureValue z = create(21, u"order-z");
-    const FeatureValue y = create(21, u"order-y");
+    const FeatureValue z = create(feature::jobName, u"order-z");
+    const FeatureValue y = create(feature::jobName, u"order-y");
     EXPECT_LT(y, z); // by name, though it is the newer
     EXPECT_FALSE(z < y);
-    EXPECT_LT(FeatureValue(552), y);
-    EXPECT_LT(FeatureValue(4), FeatureValue(5));
+    EXPECT_LT(FeatureValue(value::paperSource6), y);
+    EXPECT_LT(FeatureValue(value::oneSided), FeatureValue(value::twoSidedLongEdge));
 }
 
 TEST(FeatureValueTest, AttributesBringNewValuesIfTheFeatureAllowsIt) {
-    const _FI media(97);
+    const _FI media(feature::media);
     const FeatureValue known = FeatureValue::fromAttrValue(media, IppKeyword(u"default"));
     EXPECT_EQ(known.getValue(), 200);
     EXPECT_EQ(FeatureValue::fromAttrValue(media, IppName(u"default")), known);
@@ -105,13 +115,17 @@ TEST(FeatureValueTest, AttributesBringNewValuesIfTheFeatureAllowsIt) {
     EXPECT_TRUE(made.isRunTimeValue());
     EXPECT_EQ(made.getSyntax(), u"name");
     EXPECT_EQ(FeatureValue::fromAttrValue(media, IppName(u"my stock")), made);
-    EXPECT_EQ(FeatureValue::fromAttrValue(_FI(10), IppUri(u"file:a")).getSyntax(), u"uri");
-    EXPECT_EQ(FeatureValue::fromAttrValue(_FI(105), IppInteger(3)).getValue(), 182);
+    EXPECT_EQ(
+        FeatureValue::fromAttrValue(_FI(feature::saveLocation), IppUri(u"file:a")).getSyntax(),
+        u"uri");
+    EXPECT_EQ(FeatureValue::fromAttrValue(_FI(feature::mediaHoleCount), IppInteger(3)).getValue(),
+              182);
 
     EXPECT_THROW(FeatureValue::fromAttrValue(media, IppKeyword(u"no such")), Unknown);
     EXPECT_THROW(FeatureValue::fromAttrValue(media, IppUri(u"file:a")), Unknown);
     EXPECT_THROW(FeatureValue::fromAttrValue(_FI(feature::sides), IppName(u"x")), Unknown);
-    EXPECT_THROW(FeatureValue::fromAttrValue(_FI(24), IppText(u"x")), Unknown);
+    EXPECT_THROW(FeatureValue::fromAttrValue(_FI(feature::jobAccountingData), IppText(u"x")),
+                 Unknown);
     EXPECT_THROW(FeatureValue::fromAttrValue(_FI(feature::copies), IppInteger(1)), Unknown);
 
     // Text alone takes the feature's preferred syntax.
@@ -122,33 +136,33 @@ TEST(FeatureValueTest, AttributesBringNewValuesIfTheFeatureAllowsIt) {
 
 TEST(FeatureValueTest, NewValuesAreOfBoundedLength) {
     const std::u16string longest(4096, u'x');
-    EXPECT_NO_THROW(create(21, CXString(longest)));
-    EXPECT_THROW(create(21, CXString(longest + u"x")), Unknown);
-    EXPECT_THROW(FeatureValue::fromText(_FI(21), CXString(longest + u"y")), Unknown);
+    EXPECT_NO_THROW(create(feature::jobName, CXString(longest)));
+    EXPECT_THROW(create(feature::jobName, CXString(longest + u"x")), Unknown);
+    EXPECT_THROW(FeatureValue::fromText(_FI(feature::jobName), CXString(longest + u"y")), Unknown);
 }
 
 TEST(FeatureValueTest, WhatNothingHoldsIsForgottenLeastRecentlyUsedFirst) {
-    const FeatureValue held = create(21, u"held");
+    const FeatureValue held = create(feature::jobName, u"held");
     const FeatureValue copy = FeatureValue(FeatureValue(held)); // the others go at once
-    const std::int32_t used = create(21, u"used").getValue();
-    const std::int32_t unused = create(21, u"unused").getValue();
+    const std::int32_t used = create(feature::jobName, u"used").getValue();
+    const std::int32_t unused = create(feature::jobName, u"unused").getValue();
     constexpr std::int32_t others = 70000;
     const auto name = [](std::int32_t i) { return CXString::Format(u"other %d", i); };
     for (std::int32_t i = 0; i < others; ++i) {
-        create(21, name(i));
-        ASSERT_EQ(FeatureValue(21, u"used").getValue(), used) << i;
+        create(feature::jobName, name(i));
+        ASSERT_EQ(FeatureValue(feature::jobName, u"used").getValue(), used) << i;
     }
-    EXPECT_EQ(FeatureValue(21, u"held"), held);
+    EXPECT_EQ(FeatureValue(feature::jobName, u"held"), held);
     EXPECT_EQ(held.getText(), u"held");
-    EXPECT_FALSE(FeatureValue::isKnownValue(21, u"unused"));
+    EXPECT_FALSE(FeatureValue::isKnownValue(feature::jobName, u"unused"));
     EXPECT_FALSE(FeatureValue::isValidNumber(unused));
     EXPECT_THROW(FeatureValue(unused).getText(), Unknown);
     // The latest are those that are remembered, "used" among them.
-    EXPECT_TRUE(FeatureValue::isKnownValue(21, name(others - 16383)));
-    EXPECT_FALSE(FeatureValue::isKnownValue(21, name(others - 16384)));
+    EXPECT_TRUE(FeatureValue::isKnownValue(feature::jobName, name(others - 16383)));
+    EXPECT_FALSE(FeatureValue::isKnownValue(feature::jobName, name(others - 16384)));
     // A number never comes again, nor does that of a text which does.
-    const FeatureValue last = FeatureValue::fromText(_FI(21), u"last");
-    EXPECT_GT(FeatureValue::fromText(_FI(21), u"unused").getValue(), last.getValue());
+    const FeatureValue last = FeatureValue::fromText(_FI(feature::jobName), u"last");
+    EXPECT_GT(FeatureValue::fromText(_FI(feature::jobName), u"unused").getValue(), last.getValue());
 }
 
 } // namespace

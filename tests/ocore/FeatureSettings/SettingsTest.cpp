@@ -10,13 +10,13 @@
 namespace zent::test {
 namespace {
 
-const _FI copies(2);
-const _FI sides(4);
-const _FI pageRanges(6);
-const _FI resolution(37);
-const _FI finishings(86);
-const _FI xDimension(99);
-const _FI mediaColor(101);
+const _FI copies(feature::copies);
+const _FI sides(feature::sides);
+const _FI pageRanges(feature::pageRanges);
+const _FI resolution(feature::printerResolution);
+const _FI finishings(feature::finishings);
+const _FI xDimension(feature::xDimension);
+const _FI mediaColor(feature::mediaColor);
 
 Settings settings(const char* text) { return Settings(listOf(text)); }
 std::string textOf(const Settings& settings) { return textOfList(*settings.getAttrNodeList()); }
@@ -29,13 +29,16 @@ TEST(SettingsTest, ChangesShowInTheList) {
         {"", [](Settings& s) { s.setLong(sides, 2); }, "sides=keyword:2"},
         {"", [](Settings& s) { s.setString(copies, u"x"); }, "copies=0"},
         {"", [](Settings& s) { s.setBool(copies, true); }, "copies=boolean:true"},
-        {"", [](Settings& s) { s.setValueOfFeature(FeatureValue(147)); },
+        {"", [](Settings& s) { s.setValueOfFeature(FeatureValue(value::finisherProgram1000)); },
          "finishings[value=enum:1000]"},
         // Parents are made at need, with their syntaxes.
         {"media-col{media-color=red}", [](Settings& s) { s.setLong(xDimension, 3); },
          "media-col{media-color=red media-size{x-dimension=3}}"},
         // An instance that isn't there appends.
-        {two, [](Settings& s) { s.setFeatureValue(finishings, FeatureValue(133), 5); },
+        {two,
+         [](Settings& s) {
+             s.setFeatureValue(finishings, FeatureValue(value::finishingBookletMaker), 5);
+         },
          "finishings[value=enum:3 value=enum:7 value=enum:13]"},
         {"page-ranges[value(upper-bound=9) value(lower-bound=1 upper-bound=5)]",
          [](Settings& s) { s.setRange(pageRanges, 2, 3, 0); },
@@ -86,7 +89,7 @@ TEST(SettingsTest, GetsFindTheInstance) {
     std::int32_t lower = 0;
     std::int32_t upper = 0;
     bool truth = false;
-    EXPECT_TRUE(ticket.getBool(_FI(92), &truth) && truth);
+    EXPECT_TRUE(ticket.getBool(_FI(feature::tonerSaver), &truth) && truth);
     EXPECT_THROW(ticket.getBool(copies, &truth), AttributeTypeMismatchException);
     EXPECT_FALSE(ticket.getRange(pageRanges, &lower, &upper)); // half of one
     EXPECT_EQ(ticket.getFeatureValue(finishings, 1).getValue(), 132);

@@ -14,8 +14,6 @@
 namespace zent::test {
 namespace {
 
-constexpr FeatureEnum lastFeature = 137;
-
 std::string readDtd() { return readTestFile("../resources/ordo-v02025.dtd"); }
 
 /// The names that follow `keyword` in declarations, in order.
@@ -38,7 +36,7 @@ TEST(OrdoDtdTest, DeclaresTheElementsOfATicketOnceAndNothingElse) {
     for (const ExpectedRow& row : readExpectedTable("categories.tsv")) {
         wanted.insert(row.text("name"));
     }
-    for (FeatureEnum feature = 2; feature <= lastFeature; ++feature) {
+    for (FeatureEnum feature = feature::first; feature <= feature::last; ++feature) {
         const NestedAttrID& id = _FI(feature).getNestedAttrID();
         wanted.insert(id.getAttrID().getText().toNarrow());
         for (std::uint32_t i = 0; i < id.getDepth(); ++i) {

@@ -127,8 +127,8 @@ TEST_F(SettingsProblemFixerTest, ProblemsInWhatHasGoneArePassedOver) {
     const CXString pageOverrides(u"page-overrides");
     problems.addProblem(
         UnsupportedValue(SettingsContext(entry, {outer, member, inner}, AttrID(sides), sides)));
-    problems.addProblem(
-        MissingFeatureProblem(SettingsContext(entry, {outer, member}, AttrID(sides), sides), 4));
+    problems.addProblem(MissingFeatureProblem(
+        SettingsContext(entry, {outer, member}, AttrID(sides), sides), feature::sides));
     problems.addProblem(UnsupportedAttribute(
         SettingsContext(ticket, {outer}, AttrID(pageOverrides), pageOverrides)));
     SettingsProblemFixer(Settings(listOf(defaults))).fix(problems);
