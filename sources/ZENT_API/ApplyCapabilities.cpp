@@ -4,12 +4,12 @@
 #include "ocore/Repair/TicketRepair.h"
 #include "ocore/Resources/ResourceLibrary.h"
 #include "plugin_ui/Reports/SettingsProblemReporter.h"
+#include "resources/ids.h"
 
 namespace zent {
 
 namespace {
 
-constexpr std::uint32_t defaultTitle = 11542;
 constexpr bool offersChoice = true;
 
 bool isSilent(std::uint32_t mode) {
@@ -23,7 +23,7 @@ std::uint32_t policyOf(std::uint32_t mode) {
 
 CXString titleOf(const ApplyRequest& request) {
     return required(request.title) != 0 ? textOf(request.title)
-                                        : ResourceLibrary().getString(defaultTitle);
+                                        : ResourceLibrary().getString(IDS_TICKET_CHECK_TITLE);
 }
 
 /// Whether the ticket may be used.

@@ -5,12 +5,11 @@
 #include "ocore/Faults/TarvoException.h"
 #include "platform/System.h"
 #include "plugin_ui/Reports/ExceptionReport.h"
+#include "resources/ids.h"
 
 namespace zent {
 
 namespace {
-
-constexpr std::uint32_t boxTitle = 11619;
 
 /// The location as text, or none if memory has run out: a report mustn't fail for that.
 CXString textOfLocation(const char16_t* location) noexcept {
@@ -25,13 +24,13 @@ CXString textOfLocation(const char16_t* location) noexcept {
 
 ZentResult endCall(const std::exception& exception, bool silent, const char16_t* location) {
     if (!silent) {
-        reportException(exception, boxTitle, textOfLocation(location), 0, u"");
+        reportException(exception, IDS_CALL_TITLE, textOfLocation(location), 0, u"");
     }
     return resultCodeOf(exception);
 }
 
 bool endUnknownCall(bool silent, const char16_t* location) {
-    return !silent && reportUnknownException(boxTitle, textOfLocation(location), 0, u"") &&
+    return !silent && reportUnknownException(IDS_CALL_TITLE, textOfLocation(location), 0, u"") &&
            platform::unknownExceptionsMayLeave;
 }
 

@@ -4,6 +4,7 @@
 
 #include "dialogs/DialogSession.h"
 #include "ocore/User/User.h"
+#include "resources/ids.h"
 
 namespace zent::test {
 namespace {
@@ -17,20 +18,20 @@ constexpr std::uint32_t wholeAccount = 42;
 constexpr std::uint32_t capitalAccount = 32;
 
 namespace item {
-constexpr std::uint16_t jobName = 2201;
-constexpr std::uint16_t account = 2202;
-constexpr std::uint16_t sender = 2203;
-constexpr std::uint16_t recipient = 2204;
-constexpr std::uint16_t phone = 2205;
-constexpr std::uint16_t banner = 2206;
-constexpr std::uint16_t operatorMessage = 2207;
-constexpr std::uint16_t ok = 2219;
-constexpr std::uint16_t cancel = 2220;
-constexpr std::uint16_t accountButton = 2221;
+constexpr std::uint16_t jobName = IDC_JOB_NAME;
+constexpr std::uint16_t account = IDC_JOB_ACCOUNT;
+constexpr std::uint16_t sender = IDC_SENDER;
+constexpr std::uint16_t recipient = IDC_RECIPIENT;
+constexpr std::uint16_t phone = IDC_PHONE_NUMBER;
+constexpr std::uint16_t banner = IDC_BANNER_MESSAGE;
+constexpr std::uint16_t operatorMessage = IDC_OPERATOR_MESSAGE;
+constexpr std::uint16_t ok = IDC_JOB_NOTES_OK;
+constexpr std::uint16_t cancel = IDC_JOB_NOTES_CANCEL;
+constexpr std::uint16_t accountButton = IDC_ACCOUNT_BUTTON;
 // In the dialog of the account.
-constexpr std::uint16_t accountEdit = 2303;
-constexpr std::uint16_t userEdit = 2305;
-constexpr std::uint16_t dataEdit = 2307;
+constexpr std::uint16_t accountEdit = IDC_ACCOUNT_ID;
+constexpr std::uint16_t userEdit = IDC_ACCOUNT_USER;
+constexpr std::uint16_t dataEdit = IDC_ACCOUNT_DATA;
 constexpr std::uint16_t accountOk = 1;
 constexpr std::uint16_t accountCancel = 2;
 } // namespace item
@@ -169,8 +170,8 @@ TEST(JobNotesTest, ATextThatThePrinterRefusesKeepsTheDialogOpen) {
     EXPECT_EQ(job.invoke(), ZENT_OK);
     EXPECT_EQ(job.ticket(), "job-name=name:Untitled job-account-id=name:ab");
     ASSERT_EQ(job.boxes().size(), 1U);
-    EXPECT_EQ(job.boxes()[0].title, resourceText(6203));
-    EXPECT_EQ(job.boxes()[0].body, resourceText(6206));
+    EXPECT_EQ(job.boxes()[0].title, resourceText(IDS_ACCOUNT_TITLE));
+    EXPECT_EQ(job.boxes()[0].body, resourceText(IDS_ACCOUNT_FORBIDDEN));
     EXPECT_NE(job.boxes()[0].owner, nullptr);
 }
 
@@ -259,7 +260,7 @@ TEST(JobNotesTest, PreferencesFillBoxesAndLockThem) {
     EXPECT_EQ(job.ticket(), "requesting-user-name=name:" + User::getLogonName().toNarrow() +
                                 " job-account-id=name:7");
     ASSERT_EQ(job.boxes().size(), 1U);
-    EXPECT_EQ(job.boxes()[0].body, resourceText(6202));
+    EXPECT_EQ(job.boxes()[0].body, resourceText(IDS_ACCOUNT_MISSING));
 }
 
 TEST(JobNotesTest, WithoutWindowsTheyRefuseToStart) {

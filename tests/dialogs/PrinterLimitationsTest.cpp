@@ -3,6 +3,7 @@
 #include "dialogs/DialogSession.h"
 #include "ocore/Checking/SettingsValidator.h"
 #include "plugin_ui/Reports/SettingsProblemReporter.h"
+#include "resources/ids.h"
 #include "support/OrdoDocument.h"
 
 namespace zent::test {
@@ -13,8 +14,8 @@ using platform::WindowHandle;
 namespace item {
 constexpr std::uint16_t ok = 1;
 constexpr std::uint16_t cancel = 2;
-constexpr std::uint16_t report = 4001;
-constexpr std::uint16_t label = 4002;
+constexpr std::uint16_t report = IDC_TICKET_CHECK_REPORT;
+constexpr std::uint16_t label = IDC_TICKET_CHECK_LABEL;
 } // namespace item
 
 const ZentChar title[] = {'M', 'i', 'n', 'e', 0};
@@ -55,8 +56,9 @@ TEST(PrinterLimitationsTest, TheUserAgreesToARepairOrNot) {
         job.setTicket("copies=3 media-col{media-type=handmade}");
         user::onceOpen([&](WindowHandle dialog) {
             EXPECT_EQ(windowSystem().getCaption(dialog), u"Mine");
-            EXPECT_EQ(at(dialog, item::label).getText(),
-                      resourceText(row.mode == 4 ? 11557 : 11553).view());
+            EXPECT_EQ(
+                at(dialog, item::label).getText(),
+                resourceText(row.mode == 4 ? IDS_NOTHING_CHANGES : IDS_REPAIR_QUESTION).view());
             const std::u16string report = at(dialog, item::report).getText();
             EXPECT_NE(report.find(u"\tMedia type"), std::u16string::npos);
             EXPECT_EQ(report.find(u"->") != std::u16string::npos, row.mode != 4);
@@ -79,7 +81,8 @@ TEST(PrinterLimitationsTest, AnImportThatTheUserRefusesLeavesTheTicket) {
     for (const bool agrees : {false, true}) {
         job.setTicket("copies=3");
         user::onceOpen([&](WindowHandle dialog) {
-            EXPECT_EQ(windowSystem().getCaption(dialog), resourceText(11542).view());
+            EXPECT_EQ(windowSystem().getCaption(dialog),
+                      resourceText(IDS_TICKET_CHECK_TITLE).view());
             user::click(dialog, agrees ? item::ok : item::cancel);
         });
         ZentBool problems = 7;
@@ -102,7 +105,7 @@ TEST(PrinterLimitationsTest, ANoticeHasOneButton) {
         SettingsProblemList problems;
         EXPECT_FALSE(validate(capabilities, ticket, problems));
         user::onceOpen([&](WindowHandle dialog) {
-            EXPECT_EQ(at(dialog, item::label).getText(), resourceText(11541).view());
+            EXPECT_EQ(at(dialog, item::label).getText(), resourceText(IDS_REPAIR_NOTICE).view());
             EXPECT_FALSE(at(dialog, item::ok).isThere());
             EXPECT_EQ(at(dialog, item::cancel).getText(), u"OK");
             EXPECT_EQ(user::focused(dialog), item::cancel);

@@ -9,6 +9,7 @@
 #include "plugin_ui/Features/NumberCheckBoxUIFeature.h"
 #include "plugin_ui/Reports/BoxCapture.h"
 #include "plugin_ui/TestDialog.h"
+#include "resources/ids.h"
 
 namespace zent::test {
 namespace {
@@ -26,7 +27,7 @@ constexpr std::uint16_t picture = 16;
 constexpr std::uint16_t radio = 17;
 constexpr std::uint16_t otherRadio = 18;
 constexpr std::uint16_t track = 19;
-constexpr std::uint16_t customEdit = 1354;
+constexpr std::uint16_t customEdit = IDC_CUSTOM_VALUE;
 
 constexpr std::uint32_t autoCheckBox = 3;
 constexpr std::uint32_t autoRadioButton = 9;
@@ -97,10 +98,10 @@ protected:
 TEST_F(FeaturesTest, ADropDownListOffersThePrintersValues) {
     auto& list = m_dialog.makeChild<KeyWordListUIFeature>(m_configuration, combo, std::uint16_t{0},
                                                           antiAliasing, TJTF_ANY);
-    list.setDefaultText(6203); // before there is a window
+    list.setDefaultText(IDS_ACCOUNT_TITLE); // before there is a window
     const std::string none = run("anti-aliasing=none", [&](Window window) {
         EXPECT_EQ(choices(window), u"Account|Standard|[No anti-aliasing]");
-        list.setDefaultText(6207);
+        list.setDefaultText(IDS_JOB_NAME_TITLE);
         EXPECT_EQ(choices(window), u"Job name|Standard|[No anti-aliasing]");
         m_windows.choose(window, combo, 1);
         EXPECT_EQ(choices(window), u"Job name|[Standard]|No anti-aliasing");
@@ -116,14 +117,15 @@ TEST_F(FeaturesTest, ADropDownListOffersThePrintersValues) {
 
 TEST_F(FeaturesTest, AValueOfTheUsersOwnIsAskedFor) {
     m_dialog.makeChild<KeyWordListUIFeature>(m_configuration, combo, std::uint16_t{0},
-                                             feature::mediaColor, TJTF_ANY, picture, 1010U, 0U);
+                                             feature::mediaColor, TJTF_ANY, picture, IDB_OVERLAY,
+                                             0U);
     const char* const pink = "media-col{media-color=name:pink}";
     // A value that the ticket brings along stands in the list, also when another one is chosen.
     EXPECT_EQ(run(pink,
                   [&](Window window) {
                       EXPECT_EQ(choices(window),
                                 u"Printer default|White|Red|Custom\u2026|[pink (custom)]");
-                      EXPECT_EQ(m_windows.item(window, picture).bitmap, 1010U);
+                      EXPECT_EQ(m_windows.item(window, picture).bitmap, std::uint32_t{IDB_OVERLAY});
                       EXPECT_FALSE(m_windows.item(window, picture).isGroundCleared);
                       m_windows.choose(window, combo, 2);
                       EXPECT_EQ(choices(window),

@@ -3,6 +3,7 @@
 #include "ocore/Faults/Exceptions.h"
 #include "plugin_ui/Controls/CharacterFilter.h"
 #include "plugin_ui/Features/JobTextRules.h"
+#include "resources/ids.h"
 #include "support/Rows.h"
 
 namespace zent::test {
@@ -119,41 +120,39 @@ TEST(NumberTextTest, StepsGoAgainstTheSign) {
 }
 
 TEST(JobTextRulesTest, Accounts) {
-    using namespace jobText;
     for (const auto& [what, text, rule, fault] :
          Rows<const char*, CXString, AccountRule, std::uint32_t>{
-             {"empty", u"", {2, 3, false}, nothing},
-             {"empty though required", u"", {2, 3, true}, accountMissing},
-             {"too short", u"A", {2, 3, true}, accountTooShort},
-             {"long enough", u"AB", {2, 3, true}, nothing},
-             {"8 is let through", u"A\u0008", {0, 3, false}, nothing},
-             {"7 isn't", u"A\u0007", {0, 3, false}, accountForbidden},
-             {"nor 31", u"A\u001F", {0, 3, false}, accountForbidden},
-             {"32 is", u"A B", {0, 3, false}, nothing},
-             {"low bits of 3", u"A\u0103", {0, 3, false}, accountForbidden},
-             {"low bits of a backslash", u"A\u00DC", {0, 3, false}, accountForbidden},
-             {"backslash", u"A\\", {0, 3, false}, accountForbidden},
-             {"last mark", u"a,b", {0, 3, false}, accountForbidden},
-             {"other marks", u"a!#$%&()=~-_.@+", {0, 3, false}, nothing},
-             {"capitals", u"AZ 09#+-/*", {0, 2, false}, nothing},
-             {"lower case", u"aZ", {0, 2, false}, accountNotCapital},
-             {"another mark", u"A_", {0, 2, false}, accountNotCapital},
-             {"no rule", u"a\\\t", {0, 1, false}, nothing},
+             {"empty", u"", {2, 3, false}, noFault},
+             {"empty though required", u"", {2, 3, true}, IDS_ACCOUNT_MISSING},
+             {"too short", u"A", {2, 3, true}, IDS_ACCOUNT_TOO_SHORT},
+             {"long enough", u"AB", {2, 3, true}, noFault},
+             {"8 is let through", u"A\u0008", {0, 3, false}, noFault},
+             {"7 isn't", u"A\u0007", {0, 3, false}, IDS_ACCOUNT_FORBIDDEN},
+             {"nor 31", u"A\u001F", {0, 3, false}, IDS_ACCOUNT_FORBIDDEN},
+             {"32 is", u"A B", {0, 3, false}, noFault},
+             {"low bits of 3", u"A\u0103", {0, 3, false}, IDS_ACCOUNT_FORBIDDEN},
+             {"low bits of a backslash", u"A\u00DC", {0, 3, false}, IDS_ACCOUNT_FORBIDDEN},
+             {"backslash", u"A\\", {0, 3, false}, IDS_ACCOUNT_FORBIDDEN},
+             {"last mark", u"a,b", {0, 3, false}, IDS_ACCOUNT_FORBIDDEN},
+             {"other marks", u"a!#$%&()=~-_.@+", {0, 3, false}, noFault},
+             {"capitals", u"AZ 09#+-/*", {0, 2, false}, noFault},
+             {"lower case", u"aZ", {0, 2, false}, IDS_ACCOUNT_NOT_CAPITAL},
+             {"another mark", u"A_", {0, 2, false}, IDS_ACCOUNT_NOT_CAPITAL},
+             {"no rule", u"a\\\t", {0, 1, false}, noFault},
          }) {
         EXPECT_EQ(findFault(text, rule), fault) << what;
     }
 }
 
 TEST(JobTextRulesTest, JobNames) {
-    using namespace jobText;
     for (const auto& [text, rule, fault] : Rows<CXString, JobNameRule, std::uint32_t>{
-             {u"", {4, 2, false}, nothing},
-             {u"", {4, 2, true}, nameMissing},
-             {u"abcd", {4, 1, true}, nothing},
-             {u"abcde", {4, 1, true}, nameTooLong},
-             {u"abc!", {4, 1, true}, nothing},
-             {u"abc!", {4, 2, true}, nameForbidden},
-             {u"abcd!", {4, 2, false}, nameTooLong},
+             {u"", {4, 2, false}, noFault},
+             {u"", {4, 2, true}, IDS_JOB_NAME_MISSING},
+             {u"abcd", {4, 1, true}, noFault},
+             {u"abcde", {4, 1, true}, IDS_JOB_NAME_TOO_LONG},
+             {u"abc!", {4, 1, true}, noFault},
+             {u"abc!", {4, 2, true}, IDS_JOB_NAME_FORBIDDEN},
+             {u"abcd!", {4, 2, false}, IDS_JOB_NAME_TOO_LONG},
          }) {
         EXPECT_EQ(findFault(text, rule), fault) << text.toNarrow();
     }

@@ -16,14 +16,17 @@
 #include "ocore/FeatureSettings/FeatureIdentifier.h"
 #include "ocore/FeatureSettings/FeatureValueDataBase.h"
 #include "ocore/Models/PrinterTables.h"
+#include "resources/ResourceIds.h"
 #include "resources/UseResourceLibrary.h"
+#include "resources/ids.h"
 #include "support/ListText.h"
 
 namespace zent::test {
 namespace {
 
-constexpr std::uint32_t firstDocument = 11501;
-constexpr std::uint32_t lastDocument = 11540;
+// The documents have the numbers between these.
+constexpr std::uint32_t firstDocument = IDR_CAPABILITIES_17;
+constexpr std::uint32_t lastDocument = IDR_CAPABILITIES_2_STREAM;
 constexpr FeatureEnum formCycleType =
     feature::formCycleType; // its set of values stands where others name members
 
@@ -246,10 +249,10 @@ TEST(CapabilityDocumentsTest, FamiliesOfferWhatThePrinterTablesSay) {
                 EXPECT_TRUE(pages.empty() || pages.ends_with(lastPage)) << pages;
             }
             // A text is offered where there is room for it.
-            EXPECT_EQ(features.contains("job-phone-number"), family.phoneNumberLimit > 0);
-            EXPECT_EQ(features.contains("job-sheet-message"), family.sheetMessageLimit > 0);
+            EXPECT_EQ(features.contains("job-phone-number"), family.texts.phoneNumberLimit > 0);
+            EXPECT_EQ(features.contains("job-sheet-message"), family.texts.sheetMessageLimit > 0);
             EXPECT_EQ(features.contains("job-message-to-operator"),
-                      family.operatorMessageLimit > 0);
+                      family.texts.operatorMessageLimit > 0);
             const bool isHighlight = family.family == 9 || family.family == 10;
             EXPECT_EQ(features.contains("highlight-colorant"), isHighlight);
             if (resource == family.capabilityResource1) {
@@ -258,6 +261,21 @@ TEST(CapabilityDocumentsTest, FamiliesOfferWhatThePrinterTablesSay) {
         }
     }
     EXPECT_EQ(used.size(), documents().size()); // none is there for nothing
+}
+
+TEST(CapabilityDocumentsTest, FamiliesHaveTheDocumentsThatTheirSourceNames) {
+    const std::vector<std::string> lines =
+        split(readTestFile("../resources/capabilities/families.toml"), '\n');
+    for (const FamilyInfo& family : getFamilyTable()) {
+        const auto head =
+            std::ranges::find(lines, "[family." + std::to_string(family.family) + "]");
+        ASSERT_NE(head, lines.end()) << family.family;
+        const std::vector<std::string> names = split(*(head + 1), '"'); // documents = ["A", "B"]
+        ASSERT_EQ(names.front(), "documents = [");
+        const bool hasOne = names.size() == 3;
+        EXPECT_EQ(family.capabilityResource1, idsByName().at(names[1]));
+        EXPECT_EQ(family.capabilityResource2, idsByName().at(names[hasOne ? 1 : 3]));
+    }
 }
 
 TEST(CapabilityDocumentsTest, TextsThatUsersInventHaveALimit) {

@@ -5,6 +5,7 @@
 
 #include "platform/DialogTemplate.h"
 #include "resources/UseResourceLibrary.h"
+#include "resources/ids.h"
 
 namespace zent::test {
 namespace {
@@ -41,7 +42,8 @@ bool overlap(const DialogTemplate::Place& a, const DialogTemplate::Place& b) {
 /// The two that take turns: a page has a box for the account, or a button.
 bool takeTurns(const Item& a, const Item& b) {
     const auto isTurn = [](const Item& item) {
-        return item.id == 2202 || item.id == 2210 || item.id == 2221;
+        return item.id == IDC_JOB_ACCOUNT || item.id == IDC_JOB_ACCOUNT_LABEL ||
+               item.id == IDC_ACCOUNT_BUTTON;
     };
     return isTurn(a) && isTurn(b);
 }
@@ -110,7 +112,9 @@ TEST_P(DialogTemplatesTest, TextsHaveRoomForLongerLanguages) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(, DialogTemplatesTest, testing::Values(1355, 2218, 2300, 4000));
+INSTANTIATE_TEST_SUITE_P(, DialogTemplatesTest,
+                         testing::Values(IDD_CUSTOM_VALUE, IDD_JOB_NOTES, IDD_ACCOUNT,
+                                         IDD_TICKET_CHECK));
 
 } // namespace
 } // namespace zent::test

@@ -7,7 +7,9 @@
 
 #include "PrintText.h"
 #include "expected/ExpectedTable.h"
+#include "resources/ResourceIds.h"
 #include "resources/UseResourceLibrary.h"
+#include "resources/ids.h"
 
 namespace zent::test {
 namespace {
@@ -20,8 +22,8 @@ std::map<std::int32_t, std::string> readStrings(const std::string& part) {
     std::map<std::int32_t, std::string> strings;
     for (const std::string& line :
          split(readTestFile("../resources/strings-" + part + ".rc"), '\n')) {
-        const auto digit = line.find_first_not_of(' ');
-        if (digit == 0 || digit == std::string::npos || line[digit] == '/') {
+        const auto begin = line.find_first_not_of(' ');
+        if (begin == 0 || begin == std::string::npos || line[begin] == '/') {
             continue; // no row
         }
         const auto open = line.find('"');
@@ -30,7 +32,7 @@ std::map<std::int32_t, std::string> readStrings(const std::string& part) {
             ADD_FAILURE() << "no row of the string table: " << line;
             continue;
         }
-        const std::int32_t id = std::stoi(line.substr(digit));
+        const std::int32_t id = idsByName().at(line.substr(begin, line.find(',') - begin));
         EXPECT_TRUE(strings.empty() || strings.rbegin()->first < id) << line << " out of order";
         strings[id] = line.substr(open + 1, close - open - 1);
     }
@@ -48,7 +50,8 @@ std::map<std::int32_t, std::string> readAllStrings() {
 }
 
 /// Texts that a value is put into, and their one specifier.
-const std::map<std::int32_t, const char*> formats = {{6211, "%u"}, {10604, "%s"}};
+const std::map<std::int32_t, const char*> formats = {{IDS_TEXT_TOO_LONG, "%u"},
+                                                     {IDS_CUSTOM_VALUE, "%s"}};
 
 CXString fromUtf8(const std::string& text) {
     // A path takes UTF-8 on every system.
@@ -57,11 +60,13 @@ CXString fromUtf8(const std::string& text) {
 
 /// Sentences end in a full stop, names don't.
 bool isSentence(std::int32_t id) {
-    const bool isAccountOrJobName = id >= 6202 && id <= 6211;
-    const bool isFailure = (id >= 11601 && id <= 11602) || (id >= 11607 && id <= 11639);
-    const bool isTitle = id == 6203 || id == 6207 || id == 11619;
-    return ((isAccountOrJobName || isFailure) && !isTitle) || id == 11541 || id == 11553 ||
-           id == 11557;
+    const bool isAccountOrJobName = id >= IDS_ACCOUNT_MISSING && id <= IDS_TEXT_TOO_LONG;
+    const bool isFailure = id == IDS_FAILURE || id == IDS_FAILURE_ADVICE ||
+                           (id >= IDS_OUT_OF_MEMORY && id <= IDS_UNKNOWN_FAILURE_ADVICE);
+    const bool isTitle =
+        id == IDS_ACCOUNT_TITLE || id == IDS_JOB_NAME_TITLE || id == IDS_CALL_TITLE;
+    return ((isAccountOrJobName || isFailure) && !isTitle) || id == IDS_REPAIR_NOTICE ||
+           id == IDS_REPAIR_QUESTION || id == IDS_NOTHING_CHANGES;
 }
 
 TEST(StringTableTest, TextsFitForUsers) {
@@ -70,7 +75,8 @@ TEST(StringTableTest, TextsFitForUsers) {
             ASSERT_NE(text.find(formats.at(id)), std::string::npos) << text;
             text.replace(text.find(formats.at(id)), 2, "Name");
         }
-        if (id == 7500 || id == 7501) { // notes behind a name, such as " (library)"
+        if (id == IDS_STOCK_OF_LIBRARY ||
+            id == IDS_STOCK_OF_PRINTER) { // notes behind a name, such as " (library)"
             ASSERT_TRUE(text.starts_with(" (") && text.ends_with(')')) << text;
             text[2] = static_cast<char>(std::toupper(static_cast<unsigned char>(text[2])));
             text = text.substr(2, text.size() - 3);

@@ -3,13 +3,11 @@
 #include "ocore/Ajt/AjtGroups.h"
 #include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/Resources/ResourceLibrary.h"
+#include "resources/ids.h"
 
 namespace zent::ajt {
 
 namespace {
-
-constexpr std::uint32_t untitledJobStringID = 10826;
-constexpr std::uint32_t unknownUserStringID = 6201;
 
 /// A text on one line: a blank for each line end.
 CXString onOneLine(const CXString& text) {
@@ -52,9 +50,8 @@ void writeMessage(const Job& job, Output& output) {
 
 void writeIdentification(const Job& job, Output& output) {
     writeIfSet(job, "%TRVaccount: ", feature::jobAccountID, output);
-    writeOrDefault(job, "%TRVtitle: ", feature::jobName, untitledJobStringID, output);
-    writeOrDefault(job, "%TRVsenderName: ", feature::requestingUserName, unknownUserStringID,
-                   output);
+    writeOrDefault(job, "%TRVtitle: ", feature::jobName, IDS_UNTITLED_JOB, output);
+    writeOrDefault(job, "%TRVsenderName: ", feature::requestingUserName, IDS_UNKNOWN_USER, output);
     writeIfSet(job, "%TRVrecipientName: ", feature::jobRecipientName, output);
     writeMessage(job, output);
     writeIfSet(job, "%TRVjobStartMessage: ", feature::jobMessageToOperator, output);

@@ -19,7 +19,7 @@ namespace zent {
 class FileException : public TarvoException {
 public:
     using TarvoException::TarvoException;
-    ReportTexts getReportTexts() const override { return {11617, 11618}; }
+    ReportTexts getReportTexts() const override;
 };
 
 class ResourceAcquisitionException : public TarvoException {
@@ -27,7 +27,7 @@ public:
     using TarvoException::TarvoException;
     ResultCode getResultCode() const override { return ZENT_ERR_RESOURCE; }
     CXString getErrorId() const override { return u"005:000"; }
-    ReportTexts getReportTexts() const override { return {11610, 11611}; }
+    ReportTexts getReportTexts() const override;
 };
 
 /// Failures of the preference store. The second line of the message is for users: where the store
@@ -37,7 +37,7 @@ public:
     using TarvoException::TarvoException;
     ResultCode getResultCode() const override { return ZENT_ERR_REGISTRY; }
     CXString getErrorId() const override { return u"020:000"; }
-    ReportTexts getReportTexts() const override { return {.failure = 11614}; }
+    ReportTexts getReportTexts() const override;
     /// The message's second line.
     CXString getExplanation() const override;
 };
@@ -73,12 +73,12 @@ ZENT_EXCEPTION_CLASS(PreferenceDataTypeMismatchException,         TarvoException
 class DevModeOverflowException : public TarvoException {
 public:
     using TarvoException::TarvoException;
-    ReportTexts getReportTexts() const override { return {11608, 11609}; }
+    ReportTexts getReportTexts() const override;
 };
 class SpoolDataException : public TarvoException {
 public:
     using TarvoException::TarvoException;
-    ReportTexts getReportTexts() const override { return {11612, 11613}; }
+    ReportTexts getReportTexts() const override;
 };
 
 } // namespace zent

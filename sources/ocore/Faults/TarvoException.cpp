@@ -9,6 +9,7 @@
 #include "ocore/Faults/Trace.h"
 #include "platform/KeepForever.h"
 #include "platform/System.h"
+#include "resources/ids.h"
 
 namespace zent {
 
@@ -62,6 +63,8 @@ void noteRaise(SourcePlace place, std::uint32_t level) {
     setExceptionLocation(CXString(bareName(place.file)), place.line);
     setExceptionLevel(level);
 }
+
+ReportTexts ReportTexts::ofAny() { return {IDS_FAILURE, IDS_FAILURE_ADVICE}; }
 
 TarvoException::TarvoException() : TarvoException(CXString()) {}
 

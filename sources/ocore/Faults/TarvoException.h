@@ -24,8 +24,11 @@ void setExceptionLevel(std::uint32_t level);
 
 /// The resource strings that tell the user of a failure.
 struct ReportTexts {
-    std::uint32_t failure = 11601; // what failed
-    std::uint32_t advice = 11602;  // what to do about it
+    std::uint32_t failure; // what failed
+    std::uint32_t advice;  // what to do about it
+
+    /// Of a failure that nothing else is known of.
+    static ReportTexts ofAny();
 };
 
 /// Base of all failures inside the library. Copies share nothing that can change.
@@ -43,7 +46,7 @@ public:
     virtual ResultCode getResultCode() const = 0;
     /// Class number, colon, detail number, such as "026:000".
     virtual CXString getErrorId() const = 0;
-    virtual ReportTexts getReportTexts() const { return {}; }
+    virtual ReportTexts getReportTexts() const { return ReportTexts::ofAny(); }
     /// What only this failure can tell its user; mostly nothing.
     virtual CXString getExplanation() const { return {}; }
     /// What kind of failure it is among those of its class, for the trace; mostly nothing.

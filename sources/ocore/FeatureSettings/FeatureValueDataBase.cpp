@@ -53,12 +53,12 @@ FeatureValueInfo makeInfo(const FeatureValueRow& row) {
 
 void addMediaNames(ValueStore& store) {
     std::int32_t value = value::firstMediaName;
-    for (const char16_t* const name : getMediaNames()) {
+    for (const MediaName& name : getMediaNames()) {
         store.add({value,
                    {feature::media, feature::mediaKey, feature::mediaDescription},
-                   name,
+                   name.text,
                    std::u16string_view(getMediaNameAbbreviation(value)),
-                   getMediaNameDisplayStringID(value),
+                   name.displayStringID,
                    0,
                    syntax::keyword,
                    AVTE_KEYWORD});

@@ -26,9 +26,12 @@ std::span<const FeatureValueRow> getUpperValueRows();
 
 /// The media names, from value::firstMediaName on; they belong to "media", "media-key" and
 /// "media-description".
-std::span<const char16_t* const> getMediaNames();
-/// The display strings and abbreviations of the media names follow their numbers, with exceptions.
-std::uint32_t getMediaNameDisplayStringID(std::int32_t value);
+struct MediaName {
+    const char16_t* text;
+    std::uint32_t displayStringID;
+};
+std::span<const MediaName> getMediaNames();
+/// The abbreviations of the media names follow their numbers, with exceptions.
 std::u16string getMediaNameAbbreviation(std::int32_t value);
 
 } // namespace zent

@@ -8,6 +8,7 @@
 #include "ocore/Resources/ResourceLibrary.h"
 #include "ocore/Resources/SharedTable.h"
 #include "platform/KeepForever.h"
+#include "resources/ids.h"
 
 namespace zent {
 
@@ -22,21 +23,21 @@ struct StockSize::Row {
 // Two sizes alone are wider than high; a search gives them in that orientation.
 // clang-format off
 constexpr StockSize::Row StockSize::rows[] = {
-    {u"SIZE_UNSPECIFIED", 1, 0, 0, 7279},
-    {u"SIZE_8PT5x11", 2, 21600, 27900, 7265},
-    {u"SIZE_8PT5x14", 3, 21600, 35600, 7266},
-    {u"SIZE_17x11", 4, 43200, 27900, 7267},
-    {u"SIZE_9x11", 5, 22900, 27900, 7268},
-    {u"SIZE_8PT5x13", 6, 21600, 33000, 7270},
-    {u"SIZE_223x297", 7, 22300, 29700, 7271},
-    {u"SIZE_A4", 8, 21000, 29700, 7272},
-    {u"SIZE_A3", 9, 42000, 29700, 7273},
-    {u"SIZE_ISO_B4", 10, 25000, 35300, 7274},
-    {u"SIZE_JIS_B4", 11, 25700, 36400, 7275},
-    {u"SIZE_12x18_IN", 12, 30500, 45700, 7382},
-    {u"SIZE_SRA3_320x450_MM", 13, 32000, 45000, 7383},
-    {u"SIZE_B3_353x500_MM", 14, 35300, 50000, 7384},
-    {u"SIZE_OTHER", 15, -1, -1, 7278},
+    {u"SIZE_UNSPECIFIED", 1, 0, 0, IDS_SIZE_UNSPECIFIED},
+    {u"SIZE_8PT5x11", 2, 21600, 27900, IDS_SIZE_8PT5X11},
+    {u"SIZE_8PT5x14", 3, 21600, 35600, IDS_SIZE_8PT5X14},
+    {u"SIZE_17x11", 4, 43200, 27900, IDS_SIZE_17X11},
+    {u"SIZE_9x11", 5, 22900, 27900, IDS_SIZE_9X11},
+    {u"SIZE_8PT5x13", 6, 21600, 33000, IDS_SIZE_8PT5X13},
+    {u"SIZE_223x297", 7, 22300, 29700, IDS_SIZE_223X297},
+    {u"SIZE_A4", 8, 21000, 29700, IDS_SIZE_A4},
+    {u"SIZE_A3", 9, 42000, 29700, IDS_SIZE_A3},
+    {u"SIZE_ISO_B4", 10, 25000, 35300, IDS_SIZE_ISO_B4},
+    {u"SIZE_JIS_B4", 11, 25700, 36400, IDS_SIZE_JIS_B4},
+    {u"SIZE_12x18_IN", 12, 30500, 45700, IDS_SIZE_12X18_IN},
+    {u"SIZE_SRA3_320x450_MM", 13, 32000, 45000, IDS_SIZE_SRA3_320X450_MM},
+    {u"SIZE_B3_353x500_MM", 14, 35300, 50000, IDS_SIZE_B3_353X500_MM},
+    {u"SIZE_OTHER", 15, -1, -1, IDS_SIZE_OTHER},
 };
 // clang-format on
 

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "resources/ids.h"
+
 namespace zent {
 
 namespace {
@@ -51,6 +53,10 @@ const CodeInfo& getCodeInfo(std::int32_t code) {
 } // namespace
 
 CXString OrdoParseException::getCodeName() const { return getCodeInfo(m_errorCode).name; }
+
+ReportTexts OrdoParseException::getReportTexts() const {
+    return {IDS_TICKET_FAILURE, IDS_TICKET_FAILURE_ADVICE};
+}
 
 ResultCode OrdoParseException::getResultCode() const { return getCodeInfo(m_errorCode).resultCode; }
 

@@ -47,7 +47,7 @@ public:
 
     ResultCode getResultCode() const override;
     CXString getErrorId() const override;
-    ReportTexts getReportTexts() const override { return {11615, 11616}; }
+    ReportTexts getReportTexts() const override;
     CXString getErrorType() const override { return getCodeName(); }
 
 private:

@@ -1,13 +1,9 @@
 #include "ocore/Printer/PrinterDefaults.h"
 
 #include "ocore/User/User.h"
+#include "resources/ids.h"
 
 namespace zent {
-
-namespace {
-constexpr std::uint32_t untitledJob = 10826;
-constexpr std::uint32_t unknownUser = 6201;
-} // namespace
 
 PrinterDefaults::PrinterDefaults(const PrinterModel& model, std::uint32_t form)
     : m_model(model.clone()), m_form(form) {
@@ -22,7 +18,7 @@ void PrinterDefaults::addCommonDefaults() {
     m_settings.setFeatureValue(_FI(feature::finishings), FeatureValue(value::finishingNone));
     m_settings.setFeatureValue(_FI(feature::sheetCollate), FeatureValue(value::collated));
     m_settings.setFeatureValue(_FI(feature::sides), FeatureValue(value::oneSided));
-    m_settings.setString(_FI(feature::jobName), m_resources.getString(untitledJob));
+    m_settings.setString(_FI(feature::jobName), m_resources.getString(IDS_UNTITLED_JOB));
     m_settings.setFeatureValue(_FI(feature::saveDisposition), FeatureValue(value::saveNone));
     m_settings.setFeatureValue(_FI(feature::mediaColor), FeatureValue(value::mediaWhite));
     m_settings.setFeatureValue(_FI(feature::mediaType), FeatureValue(value::mediaStationery));
@@ -32,7 +28,7 @@ void PrinterDefaults::addCommonDefaults() {
 void PrinterDefaults::addUserDefaults() {
     CXString user = User::getLogonName();
     if (user.isEmpty()) {
-        user = m_resources.getString(unknownUser);
+        user = m_resources.getString(IDS_UNKNOWN_USER);
     }
     m_settings.setString(_FI(feature::requestingUserName), user);
     m_settings.setString(_FI(feature::jobRecipientName), user);

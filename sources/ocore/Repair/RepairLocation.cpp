@@ -6,12 +6,11 @@
 #include "ocore/FeatureSettings/FeatureIdentifier.h"
 #include "ocore/FeatureSettings/Settings.h"
 #include "ocore/Resources/ResourceLibrary.h"
+#include "resources/ids.h"
 
 namespace zent {
 
 namespace {
-
-constexpr std::uint32_t wholeTicketText = 11552;
 
 using Step = SettingsContext::Step;
 
@@ -96,7 +95,7 @@ CXString makePathText(const SettingsContext& context) {
 
 CXString makeLocationText(const RepairLocation& location) {
     if (location.feature == TJTF_ANY) {
-        return ResourceLibrary().getString(wholeTicketText);
+        return ResourceLibrary().getString(IDS_WHOLE_JOB);
     }
     CXString text = _FI(location.feature).getDisplayString();
     if (location.hasPages && location.firstPage != location.lastPage) {

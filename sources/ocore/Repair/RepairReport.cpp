@@ -8,24 +8,20 @@
 #include "ocore/FeatureSettings/FeatureIdentifier.h"
 #include "ocore/Repair/ValueText.h"
 #include "ocore/Resources/ResourceLibrary.h"
+#include "resources/ids.h"
 
 namespace zent {
 
 namespace {
 
-namespace text {
-constexpr std::uint32_t removed = 11543;
-constexpr std::uint32_t removedFromSet = 11544;
-constexpr std::uint32_t defaultAdded = 11545;
-} // namespace text
-
 /// The headings of the three groups.
 using Headings = std::array<std::uint32_t, 3>;
 
 const Headings& headingsOf(RepairWording wording) {
-    static constexpr Headings offered{11546, 11547, 11548};
-    static constexpr Headings made{11549, 11550, 11551};
-    static constexpr Headings none{11554, 11555, 11556};
+    static constexpr Headings offered{IDS_OFFERED_ATTRIBUTES, IDS_OFFERED_VALUES,
+                                      IDS_OFFERED_COMPLETIONS};
+    static constexpr Headings made{IDS_MADE_ATTRIBUTES, IDS_MADE_VALUES, IDS_MADE_COMPLETIONS};
+    static constexpr Headings none{IDS_FOUND_ATTRIBUTES, IDS_FOUND_VALUES, IDS_FOUND_INCOMPLETE};
     switch (wording) {
     case RepairWording::offered:
         return offered;
@@ -91,13 +87,13 @@ void setRepair(RepairEntry& entry, const SettingsRepair& repair, const ResourceL
     }
     switch (repair.action) {
     case RepairAction::remove:
-        entry.repairText = library.getString(text::removed);
+        entry.repairText = library.getString(IDS_REPAIR_REMOVED);
         break;
     case RepairAction::removeFromSet:
-        entry.repairText = library.getString(text::removedFromSet);
+        entry.repairText = library.getString(IDS_REPAIR_REMOVED_FROM_SET);
         break;
     case RepairAction::addDefault:
-        entry.repairText = library.getString(text::defaultAdded);
+        entry.repairText = library.getString(IDS_REPAIR_DEFAULT_ADDED);
         break;
     case RepairAction::replace:
         entry.repairText = entry.newValue.display;

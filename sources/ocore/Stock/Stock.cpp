@@ -12,6 +12,7 @@
 #include "ocore/Repair/SettingsProblemFixer.h"
 #include "ocore/Resources/ResourceLibrary.h"
 #include "platform/KeepForever.h"
+#include "resources/ids.h"
 
 namespace zent {
 
@@ -29,9 +30,6 @@ constexpr FeatureEnum descriptionFeatures[] = {
     feature::mediaOrderCount, feature::mediaFrontCoating, feature::mediaBackCoating,
     feature::mediaTooth,      feature::mediaGrain,
 };
-
-constexpr std::uint32_t userSuffix = 7500;
-constexpr std::uint32_t printerSuffix = 7501;
 
 std::atomic<std::uint32_t> lastLogicalID{0};
 
@@ -150,9 +148,9 @@ CXString Stock::getDisplayString() const {
     case StockType::transient:
         return m_key.getDisplayString();
     case StockType::user:
-        return m_key.getDisplayString() + ResourceLibrary().getString(userSuffix);
+        return m_key.getDisplayString() + ResourceLibrary().getString(IDS_STOCK_OF_LIBRARY);
     case StockType::printer:
-        return m_key.getDisplayString() + ResourceLibrary().getString(printerSuffix);
+        return m_key.getDisplayString() + ResourceLibrary().getString(IDS_STOCK_OF_PRINTER);
     }
     Raise<UnknownCaseException>()("Stock::getDisplayString(): Unexpected stock type enumeration "
                                   "value of (%u)!\r\n",

@@ -1,15 +1,19 @@
 #include "plugin_ui/Features/AccountDialogUIFeature.h"
 
+#include "resources/ids.h"
+
 namespace zent {
 
 AccountDialogUIFeature::AccountDialogUIFeature(UIConfiguration& configuration,
                                                FeatureEnum parentFeature)
     : UIFeature(configuration, parentFeature) {
-    addStaticControl(2301);
-    makeChild<AccountUIFeature>(configuration, 0, 2302, 2303, feature::jobAccountID);
-    m_user =
-        &makeChild<AccountUIFeature>(configuration, 0, 2304, 2305, feature::jobAccountingUserID);
-    m_data = &makeChild<AccountUIFeature>(configuration, 0, 2306, 2307, feature::jobAccountingData);
+    addStaticControl(IDC_ACCOUNT_GROUP);
+    makeChild<AccountUIFeature>(configuration, 0, IDC_ACCOUNT_ID_LABEL, IDC_ACCOUNT_ID,
+                                feature::jobAccountID);
+    m_user = &makeChild<AccountUIFeature>(configuration, 0, IDC_ACCOUNT_USER_LABEL,
+                                          IDC_ACCOUNT_USER, feature::jobAccountingUserID);
+    m_data = &makeChild<AccountUIFeature>(configuration, 0, IDC_ACCOUNT_DATA_LABEL,
+                                          IDC_ACCOUNT_DATA, feature::jobAccountingData);
     setParentFeature(parentFeature);
 }
 

@@ -2,6 +2,7 @@
 
 #include "plugin_ui/Features/JobTextRules.h"
 #include "plugin_ui/Reports/UserMessage.h"
+#include "resources/ids.h"
 
 namespace zent {
 
@@ -27,10 +28,10 @@ bool AccountUIFeature::validate(platform::WindowHandle window) {
     rule.restriction = getCapabilities().getCharacterSetRestriction(getFeature());
     rule.isRequired = isRequired();
     const std::uint32_t fault = findFault(getTextBox().getText(), rule);
-    if (fault != jobText::nothing) {
-        UserMessage(window, jobText::accountTitle, fault, 0).show();
+    if (fault != noFault) {
+        UserMessage(window, IDS_ACCOUNT_TITLE, fault, 0).show();
     }
-    return fault == jobText::nothing;
+    return fault == noFault;
 }
 
 } // namespace zent

@@ -1,14 +1,13 @@
 #include "plugin_ui/Features/CustomStringDialogUIFeature.h"
 
 #include "plugin_ui/Features/TextLength.h"
+#include "resources/ids.h"
 
 namespace zent {
 
 namespace {
 
 constexpr std::uint16_t okButton = 1;
-constexpr std::uint16_t label = 1356;
-constexpr std::uint16_t edit = 1354;
 constexpr std::uint32_t capacity = 255;
 
 } // namespace
@@ -16,8 +15,9 @@ constexpr std::uint32_t capacity = 255;
 CustomStringDialogUIFeature::CustomStringDialogUIFeature(UIConfiguration& configuration,
                                                          FeatureEnum feature, const CXString& text)
     : UIFeature(configuration), m_feature(feature), m_text(text),
-      m_textBox(
-          makeChild<TextBoxUIControl>(edit, std::initializer_list<std::uint16_t>{label}, capacity)),
+      m_textBox(makeChild<TextBoxUIControl>(
+          IDC_CUSTOM_VALUE, std::initializer_list<std::uint16_t>{IDC_CUSTOM_VALUE_LABEL},
+          capacity)),
       m_okButton(makeChild<PushButtonUIControl>(okButton)) {
     m_textBox.attach(*this);
 }

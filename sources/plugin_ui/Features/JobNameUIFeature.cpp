@@ -3,6 +3,7 @@
 #include "ocore/Resources/ResourceLibrary.h"
 #include "plugin_ui/Features/JobTextRules.h"
 #include "plugin_ui/Reports/UserMessage.h"
+#include "resources/ids.h"
 
 namespace zent {
 
@@ -18,7 +19,7 @@ void JobNameUIFeature::updateFeatureWithNewSettings() {
     getTextBox().enable();
     CXString name;
     if (!getSettings()->getString(getFeature(), &name)) {
-        name = ResourceLibrary().getString(jobText::nameInitial);
+        name = ResourceLibrary().getString(IDS_JOB_NAME_INITIAL);
         getSettings()->setString(getFeature(), name);
     }
     getTextBox().setText(name);
@@ -34,10 +35,10 @@ bool JobNameUIFeature::validate(platform::WindowHandle window) {
         capabilities.getCharacterSetRestriction(getFeature()),
         !capabilities.isPrinterDefaultAvailable(getFeature(), hasParentFeature())};
     const std::uint32_t fault = findFault(getTextBox().getText(), rule);
-    if (fault != jobText::nothing) {
-        UserMessage(window, jobText::nameTitle, fault, 0).show();
+    if (fault != noFault) {
+        UserMessage(window, IDS_JOB_NAME_TITLE, fault, 0).show();
     }
-    return fault == jobText::nothing;
+    return fault == noFault;
 }
 
 } // namespace zent

@@ -2,24 +2,16 @@
 
 #include "plugin_ui/Controls/StaticUIControl.h"
 #include "plugin_ui/Features/JobNotesUIFeature.h"
+#include "resources/ids.h"
 
 namespace zent {
 
-namespace {
-
-constexpr std::uint32_t templateId = 2218;
-constexpr std::uint16_t okButton = 2219;
-constexpr std::uint16_t cancelButton = 2220;
-constexpr std::uint16_t frame = 2200;
-
-} // namespace
-
 JobNotesUIDialog::JobNotesUIDialog(UIConfiguration& configuration, bool bindStockInformation,
                                    FeatureEnum parentFeature)
-    : UIDialog(configuration, templateId, parentFeature, bindStockInformation) {
-    setButtonIds(okButton, cancelButton);
+    : UIDialog(configuration, IDD_JOB_NOTES, parentFeature, bindStockInformation) {
+    setButtonIds(IDC_JOB_NOTES_OK, IDC_JOB_NOTES_CANCEL);
     makeChild<JobNotesUIFeature>(configuration, parentFeature);
-    makeChild<StaticUIControl>(frame);
+    makeChild<StaticUIControl>(IDC_JOB_NOTES_INTRODUCTION);
 }
 
 } // namespace zent

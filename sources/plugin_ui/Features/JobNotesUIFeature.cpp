@@ -3,38 +3,29 @@
 #include "plugin_ui/Features/AccountUIDialog.h"
 #include "plugin_ui/Features/JobNameUIFeature.h"
 #include "plugin_ui/Features/PersonNameUIFeature.h"
+#include "resources/ids.h"
 
 namespace zent {
 
-namespace {
-
-constexpr std::uint32_t accountTemplate = 2300;
-
-// Headings above the boxes.
-constexpr std::uint16_t jobHeading = 2215;
-constexpr std::uint16_t peopleHeading = 2216;
-constexpr std::uint16_t messagesHeading = 2217;
-
-} // namespace
-
 JobNotesUIFeature::JobNotesUIFeature(UIConfiguration& configuration, FeatureEnum parentFeature)
     : UIFeature(configuration, parentFeature) {
-    makeChild<JobNameUIFeature>(configuration, jobHeading, 2208, 2201);
+    makeChild<JobNameUIFeature>(configuration, IDC_JOB_GROUP, IDC_JOB_NAME_LABEL, IDC_JOB_NAME);
     m_accountButton = &makeChild<DialogLaunchButtonUIFeature>(
-        configuration,
-        std::make_unique<AccountUIDialog>(configuration, accountTemplate, parentFeature), 2221);
+        configuration, std::make_unique<AccountUIDialog>(configuration, IDD_ACCOUNT, parentFeature),
+        IDC_ACCOUNT_BUTTON);
     m_accountEntry =
-        &makeChild<AccountUIFeature>(configuration, jobHeading, 2210, 2202, feature::jobAccountID);
-    makeChild<PersonNameUIFeature>(configuration, peopleHeading, 2209, 2203,
+        &makeChild<AccountUIFeature>(configuration, IDC_JOB_GROUP, IDC_JOB_ACCOUNT_LABEL,
+                                     IDC_JOB_ACCOUNT, feature::jobAccountID);
+    makeChild<PersonNameUIFeature>(configuration, IDC_PEOPLE_GROUP, IDC_SENDER_LABEL, IDC_SENDER,
                                    feature::requestingUserName);
-    makeChild<PersonNameUIFeature>(configuration, peopleHeading, 2212, 2204,
-                                   feature::jobRecipientName);
-    makeChild<TextEntryUIFeature>(configuration, messagesHeading, 2213, 2206,
-                                  feature::jobSheetMessage);
-    makeChild<TextEntryUIFeature>(configuration, messagesHeading, 2214, 2207,
-                                  feature::jobMessageToOperator);
-    makeChild<TextEntryUIFeature>(configuration, peopleHeading, 2211, 2205,
-                                  feature::jobPhoneNumber);
+    makeChild<PersonNameUIFeature>(configuration, IDC_PEOPLE_GROUP, IDC_RECIPIENT_LABEL,
+                                   IDC_RECIPIENT, feature::jobRecipientName);
+    makeChild<TextEntryUIFeature>(configuration, IDC_MESSAGES_GROUP, IDC_BANNER_MESSAGE_LABEL,
+                                  IDC_BANNER_MESSAGE, feature::jobSheetMessage);
+    makeChild<TextEntryUIFeature>(configuration, IDC_MESSAGES_GROUP, IDC_OPERATOR_MESSAGE_LABEL,
+                                  IDC_OPERATOR_MESSAGE, feature::jobMessageToOperator);
+    makeChild<TextEntryUIFeature>(configuration, IDC_PEOPLE_GROUP, IDC_PHONE_NUMBER_LABEL,
+                                  IDC_PHONE_NUMBER, feature::jobPhoneNumber);
     setParentFeature(TJTF_ANY);
 }
 

@@ -1,5 +1,7 @@
 #include "plugin_ui/Features/JobTextRules.h"
 
+#include "resources/ids.h"
+
 #include <algorithm>
 #include <string_view>
 
@@ -27,28 +29,28 @@ bool isCapitalOrDigit(char16_t unit) {
 
 std::uint32_t findFault(const CXString& text, const AccountRule& rule) {
     if (!text.isEmpty() && text.length() < rule.minimumLength) {
-        return jobText::accountTooShort;
+        return IDS_ACCOUNT_TOO_SHORT;
     }
     if (rule.restriction == AccountRule::noMarks && std::ranges::any_of(text.view(), isForbidden)) {
-        return jobText::accountForbidden;
+        return IDS_ACCOUNT_FORBIDDEN;
     }
     if (rule.restriction == AccountRule::capitalsAndDigits &&
         !std::ranges::all_of(text.view(), isCapitalOrDigit)) {
-        return jobText::accountNotCapital;
+        return IDS_ACCOUNT_NOT_CAPITAL;
     }
-    return rule.isRequired && text.isEmpty() ? jobText::accountMissing : jobText::nothing;
+    return rule.isRequired && text.isEmpty() ? IDS_ACCOUNT_MISSING : noFault;
 }
 
 std::uint32_t findFault(const CXString& text, const JobNameRule& rule) {
     if (text.isEmpty()) {
-        return rule.isRequired ? jobText::nameMissing : jobText::nothing;
+        return rule.isRequired ? IDS_JOB_NAME_MISSING : noFault;
     }
     if (text.view().size() > rule.upperLimit) {
-        return jobText::nameTooLong;
+        return IDS_JOB_NAME_TOO_LONG;
     }
     const bool isForbidden =
         rule.restriction == JobNameRule::noExclamationMark && text.find(u'!') >= 0;
-    return isForbidden ? jobText::nameForbidden : jobText::nothing;
+    return isForbidden ? IDS_JOB_NAME_FORBIDDEN : noFault;
 }
 
 } // namespace zent

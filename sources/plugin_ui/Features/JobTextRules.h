@@ -6,20 +6,8 @@
 
 namespace zent {
 
-/// Texts of message boxes: what is wrong with a text, and the titles.
-namespace jobText {
-constexpr std::uint32_t nothing = 0;
-constexpr std::uint32_t accountMissing = 6202;
-constexpr std::uint32_t accountTitle = 6203;
-constexpr std::uint32_t accountTooShort = 6204;
-constexpr std::uint32_t accountNotCapital = 6205;
-constexpr std::uint32_t accountForbidden = 6206;
-constexpr std::uint32_t nameTitle = 6207;
-constexpr std::uint32_t nameTooLong = 6208;
-constexpr std::uint32_t nameForbidden = 6209;
-constexpr std::uint32_t nameMissing = 6210;
-constexpr std::uint32_t nameInitial = 6212;
-} // namespace jobText
+/// What findFault() gives for a text with which nothing is wrong.
+constexpr std::uint32_t noFault = 0;
 
 /// What a printer takes in an account.
 struct AccountRule {
@@ -41,7 +29,7 @@ struct JobNameRule {
     bool isRequired = false;
 };
 
-/// What is wrong with a text, as one of jobText.
+/// What is wrong with a text, as the id of the text that tells it.
 std::uint32_t findFault(const CXString& text, const AccountRule& rule);
 std::uint32_t findFault(const CXString& text, const JobNameRule& rule);
 

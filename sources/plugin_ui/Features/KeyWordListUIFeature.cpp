@@ -5,13 +5,11 @@
 #include "ocore/Resources/ResourceLibrary.h"
 #include "platform/KeepForever.h"
 #include "plugin_ui/Features/CustomStringUIDialog.h"
+#include "resources/ids.h"
 
 namespace zent {
 
 namespace {
-
-constexpr std::uint32_t customItemText = 10603;
-constexpr std::uint32_t customValueText = 10604;
 
 /// The value that stands for the custom item of all features in the process. Its text is that of
 /// the feature which needs it first.
@@ -20,7 +18,7 @@ const FeatureValue& customItem(const _FI& feature, std::uint32_t labelId) {
         const ResourceLibrary library;
         const CXString label = labelId != 0 ? library.getString(labelId) : CXString();
         return FeatureValue::fromText(
-            feature, CXString::FormatResource(library.getModule(), customItemText, label));
+            feature, CXString::FormatResource(library.getModule(), IDS_CUSTOM_ITEM, label));
     }());
     return value;
 }
@@ -82,7 +80,7 @@ void KeyWordListUIFeature::addCustomValue(const FeatureValue& value) {
     CXString text = value.getText();
     if (m_decorateValues && value != getCustomItem()) {
         const ResourceLibrary library;
-        text = CXString::FormatResource(library.getModule(), customValueText, text);
+        text = CXString::FormatResource(library.getModule(), IDS_CUSTOM_VALUE, text);
     }
     const std::int32_t index = m_comboBox.findValue(codeOf(value));
     if (index >= 0) {

@@ -6,18 +6,11 @@
 #include "ocore/Faults/Trace.h"
 #include "ocore/Resources/ResourceLibrary.h"
 #include "plugin_ui/Reports/UserMessage.h"
+#include "resources/ids.h"
 
 namespace zent {
 
 namespace {
-
-/// Resource strings of the boxes.
-namespace text {
-constexpr std::uint32_t title = 11606;
-constexpr std::uint32_t outOfMemory = 11607;
-constexpr std::uint32_t stopping = 11620;
-constexpr std::uint32_t unknownFailureAdvice = 11621;
-} // namespace text
 
 /// How the box gets its title: by number, or as a text if there is one.
 struct Title {
@@ -48,7 +41,7 @@ CXString loadTitle(platform::WindowHandle owner, const Title& title) {
     } else if (owner != nullptr) {
         found = platform::getWindowCaption(owner);
     }
-    return found.isEmpty() ? ResourceLibrary().getString(text::title) : found;
+    return found.isEmpty() ? ResourceLibrary().getString(IDS_ERROR_TITLE) : found;
 }
 
 void compose(UserMessage& message, const Context& context, const CXString& title, ReportTexts texts,
@@ -67,7 +60,7 @@ void compose(UserMessage& message, const Context& context, const CXString& title
         addParagraph(explanation);
     }
     if (isStoppingOffered) {
-        addParagraph(library.getString(text::stopping));
+        addParagraph(library.getString(IDS_STOP_OFFER));
         message.setFlags(messageStyle::okCancel);
     }
     if (!errorNumber.isEmpty()) {
@@ -114,16 +107,16 @@ std::int32_t showReport(const std::exception& exception, const Title& title,
     std::int32_t answer = 0;
     succeeds([&] {
         if (isA<std::bad_alloc>(exception)) {
-            UserMessage(context.owner, text::title, text::outOfMemory, 0).show();
+            UserMessage(context.owner, IDS_ERROR_TITLE, IDS_OUT_OF_MEMORY, 0).show();
             return;
         }
         const CXString details = getDetailsReport(exception);
         traceReport(context, details);
         UserMessage message(context.owner);
         const auto* const own = dynamic_cast<const TarvoException*>(&exception);
-        compose(message, context, titleText, own != nullptr ? own->getReportTexts() : ReportTexts(),
-                false, own != nullptr ? own->getExplanation() : CXString(),
-                getErrorNumberText(exception));
+        compose(message, context, titleText,
+                own != nullptr ? own->getReportTexts() : ReportTexts::ofAny(), false,
+                own != nullptr ? own->getExplanation() : CXString(), getErrorNumberText(exception));
         answer = message.show();
     });
     return answer;
@@ -146,7 +139,7 @@ bool reportUnknown(const Title& title, const Context& context) noexcept {
         traceReport(context, CXString());
         UserMessage message(context.owner);
         compose(message, context, loadTitle(context.owner, title),
-                {.advice = text::unknownFailureAdvice}, true, CXString(), CXString());
+                {IDS_FAILURE, IDS_UNKNOWN_FAILURE_ADVICE}, true, CXString(), CXString());
         isStopping = message.show() == messageAnswer::cancel;
     });
     return isStopping;

@@ -1,12 +1,9 @@
 #include "plugin_ui/Reports/JobTicketUserMessage.h"
 
 #include "ocore/Resources/ResourceLibrary.h"
+#include "resources/ids.h"
 
 namespace zent {
-
-namespace {
-constexpr std::uint32_t ticketFailure = 11615;
-} // namespace
 
 JobTicketUserMessage::JobTicketUserMessage(platform::WindowHandle owner, std::uint32_t titleId,
                                            std::uint32_t bodyId, const CXString& subject,
@@ -18,7 +15,7 @@ JobTicketUserMessage::JobTicketUserMessage(platform::WindowHandle owner, std::ui
 JobTicketUserMessage::JobTicketUserMessage(platform::WindowHandle owner, std::uint32_t titleId,
                                            const CXString& fileName,
                                            const std::exception& exception)
-    : JobTicketUserMessage(owner, titleId, ticketFailure, fileName) {
+    : JobTicketUserMessage(owner, titleId, IDS_TICKET_FAILURE, fileName) {
     setException(&exception);
 }
 

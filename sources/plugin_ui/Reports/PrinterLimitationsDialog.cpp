@@ -1,18 +1,15 @@
 #include "plugin_ui/Reports/PrinterLimitationsDialog.h"
 
 #include "ocore/Resources/ResourceLibrary.h"
+#include "resources/ids.h"
 
 namespace zent {
 
 namespace {
 
-constexpr std::uint32_t templateId = 4000;
-
 namespace item {
 constexpr std::uint16_t agree = 1;
 constexpr std::uint16_t refuse = 2; // stands alone, for agreeing, where there is no choice
-constexpr std::uint16_t report = 4001;
-constexpr std::uint16_t label = 4002;
 } // namespace item
 
 } // namespace
@@ -24,7 +21,7 @@ PrinterLimitationsDialog::PrinterLimitationsDialog(const CXString& title, const 
 std::intptr_t PrinterLimitationsDialog::run(platform::WindowSystem& system,
                                             platform::WindowHandle owner) {
     const ResourceLibrary library;
-    const ResourceData dialog = library.loadDialog(templateId);
+    const ResourceData dialog = library.loadDialog(IDD_TICKET_CHECK);
     return system.runModal(dialog.getBytes().bytes(), library.getModule(), owner, *this);
 }
 
@@ -49,8 +46,8 @@ bool PrinterLimitationsDialog::processEvent(platform::Dialog& dialog, std::uint3
 
 void PrinterLimitationsDialog::fill(platform::Dialog& dialog) const {
     dialog.setCaption(m_title);
-    dialog.item(item::label).setText(m_label);
-    dialog.item(item::report).setText(m_report);
+    dialog.item(IDC_TICKET_CHECK_LABEL).setText(m_label);
+    dialog.item(IDC_TICKET_CHECK_REPORT).setText(m_report);
     if (!m_offersChoice) {
         // The button on the right stays, so that the row looks as it does in other boxes.
         platform::DialogItem& agreeing = dialog.item(item::agree);

@@ -6,19 +6,9 @@
 #include "plugin_ui/Reports/CurrentWindowSystem.h"
 #include "plugin_ui/Reports/PrinterLimitationsDialog.h"
 #include "plugin_ui/Reports/UserMessage.h"
+#include "resources/ids.h"
 
 namespace zent {
-
-namespace {
-
-namespace text {
-constexpr std::uint32_t stockTitle = 7350;
-constexpr std::uint32_t notice = 11541;
-constexpr std::uint32_t question = 11553;
-constexpr std::uint32_t nothingChanges = 11557;
-} // namespace text
-
-} // namespace
 
 SettingsProblemReporter::SettingsProblemReporter(platform::WindowHandle owner,
                                                  const CXString& title, bool offersChoice,
@@ -29,7 +19,7 @@ SettingsProblemReporter::SettingsProblemReporter(platform::WindowHandle owner,
 SettingsProblemReporter SettingsProblemReporter::forStock(platform::WindowHandle owner,
                                                           bool mayDecline) {
     // The one mode in which it is for the caller to say whether there is a choice.
-    return {owner, ResourceLibrary().getString(text::stockTitle), mayDecline,
+    return {owner, ResourceLibrary().getString(IDS_STOCK_PROBLEM_TITLE), mayDecline,
             reportMode::silentKeep, problemPolicy::repair};
 }
 
@@ -46,8 +36,8 @@ RepairWording SettingsProblemReporter::getWording() const {
 
 CXString SettingsProblemReporter::getLabel() const {
     const std::uint32_t question =
-        m_mode == reportMode::reportKeep ? text::nothingChanges : text::question;
-    return ResourceLibrary().getString(isChoiceOffered() ? question : text::notice);
+        m_mode == reportMode::reportKeep ? IDS_NOTHING_CHANGES : IDS_REPAIR_QUESTION;
+    return ResourceLibrary().getString(isChoiceOffered() ? question : IDS_REPAIR_NOTICE);
 }
 
 std::uint32_t SettingsProblemReporter::report(const SettingsProblemList& problems,

@@ -10,6 +10,7 @@
 #include "plugin_ui/Reports/JobTicketUserMessage.h"
 #include "plugin_ui/Reports/SettingsProblemReporter.h"
 #include "resources/UseResourceLibrary.h"
+#include "resources/ids.h"
 #include "support/ListCapabilities.h"
 
 namespace zent::test {
@@ -145,7 +146,7 @@ TEST_F(RepairReportTest, WithoutWindowsABoxAsks) {
         const ShownBox& box = boxes.shown()[0];
         EXPECT_EQ(box.title, u"title");
         EXPECT_EQ(box.flags & messageStyle::okCancel, messageStyle::okCancel);
-        EXPECT_TRUE(box.body.view().starts_with(resourceText(11553).view()));
+        EXPECT_TRUE(box.body.view().starts_with(resourceText(IDS_REPAIR_QUESTION).view()));
         EXPECT_GT(box.body.find(u"both -> One-sided"), 0);
     }
 }
@@ -157,17 +158,18 @@ TEST_F(RepairReportTest, ANoticeHasOneButton) {
         problemPolicy::repair);
     ASSERT_EQ(boxes.shown().size(), 1U);
     EXPECT_EQ(boxes.shown()[0].flags & messageStyle::okCancel, 0U);
-    EXPECT_TRUE(boxes.shown()[0].body.view().starts_with(resourceText(11541).view()));
+    EXPECT_TRUE(boxes.shown()[0].body.view().starts_with(resourceText(IDS_REPAIR_NOTICE).view()));
 }
 
 TEST_F(RepairReportTest, AMessageOnATicketNamesIt) {
     setExceptionLocation(u"a.cpp", 5);
     const AttributeTypeMismatchException exception;
     const BoxCapture boxes;
-    JobTicketUserMessage(nullptr, 11606, u"a.xml", exception).clone()->show();
+    JobTicketUserMessage(nullptr, IDS_ERROR_TITLE, u"a.xml", exception).clone()->show();
     ASSERT_EQ(boxes.shown().size(), 1U);
-    EXPECT_EQ(boxes.shown()[0].title, resourceText(11606));
-    EXPECT_EQ(boxes.shown()[0].body, resourceText(11615) + u"\r\n\r\na.xml\r\n\r\n009:000:0005");
+    EXPECT_EQ(boxes.shown()[0].title, resourceText(IDS_ERROR_TITLE));
+    EXPECT_EQ(boxes.shown()[0].body,
+              resourceText(IDS_TICKET_FAILURE) + u"\r\n\r\na.xml\r\n\r\n009:000:0005");
 }
 
 } // namespace

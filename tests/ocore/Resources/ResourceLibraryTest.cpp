@@ -6,12 +6,12 @@
 
 #include "PrintText.h"
 #include "resources/UseResourceLibrary.h"
+#include "resources/ids.h"
 #include "support/Raised.h"
 
 namespace zent::test {
 namespace {
 
-constexpr std::uint32_t boxTitle = 11619;
 constexpr std::uint32_t versionType = 16;
 const char16_t* const missing = u"no such library.dll";
 
@@ -28,7 +28,7 @@ TEST_F(ResourceLibraryTest, IsLoadedOnceAndFreedWithItsLastObject) {
     auto second = std::make_unique<ResourceLibrary>(); // of no use if it were loaded anew
     EXPECT_EQ(&second->getModule(), module);
     first.reset();
-    EXPECT_EQ(second->getString(boxTitle), u"Tarvo job ticket");
+    EXPECT_EQ(second->getString(IDS_CALL_TITLE), u"Tarvo job ticket");
     second.reset();
     EXPECT_THROW(ResourceLibrary(), ResourceLibraryConstructionException);
 }
@@ -51,7 +51,7 @@ TEST_F(ResourceLibraryTest, SaysWhichLibraryIsMissingOrNone) {
 
 TEST_F(ResourceLibraryTest, CutsStringsToTheBuffer) {
     char16_t buffer[8] = u"xxxxxxx";
-    EXPECT_EQ(ResourceLibrary().getString(boxTitle, buffer, 6), 5);
+    EXPECT_EQ(ResourceLibrary().getString(IDS_CALL_TITLE, buffer, 6), 5);
     EXPECT_EQ(std::u16string_view(buffer), u"Tarvo");
     EXPECT_EQ(buffer[6], u'x');
 }
@@ -62,7 +62,7 @@ TEST_F(ResourceLibraryTest, SaysWhatItDoesNotHold) {
         return raised<ResourceAcquisitionException>(action);
     };
     const std::string notFound = "ResourceLibrary::loadResData() failed in ::FindResource()\r\n";
-    EXPECT_EQ(messageOf([&] { library.getString(boxTitle + 65536); }),
+    EXPECT_EQ(messageOf([&] { library.getString(IDS_CALL_TITLE + 65536); }),
               "ResourceLibrary::getString(77155) failed - LoadString returned ZERO.\r\n");
     EXPECT_EQ(messageOf([&] { library.getIconHandle(65000); }),
               "ResourceLibrary::getIconHandle() failed in ::LoadIcon(), returned NULL\r\n");

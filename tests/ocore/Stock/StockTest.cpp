@@ -8,6 +8,7 @@
 #include "plugin_ui/Reports/CurrentWindowSystem.h"
 #include "plugin_ui/Reports/SettingsProblemReporter.h"
 #include "resources/UseResourceLibrary.h"
+#include "resources/ids.h"
 #include "support/ListText.h"
 #include "support/Raised.h"
 
@@ -177,7 +178,7 @@ TEST(StockTest, IsRepairedUnlessTheUserDeclines) {
         EXPECT_EQ(settingsOf(*stock), row.settings);
         ASSERT_EQ(boxes.shown().size(), row.boxes);
         for (const ShownBox& box : boxes.shown()) {
-            EXPECT_EQ(box.title, resourceText(7350));
+            EXPECT_EQ(box.title, resourceText(IDS_STOCK_PROBLEM_TITLE));
             EXPECT_EQ((box.flags & messageStyle::okCancel) != 0, row.mayDecline);
         }
     }

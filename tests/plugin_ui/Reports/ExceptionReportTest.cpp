@@ -10,6 +10,7 @@
 #include "ocore/OrdoParse/OrdoParseException.h"
 #include "plugin_ui/Reports/BoxCapture.h"
 #include "resources/UseResourceLibrary.h"
+#include "resources/ids.h"
 #include "support/Rows.h"
 
 namespace zent::test {
@@ -31,7 +32,7 @@ public:
 
 using Boxes = std::vector<ShownBox>;
 
-constexpr std::uint32_t boxTitle = 11619;
+constexpr std::uint32_t boxTitle = IDS_CALL_TITLE;
 const char16_t* const call = u"ZENT::fnSomething()";
 int anything = 0;
 const platform::WindowHandle someWindow = &anything;
@@ -69,30 +70,37 @@ protected:
 
 TEST_F(ExceptionReportTest, ChoosesTextsByClass) {
     const Rows<void (*)(std::uint32_t), std::uint32_t, std::uint32_t, const char16_t*> rows{
-        {reportOf<Foreign<DevModeOverflowException>>, 11608, 11609, u"099:000:0000"},
-        {reportOf<ResourceAcquisitionException>, 11610, 11611, u"005:000:0000"},
-        {reportOf<Foreign<SpoolDataException>>, 11612, 11613, u"099:000:0000"},
-        {reportOf<RegistryRequestException>, 11614, 11602, u"020:000:0000"},
-        {reportOf<UnreadableDocument>, 11615, 11616, u"001:002:0000"},
-        {reportOf<CreateFileForReadingException>, 11617, 11618, u"022:001:0000"},
-        {reportOf<InvalidZentSessionException>, 11601, 11602, u"025:000:0000"},
-        {reportOf<std::exception>, 11601, 11602, u"000:000:000"},
+        {reportOf<Foreign<DevModeOverflowException>>, IDS_TICKET_TOO_LARGE,
+         IDS_TICKET_TOO_LARGE_ADVICE, u"099:000:0000"},
+        {reportOf<ResourceAcquisitionException>, IDS_RESOURCE_MISSING, IDS_RESOURCE_MISSING_ADVICE,
+         u"005:000:0000"},
+        {reportOf<Foreign<SpoolDataException>>, IDS_SPOOL_FAILURE, IDS_SPOOL_FAILURE_ADVICE,
+         u"099:000:0000"},
+        {reportOf<RegistryRequestException>, IDS_PREFERENCES_FAILURE, IDS_FAILURE_ADVICE,
+         u"020:000:0000"},
+        {reportOf<UnreadableDocument>, IDS_TICKET_FAILURE, IDS_TICKET_FAILURE_ADVICE,
+         u"001:002:0000"},
+        {reportOf<CreateFileForReadingException>, IDS_FILE_FAILURE, IDS_FILE_FAILURE_ADVICE,
+         u"022:001:0000"},
+        {reportOf<InvalidZentSessionException>, IDS_FAILURE, IDS_FAILURE_ADVICE, u"025:000:0000"},
+        {reportOf<std::exception>, IDS_FAILURE, IDS_FAILURE_ADVICE, u"000:000:000"},
     };
     for (const auto& [reportIt, first, second, number] : rows) {
         const BoxCapture boxes;
         reportIt(0);
-        reportIt(11603);
+        reportIt(IDS_INFORMATION_TITLE);
         const CXString title = resourceText(boxTitle);
         EXPECT_EQ(boxes.shown(),
                   (Boxes{{nullptr, body({first, second}, number), title, 16U | 8192U},
-                         {nullptr, body({first, second, 11603}, number), title, 16U | 8192U}}))
+                         {nullptr, body({first, second, IDS_INFORMATION_TITLE}, number), title,
+                          16U | 8192U}}))
             << CXString(number).toNarrow();
     }
     const BoxCapture boxes;
     report(std::bad_alloc());
     ASSERT_EQ(boxes.shown().size(), 1U);
-    EXPECT_EQ(boxes.shown()[0].title, resourceText(11606));
-    EXPECT_EQ(boxes.shown()[0].body, resourceText(11607));
+    EXPECT_EQ(boxes.shown()[0].title, resourceText(IDS_ERROR_TITLE));
+    EXPECT_EQ(boxes.shown()[0].body, resourceText(IDS_OUT_OF_MEMORY));
 }
 
 TEST_F(ExceptionReportTest, TitleAndOwnerAreTheCallers) {
@@ -100,16 +108,18 @@ TEST_F(ExceptionReportTest, TitleAndOwnerAreTheCallers) {
     const BoxCapture boxes;
     reportException(exception, u"Ready", call, 0, u"");
     reportException(exception, 0, call, 0, u"");
-    reportException(someWindow, exception, 11604, call, 0, u"");
+    reportException(someWindow, exception, IDS_WARNING_TITLE, call, 0, u"");
     reportException(nullptr, exception, u"", call, 0, u"");
     EXPECT_FALSE(reportUnknownException(someWindow, boxTitle, call, 0, u""));
-    const CXString text = body({11601, 11602}, u"025:000:0000");
-    EXPECT_EQ(boxes.shown(), (Boxes{{nullptr, text, u"Ready", 16U | 8192U},
-                                    {nullptr, text, resourceText(11606), 16U | 8192U},
-                                    {someWindow, text, resourceText(11604), 16U},
-                                    {nullptr, text, resourceText(11606), 16U | 8192U},
-                                    {someWindow, body({11601, 11621}, resourceText(11620)),
-                                     resourceText(boxTitle), 16U | 1U}}));
+    const CXString text = body({IDS_FAILURE, IDS_FAILURE_ADVICE}, u"025:000:0000");
+    EXPECT_EQ(boxes.shown(),
+              (Boxes{{nullptr, text, u"Ready", 16U | 8192U},
+                     {nullptr, text, resourceText(IDS_ERROR_TITLE), 16U | 8192U},
+                     {someWindow, text, resourceText(IDS_WARNING_TITLE), 16U},
+                     {nullptr, text, resourceText(IDS_ERROR_TITLE), 16U | 8192U},
+                     {someWindow,
+                      body({IDS_FAILURE, IDS_UNKNOWN_FAILURE_ADVICE}, resourceText(IDS_STOP_OFFER)),
+                      resourceText(boxTitle), 16U | 1U}}));
 }
 
 TEST_F(ExceptionReportTest, MissingLibraryIsToldInFixedText) {
@@ -153,10 +163,13 @@ TEST_F(ExceptionReportTest, CancelLetsTheExceptionGoOn) {
     const BoxCapture boxes(messageAnswer::cancel);
     EXPECT_THROW(report(InvalidAttributeIdException(u"x")), InvalidAttributeIdException);
     EXPECT_NO_THROW(report(std::bad_alloc())); // its box offers nothing to choose
-    EXPECT_TRUE(reportUnknownException(u"Ready", call, 11603, u"more"));
+    EXPECT_TRUE(reportUnknownException(u"Ready", call, IDS_INFORMATION_TITLE, u"more"));
     ASSERT_EQ(boxes.shown().size(), 3U);
-    EXPECT_EQ(boxes.shown()[2], (ShownBox{nullptr, body({11601, 11621, 11603}, resourceText(11620)),
-                                          u"Ready", 16U | 8192U | 1U}));
+    EXPECT_EQ(boxes.shown()[2],
+              (ShownBox{nullptr,
+                        body({IDS_FAILURE, IDS_UNKNOWN_FAILURE_ADVICE, IDS_INFORMATION_TITLE},
+                             resourceText(IDS_STOP_OFFER)),
+                        u"Ready", 16U | 8192U | 1U}));
 }
 
 TEST_F(ExceptionReportTest, DetailsTellTypeLocationAndMessage) {
