@@ -1,138 +1,201 @@
-#include "ocore/Models/PrinterTables.h"
-
 #include <array>
+
+#include "ocore/Models/PrinterTables.h"
+#include "resources/ids.h"
 
 namespace zent {
 
 namespace {
 
-constexpr FamilyInfo common(std::uint32_t number, std::uint32_t resource1, std::uint32_t resource2,
-                            AjtPrinterTraits::MediaSizeLimits limits) {
-    FamilyInfo family;
-    family.family = number;
-    family.capabilityResource1 = resource1;
-    family.capabilityResource2 = resource2;
-    family.traits.mediaSizeLimits = limits;
-    return family;
+using Limits = AjtPrinterTraits::MediaSizeLimits;
+
+constexpr AjtPrinterTraits common(Limits limits) {
+    return {.unixDestination = true,
+            .mediaWeightDefault = true,
+            .explicitFinishingNone = true,
+            .mediaSizeLimits = limits};
 }
 
-/// The families whose controllers know short texts only.
-constexpr FamilyInfo narrow(std::uint32_t number, std::uint32_t resource1, std::uint32_t resource2,
-                            AjtPrinterTraits::MediaSizeLimits limits) {
-    FamilyInfo family = common(number, resource1, resource2, limits);
-    family.takesOrdo = false;
-    family.capability1b = false;
-    family.mediaTextCapability = false;
-    family.maxPageNumber = 99999;
-    family.jobNameLimit = 40;
-    family.jobNameRule = 1;
-    family.accountRangeUpper = 12;
-    family.accountRangeLower = 0;
-    family.accountRule = 2;
-    family.sheetMessageLimit = 80;
-    family.operatorMessageLimit = 0;
-    family.phoneNumberLimit = 19;
-    family.mediaColorLimit = 27;
-    family.imageShiftRule = 2;
-    family.requestingUserLimit = 40;
-    family.recipientLimit = 40;
-    family.traits = {false, false, true, false, false, family.traits.mediaSizeLimits};
-    return family;
+constexpr AjtPrinterTraits narrow(Limits limits) {
+    return {.mediaWeightDefault = true, .mediaSizeLimits = limits};
 }
 
-constexpr FamilyInfo shortWithoutTiff(std::uint32_t number, std::uint32_t resource1,
-                                      std::uint32_t resource2,
-                                      AjtPrinterTraits::MediaSizeLimits limits) {
-    FamilyInfo family = common(number, resource1, resource2, limits);
-    family.capability1c = false;
-    family.maxPageNumber = 99999;
-    return family;
+constexpr AjtPrinterTraits strict(Limits limits) {
+    return {.signatureSizeSwap = true,
+            .mediaWeightDefault = true,
+            .fullPageExceptions = true,
+            .mediaSizeLimits = limits};
 }
 
-constexpr FamilyInfo withoutTiff(std::uint32_t number, std::uint32_t resource1,
-                                 std::uint32_t resource2,
-                                 AjtPrinterTraits::MediaSizeLimits limits) {
-    FamilyInfo family = common(number, resource1, resource2, limits);
-    family.capability1c = false;
-    return family;
-}
+/// Of controllers that know short texts only.
+constexpr FamilyTexts narrowTexts{.jobNameLimit = 40,
+                                  .accountRangeUpper = 12,
+                                  .accountRule = 2,
+                                  .requestingUserLimit = 40,
+                                  .recipientLimit = 40,
+                                  .sheetMessageLimit = 80,
+                                  .operatorMessageLimit = 0,
+                                  .phoneNumberLimit = 19,
+                                  .mediaColorLimit = 27};
 
-constexpr FamilyInfo streamOnly(std::uint32_t number, std::uint32_t resource1,
-                                std::uint32_t resource2, AjtPrinterTraits::MediaSizeLimits limits) {
-    FamilyInfo family = common(number, resource1, resource2, limits);
-    family.takesOrdo = false;
-    family.maxPageNumber = 99999;
-    family.accountRule = 1;
-    family.sheetMessageLimit = 100;
-    family.operatorMessageLimit = 100;
-    return family;
-}
+constexpr FamilyTexts strictTexts{.jobNameLimit = 40,
+                                  .jobNameRule = 2,
+                                  .accountRangeUpper = 12,
+                                  .accountRangeLower = 3,
+                                  .accountRule = 2,
+                                  .requestingUserLimit = 40,
+                                  .recipientLimit = 40,
+                                  .sheetMessageLimit = 80,
+                                  .operatorMessageLimit = 100,
+                                  .phoneNumberLimit = 19};
 
-constexpr FamilyInfo shortDocuments(std::uint32_t number, std::uint32_t resource1,
-                                    std::uint32_t resource2,
-                                    AjtPrinterTraits::MediaSizeLimits limits) {
-    FamilyInfo family = common(number, resource1, resource2, limits);
-    family.maxPageNumber = 99999;
-    return family;
-}
+constexpr FamilyTexts streamTexts{
+    .accountRule = 1, .sheetMessageLimit = 100, .operatorMessageLimit = 100};
 
-constexpr FamilyInfo strictTexts(std::uint32_t number, std::uint32_t resource1,
-                                 std::uint32_t resource2,
-                                 AjtPrinterTraits::MediaSizeLimits limits) {
-    FamilyInfo family = common(number, resource1, resource2, limits);
-    family.takesOrdo = false;
-    family.capability1a = false;
-    family.capability1b = false;
-    family.featureDefault = false;
-    family.maxPageNumber = 9999;
-    family.jobNameLimit = 40;
-    family.jobNameRule = 2;
-    family.accountRangeUpper = 12;
-    family.accountRangeLower = 3;
-    family.accountRule = 2;
-    family.sheetMessageLimit = 80;
-    family.operatorMessageLimit = 100;
-    family.phoneNumberLimit = 19;
-    family.requestingUserLimit = 40;
-    family.recipientLimit = 40;
-    family.traits = {true, false, true, false, true, family.traits.mediaSizeLimits};
-    return family;
-}
+constexpr FamilyTexts textsWithPhoneNumber{.phoneNumberLimit = 19};
 
-constexpr FamilyInfo withPhoneNumber(std::uint32_t number, std::uint32_t resource1,
-                                     std::uint32_t resource2,
-                                     AjtPrinterTraits::MediaSizeLimits limits) {
-    FamilyInfo family = common(number, resource1, resource2, limits);
-    family.phoneNumberLimit = 19;
-    return family;
-}
-
-// Number, capability documents, media limits (x from, x to, y from, y to).
-// clang-format off
+// A row says what differs from the defaults of FamilyInfo. Media limits are from and to, across and
+// down.
 constexpr std::array<FamilyInfo, 21> families{{
-    shortWithoutTiff( 1, 11512, 11526, {18290, 48770, 18290, 32000}),
-    shortWithoutTiff( 2, 11539, 11540, {18290, 48770, 18290, 32000}),
-    withoutTiff( 3, 11513, 11527, {18290, 48770, 18290, 32000}),
-    withoutTiff( 4, 11537, 11538, {18290, 48770, 18290, 32000}),
-    withoutTiff( 5, 11514, 11528, {13970, 57150, 17780, 36400}),
-    common( 6, 11502, 11517, {20320, 48870, 25400, 36320}),
-    streamOnly( 7, 11503, 11518, {13970, 45720, 10410, 30480}),
-    shortDocuments( 8, 11504, 11518, {13970, 45720, 10410, 30480}),
-    common( 9, 11535, 11536, {17780, 47000, 25400, 36400}),
-    common(10, 11511, 11525, {17780, 47000, 25400, 36400}),
-    narrow(11, 11508, 11522, {17800, 47000, 25400, 35600}),
-    narrow(12, 11509, 11523, {17800, 47000, 25400, 36400}),
-    narrow(13, 11505, 11519, {20300, 21600, 25400, 35600}),
-    narrow(14, 11506, 11520, {20300, 21600, 25400, 35600}),
-    common(15, 11510, 11524, { 2540, 43180,  2540, 43180}),
-    common(16, 11507, 11521, { 2540, 45720,  2540, 43180}),
-    strictTexts(17, 11501, 11516, {20300, 43200, 25400, 36300}),
-    common(18, 11529, 11530, {20320, 32000, 13970, 46990}),
-    common(19, 11531, 11532, {20320, 32000, 13970, 46990}),
-    common(20, 11533, 11534, { 2540, 49530,  2540, 71120}),
-    withPhoneNumber(21, 11515, 11515, { 2540, 57150,  2540, 71120}),
+    {.family = 1,
+     .capabilityResource1 = IDR_CAPABILITIES_1,
+     .capabilityResource2 = IDR_CAPABILITIES_1_STREAM,
+     .capability1c = false,
+     .maxPageNumber = 99999,
+     .traits = common({18290, 48770, 18290, 32000})},
+    {.family = 2,
+     .capabilityResource1 = IDR_CAPABILITIES_2,
+     .capabilityResource2 = IDR_CAPABILITIES_2_STREAM,
+     .capability1c = false,
+     .maxPageNumber = 99999,
+     .traits = common({18290, 48770, 18290, 32000})},
+    {.family = 3,
+     .capabilityResource1 = IDR_CAPABILITIES_3,
+     .capabilityResource2 = IDR_CAPABILITIES_3_STREAM,
+     .capability1c = false,
+     .traits = common({18290, 48770, 18290, 32000})},
+    {.family = 4,
+     .capabilityResource1 = IDR_CAPABILITIES_4,
+     .capabilityResource2 = IDR_CAPABILITIES_4_STREAM,
+     .capability1c = false,
+     .traits = common({18290, 48770, 18290, 32000})},
+    {.family = 5,
+     .capabilityResource1 = IDR_CAPABILITIES_5,
+     .capabilityResource2 = IDR_CAPABILITIES_5_STREAM,
+     .capability1c = false,
+     .traits = common({13970, 57150, 17780, 36400})},
+    {.family = 6,
+     .capabilityResource1 = IDR_CAPABILITIES_6,
+     .capabilityResource2 = IDR_CAPABILITIES_6_STREAM,
+     .traits = common({20320, 48870, 25400, 36320})},
+    {.family = 7,
+     .capabilityResource1 = IDR_CAPABILITIES_7,
+     .capabilityResource2 = IDR_CAPABILITIES_7_STREAM,
+     .takesOrdo = false,
+     .maxPageNumber = 99999,
+     .texts = streamTexts,
+     .traits = common({13970, 45720, 10410, 30480})},
+    {.family = 8,
+     .capabilityResource1 = IDR_CAPABILITIES_8,
+     .capabilityResource2 = IDR_CAPABILITIES_7_STREAM,
+     .maxPageNumber = 99999,
+     .traits = common({13970, 45720, 10410, 30480})},
+    {.family = 9,
+     .capabilityResource1 = IDR_CAPABILITIES_9,
+     .capabilityResource2 = IDR_CAPABILITIES_9_STREAM,
+     .traits = common({17780, 47000, 25400, 36400}),
+     .rotationDefault = false},
+    {.family = 10,
+     .capabilityResource1 = IDR_CAPABILITIES_10,
+     .capabilityResource2 = IDR_CAPABILITIES_10_STREAM,
+     .traits = common({17780, 47000, 25400, 36400}),
+     .rotationDefault = false},
+    {.family = 11,
+     .capabilityResource1 = IDR_CAPABILITIES_11,
+     .capabilityResource2 = IDR_CAPABILITIES_11_STREAM,
+     .takesOrdo = false,
+     .capability1b = false,
+     .mediaTextCapability = false,
+     .maxPageNumber = 99999,
+     .texts = narrowTexts,
+     .imageShiftRule = 2,
+     .traits = narrow({17800, 47000, 25400, 35600}),
+     .rotationDefault = false},
+    {.family = 12,
+     .capabilityResource1 = IDR_CAPABILITIES_12,
+     .capabilityResource2 = IDR_CAPABILITIES_12_STREAM,
+     .takesOrdo = false,
+     .capability1b = false,
+     .mediaTextCapability = false,
+     .maxPageNumber = 99999,
+     .texts = narrowTexts,
+     .imageShiftRule = 2,
+     .traits = narrow({17800, 47000, 25400, 36400}),
+     .rotationDefault = false},
+    {.family = 13,
+     .capabilityResource1 = IDR_CAPABILITIES_13,
+     .capabilityResource2 = IDR_CAPABILITIES_13_STREAM,
+     .takesOrdo = false,
+     .capability1b = false,
+     .mediaTextCapability = false,
+     .maxPageNumber = 99999,
+     .texts = narrowTexts,
+     .imageShiftRule = 2,
+     .traits = narrow({20300, 21600, 25400, 35600}),
+     .rotationDefault = false},
+    {.family = 14,
+     .capabilityResource1 = IDR_CAPABILITIES_14,
+     .capabilityResource2 = IDR_CAPABILITIES_14_STREAM,
+     .takesOrdo = false,
+     .capability1b = false,
+     .mediaTextCapability = false,
+     .maxPageNumber = 99999,
+     .texts = narrowTexts,
+     .imageShiftRule = 2,
+     .traits = narrow({20300, 21600, 25400, 35600}),
+     .rotationDefault = false},
+    {.family = 15,
+     .capabilityResource1 = IDR_CAPABILITIES_15,
+     .capabilityResource2 = IDR_CAPABILITIES_15_STREAM,
+     .traits = common({2540, 43180, 2540, 43180}),
+     .mediaColorDefault = false},
+    {.family = 16,
+     .capabilityResource1 = IDR_CAPABILITIES_16,
+     .capabilityResource2 = IDR_CAPABILITIES_16_STREAM,
+     .traits = common({2540, 45720, 2540, 43180}),
+     .mediaColorDefault = false},
+    {.family = 17,
+     .capabilityResource1 = IDR_CAPABILITIES_17,
+     .capabilityResource2 = IDR_CAPABILITIES_17_STREAM,
+     .takesOrdo = false,
+     .capability1a = false,
+     .capability1b = false,
+     .featureDefault = false,
+     .maxPageNumber = 9999,
+     .texts = strictTexts,
+     .traits = strict({20300, 43200, 25400, 36300}),
+     .impositionDefault = true,
+     .side2ShiftDefault = false},
+    {.family = 18,
+     .capabilityResource1 = IDR_CAPABILITIES_18,
+     .capabilityResource2 = IDR_CAPABILITIES_18_STREAM,
+     .traits = common({20320, 32000, 13970, 46990})},
+    {.family = 19,
+     .capabilityResource1 = IDR_CAPABILITIES_19,
+     .capabilityResource2 = IDR_CAPABILITIES_19_STREAM,
+     .traits = common({20320, 32000, 13970, 46990})},
+    {.family = 20,
+     .capabilityResource1 = IDR_CAPABILITIES_20,
+     .capabilityResource2 = IDR_CAPABILITIES_20_STREAM,
+     .traits = common({2540, 49530, 2540, 71120}),
+     .mediaColorDefault = false},
+    {.family = 21,
+     .capabilityResource1 = IDR_CAPABILITIES_21,
+     .capabilityResource2 = IDR_CAPABILITIES_21,
+     .texts = textsWithPhoneNumber,
+     .traits = common({2540, 57150, 2540, 71120}),
+     .opiDefault = true},
 }};
-// clang-format on
 
 } // namespace
 

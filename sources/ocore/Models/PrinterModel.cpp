@@ -186,25 +186,25 @@ void PrinterModel::addMissingFeatures(std::vector<_FI>& missing) const {
 }
 
 void PrinterModel::addFactoryDefaults(FeatureSettings& settings, std::uint32_t form) const {
-    const std::uint32_t number = family().family;
     for (const FeatureEnum shift : imageShifts) {
         settings.setLong(_FI(shift), 0);
     }
     settings.setFeatureValue(_FI(feature::mediaWeightMetric), FeatureValue());
-    if (number >= 9 && number <= 14) {
-        return;
+    if (family().rotationDefault) {
+        settings.setFeatureValue(_FI(feature::pageRotation), FeatureValue(value::rotate0));
     }
-    settings.setFeatureValue(_FI(feature::pageRotation), FeatureValue(value::rotate0));
-    if (number == 15 || number == 16 || number == 20) {
+    if (!family().mediaColorDefault) {
         settings.setFeatureValue(_FI(feature::mediaColor), FeatureValue());
     }
-    if (number == 17) {
+    if (family().impositionDefault) {
         settings.setFeatureValue(_FI(feature::impositionTemplate),
                                  FeatureValue(value::impositionNone));
+    }
+    if (!family().side2ShiftDefault) {
         settings.setFeatureValue(_FI(feature::xSide2ImageShift), FeatureValue());
         settings.setFeatureValue(_FI(feature::ySide2ImageShift), FeatureValue());
     }
-    if (number == 21 && form == xmlForm && m_pdl == pageLanguage::postScript) {
+    if (family().opiDefault && form == xmlForm && m_pdl == pageLanguage::postScript) {
         settings.setFeatureValue(_FI(feature::opiImageInsertion), FeatureValue(value::opiInsert));
         settings.setFeatureValue(_FI(feature::opiImagePreScan), FeatureValue(value::opiNoPreScan));
     }

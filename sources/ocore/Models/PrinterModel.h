@@ -55,17 +55,21 @@ public:
     virtual bool getFeatureDefault() const { return family().featureDefault; }
     virtual bool getMediaTextCapability() const { return family().mediaTextCapability; }
     virtual std::uint32_t getMaxPageNumber() const { return family().maxPageNumber; }
-    virtual std::uint32_t getJobNameLimit() const { return family().jobNameLimit; }
-    virtual std::uint32_t getJobNameRule() const { return family().jobNameRule; }
-    virtual std::uint32_t getAccountRangeUpper() const { return family().accountRangeUpper; }
-    virtual std::uint32_t getAccountRangeLower() const { return family().accountRangeLower; }
-    virtual std::uint32_t getAccountRule() const { return family().accountRule; }
-    virtual std::uint32_t getRequestingUserLimit() const { return family().requestingUserLimit; }
-    virtual std::uint32_t getRecipientLimit() const { return family().recipientLimit; }
-    virtual std::uint32_t getSheetMessageLimit() const { return family().sheetMessageLimit; }
-    virtual std::uint32_t getOperatorMessageLimit() const { return family().operatorMessageLimit; }
-    virtual std::uint32_t getPhoneNumberLimit() const { return family().phoneNumberLimit; }
-    virtual std::uint32_t getMediaColorLimit() const { return family().mediaColorLimit; }
+    virtual std::uint32_t getJobNameLimit() const { return family().texts.jobNameLimit; }
+    virtual std::uint32_t getJobNameRule() const { return family().texts.jobNameRule; }
+    virtual std::uint32_t getAccountRangeUpper() const { return family().texts.accountRangeUpper; }
+    virtual std::uint32_t getAccountRangeLower() const { return family().texts.accountRangeLower; }
+    virtual std::uint32_t getAccountRule() const { return family().texts.accountRule; }
+    virtual std::uint32_t getRequestingUserLimit() const {
+        return family().texts.requestingUserLimit;
+    }
+    virtual std::uint32_t getRecipientLimit() const { return family().texts.recipientLimit; }
+    virtual std::uint32_t getSheetMessageLimit() const { return family().texts.sheetMessageLimit; }
+    virtual std::uint32_t getOperatorMessageLimit() const {
+        return family().texts.operatorMessageLimit;
+    }
+    virtual std::uint32_t getPhoneNumberLimit() const { return family().texts.phoneNumberLimit; }
+    virtual std::uint32_t getMediaColorLimit() const { return family().texts.mediaColorLimit; }
     virtual std::uint32_t getImageShiftRule() const { return family().imageShiftRule; }
 
 private:

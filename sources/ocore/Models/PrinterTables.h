@@ -28,7 +28,23 @@ struct ModelInfo {
     std::uint32_t family;
 };
 
-/// A family of printers. Limits of text are in characters; 0 leaves no room at all.
+/// How long texts may be, in characters; 0 leaves no room at all. A rule is a restriction of
+/// characters.
+struct FamilyTexts {
+    std::uint32_t jobNameLimit = 255;
+    std::uint32_t jobNameRule = 1;
+    std::uint32_t accountRangeUpper = 255;
+    std::uint32_t accountRangeLower = 0;
+    std::uint32_t accountRule = 3;
+    std::uint32_t requestingUserLimit = 255;
+    std::uint32_t recipientLimit = 255;
+    std::uint32_t sheetMessageLimit = 1000;
+    std::uint32_t operatorMessageLimit = 1000;
+    std::uint32_t phoneNumberLimit = 0;
+    std::uint32_t mediaColorLimit = 30;
+};
+
+/// A family of printers. What is no matter of its capability documents is a column here.
 struct FamilyInfo {
     std::uint32_t family = 0;
     std::uint32_t capabilityResource1 = 0; // for all instruction forms but 2
@@ -37,23 +53,19 @@ struct FamilyInfo {
     bool capability1a = true; // covers of their own kind, front and back
     bool capability1b = true; // inserts of several media
     bool capability1c = true; // TIFF when printing and saving
-    bool featureDefault =
-        true; // whether features offer the printer's default, unless told otherwise
-    bool mediaTextCapability = true; // blanks in media types and colours
+    // Whether features offer the printer's default, unless told otherwise.
+    bool featureDefault = true;
+    bool mediaTextCapability = true; // spaces in media types and colours
     std::uint32_t maxPageNumber = 9999999;
-    std::uint32_t jobNameLimit = 255;
-    std::uint32_t jobNameRule = 1; // a restriction of characters
-    std::uint32_t accountRangeUpper = 255;
-    std::uint32_t accountRangeLower = 0;
-    std::uint32_t accountRule = 3; // a restriction of characters
-    std::uint32_t requestingUserLimit = 255;
-    std::uint32_t recipientLimit = 255;
-    std::uint32_t sheetMessageLimit = 1000;
-    std::uint32_t operatorMessageLimit = 1000;
-    std::uint32_t phoneNumberLimit = 0;
-    std::uint32_t mediaColorLimit = 30;
+    FamilyTexts texts = {};
     std::uint32_t imageShiftRule = 1; // the step of image shifts
-    AjtPrinterTraits traits{false, true, true, true, false, {}};
+    AjtPrinterTraits traits = {};
+    // What a new ticket says.
+    bool rotationDefault = true; // pages aren't turned
+    bool mediaColorDefault = true;
+    bool impositionDefault = false; // none
+    bool side2ShiftDefault = true;
+    bool opiDefault = false; // images are inserted, without pre-scan
 };
 
 /// The tables, in the order of their numbers; the drivers of a model in the order of languages 2, 1
