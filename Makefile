@@ -130,6 +130,8 @@ check:
 	@tools/install-packages native test check
 	$(call say,Include rules)
 	@tools/check-includes
+	$(call say,Resource ids)
+	@tools/check-ids
 	$(call say,Format)
 	@git ls-files --cached --others --exclude-standard '*.h' '*.cpp' '*.c' \
 		| xargs clang-format --dry-run -Werror && echo "All sources are formatted"
