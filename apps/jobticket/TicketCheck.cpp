@@ -21,6 +21,7 @@ namespace jobticket {
 
 namespace {
 
+using zent::ProblemRule;
 using zent::RepairAction;
 using zent::RepairEntry;
 
@@ -94,7 +95,7 @@ Problem makeProblem(const RepairEntry& entry, const OfferMap& offers) {
     problem.path = toPathText(toUtf8(entry.path));
     problem.feature = toUtf8(entry.attribute);
     problem.name = toUtf8(entry.featureName);
-    problem.rule = toUtf8(entry.rule);
+    problem.rule = entry.rule;
     problem.value = showValue(entry, entry.oldValue);
     if (entry.hasLimits) {
         problem.limits = Range{entry.lowerLimit, entry.upperLimit};
@@ -267,17 +268,17 @@ std::string describeLimits(const Problem& problem) {
 
 /// What the printer takes instead.
 std::string describeAllowed(const Problem& problem) {
-    if (problem.rule == "out-of-range") {
+    switch (problem.rule) {
+    case ProblemRule::outOfRange:
         return describeLimits(problem);
-    }
-    if (problem.rule == "embedded-spaces") {
+    case ProblemRule::embeddedSpaces:
         return "no spaces";
-    }
-    if (problem.rule == "missing-feature") {
+    case ProblemRule::missingFeature:
         return "required";
-    }
-    if (problem.rule == "unsupported-value") {
+    case ProblemRule::unsupportedValue:
         return describeOffer(problem);
+    case ProblemRule::unsupportedAttribute:
+        break;
     }
     return problem.offer ? "no such feature there" : "no such feature";
 }
@@ -294,12 +295,29 @@ Json describeRepairAsJson(const Problem& problem) {
     return Json::object();
 }
 
+/// The rule that a ticket breaks, for programs.
+const char* wordOf(ProblemRule rule) {
+    switch (rule) {
+    case ProblemRule::outOfRange:
+        return "out-of-range";
+    case ProblemRule::embeddedSpaces:
+        return "embedded-spaces";
+    case ProblemRule::missingFeature:
+        return "missing-feature";
+    case ProblemRule::unsupportedValue:
+        return "unsupported-value";
+    case ProblemRule::unsupportedAttribute:
+        break;
+    }
+    return "unsupported-attribute";
+}
+
 Json toJson(const Problem& problem) {
     Json json = Json::object();
     json.add("path", problem.path);
     json.add("feature", problem.feature);
     json.add("name", problem.name);
-    json.add("rule", problem.rule);
+    json.add("rule", wordOf(problem.rule));
     if (!problem.part.empty()) {
         json.add("part", problem.part);
     }

@@ -9,6 +9,7 @@
 #include "Offers.h"
 #include "Outline.h"
 #include "ocore/Attributes/AttrNodeList.h"
+#include "ocore/Repair/RepairReport.h"
 
 namespace jobticket {
 
@@ -22,9 +23,9 @@ enum class Repair {
 /// One thing in a ticket that a printer can't do. Paths are as "jobticket set" takes them.
 struct Problem {
     std::string path;
-    std::string feature;             // or the attribute, if it is none
-    std::string name;                // for people
-    std::string rule;                // that the ticket breaks, as zent::RepairEntry has it
+    std::string feature; // or the attribute, if it is none
+    std::string name;    // for people
+    zent::ProblemRule rule;
     std::string part;                // such as "page-overrides[1]"; empty for the job as a whole
     std::optional<Range> pages;      // that the part is for
     std::optional<ShownValue> value; // nothing for what is missing

@@ -58,22 +58,22 @@ RepairValue makeValue(const CXString& attribute, const AttrValue& value) {
 void setRule(RepairEntry& entry, const SettingsProblem& problem) {
     switch (problem.getKind()) {
     case SettingsProblem::Kind::unsupportedAttribute:
-        entry.rule = u"unsupported-attribute";
+        entry.rule = ProblemRule::unsupportedAttribute;
         return;
     case SettingsProblem::Kind::unsupportedValue:
-        entry.rule = u"unsupported-value";
+        entry.rule = ProblemRule::unsupportedValue;
         entry.capability = entry.attribute + u"-supported";
         return;
     case SettingsProblem::Kind::missingFeature:
-        entry.rule = u"missing-feature";
+        entry.rule = ProblemRule::missingFeature;
         return;
     case SettingsProblem::Kind::failedCapability:
         break;
     }
-    entry.rule = u"embedded-spaces";
+    entry.rule = ProblemRule::embeddedSpaces;
     entry.capability = static_cast<const FailedCapability&>(problem).getCapability().getName();
     if (const auto* const range = dynamic_cast<const FailedRangeCapability*>(&problem)) {
-        entry.rule = u"out-of-range";
+        entry.rule = ProblemRule::outOfRange;
         entry.hasLimits = true;
         entry.lowerLimit = range->getLower();
         entry.upperLimit = range->getUpper();

@@ -16,6 +16,15 @@ struct RepairValue {
     std::shared_ptr<const AttrValue> value; // a copy; null where there is none
 };
 
+/// What a ticket does that the printer can't.
+enum class ProblemRule {
+    unsupportedAttribute,
+    unsupportedValue,
+    outOfRange, // of a number, or of the length of a text
+    embeddedSpaces,
+    missingFeature,
+};
+
 /// One problem of a ticket, and what a repair does about it.
 struct RepairEntry {
     SettingsProblem::Kind kind = SettingsProblem::Kind::unsupportedAttribute;
@@ -25,9 +34,7 @@ struct RepairEntry {
     CXString path;                  // such as "page-overrides[2]/media-col/media-color"
     CXString featureName;           // for users
     RepairValue oldValue;           // empty for what is missing
-    // The rule that the ticket breaks, for programs: "unsupported-attribute", "unsupported-value",
-    // "out-of-range", "embedded-spaces" or "missing-feature".
-    CXString rule;
+    ProblemRule rule = ProblemRule::unsupportedAttribute;
     CXString capability; // the attribute of the capability list that decides; empty if unknown
     bool hasLimits = false;
     std::int32_t lowerLimit = 0;

@@ -107,7 +107,7 @@ TEST_F(RepairReportTest, TheListTellsProgramsTheSame) {
     const RepairReport report(problems, m_defaults);
     ASSERT_EQ(report.getEntries().size(), 3U);
     const RepairEntry& name = report.getEntries()[0];
-    EXPECT_EQ(name.rule, u"out-of-range");
+    EXPECT_EQ(name.rule, ProblemRule::outOfRange);
     EXPECT_EQ(name.capability, u"job-name-allowable-char-limit");
     EXPECT_TRUE(name.hasLimits);
     EXPECT_EQ(name.upperLimit, 255);
@@ -118,7 +118,7 @@ TEST_F(RepairReportTest, TheListTellsProgramsTheSame) {
     EXPECT_EQ(sides.newValue.text, u"one-sided");
     EXPECT_EQ(sides.newValue.display, u"One-sided");
     const RepairEntry& color = report.getEntries()[2];
-    EXPECT_EQ(color.rule, u"unsupported-value");
+    EXPECT_EQ(color.rule, ProblemRule::unsupportedValue);
     EXPECT_EQ(color.capability, u"media-color-supported");
     EXPECT_EQ(color.feature, feature::mediaColor);
     EXPECT_EQ(color.path, u"page-overrides[2]/media-col/media-color");
