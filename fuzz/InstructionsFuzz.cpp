@@ -12,7 +12,7 @@
 
 #include "SameList.h"
 #include "ocore/Ajt/TarvoAjtTranslator.h"
-#include "ocore/AnlXlate/OrdoTranslator.h"
+#include "ocore/AnlXlate/AnlTranslatorForXml.h"
 #include "ocore/Checking/SettingsValidator.h"
 #include "ocore/Faults/TarvoException.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"

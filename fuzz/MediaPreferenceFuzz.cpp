@@ -12,7 +12,7 @@
 #include <random>
 #include <string>
 
-#include "ocore/AnlXlate/OmpTranslator.h"
+#include "ocore/AnlXlate/AnlTranslatorForXml.h"
 #include "ocore/Attributes/IppList.h"
 #include "ocore/Faults/Exceptions.h"
 #include "ocore/OrdoParse/OrdoParseException.h"

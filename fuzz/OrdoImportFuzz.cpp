@@ -9,7 +9,7 @@
 
 #include "SameList.h"
 #include "SeenLists.h"
-#include "ocore/AnlXlate/OrdoTranslator.h"
+#include "ocore/AnlXlate/AnlTranslatorForXml.h"
 #include "ocore/FeatureSettings/FeatureSettings.h"
 #include "ocore/OrdoParse/OrdoCategories.h"
 #include "zent27.h"

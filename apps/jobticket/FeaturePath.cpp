@@ -8,7 +8,7 @@
 #include "Feature.h"
 #include "Text.h"
 #include "TicketDocument.h"
-#include "ocore/AnlXlate/OrdoTranslator.h"
+#include "ocore/AnlXlate/AnlTranslatorForXml.h"
 #include "ocore/Attributes/IppList.h"
 #include "ocore/OrdoParse/OrdoCategories.h"
 #include "ocore/Resources/ByteBuffer.h"

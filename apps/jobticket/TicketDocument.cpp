@@ -7,7 +7,7 @@
 #include "Session.h"
 #include "Text.h"
 #include "TicketFile.h"
-#include "ocore/AnlXlate/OrdoTranslator.h"
+#include "ocore/AnlXlate/AnlTranslatorForXml.h"
 #include "ocore/Faults/TarvoException.h"
 #include "ocore/Resources/ByteBuffer.h"
 

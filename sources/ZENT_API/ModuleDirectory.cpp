@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "ocore/AnlXlate/OrdoTranslator.h"
+#include "ocore/AnlXlate/OrdoDtd.h"
 #include "ocore/Resources/ResourceLibrary.h"
 #include "platform/Files.h"
 
@@ -15,7 +15,7 @@ CXString cutToDirectory(const CXString& path, char16_t separator) {
 
 void announceModuleDirectory() {
     const CXString directory = cutToDirectory(platform::getModulePath(), platform::pathSeparator);
-    OrdoTranslator::setDtdDirectory(directory);
+    ordoDtd::setDirectory(directory);
     ResourceLibrary::setPath(directory + u"zenres27.dll");
 }
 

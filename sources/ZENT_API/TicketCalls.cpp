@@ -5,7 +5,8 @@
 #include "ZENT_API/ApplyCapabilities.h"
 #include "ZENT_API/Arguments.h"
 #include "ZENT_API/CallFrame.h"
-#include "ocore/AnlXlate/OrdoTranslator.h"
+#include "ocore/AnlXlate/AnlTranslatorForXml.h"
+#include "ocore/AnlXlate/OrdoDtd.h"
 #include "ocore/Faults/Exceptions.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
 
@@ -51,7 +52,7 @@ std::optional<FeatureSettings> readTicket(const void* data, uint32_t length, uin
 /// A document goes behind what the cache holds, and what a failure leaves of it has the key too.
 void cacheXml(ZENTSession& session, CachedOutput& cache) {
     const AttrNodeList& list = *session.settings().getAttrNodeList();
-    OrdoTranslator::requireReadable(list);
+    ordoDtd::requireReadable(list);
     cache.setKeyFromNumber(ZENT_FORMAT_XML);
     try {
         OrdoTranslator().anlToBuffer(list, &cache.buffer());

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "ocore/AnlXlate/OcapTranslator.h"
+#include "ocore/AnlXlate/AnlTranslatorForXml.h"
 #include "ocore/Capabilities/Capabilities.h"
 #include "support/ListText.h"
 

@@ -1,6 +1,7 @@
 #include "support/OrdoDocument.h"
 
-#include "ocore/AnlXlate/OrdoTranslator.h"
+#include "ocore/AnlXlate/AnlTranslatorForXml.h"
+#include "ocore/AnlXlate/OrdoDtd.h"
 #include "platform/Files.h"
 
 namespace zent::test {
@@ -10,7 +11,7 @@ CXString programFolder() {
     return path.left(path.findLast(platform::pathSeparator) + 1);
 }
 
-void useOrdoDtd() { OrdoTranslator::setDtdDirectory(programFolder()); }
+void useOrdoDtd() { ordoDtd::setDirectory(programFolder()); }
 
 std::string ordoDocument(std::string_view content) {
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n"

@@ -1,22 +1,36 @@
 #include "ocore/AnlXlate/AnlTranslatorForXml.h"
 
-#include "ocore/OrdoParse/TarvoXmlDataStream.h"
 #include "ocore/OrdoParse/TarvoXmlFile.h"
 
 namespace zent {
 
-bool AnlTranslatorForXml::prepareForOutput(const AttrNodeList& /*source*/,
-                                           AttrNodeList* /*target*/) {
-    return false;
+std::optional<CXString> AnlTranslatorForXml::findDtdPath() const {
+    return m_form.findDtdPath != nullptr ? m_form.findDtdPath() : std::nullopt;
 }
 
-void AnlTranslatorForXml::finishAfterInput(AttrNodeList* /*list*/) {}
+void AnlTranslatorForXml::write(const AttrNodeList& source, TarvoXmlDataStream& stream) const {
+    stream.setFormatted(m_isFormatted);
+    if (m_form.encode == nullptr) {
+        stream.write(&source);
+        return;
+    }
+    AttrNodeList encoded = source;
+    m_form.encode(encoded);
+    stream.write(&encoded);
+}
+
+void AnlTranslatorForXml::finishAfterInput(AttrNodeList& list) const {
+    if (m_form.decode != nullptr) {
+        m_form.decode(list);
+    }
+}
 
 void AnlTranslatorForXml::anlFromBuffer(const ByteBuffer& source, AttrNodeList* target) {
-    const auto stream = createDataStream();
-    stream->setInputBuffer(source.data(), source.size());
-    stream->read(target);
-    finishAfterInput(target);
+    TarvoXmlDataStream stream(m_form, findDtdPath());
+    stream.setOrigin(m_origin);
+    stream.setInputBuffer(source.data(), source.size());
+    stream.read(target);
+    finishAfterInput(*target);
 }
 
 void AnlTranslatorForXml::anlToBuffer(const AttrNodeList& source, ByteBuffer* target) {
@@ -25,25 +39,20 @@ void AnlTranslatorForXml::anlToBuffer(const AttrNodeList& source, ByteBuffer* ta
 }
 
 void AnlTranslatorForXml::translate(const AttrNodeList& source, Stream& target) {
-    AttrNodeList prepared;
-    const bool isPrepared = prepareForOutput(source, &prepared);
-    const auto stream = createDataStream();
-    stream->setFormatted(m_formatted);
-    stream->setOutput(&target);
-    stream->write(isPrepared ? &prepared : &source);
+    TarvoXmlDataStream stream(m_form, findDtdPath());
+    stream.setOrigin(m_origin);
+    stream.setOutput(&target);
+    write(source, stream);
 }
 
 void AnlTranslatorForXml::anlFromFile(const CXString& fileName, AttrNodeList* target) {
-    createFileStream(fileName)->read(target);
-    finishAfterInput(target);
+    TarvoXmlFile(m_form, fileName, findDtdPath()).read(target);
+    finishAfterInput(*target);
 }
 
 void AnlTranslatorForXml::anlToFile(const AttrNodeList& source, const CXString& fileName) {
-    AttrNodeList prepared;
-    const bool isPrepared = prepareForOutput(source, &prepared);
-    const auto stream = createFileStream(fileName);
-    stream->setFormatted(m_formatted);
-    stream->write(isPrepared ? &prepared : &source);
+    TarvoXmlFile stream(m_form, fileName, findDtdPath());
+    write(source, stream);
 }
 
 } // namespace zent

@@ -1,6 +1,6 @@
 #include "ocore/Capabilities/CapabilitySource.h"
 
-#include "ocore/AnlXlate/OcapTranslator.h"
+#include "ocore/AnlXlate/AnlTranslatorForXml.h"
 
 namespace zent {
 

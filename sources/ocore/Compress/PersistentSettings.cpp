@@ -2,8 +2,7 @@
 
 #include <utility>
 
-#include "ocore/AnlXlate/OrdoTranslator.h"
-#include "ocore/AnlXlate/SmallOrdoTranslator.h"
+#include "ocore/AnlXlate/AnlTranslatorForXml.h"
 #include "ocore/Compress/CompressedBuffer.h"
 #include "ocore/Faults/Exceptions.h"
 #include "ocore/OrdoParse/OrdoParseException.h"

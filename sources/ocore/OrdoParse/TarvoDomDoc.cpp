@@ -49,36 +49,21 @@ bool isSpacePreserved(const XmlNode& element) {
 
 } // namespace
 
-TarvoDomDoc::TarvoDomDoc() { ZNXMLInterface::Instance(); }
-
-TarvoDomDoc::~TarvoDomDoc() = default;
-
-void TarvoDomDoc::createParser(const CXString& streamName, bool validate) {
+TarvoDomDoc::TarvoDomDoc(const XmlForm& form, XmlOrigin origin, const CXString& streamName,
+                         bool validate)
+    : m_form(form) {
+    ZNXMLInterface::Instance();
     m_parser = std::make_unique<TarvoXmlParser>(streamName, validate);
+    m_parser->setOrigin(origin);
 }
 
-void TarvoDomDoc::setOrigin(XmlOrigin origin) { m_parser->setOrigin(origin); }
+TarvoDomDoc::~TarvoDomDoc() = default;
 
 void TarvoDomDoc::parse(std::span<const std::byte> bytes) { m_parser->parse(bytes); }
 
 void TarvoDomDoc::toXmlStream(Stream& output, bool formatted) {
     m_parser->convertToXmlStream(output, formatted);
 }
-
-// What most forms do
-
-XmlNode& TarvoDomDoc::getParentNode(XmlDocument& /*document*/, XmlNode& root,
-                                    const AttrNode& /*node*/) {
-    return root;
-}
-
-bool TarvoDomDoc::isContainerNode(const XmlNode& /*element*/) const { return false; }
-
-std::u16string_view TarvoDomDoc::getSyntaxAttributeName() const { return u"syntax"; }
-
-CXString TarvoDomDoc::syntaxToDocument(const CXString& syntax) const { return syntax; }
-
-CXString TarvoDomDoc::syntaxFromDocument(const CXString& text) const { return text; }
 
 // From tree to list
 
@@ -104,9 +89,9 @@ void TarvoDomDoc::walk(const XmlNode& parent, AttrNodeList& list, SharedTexts& t
         if (!child->isElement()) {
             continue;
         }
-        if (const XmlAttribute* const syntax = child->findAttribute(getSyntaxAttributeName())) {
+        if (const XmlAttribute* const syntax = child->findAttribute(m_form.syntaxAttribute)) {
             addDomNodeToAttrNodeList(*child, *syntax, list, texts);
-        } else if (isContainerNode(*child)) {
+        } else if (m_form.isContainer != nullptr && m_form.isContainer(*child)) {
             walk(*child, list, texts);
         }
     }
@@ -119,7 +104,10 @@ void TarvoDomDoc::addDomNodeToAttrNodeList(const XmlNode& element, const XmlAttr
         return;
     }
     const AttrID id(texts.trimmed(element.getName()));
-    const CXString keyword = syntaxFromDocument(texts.trimmed(syntax.value));
+    CXString keyword = texts.trimmed(syntax.value);
+    if (m_form.syntaxFromDocument != nullptr) {
+        keyword = m_form.syntaxFromDocument(keyword);
+    }
     // An element has no value of its own, so one that comes first makes a list.
     const CXString text =
         isSpacePreserved(element) ? CXString(first->getValue()) : texts.trimmed(first->getValue());
@@ -135,14 +123,16 @@ void TarvoDomDoc::addDomNodeToAttrNodeList(const XmlNode& element, const XmlAttr
 // From list to tree
 
 void TarvoDomDoc::fromAttrNodeList(const AttrNodeList& list) {
-    m_parser->parseSkeleton(getSkeletonDocument());
+    m_parser->parseSkeleton(m_form.skeleton);
     XmlDocument& document = m_parser->getDocument();
     XmlNode& root = *document.getDocumentElement();
     try {
         for (std::uint32_t i = 0; i < list.getNumberOfNodes(); ++i) {
             const AttrNode& node = list.getNodeAt(i);
             if (!node.isPrivate()) {
-                addAttrNodeToDOMTree(document, getParentNode(document, root, node), node);
+                XmlNode& parent =
+                    m_form.findParent != nullptr ? m_form.findParent(document, root, node) : root;
+                addAttrNodeToDOMTree(document, parent, node);
             }
         }
     } catch (const xercesc::DOMException& exception) {
@@ -157,8 +147,10 @@ void TarvoDomDoc::addAttrNodeToDOMTree(XmlDocument& document, XmlNode& parent,
                                        const AttrNode& node) const {
     const AttrValue& value = node.getAttrValue();
     XmlNode& element = document.appendElement(parent, node.getName().view());
-    const CXString syntax = syntaxToDocument(value.getIppSyntax());
-    document.addAttribute(element, getSyntaxAttributeName(), document.store(syntax.view()));
+    const CXString& keyword = value.getIppSyntax();
+    const CXString syntax =
+        m_form.syntaxToDocument != nullptr ? m_form.syntaxToDocument(keyword) : keyword;
+    document.addAttribute(element, m_form.syntaxAttribute, document.store(syntax.view()));
     if (value.isSpacePreserved()) {
         document.addAttribute(element, spaceAttribute, preserve);
     }

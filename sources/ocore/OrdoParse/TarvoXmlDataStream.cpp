@@ -1,16 +1,9 @@
 #include "ocore/OrdoParse/TarvoXmlDataStream.h"
 
-#include <new>
-
-#include "ocore/OrdoParse/OCapDomDoc.h"
-#include "ocore/OrdoParse/OMediaPrefDomDoc.h"
-#include "ocore/OrdoParse/OrdoDomDoc.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
-#include "ocore/OrdoParse/SOrdoDomDoc.h"
+#include "ocore/OrdoParse/TarvoDomDoc.h"
 
 namespace zent {
-
-TarvoXmlDataStream::~TarvoXmlDataStream() = default;
 
 void TarvoXmlDataStream::setInputBuffer(const void* bytes, std::size_t length) {
     m_input = bytes;
@@ -22,9 +15,9 @@ void TarvoXmlDataStream::read(AttrNodeList* list) {
         raiseOrdoParse(ordoParseCode::noSourceBuffer,
                        "TarvoXmlDataStream::read(): No buffer to read from!\r\n");
     }
-    const auto document = createDomDocument();
-    document->parse({static_cast<const std::byte*>(m_input), m_inputLength});
-    document->toAttrNodeList(list);
+    TarvoDomDoc document = createDomDocument();
+    document.parse({static_cast<const std::byte*>(m_input), m_inputLength});
+    document.toAttrNodeList(list);
 }
 
 void TarvoXmlDataStream::write(const AttrNodeList* list) {
@@ -33,9 +26,9 @@ void TarvoXmlDataStream::write(const AttrNodeList* list) {
                        "TarvoXmlDataStream::write(): No output callback object to receive XML "
                        "data.\r\n");
     }
-    const auto document = createDomDocument();
-    document->fromAttrNodeList(*list);
-    document->toXmlStream(*m_output, m_formatted);
+    TarvoDomDoc document = createDomDocument();
+    document.fromAttrNodeList(*list);
+    document.toXmlStream(*m_output, m_formatted);
 }
 
 const CXString* TarvoXmlDataStream::findDtdName() const {
@@ -47,40 +40,14 @@ CXString TarvoXmlDataStream::getStreamName() const {
     return dtdName != nullptr ? *dtdName : u"XmlStream";
 }
 
-std::unique_ptr<TarvoDomDoc> TarvoXmlDataStream::createDomDocument() const {
-    std::unique_ptr<TarvoDomDoc> document;
-    switch (m_type) {
-    case XmlDataType::ordo:
-        if (!m_dtdName) {
-            raiseOrdoParse(ordoParseCode::noDtd,
-                           "TarvoXmlDataStream::createDomDocument(): Validation required for "
-                           "OrdoDomDoc, but it is not set. Did you specify a DTD?\r\n");
-        }
-        document.reset(new (std::nothrow) OrdoDomDoc(getStreamName(), true));
-        break;
-    case XmlDataType::ocap:
-        document.reset(new (std::nothrow) OCapDomDoc(getStreamName(), findDtdName() != nullptr));
-        break;
-    case XmlDataType::mediaPreference:
-        document.reset(new (std::nothrow)
-                           OMediaPrefDomDoc(getStreamName(), findDtdName() != nullptr));
-        break;
-    case XmlDataType::smallOrdo:
-        document.reset(new (std::nothrow) SOrdoDomDoc(getStreamName(), findDtdName() != nullptr));
-        break;
-    case XmlDataType::notSpecified:
-    default:
-        raiseOrdoParse(ordoParseCode::noDataType,
-                       "TarvoXmlDataStream::createDomDocument(): Unknown or unsupported data "
-                       "type!\r\n");
+TarvoDomDoc TarvoXmlDataStream::createDomDocument() const {
+    const bool isAlwaysValidated = m_form.findDtdPath != nullptr;
+    if (isAlwaysValidated && !m_dtdName) {
+        raiseOrdoParse(ordoParseCode::noDtd,
+                       "TarvoXmlDataStream::createDomDocument(): Validation required for "
+                       "OrdoDomDoc, but it is not set. Did you specify a DTD?\r\n");
     }
-    if (!document) {
-        raiseOrdoParse(ordoParseCode::noDocument,
-                       "TarvoXmlDataStream::createDomDocument(): The pointer to be returned is "
-                       "NULL!\r\n");
-    }
-    document->setOrigin(m_origin);
-    return document;
+    return {m_form, m_origin, getStreamName(), isAlwaysValidated || findDtdName() != nullptr};
 }
 
 } // namespace zent

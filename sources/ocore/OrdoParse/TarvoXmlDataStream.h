@@ -1,37 +1,23 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
-#include <memory>
 #include <optional>
 
-#include "ocore/Attributes/AttrNodeList.h"
-#include "ocore/OrdoParse/XmlLimits.h"
+#include "ocore/OrdoParse/XmlForm.h"
 #include "ocore/Resources/Stream.h"
-#include "ocore/Text/CXString.h"
 
 namespace zent {
 
 class TarvoDomDoc;
-
-/// The XML forms.
-enum class XmlDataType : std::uint32_t {
-    ordo = 1, // always validated, so that it needs a document type definition
-    ocap = 2,
-    mediaPreference = 3,
-    smallOrdo = 4,
-    notSpecified = 5,
-};
 
 /// One XML form as a node list, from and to memory. Set the buffer, then read; set the output,
 /// then write.
 class TarvoXmlDataStream {
 public:
     /// The name of the document type definition is the full path of its file.
-    explicit TarvoXmlDataStream(XmlDataType type = XmlDataType::notSpecified,
-                                std::optional<CXString> dtdName = std::nullopt)
-        : m_type(type), m_dtdName(std::move(dtdName)) {}
-    virtual ~TarvoXmlDataStream();
+    explicit TarvoXmlDataStream(const XmlForm& form, std::optional<CXString> dtdName = std::nullopt)
+        : m_form(form), m_dtdName(std::move(dtdName)) {}
+    virtual ~TarvoXmlDataStream() = default;
     TarvoXmlDataStream(const TarvoXmlDataStream&) = delete;
     TarvoXmlDataStream& operator=(const TarvoXmlDataStream&) = delete;
 
@@ -55,9 +41,9 @@ protected:
     const CXString* findDtdName() const;
 
 private:
-    std::unique_ptr<TarvoDomDoc> createDomDocument() const;
+    TarvoDomDoc createDomDocument() const;
 
-    XmlDataType m_type;
+    const XmlForm& m_form;
     XmlOrigin m_origin = XmlOrigin::document;
     const void* m_input = nullptr;
     std::size_t m_inputLength = 0;

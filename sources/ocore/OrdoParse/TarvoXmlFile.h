@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "ocore/OrdoParse/TarvoXmlDataStream.h"
 #include "platform/Files.h"
 
@@ -8,10 +10,9 @@ namespace zent {
 /// One XML form as a node list, from and to a file.
 class TarvoXmlFile final : public TarvoXmlDataStream, private Stream {
 public:
-    explicit TarvoXmlFile(XmlDataType type = XmlDataType::notSpecified,
-                          std::optional<CXString> fileName = std::nullopt,
+    explicit TarvoXmlFile(const XmlForm& form, std::optional<CXString> fileName = std::nullopt,
                           std::optional<CXString> dtdName = std::nullopt)
-        : TarvoXmlDataStream(type, std::move(dtdName)), m_fileName(std::move(fileName)) {}
+        : TarvoXmlDataStream(form, std::move(dtdName)), m_fileName(std::move(fileName)) {}
 
     void read(AttrNodeList* list) override;
     /// A writing that fails leaves no file, also where there was one before.

@@ -1,7 +1,7 @@
 #include "ocore/Printer/CreateStreamTranslator.h"
 
 #include "ocore/Ajt/TarvoAjtTranslator.h"
-#include "ocore/AnlXlate/OrdoTranslator.h"
+#include "ocore/AnlXlate/AnlTranslatorForXml.h"
 #include "ocore/Capabilities/Capabilities.h"
 
 namespace zent {

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <utility>
 
-#include "ocore/AnlXlate/OmpTranslator.h"
+#include "ocore/AnlXlate/AnlTranslatorForXml.h"
 #include "ocore/Attributes/AttrNames.h"
 #include "ocore/Attributes/AttrValueFactory.h"
 #include "ocore/Faults/Trace.h"

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "ocore/AnlXlate/OrdoTranslator.h"
-#include "ocore/AnlXlate/SmallOrdoTranslator.h"
+#include "ocore/AnlXlate/AnlTranslatorForXml.h"
+#include "ocore/AnlXlate/OrdoDtd.h"
 #include "support/ListText.h"
 #include "support/OrdoDocument.h"
 #include "support/ScratchFolder.h"
@@ -52,7 +52,7 @@ TEST(OrdoTranslatorTest, FailuresLeaveWhatWasThere) {
 TEST(OrdoTranslatorTest, NamesThatTheDocumentTypeDoesNotDeclareAreFound) {
     useOrdoDtd();
     const auto failureOf = [](const char* list) {
-        return ordoFailure([&] { OrdoTranslator::requireReadable(listOf(list)); });
+        return ordoFailure([&] { ordoDtd::requireReadable(listOf(list)); });
     };
     EXPECT_EQ(
         failureOf("copies=1 !nobody-knows=1 media-col{!nobody-knows{copies=1} media-color=a}"),

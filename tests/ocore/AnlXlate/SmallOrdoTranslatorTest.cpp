@@ -1,4 +1,4 @@
-#include "ocore/AnlXlate/SmallOrdoTranslator.h"
+#include "ocore/AnlXlate/AnlTranslatorForXml.h"
 
 #include <string>
 

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "ocore/AnlXlate/OrdoTranslator.h"
+#include "ocore/AnlXlate/OrdoDtd.h"
 #include "ocore/OrdoParse/CompiledDtd.h"
 #include "ocore/OrdoParse/ZNXMLInterface.h"
 #include "support/ListText.h"
@@ -30,7 +30,7 @@ class CompiledDtdTest : public testing::Test {
 protected:
     CompiledDtdTest() {
         ZNXMLInterface::Instance();
-        OrdoTranslator::setDtdDirectory(m_folder.file(""));
+        ordoDtd::setDirectory(m_folder.file(""));
     }
     ~CompiledDtdTest() override { useOrdoDtd(); }
 
@@ -73,7 +73,7 @@ TEST_F(CompiledDtdTest, IsLookedForInTheLibrarysFolderAlone) {
     writeDtd(copiesOnly);
     std::filesystem::current_path(m_folder.path());
     EXPECT_TRUE(isUsable());
-    OrdoTranslator::setDtdDirectory(CXString());
+    ordoDtd::setDirectory(CXString());
     EXPECT_FALSE(isUsable());
     std::filesystem::current_path(before);
 }

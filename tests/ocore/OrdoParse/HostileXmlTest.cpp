@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "ocore/AnlXlate/OrdoTranslator.h"
+#include "ocore/AnlXlate/OrdoDtd.h"
 #include "ocore/OrdoParse/TarvoXmlDataStream.h"
 #include "ocore/OrdoParse/TarvoXmlParser.h"
 #include "ocore/OrdoParse/XmlLimits.h"
@@ -302,7 +302,7 @@ protected:
                                    m_folder.path() / "dtd" / "ordo-v02025.dtd");
         m_folder.write("dtd/beside.ent", "<?xml encoding='UTF-8'?>beside");
         m_folder.write("above.ent", "above");
-        OrdoTranslator::setDtdDirectory(m_folder.file("dtd/"));
+        ordoDtd::setDirectory(m_folder.file("dtd/"));
     }
     ~ExternalEntityTest() override { useOrdoDtd(); }
 

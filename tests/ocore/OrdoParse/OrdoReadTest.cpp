@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "ocore/AnlXlate/OrdoTranslator.h"
+#include "ocore/AnlXlate/AnlTranslatorForXml.h"
 #include "ocore/Faults/Exceptions.h"
 #include "support/ListText.h"
 #include "support/OrdoDocument.h"

@@ -1,16 +1,51 @@
-#include "ocore/AnlXlate/SmallOrdoTranslator.h"
-
 #include <utility>
 
+#include "ocore/AnlXlate/XmlForms.h"
+#include "ocore/Attributes/AVTE.h"
 #include "ocore/Attributes/IppList.h"
 #include "ocore/FeatureSettings/FeatureDataBase.h"
 #include "ocore/FeatureSettings/FeatureValueDataBase.h"
-#include "ocore/OrdoParse/TarvoXmlFile.h"
 #include "platform/KeepForever.h"
 
 namespace zent {
 
 namespace {
+
+using SyntaxCode = std::pair<const CXString&, CXString>;
+
+/// The codes that syntaxes travel under. What isn't here passes unchanged.
+const auto& syntaxCodes = keepForever<std::vector<SyntaxCode>>(std::initializer_list<SyntaxCode>{
+    {syntax::boolean, u"b"},
+    {syntax::integer, u"i"},
+    {syntax::setOf, u"s"},
+    {syntax::collection, u"c"},
+    {syntax::keyword, u"k"},
+    {syntax::rangeOfInteger, u"r"},
+    {syntax::enumeration, u"e"},
+    {syntax::name, u"n"},
+    {syntax::text, u"t"},
+    {syntax::uri, u"u"},
+    {syntax::mimeMediaType, u"m"},
+    {syntax::resolution, u"o"},
+});
+
+CXString toCode(const CXString& syntax) {
+    for (const auto& [keyword, code] : syntaxCodes) {
+        if (syntax == keyword) {
+            return code;
+        }
+    }
+    return syntax;
+}
+
+CXString fromCode(const CXString& text) {
+    for (const auto& [keyword, code] : syntaxCodes) {
+        if (text == code) {
+            return keyword;
+        }
+    }
+    return text;
+}
 
 constexpr char16_t mark = u'*';
 
@@ -121,28 +156,22 @@ private:
     FeatureValueDataBase m_values;
 };
 
+template <typename Coder>
+void change(AttrNodeList& list) {
+    FeatureEnum current = feature::none;
+    walk(list, current, Coder());
+}
+
 } // namespace
 
-bool SmallOrdoTranslator::prepareForOutput(const AttrNodeList& source, AttrNodeList* target) {
-    *target = source;
-    FeatureEnum current = feature::none;
-    walk(*target, current, Encoder());
-    return true;
-}
-
-void SmallOrdoTranslator::finishAfterInput(AttrNodeList* list) {
-    FeatureEnum current = feature::none;
-    walk(*list, current, Decoder());
-}
-
-std::unique_ptr<TarvoXmlFile> SmallOrdoTranslator::createFileStream(const CXString& fileName) {
-    return std::make_unique<TarvoXmlFile>(XmlDataType::smallOrdo, fileName);
-}
-
-std::unique_ptr<TarvoXmlDataStream> SmallOrdoTranslator::createDataStream() {
-    auto stream = std::make_unique<TarvoXmlDataStream>(XmlDataType::smallOrdo);
-    stream->setOrigin(XmlOrigin::stateBlob);
-    return stream;
-}
+constinit const XmlForm xmlForm::smallOrdo{
+    .skeleton = R"(<?xml version="1.0" encoding="UTF-8"?><sordo xml:lang="en-US"> </sordo>)",
+    .syntaxAttribute = u"s",
+    .syntaxToDocument = toCode,
+    .syntaxFromDocument = fromCode,
+    .encode = change<Encoder>,
+    .decode = change<Decoder>,
+    .origin = XmlOrigin::stateBlob,
+    .isFormatted = false};
 
 } // namespace zent

@@ -1,14 +1,12 @@
-#include "ocore/AnlXlate/OrdoTranslator.h"
+#include "ocore/AnlXlate/OrdoDtd.h"
 
 #include <array>
 #include <cstdint>
-#include <optional>
 
 #include "ocore/Attributes/EmbeddedList.h"
 #include "ocore/Faults/OwnedCriticalResource.h"
 #include "ocore/OrdoParse/CompiledDtd.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
-#include "ocore/OrdoParse/TarvoXmlFile.h"
 #include "ocore/OrdoParse/ZNXMLInterface.h"
 #include "platform/Files.h"
 #include "platform/KeepForever.h"
@@ -21,19 +19,6 @@ constexpr const char16_t* dtdFileName = u"ordo-v02025.dtd";
 
 CriticalResource& dtdPathGuard = keepForever<CriticalResource>(u"OrdoTranslator");
 CXString& dtdPath = keepForever<CXString>();
-
-/// The path; nothing if no directory could be had.
-std::optional<CXString> getDtdPath() {
-    const OwnedCriticalResource hold(dtdPathGuard);
-    if (dtdPath.isEmpty()) {
-        const CXString directory = platform::getDriverDirectory(CXString());
-        if (directory.isEmpty()) {
-            return std::nullopt;
-        }
-        dtdPath = directory + dtdFileName;
-    }
-    return dtdPath;
-}
 
 /// Looks for names that aren't declared. Few names occur over and over, and most nodes of one name
 /// share its text.
@@ -77,28 +62,30 @@ private:
 
 } // namespace
 
-void OrdoTranslator::requireReadable(const AttrNodeList& list) {
-    ZNXMLInterface::Instance();
-    const std::optional<CXString> path = getDtdPath();
-    const auto dtd = path ? CompiledDtd::find(*path) : nullptr;
-    if (dtd != nullptr) { // without it, the writing fails
-        DeclaredNames(*dtd).require(list);
-    }
-}
-
-void OrdoTranslator::setDtdDirectory(const CXString& directory) {
+void ordoDtd::setDirectory(const CXString& directory) {
     const OwnedCriticalResource hold(dtdPathGuard);
     dtdPath = directory + dtdFileName;
 }
 
-std::unique_ptr<TarvoXmlFile> OrdoTranslator::createFileStream(const CXString& fileName) {
-    return std::make_unique<TarvoXmlFile>(XmlDataType::ordo, fileName, getDtdPath());
+std::optional<CXString> ordoDtd::findPath() {
+    const OwnedCriticalResource hold(dtdPathGuard);
+    if (dtdPath.isEmpty()) {
+        const CXString directory = platform::getDriverDirectory(CXString());
+        if (directory.isEmpty()) {
+            return std::nullopt;
+        }
+        dtdPath = directory + dtdFileName;
+    }
+    return dtdPath;
 }
 
-std::unique_ptr<TarvoXmlDataStream> OrdoTranslator::createDataStream() {
-    auto stream = std::make_unique<TarvoXmlDataStream>(XmlDataType::ordo, getDtdPath());
-    stream->setOrigin(m_origin);
-    return stream;
+void ordoDtd::requireReadable(const AttrNodeList& list) {
+    ZNXMLInterface::Instance();
+    const std::optional<CXString> path = findPath();
+    const auto dtd = path ? CompiledDtd::find(*path) : nullptr;
+    if (dtd != nullptr) { // without it, the writing fails
+        DeclaredNames(*dtd).require(list);
+    }
 }
 
 } // namespace zent
