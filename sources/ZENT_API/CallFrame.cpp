@@ -11,10 +11,11 @@ namespace zent {
 
 namespace {
 
-/// The location as text, or none if memory has run out: a report mustn't fail for that.
-CXString textOfLocation(const char16_t* location) noexcept {
+/// Where a call failed, as "ZENT::fnOpenSession()". No text if memory has run out: a report mustn't
+/// fail for that.
+CXString locationOf(const char* function) noexcept {
     try {
-        return location;
+        return formatText("ZENT::%S()", function);
     } catch (const std::bad_alloc&) {
         return {};
     }
@@ -22,15 +23,15 @@ CXString textOfLocation(const char16_t* location) noexcept {
 
 } // namespace
 
-ZentResult endCall(const std::exception& exception, bool silent, const char16_t* location) {
+ZentResult endCall(const std::exception& exception, bool silent, const char* function) {
     if (!silent) {
-        reportException(exception, IDS_CALL_TITLE, textOfLocation(location), 0, u"");
+        reportException(exception, IDS_CALL_TITLE, locationOf(function), 0, u"");
     }
     return resultCodeOf(exception);
 }
 
-bool endUnknownCall(bool silent, const char16_t* location) {
-    return !silent && reportUnknownException(IDS_CALL_TITLE, textOfLocation(location), 0, u"") &&
+bool endUnknownCall(bool silent, const char* function) {
+    return !silent && reportUnknownException(IDS_CALL_TITLE, locationOf(function), 0, u"") &&
            platform::unknownExceptionsMayLeave;
 }
 

@@ -51,17 +51,16 @@ extern "C" {
 // there is no dialog for, each refuses to start.
 ZentResult ZENT_CALL fnInvokeTarvoJobTicketDialog(ZentSessionType session, uint32_t kind,
                                                   ZentWindow owner, uint32_t /*reserved*/) {
-    return inSession(session, u"ZENT::fnInvokeTarvoJobTicketDialog()",
-                     [&](ZENTSession& opened) -> ZentResult {
-                         DialogContext context(opened);
-                         if (kind < ZENT_DIALOG_JOB_TICKET || kind > ZENT_DIALOG_JOB_NOTES) {
-                             return ZENT_ERR_DIALOG_KIND;
-                         }
-                         if (kind != ZENT_DIALOG_JOB_NOTES) {
-                             return ZENT_ERR_DIALOG_START;
-                         }
-                         return runJobNotes(opened, owner, context.configuration);
-                     });
+    return inSession(session, __func__, [&](ZENTSession& opened) -> ZentResult {
+        DialogContext context(opened);
+        if (kind < ZENT_DIALOG_JOB_TICKET || kind > ZENT_DIALOG_JOB_NOTES) {
+            return ZENT_ERR_DIALOG_KIND;
+        }
+        if (kind != ZENT_DIALOG_JOB_NOTES) {
+            return ZENT_ERR_DIALOG_START;
+        }
+        return runJobNotes(opened, owner, context.configuration);
+    });
 }
 
 } // extern "C"

@@ -7,7 +7,7 @@ extern "C" {
 
 ZentResult ZENT_CALL fnIsEmpty(ZentSessionType session, TarvoJtSettingsType settings,
                                ZentBool* empty) {
-    return withSettings(session, settings, u"ZENT::fnIsEmpty()",
+    return withSettings(session, settings, __func__,
                         [&](ZENTSession& /*opened*/, FeatureSettings& ticket) -> ZentResult {
                             required(empty) = ticket.isEmpty();
                             return ZENT_OK;
@@ -16,7 +16,7 @@ ZentResult ZENT_CALL fnIsEmpty(ZentSessionType session, TarvoJtSettingsType sett
 
 ZentResult ZENT_CALL fnIsSpecified(ZentSessionType session, TarvoJtSettingsType settings,
                                    const ZentChar* feature, ZentBool* specified) {
-    return withSettings(session, settings, u"ZENT::fnIsSpecified()",
+    return withSettings(session, settings, __func__,
                         [&](ZENTSession& /*opened*/, FeatureSettings& ticket) -> ZentResult {
                             ZentBool& out = required(specified);
                             out = ticket.isSpecified(_FI(textOf(feature)));
@@ -26,7 +26,7 @@ ZentResult ZENT_CALL fnIsSpecified(ZentSessionType session, TarvoJtSettingsType 
 
 ZentResult ZENT_CALL fnGetNumberOfValues(ZentSessionType session, TarvoJtSettingsType settings,
                                          const ZentChar* feature, uint32_t* count) {
-    return withSettings(session, settings, u"ZENT::fnGetNumberOfValues()",
+    return withSettings(session, settings, __func__,
                         [&](ZENTSession& /*opened*/, FeatureSettings& ticket) -> ZentResult {
                             uint32_t& out = required(count);
                             out = ticket.getNumberOfValues(_FI(textOf(feature)));
@@ -37,7 +37,7 @@ ZentResult ZENT_CALL fnGetNumberOfValues(ZentSessionType session, TarvoJtSetting
 ZentResult ZENT_CALL fnGetStringValue(ZentSessionType session, TarvoJtSettingsType settings,
                                       const ZentChar* feature, ZentChar* buffer, uint32_t* size,
                                       uint32_t index, ZentBool* found) {
-    return withSettings(session, settings, u"ZENT::fnGetStringValue()",
+    return withSettings(session, settings, __func__,
                         [&](ZENTSession& /*opened*/, FeatureSettings& ticket) -> ZentResult {
                             uint32_t& units = required(size);
                             ZentBool& isFound = required(found);
@@ -50,7 +50,7 @@ ZentResult ZENT_CALL fnGetStringValue(ZentSessionType session, TarvoJtSettingsTy
 ZentResult ZENT_CALL fnGetNumberValue(ZentSessionType session, TarvoJtSettingsType settings,
                                       const ZentChar* feature, int32_t* number, uint32_t index,
                                       ZentBool* found) {
-    return withSettings(session, settings, u"ZENT::fnGetNumberValue()",
+    return withSettings(session, settings, __func__,
                         [&](ZENTSession& /*opened*/, FeatureSettings& ticket) -> ZentResult {
                             int32_t& out = required(number);
                             ZentBool& isFound = required(found);
@@ -62,7 +62,7 @@ ZentResult ZENT_CALL fnGetNumberValue(ZentSessionType session, TarvoJtSettingsTy
 ZentResult ZENT_CALL fnGetRangeValues(ZentSessionType session, TarvoJtSettingsType settings,
                                       const ZentChar* feature, int32_t* lower, int32_t* upper,
                                       uint32_t index, ZentBool* found) {
-    return withSettings(session, settings, u"ZENT::fnGetRangeValues()",
+    return withSettings(session, settings, __func__,
                         [&](ZENTSession& /*opened*/, FeatureSettings& ticket) -> ZentResult {
                             int32_t& outLower = required(lower);
                             int32_t& outUpper = required(upper);
@@ -82,7 +82,7 @@ ZentResult ZENT_CALL fnGetResolutionValue(ZentSessionType session, TarvoJtSettin
                                           const ZentChar* feature, int32_t* crossFeed,
                                           int32_t* feed, int32_t* units, uint32_t index,
                                           ZentBool* found) {
-    return withSettings(session, settings, u"ZENT::fnGetResolutionValue()",
+    return withSettings(session, settings, __func__,
                         [&](ZENTSession& /*opened*/, FeatureSettings& ticket) -> ZentResult {
                             int32_t& outCrossFeed = required(crossFeed);
                             int32_t& outFeed = required(feed);
@@ -99,7 +99,7 @@ ZentResult ZENT_CALL fnGetResolutionValue(ZentSessionType session, TarvoJtSettin
 
 ZentResult ZENT_CALL fnGetStockSizeValues(ZentSessionType session, TarvoJtSettingsType settings,
                                           int32_t* width, int32_t* height, ZentBool* found) {
-    return withSettings(session, settings, u"ZENT::fnGetStockSizeValues()",
+    return withSettings(session, settings, __func__,
                         [&](ZENTSession& opened, FeatureSettings& ticket) -> ZentResult {
                             int32_t& outWidth = required(width);
                             int32_t& outHeight = required(height);

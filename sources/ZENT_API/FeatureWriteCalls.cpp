@@ -8,9 +8,9 @@ namespace {
 /// The frame of a call that changes settings: what was generated from them is dropped, but only if
 /// the change succeeded.
 template <typename Work>
-ZentResult changing(ZentSessionType handle, TarvoJtSettingsType settings, const char16_t* location,
+ZentResult changing(ZentSessionType handle, TarvoJtSettingsType settings, const char* function,
                     Work work) {
-    return withSettings(handle, settings, location,
+    return withSettings(handle, settings, function,
                         [&](ZENTSession& session, FeatureSettings& ticket) -> ZentResult {
                             work(ticket);
                             session.noteSettingsChanged(ticket);
@@ -33,14 +33,14 @@ extern "C" {
 ZentResult ZENT_CALL fnSetStringValue(ZentSessionType session, TarvoJtSettingsType settings,
                                       const ZentChar* feature, const ZentChar* value,
                                       uint32_t index) {
-    return changing(session, settings, u"ZENT::fnSetStringValue()", [&](FeatureSettings& ticket) {
+    return changing(session, settings, __func__, [&](FeatureSettings& ticket) {
         setText(ticket, _FI(textOf(feature)), textOf(value), index);
     });
 }
 
 ZentResult ZENT_CALL fnSetNumberValue(ZentSessionType session, TarvoJtSettingsType settings,
                                       const ZentChar* feature, int32_t number, uint32_t index) {
-    return changing(session, settings, u"ZENT::fnSetNumberValue()", [&](FeatureSettings& ticket) {
+    return changing(session, settings, __func__, [&](FeatureSettings& ticket) {
         ticket.setLong(_FI(textOf(feature)), number, index);
     });
 }
@@ -48,7 +48,7 @@ ZentResult ZENT_CALL fnSetNumberValue(ZentSessionType session, TarvoJtSettingsTy
 ZentResult ZENT_CALL fnSetRangeValues(ZentSessionType session, TarvoJtSettingsType settings,
                                       const ZentChar* feature, int32_t lower, int32_t upper,
                                       uint32_t index) {
-    return changing(session, settings, u"ZENT::fnSetRangeValues()", [&](FeatureSettings& ticket) {
+    return changing(session, settings, __func__, [&](FeatureSettings& ticket) {
         ticket.setRange(_FI(textOf(feature)), lower, upper, index);
     });
 }
@@ -56,31 +56,29 @@ ZentResult ZENT_CALL fnSetRangeValues(ZentSessionType session, TarvoJtSettingsTy
 ZentResult ZENT_CALL fnSetResolutionValue(ZentSessionType session, TarvoJtSettingsType settings,
                                           const ZentChar* feature, int32_t crossFeed, int32_t feed,
                                           int32_t units, uint32_t index) {
-    return changing(
-        session, settings, u"ZENT::fnSetResolutionValue()", [&](FeatureSettings& ticket) {
-            ticket.setResolution(_FI(textOf(feature)), Resolution(crossFeed, feed, units), index);
-        });
+    return changing(session, settings, __func__, [&](FeatureSettings& ticket) {
+        ticket.setResolution(_FI(textOf(feature)), Resolution(crossFeed, feed, units), index);
+    });
 }
 
 ZentResult ZENT_CALL fnSetStockSizeValues(ZentSessionType session, TarvoJtSettingsType settings,
                                           int32_t width, int32_t height) {
-    return changing(session, settings, u"ZENT::fnSetStockSizeValues()",
-                    [&](FeatureSettings& ticket) {
-                        const bool isNone = width == 0 && height == 0;
-                        ticket.setStockSize(isNone ? StockSize() : StockSize(width, height));
-                    });
+    return changing(session, settings, __func__, [&](FeatureSettings& ticket) {
+        const bool isNone = width == 0 && height == 0;
+        ticket.setStockSize(isNone ? StockSize() : StockSize(width, height));
+    });
 }
 
 ZentResult ZENT_CALL fnUnspecifyFeature(ZentSessionType session, TarvoJtSettingsType settings,
                                         const ZentChar* feature) {
-    return changing(session, settings, u"ZENT::fnUnspecifyFeature()", [&](FeatureSettings& ticket) {
+    return changing(session, settings, __func__, [&](FeatureSettings& ticket) {
         ticket.setFeatureValue(_FI(textOf(feature)), FeatureValue());
         ticket.removeEmptyLists();
     });
 }
 
 ZentResult ZENT_CALL fnUnspecifyAllFeatures(ZentSessionType session, TarvoJtSettingsType settings) {
-    return changing(session, settings, u"ZENT::fnUnspecifyAllFeatures()",
+    return changing(session, settings, __func__,
                     [](FeatureSettings& ticket) { ticket = FeatureSettings(); });
 }
 
@@ -89,27 +87,25 @@ ZentResult ZENT_CALL fnSetPageLevelFeatureFromTarvoJtSettings(ZentSessionType se
                                                               const ZentChar* feature,
                                                               uint32_t index,
                                                               TarvoJtSettingsType source) {
-    return changing(session, settings, u"ZENT::fnSetPageLevelFeatureFromTarvoJtSettings()",
-                    [&](FeatureSettings& ticket) {
-                        const _FI id(textOf(feature));
-                        FeatureSettings& pageSettings = ZENTSession::getSettingsObject(&source);
-                        if (id.getFeature() == feature::pageOverrides) {
-                            pageSettings.shapeAsPageOverride();
-                        }
-                        ticket.setNestedSettings(id, pageSettings, index);
-                        ticket.removeEmptyLists();
-                    });
+    return changing(session, settings, __func__, [&](FeatureSettings& ticket) {
+        const _FI id(textOf(feature));
+        FeatureSettings& pageSettings = ZENTSession::getSettingsObject(&source);
+        if (id.getFeature() == feature::pageOverrides) {
+            pageSettings.shapeAsPageOverride();
+        }
+        ticket.setNestedSettings(id, pageSettings, index);
+        ticket.removeEmptyLists();
+    });
 }
 
 ZentResult ZENT_CALL fnRemovePageLevelFeatureFromTarvoJtSettings(ZentSessionType session,
                                                                  TarvoJtSettingsType settings,
                                                                  const ZentChar* feature,
                                                                  uint32_t index) {
-    return changing(session, settings, u"ZENT::fnRemovePageLevelFeatureFromTarvoJtSettings()",
-                    [&](FeatureSettings& ticket) {
-                        ticket.setFeatureValue(_FI(textOf(feature)), FeatureValue(), index);
-                        ticket.removeEmptyLists();
-                    });
+    return changing(session, settings, __func__, [&](FeatureSettings& ticket) {
+        ticket.setFeatureValue(_FI(textOf(feature)), FeatureValue(), index);
+        ticket.removeEmptyLists();
+    });
 }
 
 } // extern "C"

@@ -9,19 +9,18 @@ extern "C" {
 // The buffer isn't emptied for another document: what was generated and not fetched stays in front.
 ZentResult ZENT_CALL fnGetPrintInstructions(ZentSessionType session, void* buffer, uint32_t* size,
                                             const char* documentName) {
-    return inSession(
-        session, u"ZENT::fnGetPrintInstructions()", [&](ZENTSession& opened) -> ZentResult {
-            uint32_t& bytes = required(size);
-            const CXString name = documentName != nullptr ? CXString(documentName) : CXString();
-            CachedOutput& cache = opened.instructionsCache();
-            if (!cache.isFor(name)) {
-                PersistentSettings& state = opened.currentState();
-                cache.setKey(name);
-                BufferStream stream(&cache.buffer());
-                opened.generateInstructions(state, stream, name);
-            }
-            return cache.handOut(buffer, bytes);
-        });
+    return inSession(session, __func__, [&](ZENTSession& opened) -> ZentResult {
+        uint32_t& bytes = required(size);
+        const CXString name = documentName != nullptr ? CXString(documentName) : CXString();
+        CachedOutput& cache = opened.instructionsCache();
+        if (!cache.isFor(name)) {
+            PersistentSettings& state = opened.currentState();
+            cache.setKey(name);
+            BufferStream stream(&cache.buffer());
+            opened.generateInstructions(state, stream, name);
+        }
+        return cache.handOut(buffer, bytes);
+    });
 }
 
 } // extern "C"

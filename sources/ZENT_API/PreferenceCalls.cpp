@@ -11,9 +11,9 @@ namespace {
 /// The frame of a call on the preference set that the session's printer uses. `work` takes the
 /// preferences and the name.
 template <typename Work>
-ZentResult withPreference(ZentSessionType session, const ZentChar* name, const char16_t* location,
+ZentResult withPreference(ZentSessionType session, const ZentChar* name, const char* function,
                           Work work) {
-    return inSession(session, location, [&](ZENTSession& opened) -> ZentResult {
+    return inSession(session, function, [&](ZENTSession& opened) -> ZentResult {
         return work(*opened.getUserPreferences(), textOf(name));
     });
 }
@@ -25,7 +25,7 @@ extern "C" {
 ZentResult ZENT_CALL fnGetPreferenceBoolValue(ZentSessionType session, const ZentChar* name,
                                               ZentBool* value, ZentBool defaultValue) {
     return withPreference(
-        session, name, u"ZENT::fnGetPreferenceBoolValue()",
+        session, name, __func__,
         [&](const UserPreferences& preferences, const CXString& preference) -> ZentResult {
             const bool otherwise = defaultValue != 0;
             required(value) = preferences.getBooleanPreference(preference, &otherwise);
@@ -36,7 +36,7 @@ ZentResult ZENT_CALL fnGetPreferenceBoolValue(ZentSessionType session, const Zen
 ZentResult ZENT_CALL fnGetPreferenceNumberValue(ZentSessionType session, const ZentChar* name,
                                                 int32_t* value, int32_t defaultValue) {
     return withPreference(
-        session, name, u"ZENT::fnGetPreferenceNumberValue()",
+        session, name, __func__,
         [&](const UserPreferences& preferences, const CXString& preference) -> ZentResult {
             required(value) = preferences.getLongPreference(preference, &defaultValue);
             return ZENT_OK;
@@ -47,7 +47,7 @@ ZentResult ZENT_CALL fnGetPreferenceStringValue(ZentSessionType session, const Z
                                                 ZentChar* buffer, uint32_t* size,
                                                 const ZentChar* defaultValue) {
     return withPreference(
-        session, name, u"ZENT::fnGetPreferenceStringValue()",
+        session, name, __func__,
         [&](const UserPreferences& preferences, const CXString& preference) -> ZentResult {
             uint32_t& units = required(size);
             const CXString otherwise = textOf(defaultValue);
@@ -61,7 +61,7 @@ ZentResult ZENT_CALL fnGetPreferenceDataValue(ZentSessionType session, const Zen
                                               void* buffer, uint32_t* size, const void* defaultData,
                                               uint32_t defaultLength) {
     return withPreference(
-        session, name, u"ZENT::fnGetPreferenceDataValue()",
+        session, name, __func__,
         [&](const UserPreferences& preferences, const CXString& preference) -> ZentResult {
             uint32_t& bytes = required(size);
             const bool hasDefault = defaultData != nullptr && defaultLength != 0;
@@ -75,7 +75,7 @@ ZentResult ZENT_CALL fnGetPreferenceDataValue(ZentSessionType session, const Zen
 ZentResult ZENT_CALL fnSetPreferenceBoolValue(ZentSessionType session, const ZentChar* name,
                                               ZentBool value) {
     return withPreference(
-        session, name, u"ZENT::fnSetPreferenceBoolValue()",
+        session, name, __func__,
         [&](const UserPreferences& preferences, const CXString& preference) -> ZentResult {
             preferences.setBooleanPreference(preference, value != 0);
             return ZENT_OK;
@@ -85,7 +85,7 @@ ZentResult ZENT_CALL fnSetPreferenceBoolValue(ZentSessionType session, const Zen
 ZentResult ZENT_CALL fnSetPreferenceNumberValue(ZentSessionType session, const ZentChar* name,
                                                 int32_t value) {
     return withPreference(
-        session, name, u"ZENT::fnSetPreferenceNumberValue()",
+        session, name, __func__,
         [&](const UserPreferences& preferences, const CXString& preference) -> ZentResult {
             preferences.setLongPreference(preference, value);
             return ZENT_OK;
@@ -95,7 +95,7 @@ ZentResult ZENT_CALL fnSetPreferenceNumberValue(ZentSessionType session, const Z
 ZentResult ZENT_CALL fnSetPreferenceStringValue(ZentSessionType session, const ZentChar* name,
                                                 const ZentChar* value) {
     return withPreference(
-        session, name, u"ZENT::fnSetPreferenceStringValue()",
+        session, name, __func__,
         [&](const UserPreferences& preferences, const CXString& preference) -> ZentResult {
             preferences.setStringPreference(preference, textOf(value));
             return ZENT_OK;
@@ -105,7 +105,7 @@ ZentResult ZENT_CALL fnSetPreferenceStringValue(ZentSessionType session, const Z
 ZentResult ZENT_CALL fnSetPreferenceDataValue(ZentSessionType session, const ZentChar* name,
                                               const void* data, uint32_t length) {
     return withPreference(
-        session, name, u"ZENT::fnSetPreferenceDataValue()",
+        session, name, __func__,
         [&](const UserPreferences& preferences, const CXString& preference) -> ZentResult {
             preferences.setDataPreference(preference, bytesOf(data, length));
             return ZENT_OK;

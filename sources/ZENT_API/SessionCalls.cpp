@@ -15,7 +15,7 @@ ZentResult ZENT_CALL fnOpenSession(uint32_t version, uint32_t model, uint32_t pd
     if (version != ZENT_INTERFACE_VERSION) {
         return ZENT_ERR_VERSION;
     }
-    return inFrame(u"ZENT::fnOpenSession()", silent != 0, [&](bool& isSilent) -> ZentResult {
+    return inFrame(__func__, silent != 0, [&](bool& isSilent) -> ZentResult {
         ZentSessionType& handle = required(session);
         announceModuleDirectory();
         auto opened =
@@ -27,7 +27,7 @@ ZentResult ZENT_CALL fnOpenSession(uint32_t version, uint32_t model, uint32_t pd
 }
 
 ZentResult ZENT_CALL fnCloseSession(ZentSessionType* session) {
-    return inFrame(u"ZENT::fnCloseSession()", false, [&](bool& silent) -> ZentResult {
+    return inFrame(__func__, false, [&](bool& silent) -> ZentResult {
         ZentSessionType& handle = required(session);
         const std::unique_ptr<ZENTSession> closed(&ZENTSession::getSessionObject(handle));
         silent = closed->isSilent();
@@ -38,40 +38,37 @@ ZentResult ZENT_CALL fnCloseSession(ZentSessionType* session) {
 
 ZentResult ZENT_CALL fnGetTarvoJtSettingsFromSession(ZentSessionType session,
                                                      TarvoJtSettingsType* settings) {
-    return inSession(session, u"ZENT::fnGetTarvoJtSettingsFromSession()",
-                     [&](ZENTSession& opened) -> ZentResult {
-                         required(settings) = ZENTSession::getHandleOf(&opened.settings());
-                         return ZENT_OK;
-                     });
+    return inSession(session, __func__, [&](ZENTSession& opened) -> ZentResult {
+        required(settings) = ZENTSession::getHandleOf(&opened.settings());
+        return ZENT_OK;
+    });
 }
 
 ZentResult ZENT_CALL fnCreateNewTarvoJtSettings(ZentSessionType session,
                                                 TarvoJtSettingsType* settings) {
-    return inSession(session, u"ZENT::fnCreateNewTarvoJtSettings()",
-                     [&](ZENTSession& /*opened*/) -> ZentResult {
-                         TarvoJtSettingsType& handle = required(settings);
-                         try {
-                             auto made = std::make_unique<FeatureSettings>();
-                             handle = ZENTSession::getHandleOf(made.release());
-                         } catch (const std::bad_alloc&) {
-                             handle = nullptr;
-                         }
-                         return ZENT_OK;
-                     });
+    return inSession(session, __func__, [&](ZENTSession& /*opened*/) -> ZentResult {
+        TarvoJtSettingsType& handle = required(settings);
+        try {
+            auto made = std::make_unique<FeatureSettings>();
+            handle = ZENTSession::getHandleOf(made.release());
+        } catch (const std::bad_alloc&) {
+            handle = nullptr;
+        }
+        return ZENT_OK;
+    });
 }
 
 ZentResult ZENT_CALL fnReleaseTarvoJtSettings(ZentSessionType session,
                                               TarvoJtSettingsType* settings) {
-    return inSession(session, u"ZENT::fnReleaseTarvoJtSettings()",
-                     [&](ZENTSession& opened) -> ZentResult {
-                         TarvoJtSettingsType& handle = required(settings);
-                         FeatureSettings& object = ZENTSession::getSettingsObject(&handle);
-                         if (&object != &opened.settings()) {
-                             const std::unique_ptr<FeatureSettings> released(&object);
-                             handle = nullptr;
-                         }
-                         return ZENT_OK;
-                     });
+    return inSession(session, __func__, [&](ZENTSession& opened) -> ZentResult {
+        TarvoJtSettingsType& handle = required(settings);
+        FeatureSettings& object = ZENTSession::getSettingsObject(&handle);
+        if (&object != &opened.settings()) {
+            const std::unique_ptr<FeatureSettings> released(&object);
+            handle = nullptr;
+        }
+        return ZENT_OK;
+    });
 }
 
 } // extern "C"

@@ -79,7 +79,7 @@ ZentResult ZENT_CALL fnImportJobTicket(ZentSessionType session, const void* data
                                        uint32_t format, uint32_t mode, ZentWindow owner,
                                        const ZentChar* title, ZentBool* problems,
                                        ZentBool* applied) {
-    return inSession(session, u"ZENT::fnImportJobTicket()", [&](ZENTSession& opened) -> ZentResult {
+    return inSession(session, __func__, [&](ZENTSession& opened) -> ZentResult {
         PersistentSettings state = opened.copyState();
         std::optional<FeatureSettings> ticket = readTicket(data, length, format, state);
         if (!ticket) {
@@ -100,7 +100,7 @@ ZentResult ZENT_CALL fnImportJobTicket(ZentSessionType session, const void* data
 
 ZentResult ZENT_CALL fnExportJobTicket(ZentSessionType session, void* buffer, uint32_t* size,
                                        uint32_t format) {
-    return inSession(session, u"ZENT::fnExportJobTicket()", [&](ZENTSession& opened) -> ZentResult {
+    return inSession(session, __func__, [&](ZENTSession& opened) -> ZentResult {
         if (format != ZENT_FORMAT_XML && format != ZENT_FORMAT_STATE) {
             return ZENT_ERR_TICKET_FORMAT;
         }
@@ -117,20 +117,19 @@ ZentResult ZENT_CALL fnExportJobTicket(ZentSessionType session, void* buffer, ui
 ZentResult ZENT_CALL fnUpdateUserContextInformation(ZentSessionType session, const void* blob,
                                                     uint32_t blobLength, void* buffer,
                                                     uint32_t* size) {
-    return inSession(session, u"ZENT::fnUpdateUserContextInformation()",
-                     [&](ZENTSession& opened) -> ZentResult {
-                         uint32_t& bytes = required(size);
-                         PersistentSettings state(blobOf(blob, blobLength), true);
-                         opened.updateUserContext(state);
-                         return handOutBytes(state.getBuffer(), buffer, bytes);
-                     });
+    return inSession(session, __func__, [&](ZENTSession& opened) -> ZentResult {
+        uint32_t& bytes = required(size);
+        PersistentSettings state(blobOf(blob, blobLength), true);
+        opened.updateUserContext(state);
+        return handOutBytes(state.getBuffer(), buffer, bytes);
+    });
 }
 
 // The name in the report differs from the call's; support staff know it by that.
 ZentResult ZENT_CALL fnApplyPrinterCapabilitiesToSettings(ZentSessionType session, uint32_t mode,
                                                           ZentWindow owner, const ZentChar* title,
                                                           ZentBool* problems, ZentBool* usable) {
-    return inSession(session, u"ZENT::fnApplyPrinterCapabilitiesToSettingsSilently()",
+    return inSession(session, "fnApplyPrinterCapabilitiesToSettingsSilently",
                      [&](ZENTSession& opened) -> ZentResult {
                          ZentBool& hasProblems = required(problems);
                          ZentBool& isUsable = required(usable);
@@ -148,7 +147,7 @@ ZentResult ZENT_CALL fnApplyPrinterCapabilitiesToSettings(ZentSessionType sessio
 ZentResult ZENT_CALL fnCreateTarvoJtSettingsFromPageLevelFeature(
     ZentSessionType session, TarvoJtSettingsType settings, const ZentChar* feature, uint32_t index,
     TarvoJtSettingsType* pageSettings) {
-    return withSettings(session, settings, u"ZENT::fnCreateTarvoJtSettingsFromPageLevelFeature()",
+    return withSettings(session, settings, __func__,
                         [&](ZENTSession& /*opened*/, FeatureSettings& ticket) -> ZentResult {
                             TarvoJtSettingsType& handle = required(pageSettings);
                             const _FI id(textOf(feature));
