@@ -27,10 +27,8 @@ if(NOT ZENT_SANITIZE)
 endif()
 find_program(CCACHE ccache)
 if(CCACHE)
-    set(launcher ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1
-        CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
-    set(CMAKE_C_COMPILER_LAUNCHER ${launcher})
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${launcher})
+    set(CMAKE_C_COMPILER_LAUNCHER ${CMAKE_SOURCE_DIR}/tools/compiler-cache)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_SOURCE_DIR}/tools/compiler-cache)
 endif()
 
 # Precompiled headers halve the build. Builds with sanitizers go without (CMAKE_DISABLE_PRECOMPILE_HEADERS),
