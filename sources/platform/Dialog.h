@@ -60,6 +60,11 @@ public:
     /// Dialog units of this dialog's font as pixels.
     virtual Rectangle mapDialogUnits(const Rectangle& /*units*/) const { return {}; }
 
+    /// Of the screen, from top to bottom.
+    virtual std::int32_t getDotsPerInch() const { return 0; }
+
+    /// The item with the keyboard's focus, 0 for none.
+    virtual std::uint16_t getFocusedItem() const { return 0; }
     /// In the order of the template.
     virtual std::vector<DialogItem*> getItems() const { return {}; }
     /// The first item of an id, null if there is none.

@@ -16,6 +16,9 @@ constexpr std::uint32_t notify = 78;     // wParam: the item; lParam: a const No
 constexpr std::uint32_t initDialog = 272;
 constexpr std::uint32_t command = 273;          // wParam: the item, and a notification code << 16
 constexpr std::uint32_t horizontalScroll = 276; // wParam: position << 16; lParam: the item
+// Of pictures that watch the mouse. wParam: the item; lParam: the place in it, x | y << 16.
+constexpr std::uint32_t mouseMoved = 0x200;
+constexpr std::uint32_t mousePressed = 0x201; // the left button
 } // namespace event
 
 /// Notification codes of event::command, by the kind of item.
@@ -29,6 +32,9 @@ constexpr std::uint32_t editChanged = 0x300;   // after each change of the text,
 constexpr std::uint32_t editLeft = 0x200;      // the item lost the keyboard focus
 // Codes of event::notify.
 constexpr std::int32_t spinStep = -722;
+/// The user is about to select a row, or to deselect it; what is selected then is told by
+/// listViewChanged. It can't be refused.
+constexpr std::int32_t listViewChanging = -100;
 constexpr std::int32_t listViewChanged = -101; // a row's selection or check mark
 constexpr std::int32_t listViewActivated = -3; // double click
 } // namespace notification
@@ -37,10 +43,11 @@ constexpr std::int32_t listViewActivated = -3; // double click
 struct Notification {
     std::uint16_t item = 0;
     std::int32_t code = 0;
-    std::int32_t row = -1;     // list views: the row
-    std::int32_t column = 0;   // list views
-    std::int32_t position = 0; // spins: before the step
-    std::int32_t delta = 0;    // spins: 1 down, -1 up, or more
+    std::int32_t row = -1;      // list views: the row
+    std::int32_t column = 0;    // list views
+    std::uint32_t newState = 0; // list views, of a row that is changing: bit 1 focused, 2 selected
+    std::int32_t position = 0;  // spins: before the step
+    std::int32_t delta = 0;     // spins: 1 down, -1 up, or more
 };
 
 /// An owner-drawn button that wants drawing, for event::drawItem. It is valid during the event.

@@ -28,6 +28,7 @@ public:
     /// In the dialog's inner area.
     virtual Rectangle getPlace() const { return {}; }
     virtual void moveTo(const Rectangle& /*place*/) {}
+    virtual Rectangle getScreenPlace() const { return {}; }
     /// Whether it is shown by itself, be the dialog visible or not.
     virtual bool isShown() const { return false; }
     virtual void show(bool /*isShown*/) {}
@@ -41,6 +42,8 @@ public:
     /// are given.
     virtual std::u16string getText() const { return {}; }
     virtual void setText(std::u16string_view /*text*/) {}
+    /// The width of a text of one line in the item's font, in pixels.
+    virtual std::int32_t getTextWidth(std::u16string_view /*text*/) const { return 0; }
     virtual void setToolTip(std::u16string_view /*text*/) {}
     /// Keeps a number with the item under a name, for programs that look at the dialog from
     /// outside: a window property, until the dialog's end. Nothing where windows have none.

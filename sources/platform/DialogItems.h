@@ -15,7 +15,9 @@ public:
     virtual bool isChecked() const { return false; }
     /// Leaves the other buttons of its group alone.
     virtual void setChecked(bool /*isChecked*/) {}
-    /// Makes a push button the one that Enter presses, in place of the one that was.
+    /// Of a push button: whether Enter presses it unless the focus is on another.
+    virtual bool isDefault() const { return false; }
+    /// In place of the one that was.
     virtual void makeDefault() {}
 };
 
@@ -63,12 +65,25 @@ public:
 /// none.
 class RowsItem : public virtual DialogItem {
 public:
-    enum class Style { icons, details, checkedDetails };
+    /// Large icons above their texts; small ones before them, one below another; columns with small
+    /// icons, with a check mark each or without.
+    enum class Style { icons, list, details, checkedDetails };
 
+    /// At any time. Rows stay as they are, but for their marks.
     virtual void setStyle(Style /*style*/) {}
+    /// From one icon to the next, in pixels.
+    struct Spacing {
+        std::int32_t across = 0;
+        std::int32_t down = 0;
+        bool operator==(const Spacing&) const = default;
+    };
+    /// Of the style of icons, in which the list view is.
+    virtual Spacing getIconSpacing() const { return {}; }
+    virtual void setIconSpacing(const Spacing& /*spacing*/) {}
     /// `width` in pixels.
     virtual void addColumn(std::u16string_view /*title*/, std::int32_t /*width*/) {}
-    /// `icon` is an icon resource, 0 for none. Gives the row.
+    /// `icon` is an icon resource, of which the image of each size is shown; 0 for none. Gives the
+    /// row.
     virtual std::int32_t addRow(std::u16string_view /*text*/, std::uint32_t /*icon*/,
                                 std::uintptr_t /*value*/) {
         return -1;
@@ -85,6 +100,10 @@ public:
     virtual std::vector<std::int32_t> getSelectedRows() const { return {}; }
     /// Selects this row alone, focuses it and brings it into view.
     virtual void selectRow(std::int32_t /*row*/) {}
+    /// The row that the keyboard goes on from.
+    virtual std::int32_t getFocusedRow() const { return -1; }
+    virtual void focusRow(std::int32_t /*row*/) {}
+    virtual void ensureRowVisible(std::int32_t /*row*/) {}
     virtual bool isRowChecked(std::int32_t /*row*/) const { return false; }
     virtual void setRowChecked(std::int32_t /*row*/, bool /*isChecked*/) {}
 };
@@ -106,6 +125,8 @@ public:
     /// `clearsGround`: unless it is set, what was shown there before may stay under the bitmap
     /// until the item is drawn again.
     virtual void setBitmap(std::uint32_t /*bitmap*/, bool /*clearsGround*/) {}
+    /// From now on event::mouseMoved and event::mousePressed tell of the mouse on the item.
+    virtual void watchMouse() {}
 };
 
 } // namespace zent::platform

@@ -64,7 +64,8 @@ public:
                                                          const FileQuestion& question) = 0;
     virtual std::optional<std::u16string> askForSaveFile(WindowHandle owner,
                                                          const FileQuestion& question) = 0;
-    /// Opens the help file beside the library at a context; false if there is no way to.
+    /// Opens a help file, at a context where its viewer can; false if there is no such file or
+    /// nothing that shows it.
     virtual bool showHelp(WindowHandle owner, std::u16string_view helpFile,
                           std::uint32_t context) = 0;
 

@@ -25,8 +25,13 @@ void press(platform::WindowHandle dialog, Key key);
 void type(platform::WindowHandle dialog, std::uint16_t item, std::u16string_view text);
 void paste(platform::WindowHandle dialog, std::uint16_t item, std::u16string_view text);
 void click(platform::WindowHandle dialog, std::uint16_t item);
+/// The mouse goes to a place in an item, in pixels, and its left button down there.
+void moveMouse(platform::WindowHandle dialog, std::uint16_t item, int x, int y);
+void pressMouse(platform::WindowHandle dialog, std::uint16_t item, int x, int y);
 /// Chooses from a combo box or list box.
 void choose(platform::WindowHandle dialog, std::uint16_t item, std::int32_t index);
+/// Of a list view: whether the whole row can be seen without scrolling.
+bool seesRow(platform::WindowHandle dialog, std::uint16_t item, std::int32_t row);
 void clickRow(platform::WindowHandle dialog, std::uint16_t item, std::int32_t row);
 void checkRow(platform::WindowHandle dialog, std::uint16_t item, std::int32_t row);
 void moveSlider(platform::WindowHandle dialog, std::uint16_t item, std::int32_t position);

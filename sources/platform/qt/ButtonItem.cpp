@@ -40,7 +40,7 @@ protected:
 class DrawnButton final : public QAbstractButton {
 public:
     DrawnButton(Dialog& dialog, std::uint16_t id)
-        : QAbstractButton(&dialog), m_dialog(dialog), m_id(id) {
+        : QAbstractButton(&dialog.surface()), m_dialog(dialog), m_id(id) {
         setFocusPolicy(Qt::StrongFocus);
     }
 
@@ -71,9 +71,9 @@ private:
 template <typename Button>
 QAbstractButton& makeCheckable(Dialog& dialog, bool isAutomatic) {
     if (isAutomatic) {
-        return *new Button(&dialog);
+        return *new Button(&dialog.surface());
     }
-    return *new ProgramsButton<Button>(&dialog);
+    return *new ProgramsButton<Button>(&dialog.surface());
 }
 
 QAbstractButton& makeButton(Dialog& dialog, const DialogTemplate::Item& source) {
@@ -90,7 +90,7 @@ QAbstractButton& makeButton(Dialog& dialog, const DialogTemplate::Item& source) 
     case ownerDrawn:
         return *new DrawnButton(dialog, source.id);
     default:
-        return *new QPushButton(&dialog);
+        return *new QPushButton(&dialog.surface());
     }
 }
 
@@ -128,14 +128,13 @@ void ButtonItem::setChecked(bool isChecked) {
     }
 }
 
-bool ButtonItem::isDefault() const {
-    const auto* const push = qobject_cast<const QPushButton*>(&m_button);
-    return push != nullptr && push->isDefault();
-}
+/// The toolkit's own mark moves with the focus.
+bool ButtonItem::isDefault() const { return dialog().defaultButton() == this; }
 
 void ButtonItem::makeDefault() {
     if (auto* const push = qobject_cast<QPushButton*>(&m_button)) {
         push->setDefault(true);
+        dialog().setDefaultButton(*this);
     }
 }
 

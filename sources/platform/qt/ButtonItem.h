@@ -20,7 +20,7 @@ public:
     bool isChecked() const override { return m_button.isChecked(); }
     void setChecked(bool isChecked) override;
 
-    bool isDefault() const;
+    bool isDefault() const override;
     void makeDefault() override;
     /// Of radio buttons that switch each other off. Gives whether this is one.
     bool joinGroup(QButtonGroup& group);

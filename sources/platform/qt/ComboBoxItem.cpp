@@ -8,7 +8,7 @@
 namespace zent::platform::qt {
 
 ComboBoxItem::ComboBoxItem(Dialog& dialog, const DialogTemplate::Item& source)
-    : ComboBoxItem(dialog, source, *new QComboBox(&dialog)) {}
+    : ComboBoxItem(dialog, source, *new QComboBox(&dialog.surface())) {}
 
 ComboBoxItem::ComboBoxItem(Dialog& dialog, const DialogTemplate::Item& source, QComboBox& combo)
     : ChoiceItem(dialog, source, combo, (source.style & comboStyle::sorted) != 0), m_combo(combo) {

@@ -58,14 +58,19 @@ Dialog* Dialog::find(WindowHandle handle) {
 
 Dialog::Dialog(const DialogTemplate& source, const ResourceModule& resources, QWidget* owner,
                DialogProcedure& procedure)
-    : QDialog(owner), m_procedure(procedure), m_pictures(resources), m_units(font()) {
+    : QDialog(owner), m_procedure(procedure), m_pictures(resources), m_units(font()),
+      m_area(*new QScrollArea(this)), m_surface(*new QWidget) {
     liveDialogs().push_back(this);
     setAttribute(Qt::WA_QuitOnClose, false);
     setWindowTitle(toTitle(toQt(source.title)));
-    setFixedSize(m_units.toPixels(source.place).size().boundedTo(largestWindow));
+    m_area.setFrameShape(QFrame::NoFrame);
+    m_area.setFocusPolicy(Qt::NoFocus);
+    m_area.setWidget(&m_surface);
+    m_surface.setAutoFillBackground(false); // the dialog's ground is the items'
+    setInnerSize(m_units.toPixels(source.place).size());
     placeInTheMiddle();
     connect(qApp, &QApplication::focusChanged, this,
-            [this](const QWidget* left) { noticeFocus(left); });
+            [this](const QWidget* left, QWidget* now) { noticeFocus(left, now); });
 }
 
 Dialog::~Dialog() {
@@ -128,18 +133,8 @@ void Dialog::connectNeighbours() {
 
 /// Without one in the template, Enter stands for the item that accepts.
 void Dialog::chooseDefault() {
-    ButtonItem* accepting = nullptr;
-    for (const auto& item : m_items) {
-        auto* const button = dynamic_cast<ButtonItem*>(item.get());
-        if (button != nullptr && button->isDefault()) {
-            return;
-        }
-        if (button != nullptr && button->getId() == okItem) {
-            accepting = button;
-        }
-    }
-    if (accepting != nullptr) {
-        accepting->makeDefault();
+    if (m_defaultButton == nullptr) {
+        item<platform::ButtonItem>(okItem).makeDefault();
     }
 }
 
@@ -150,6 +145,7 @@ void Dialog::start() {
     send(event::initDialog, 0, 0);
     if (m_state == State::running) {
         focusFirst();
+        fitScreen();
         show();
     }
 }
@@ -240,10 +236,7 @@ bool Dialog::focusBehind(const QWidget& widget) {
 
 void Dialog::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    const bool hasDefault = std::any_of(m_items.begin(), m_items.end(), [](const auto& item) {
-        const auto* const button = dynamic_cast<const ButtonItem*>(item.get());
-        return button != nullptr && button->isThere() && button->isDefault();
-    });
+    const bool hasDefault = m_defaultButton != nullptr && m_defaultButton->isThere();
     if (isEnter && !hasDefault) {
         tellCommand(okItem, notification::clicked);
     } else {
@@ -311,16 +304,27 @@ void Dialog::tellDraw(const DrawRequest& request) {
     deliver(event::drawItem, request.item, reinterpret_cast<std::intptr_t>(&request));
 }
 
-void Dialog::noticeFocus(const QWidget* left) {
-    if (m_state != State::running || left == nullptr) {
-        return;
+void Dialog::tellMouse(std::uint32_t message, std::uint16_t item, const QPoint& place) {
+    const auto word = [](int number) { return std::intptr_t{static_cast<std::uint16_t>(number)}; };
+    deliver(message, item, word(place.x()) | word(place.y()) << 16);
+}
+
+void Dialog::noticeFocus(const QWidget* left, QWidget* now) {
+    if (now != nullptr && m_surface.isAncestorOf(now)) {
+        m_area.ensureWidgetVisible(now, 0, 0);
     }
+    Item* const item = m_state == State::running ? findItemOf(left) : nullptr;
+    if (item != nullptr) {
+        item->leaveFocus();
+    }
+}
+
+/// The item that a widget is, or is a part of; null for any other.
+Item* Dialog::findItemOf(const QWidget* widget) const {
     const auto found = std::find_if(m_items.begin(), m_items.end(), [&](const auto& item) {
-        return &item->widget() == left || item->widget().isAncestorOf(left);
+        return &item->widget() == widget || item->widget().isAncestorOf(widget);
     });
-    if (found != m_items.end()) {
-        (*found)->leaveFocus();
-    }
+    return widget != nullptr && found != m_items.end() ? found->get() : nullptr;
 }
 
 // ---- Items and places --------------------------------------------------------------------------
@@ -330,6 +334,11 @@ Item* Dialog::findItem(std::uint16_t id) const {
         return item->isThere() && item->getId() == id;
     });
     return found == m_items.end() ? nullptr : found->get();
+}
+
+std::uint16_t Dialog::getFocusedItem() const {
+    const Item* const item = findItemOf(focusWidget());
+    return item != nullptr ? item->getId() : std::uint16_t{0};
 }
 
 std::vector<DialogItem*> Dialog::getItems() const {
@@ -352,11 +361,41 @@ void Dialog::placeInTheMiddle() {
 
 void Dialog::moveTo(const Rectangle& rectangle) {
     const QRect place = toQt(rectangle);
-    const QSize frame = frameGeometry().size() - size();
-    setFixedSize((place.size() - frame).expandedTo(QSize(0, 0)).boundedTo(largestWindow));
+    setInnerSize(place.size() - (frameGeometry().size() - size()));
     if (place.topLeft() != frameGeometry().topLeft()) {
         move(place.topLeft());
     }
+}
+
+void Dialog::setInnerSize(const QSize& size) {
+    m_surface.resize(size.expandedTo(QSize(0, 0)).boundedTo(largestWindow));
+    setFixedSize(m_surface.size());
+    if (isVisible()) {
+        fitScreen();
+    }
+}
+
+/// A dialog that is larger than its screen shows a part of its surface, and bars to scroll it.
+void Dialog::fitScreen() {
+    // What the frame takes is known once the window is there.
+    const int edge = style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+    const QSize frame =
+        isVisible() ? frameGeometry().size() - size()
+                    : QSize(2 * edge, edge + style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    const QSize room = screen()->availableGeometry().size() - frame;
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    QSize wanted = m_surface.size();
+    if (wanted.width() <= room.width() && wanted.height() <= room.height()) {
+        return;
+    }
+    wanted += QSize(m_surface.height() > room.height() ? bar : 0,
+                    m_surface.width() > room.width() ? bar : 0);
+    setFixedSize(wanted.boundedTo(room));
+}
+
+void Dialog::resizeEvent(QResizeEvent* event) {
+    QDialog::resizeEvent(event);
+    m_area.setGeometry(rect());
 }
 
 void Dialog::setCaption(std::u16string_view text) { setWindowTitle(toTitle(toQt(text))); }

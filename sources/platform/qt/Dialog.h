@@ -8,6 +8,7 @@
 #include <QButtonGroup>
 #include <QDialog>
 #include <QRect>
+#include <QScrollArea>
 
 #include "platform/Dialog.h"
 #include "platform/DialogTemplate.h"
@@ -18,6 +19,8 @@
 #include "platform/qt/Pictures.h"
 
 namespace zent::platform::qt {
+
+class ButtonItem;
 
 /// A dialog and its items. What the user does goes to its procedure.
 class Dialog final : public QDialog, public platform::Dialog {
@@ -50,6 +53,8 @@ public:
     void moveTo(const Rectangle& place) override;
     Rectangle getWorkArea() const override;
     Rectangle mapDialogUnits(const Rectangle& units) const override;
+    std::int32_t getDotsPerInch() const override { return logicalDpiY(); }
+    std::uint16_t getFocusedItem() const override;
     std::vector<DialogItem*> getItems() const override;
     Item* findItem(std::uint16_t id) const override;
 
@@ -59,16 +64,23 @@ public:
     std::intptr_t tellNotification(const Notification& notification);
     void tellScroll(std::uint16_t item, int position);
     void tellDraw(const DrawRequest& request);
+    void tellMouse(std::uint32_t message, std::uint16_t item, const QPoint& place);
 
     /// Gives the focus to the next item in the template that takes it by keyboard. Gives true, as
     /// an event handler does.
     bool focusBehind(const QWidget& widget);
 
+    /// What the items stand on. It scrolls where the dialog doesn't fit the screen.
+    QWidget& surface() { return m_surface; }
+    /// Null if there is none.
+    const ButtonItem* defaultButton() const { return m_defaultButton; }
+    void setDefaultButton(ButtonItem& button) { m_defaultButton = &button; }
     Pictures& pictures() { return m_pictures; }
     const DialogUnits& units() const { return m_units; }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void reject() override;
 
 private:
@@ -84,13 +96,19 @@ private:
     void focusFirst();
     void sendDestroy();
     std::intptr_t deliver(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam);
-    void noticeFocus(const QWidget* left);
+    void noticeFocus(const QWidget* left, QWidget* now);
+    Item* findItemOf(const QWidget* widget) const;
     void placeInTheMiddle();
+    void setInnerSize(const QSize& size);
+    void fitScreen();
 
     DialogProcedure& m_procedure;
     Pictures m_pictures;
     DialogUnits m_units;
+    QScrollArea& m_area;
+    QWidget& m_surface;
     std::vector<std::unique_ptr<Item>> m_items;
+    ButtonItem* m_defaultButton = nullptr;
     std::vector<std::unique_ptr<QButtonGroup>> m_radioGroups;
     State m_state = State::created;
     ModalRun* m_run = nullptr; // of a modal dialog

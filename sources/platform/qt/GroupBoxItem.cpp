@@ -12,7 +12,7 @@ namespace zent::platform::qt {
 /// mnemonic leads to the first item behind it that can have the focus.
 class GroupBoxItem::Box final : public QGroupBox {
 public:
-    explicit Box(Dialog& dialog) : QGroupBox(&dialog), m_dialog(dialog) {}
+    explicit Box(Dialog& dialog) : QGroupBox(&dialog.surface()), m_dialog(dialog) {}
 
 protected:
     bool event(QEvent* event) override {

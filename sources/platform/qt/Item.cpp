@@ -106,6 +106,10 @@ Rectangle Item::getPlace() const { return fromQt(m_widget.geometry()); }
 
 void Item::moveTo(const Rectangle& place) { m_widget.setGeometry(toQt(place)); }
 
+Rectangle Item::getScreenPlace() const {
+    return fromQt(QRect(m_widget.mapToGlobal(QPoint(0, 0)), m_widget.size()));
+}
+
 /// The object stays: it may be its own event that removes it.
 void Item::remove() {
     m_isThere = false;
@@ -116,6 +120,10 @@ void Item::remove() {
 std::u16string Item::getText() const { return fromQt(text()); }
 
 void Item::setText(std::u16string_view text) { showText(toQt(text)); }
+
+std::int32_t Item::getTextWidth(std::u16string_view text) const {
+    return m_widget.fontMetrics().horizontalAdvance(toQt(text));
+}
 
 /// A tool tip that looks like markup would be shown as that.
 void Item::setToolTip(std::u16string_view text) {

@@ -35,6 +35,7 @@ public:
     std::uint16_t getId() const override { return m_id; }
     Rectangle getPlace() const override;
     void moveTo(const Rectangle& place) override;
+    Rectangle getScreenPlace() const override;
     bool isShown() const override { return !m_widget.isHidden(); }
     void show(bool isShown) override { m_widget.setVisible(isShown); }
     bool isEnabled() const override { return m_widget.isEnabledTo(m_widget.window()); }
@@ -43,6 +44,7 @@ public:
     void remove() override;
     std::u16string getText() const override;
     void setText(std::u16string_view text) override;
+    std::int32_t getTextWidth(std::u16string_view text) const override;
     void setToolTip(std::u16string_view text) override;
 
     QWidget& widget() const { return m_widget; }
@@ -55,7 +57,8 @@ public:
     virtual void leaveFocus() {}
 
 protected:
-    /// The widget is the dialog's child. Takes place, visibility and the like from the template.
+    /// The widget is the child of the dialog's surface. Takes place, visibility and the like from
+    /// the template.
     Item(Dialog& dialog, const DialogTemplate::Item& source, QWidget& widget);
 
     Dialog& dialog() const { return m_dialog; }

@@ -98,7 +98,7 @@ private:
 };
 
 LineEditItem::LineEditItem(Dialog& dialog, const DialogTemplate::Item& source)
-    : LineEditItem(dialog, source, *new Entry(&dialog)) {}
+    : LineEditItem(dialog, source, *new Entry(&dialog.surface())) {}
 
 LineEditItem::LineEditItem(Dialog& dialog, const DialogTemplate::Item& source, Entry& edit)
     : EditItem(dialog, source, edit), m_edit(edit) {

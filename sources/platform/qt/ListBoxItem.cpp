@@ -11,7 +11,7 @@ constexpr std::uint32_t sorted = 2;
 } // namespace
 
 ListBoxItem::ListBoxItem(Dialog& dialog, const DialogTemplate::Item& source)
-    : ListBoxItem(dialog, source, *new QListWidget(&dialog)) {}
+    : ListBoxItem(dialog, source, *new QListWidget(&dialog.surface())) {}
 
 ListBoxItem::ListBoxItem(Dialog& dialog, const DialogTemplate::Item& source, QListWidget& list)
     : OpenListItem(dialog, source, list, list, (source.style & sorted) != 0) {

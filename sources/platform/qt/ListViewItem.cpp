@@ -1,6 +1,7 @@
 #include "platform/qt/ListViewItem.h"
 
 #include <algorithm>
+#include <set>
 
 #include <QHeaderView>
 #include <QScopedValueRollback>
@@ -20,19 +21,60 @@ constexpr std::uint32_t noHeader = 0x4000;
 
 constexpr int valueRole = Qt::UserRole;
 
+/// The rows that are selected once a command is done.
+std::set<int> applySelection(std::set<int> rows, const QItemSelection& selection,
+                             QItemSelectionModel::SelectionFlags command) {
+    if (command.testFlag(QItemSelectionModel::Clear)) {
+        rows.clear();
+    }
+    for (const QItemSelectionRange& range : selection) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            const bool isToggled = command.testFlag(QItemSelectionModel::Toggle);
+            if (command.testFlag(QItemSelectionModel::Deselect) ||
+                (isToggled && rows.contains(row))) {
+                rows.erase(row);
+            } else if (isToggled || command.testFlag(QItemSelectionModel::Select)) {
+                rows.insert(row);
+            }
+        }
+    }
+    return rows;
+}
+
 } // namespace
 
+/// Tells of what is about to be selected.
+class ListViewItem::Selection final : public QItemSelectionModel {
+public:
+    Selection(QStandardItemModel& model, QObject& parent, ListViewItem& item)
+        : QItemSelectionModel(&model, &parent), m_item(item) {}
+
+    using QItemSelectionModel::select;
+    void select(const QItemSelection& selection, SelectionFlags command) override {
+        m_item.tellChanging(selection, command,
+                            m_comingRow >= 0 ? m_comingRow : currentIndex().row());
+        QItemSelectionModel::select(selection, command);
+    }
+    /// Selects before the index is the current one.
+    void setCurrentIndex(const QModelIndex& index, SelectionFlags command) override {
+        const QScopedValueRollback guard(m_comingRow, index.row());
+        QItemSelectionModel::setCurrentIndex(index, command);
+    }
+
+private:
+    ListViewItem& m_item;
+    int m_comingRow = -1;
+};
+
 ListViewItem::ListViewItem(Dialog& dialog, const DialogTemplate::Item& source, Pictures& pictures)
-    : ListViewItem(dialog, source, pictures, *new QStackedWidget(&dialog)) {}
+    : ListViewItem(dialog, source, pictures, *new QStackedWidget(&dialog.surface())) {}
 
 ListViewItem::ListViewItem(Dialog& dialog, const DialogTemplate::Item& source, Pictures& pictures,
                            QStackedWidget& stack)
     : Item(dialog, source, stack), m_pictures(pictures), m_stack(stack),
-      m_model(*new QStandardItemModel(&stack)),
-      m_selection(*new QItemSelectionModel(&m_model, &stack)), m_table(*new QTreeView(&stack)),
-      m_icons(*new QListView(&stack)) {
+      m_model(*new QStandardItemModel(&stack)), m_selection(*new Selection(m_model, stack, *this)),
+      m_table(*new QTreeView(&stack)), m_icons(*new QListView(&stack)) {
     setUpTable();
-    setUpIcons();
     for (QAbstractItemView* const view :
          {static_cast<QAbstractItemView*>(&m_table), static_cast<QAbstractItemView*>(&m_icons)}) {
         stack.addWidget(view);
@@ -69,19 +111,40 @@ void ListViewItem::setUpTable() {
     m_table.header()->setSectionsMovable(false);
 }
 
-void ListViewItem::setUpIcons() {
-    constexpr int side = 32;
-    m_icons.setViewMode(QListView::IconMode);
+void ListViewItem::showIcons() {
+    const int side = m_icons.style()->pixelMetric(QStyle::PM_LargeIconSize);
+    m_icons.setViewMode(QListView::IconMode); // which sets the rest back
     m_icons.setIconSize(QSize(side, side));
+    m_icons.setGridSize(QSize(m_spacing.across, m_spacing.down));
     m_icons.setMovement(QListView::Static);
     m_icons.setResizeMode(QListView::Adjust);
     m_icons.setWordWrap(true);
 }
 
+void ListViewItem::showList() {
+    const int side = m_icons.style()->pixelMetric(QStyle::PM_SmallIconSize);
+    m_icons.setViewMode(QListView::ListMode);
+    m_icons.setIconSize(QSize(side, side));
+    m_icons.setGridSize(QSize());
+    m_icons.setWordWrap(false);
+}
+
+void ListViewItem::setIconSpacing(const Spacing& spacing) {
+    m_spacing = spacing;
+    if (m_icons.viewMode() == QListView::IconMode) {
+        m_icons.setGridSize(QSize(spacing.across, spacing.down));
+    }
+}
+
 void ListViewItem::setStyle(Style style) {
     const QScopedValueRollback guard(m_isProgramsChange, true);
     m_hasMarks = style == Style::checkedDetails;
-    QAbstractItemView* const view = style == Style::icons
+    if (style == Style::icons) {
+        showIcons();
+    } else if (style == Style::list) {
+        showList();
+    }
+    QAbstractItemView* const view = style == Style::icons || style == Style::list
                                         ? static_cast<QAbstractItemView*>(&m_icons)
                                         : static_cast<QAbstractItemView*>(&m_table);
     m_stack.setCurrentWidget(view);
@@ -162,6 +225,16 @@ void ListViewItem::selectRow(int row) {
     const QModelIndex place = m_model.index(row, 0);
     m_selection.setCurrentIndex(place,
                                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    ensureRowVisible(row);
+}
+
+void ListViewItem::focusRow(int row) {
+    const QScopedValueRollback guard(m_isProgramsChange, true);
+    m_selection.setCurrentIndex(m_model.index(row, 0), QItemSelectionModel::NoUpdate);
+}
+
+void ListViewItem::ensureRowVisible(int row) {
+    const QModelIndex place = m_model.index(row, 0);
     m_table.scrollTo(place);
     m_icons.scrollTo(place);
 }
@@ -185,6 +258,26 @@ void ListViewItem::showMark(QStandardItem& cell) const {
     cell.setData(m_hasMarks ? QVariant(cell.checkState()) : QVariant(), Qt::CheckStateRole);
 }
 
+void ListViewItem::tellChanging(const QItemSelection& selection,
+                                QItemSelectionModel::SelectionFlags command, int focusedRow) {
+    const std::vector<std::int32_t> rows = getSelectedRows();
+    const std::set<int> before(rows.begin(), rows.end());
+    const std::set<int> after = applySelection(before, selection, command);
+    const auto tellRow = [&](int row, std::uint32_t selected) {
+        tell(notification::listViewChanging, row, 0, selected | (row == focusedRow ? 1U : 0U));
+    };
+    for (const int row : before) {
+        if (!after.contains(row)) {
+            tellRow(row, 0);
+        }
+    }
+    for (const int row : after) {
+        if (!before.contains(row)) {
+            tellRow(row, 2);
+        }
+    }
+}
+
 void ListViewItem::tellSelection(const QItemSelection& now, const QItemSelection& before) {
     // First those that were selected, then those that are.
     for (const QItemSelection* const selection : {&before, &now}) {
@@ -196,7 +289,7 @@ void ListViewItem::tellSelection(const QItemSelection& now, const QItemSelection
     }
 }
 
-void ListViewItem::tell(std::int32_t code, int row, int column) {
+void ListViewItem::tell(std::int32_t code, int row, int column, std::uint32_t newState) {
     if (m_isProgramsChange) {
         return;
     }
@@ -205,6 +298,7 @@ void ListViewItem::tell(std::int32_t code, int row, int column) {
     notification.code = code;
     notification.row = row;
     notification.column = column;
+    notification.newState = newState;
     dialog().tellNotification(notification);
 }
 

@@ -3,6 +3,9 @@
 #include <algorithm>
 
 #include <QApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QUrl>
 
 #include "platform/qt/Caption.h"
 #include "platform/qt/Dialog.h"
@@ -68,10 +71,11 @@ std::optional<std::u16string> QtWindowSystem::askForSaveFile(WindowHandle owner,
     return askForFile(findWidget(owner), question, QFileDialog::AcceptSave);
 }
 
-/// The help file is of a form that nothing here reads.
-bool QtWindowSystem::showHelp(WindowHandle /*owner*/, std::u16string_view /*helpFile*/,
+/// By the desktop's own viewer of such files.
+bool QtWindowSystem::showHelp(WindowHandle /*owner*/, std::u16string_view helpFile,
                               std::uint32_t /*context*/) {
-    return false;
+    const QFileInfo file(toQt(helpFile));
+    return file.isFile() && QDesktopServices::openUrl(QUrl::fromLocalFile(file.absoluteFilePath()));
 }
 
 } // namespace zent::platform::qt

@@ -32,7 +32,7 @@ private:
 };
 
 SimpleComboItem::SimpleComboItem(Dialog& dialog, const DialogTemplate::Item& source)
-    : SimpleComboItem(dialog, source, *new QWidget(&dialog)) {}
+    : SimpleComboItem(dialog, source, *new QWidget(&dialog.surface())) {}
 
 SimpleComboItem::SimpleComboItem(Dialog& dialog, const DialogTemplate::Item& source, QWidget& box)
     : OpenListItem(dialog, source, box, *new QListWidget(&box),

@@ -17,7 +17,8 @@ QSlider& makeTrackBar(Dialog& dialog, std::uint32_t style) {
     constexpr std::uint32_t marksAbove = 4;
     constexpr std::uint32_t marksOnBothSides = 8;
     constexpr std::uint32_t noMarks = 0x10;
-    auto& slider = *new QSlider((style & vertical) != 0 ? Qt::Vertical : Qt::Horizontal, &dialog);
+    auto& slider =
+        *new QSlider((style & vertical) != 0 ? Qt::Vertical : Qt::Horizontal, &dialog.surface());
     slider.setTickPosition((style & noMarks) != 0            ? QSlider::NoTicks
                            : (style & marksOnBothSides) != 0 ? QSlider::TicksBothSides
                            : (style & marksAbove) != 0       ? QSlider::TicksAbove
@@ -27,7 +28,8 @@ QSlider& makeTrackBar(Dialog& dialog, std::uint32_t style) {
 
 QScrollBar& makeScrollBar(Dialog& dialog, std::uint32_t style) {
     constexpr std::uint32_t vertical = 1;
-    return *new QScrollBar((style & vertical) != 0 ? Qt::Vertical : Qt::Horizontal, &dialog);
+    return *new QScrollBar((style & vertical) != 0 ? Qt::Vertical : Qt::Horizontal,
+                           &dialog.surface());
 }
 
 } // namespace

@@ -24,7 +24,7 @@ constexpr std::uint32_t takesArrowKeys = 0x20;
 /// Two buttons, one above the other. They take the arrow keys of the widgets that they watch.
 class SpinItem::Arrows final : public QWidget {
 public:
-    explicit Arrows(Dialog& dialog) : QWidget(&dialog) {}
+    explicit Arrows(Dialog& dialog) : QWidget(&dialog.surface()) {}
     void setItem(SpinItem& item) {
         add(Qt::UpArrow, item, 1);
         add(Qt::DownArrow, item, -1);

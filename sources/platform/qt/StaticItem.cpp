@@ -1,6 +1,8 @@
 #include "platform/qt/StaticItem.h"
 
-#include <QEvent>
+#include <optional>
+
+#include <QMouseEvent>
 
 #include "platform/qt/Dialog.h"
 #include "platform/qt/Pictures.h"
@@ -30,8 +32,13 @@ std::uint32_t kindOf(std::uint32_t style) { return style & 0x1F; }
 /// A label whose mnemonic leads to the first item behind it that can have the focus.
 class StaticItem::Label final : public QLabel {
 public:
-    explicit Label(Dialog& dialog) : QLabel(&dialog), m_dialog(dialog) {
+    explicit Label(Dialog& dialog) : QLabel(&dialog.surface()), m_dialog(dialog) {
         setBuddy(&dialog); // or it wouldn't underline the mnemonic
+    }
+
+    void watchMouse(std::uint16_t item) {
+        m_watchedItem = item;
+        setMouseTracking(true);
     }
 
 protected:
@@ -40,15 +47,32 @@ protected:
                                                  : QLabel::event(event);
     }
 
+    void mouseMoveEvent(QMouseEvent* event) override {
+        QLabel::mouseMoveEvent(event);
+        if (m_watchedItem) {
+            m_dialog.tellMouse(platform::event::mouseMoved, *m_watchedItem,
+                               event->position().toPoint());
+        }
+    }
+
+    void mousePressEvent(QMouseEvent* event) override {
+        QLabel::mousePressEvent(event);
+        if (m_watchedItem && event->button() == Qt::LeftButton) {
+            m_dialog.tellMouse(platform::event::mousePressed, *m_watchedItem,
+                               event->position().toPoint());
+        }
+    }
+
 private:
     Dialog& m_dialog;
+    std::optional<std::uint16_t> m_watchedItem;
 };
 
 StaticItem::StaticItem(Dialog& dialog, const DialogTemplate::Item& source, Pictures& pictures)
     : StaticItem(dialog, source, pictures, *new Label(dialog)) {}
 
 StaticItem::StaticItem(Dialog& dialog, const DialogTemplate::Item& source, Pictures& pictures,
-                       QLabel& label)
+                       Label& label)
     : Item(dialog, source, label), m_label(label), m_pictures(pictures) {
     label.setTextFormat(Qt::PlainText);
     switch (kindOf(style())) {
@@ -77,6 +101,10 @@ void StaticItem::setBitmap(std::uint32_t bitmap, bool /*clearsGround*/) {
     m_label.setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_label.setPixmap(bitmap == 0 ? QPixmap() : m_pictures.bitmap(bitmap));
 }
+
+void StaticItem::watchMouse() { m_label.watchMouse(getId()); }
+
+void StaticItem::setBuddy(QWidget& widget) { m_label.setBuddy(&widget); }
 
 void StaticItem::showTemplatesPicture(const DialogTemplate::Name& title) {
     const auto* const number = std::get_if<std::uint16_t>(&title);

@@ -16,19 +16,20 @@ public:
     QString text() const override { return m_text; }
     void showText(const QString& text) override;
     void setBitmap(std::uint32_t bitmap, bool clearsGround) override;
+    void watchMouse() override;
     /// The item that this one tells the name of.
-    void setBuddy(QWidget& widget) { m_label.setBuddy(&widget); }
+    void setBuddy(QWidget& widget);
 
 private:
     class Label;
 
     StaticItem(Dialog& dialog, const DialogTemplate::Item& source, Pictures& pictures,
-               QLabel& label);
+               Label& label);
     void showTemplatesPicture(const DialogTemplate::Name& title);
     void alignText();
     void drawAsLine();
 
-    QLabel& m_label;
+    Label& m_label;
     Pictures& m_pictures;
     QString m_text;
 };

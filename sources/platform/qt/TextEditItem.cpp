@@ -76,7 +76,7 @@ private:
 };
 
 TextEditItem::TextEditItem(Dialog& dialog, const DialogTemplate::Item& source)
-    : TextEditItem(dialog, source, *new Pane(&dialog)) {}
+    : TextEditItem(dialog, source, *new Pane(&dialog.surface())) {}
 
 TextEditItem::TextEditItem(Dialog& dialog, const DialogTemplate::Item& source, QPlainTextEdit& edit)
     : EditItem(dialog, source, edit), m_edit(edit) {

@@ -133,13 +133,12 @@ void onceOpen(std::function<void(WindowHandle dialog)> action) {
 }
 
 std::uint16_t focused(WindowHandle dialog) {
-    for (const QWidget* widget = widgetOf(dialog)->focusWidget(); widget != nullptr;
+    std::uint16_t item = 0;
+    for (const QWidget* widget = widgetOf(dialog)->focusWidget(); widget != nullptr && item == 0;
          widget = widget->parentWidget()) {
-        if (!widget->isWindow() && widget->parentWidget()->isWindow()) {
-            return widget->objectName().toUShort();
-        }
+        item = widget->objectName().toUShort();
     }
-    return 0;
+    return item;
 }
 
 void press(WindowHandle dialog, Key key) {
@@ -185,6 +184,18 @@ void click(WindowHandle dialog, std::uint16_t item) {
     }
 }
 
+void moveMouse(WindowHandle dialog, std::uint16_t item, int x, int y) {
+    if (auto* const widget = findUsable(dialog, item)) {
+        QTest::mouseMove(widget, QPoint(x, y));
+    }
+}
+
+void pressMouse(WindowHandle dialog, std::uint16_t item, int x, int y) {
+    if (auto* const widget = findUsable(dialog, item)) {
+        QTest::mousePress(widget, Qt::LeftButton, Qt::NoModifier, QPoint(x, y));
+    }
+}
+
 void choose(WindowHandle dialog, std::uint16_t item, std::int32_t index) {
     if (auto* const combo = findUsable<QComboBox>(dialog, item)) {
         combo->setFocus();
@@ -197,6 +208,12 @@ void choose(WindowHandle dialog, std::uint16_t item, std::int32_t index) {
     } else if (auto* const list = findUsable<QListWidget>(dialog, item)) {
         clickAt(list, placeOfRow(list, index).center());
     }
+}
+
+bool seesRow(WindowHandle dialog, std::uint16_t item, std::int32_t row) {
+    auto* const view = findUsable<QAbstractItemView>(dialog, item);
+    const QRect place = view != nullptr ? view->visualRect(view->model()->index(row, 0)) : QRect();
+    return place.top() >= 0 && place.bottom() < view->viewport()->height() && !place.isEmpty();
 }
 
 void clickRow(WindowHandle dialog, std::uint16_t item, std::int32_t row) {

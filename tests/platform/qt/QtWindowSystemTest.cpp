@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QDesktopServices>
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QInputMethodEvent>
@@ -11,6 +12,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QTest>
+#include <QTextBrowser>
 #include <gtest/gtest.h>
 
 #include "platform/SampleDialog.h"
@@ -174,6 +176,40 @@ TEST_F(QtWindowSystemTest, EndsWithAWindowOfTheHost) {
         },
         host.get());
     EXPECT_EQ(m_recorder.log, "init; destroy");
+}
+
+TEST_F(QtWindowSystemTest, WhatIsLargerThanTheScreenScrolls) {
+    TemplateBuilder builder(u"Large", {0, 0, 2000, 2000});
+    builder.add(3, TemplateBuilder::edit, stop, {5, 5, 60, 12})
+        .add(4, TemplateBuilder::edit, stop, {1900, 1900, 60, 12});
+    run(builder, [](WindowHandle dialog) {
+        const Rectangle window = dialogOf(dialog).getWindowRectangle();
+        const Rectangle area = dialogOf(dialog).getWorkArea();
+        EXPECT_LE(window.width(), area.width());
+        EXPECT_LE(window.height(), area.height());
+        const auto isSeen = [&](std::uint16_t id) {
+            return !static_cast<QWidget*>(dialog)
+                        ->findChild<QWidget*>(QString::number(id))
+                        ->visibleRegion()
+                        .isEmpty();
+        };
+        EXPECT_TRUE(isSeen(3));
+        EXPECT_FALSE(isSeen(4));
+        user::press(dialog, Key::tab);
+        EXPECT_EQ(user::focused(dialog), 4);
+        EXPECT_TRUE(isSeen(4));
+    });
+}
+
+TEST_F(QtWindowSystemTest, HelpIsShownByTheDesktop) {
+    const ScratchFolder folder;
+    folder.write("help.html", "<p>Help</p>");
+    QTextBrowser viewer;
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), &viewer, "setSource");
+    EXPECT_TRUE(windows().showHelp(nullptr, folder.file("help.html"), 800));
+    EXPECT_EQ(viewer.toPlainText(), QStringLiteral("Help"));
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    EXPECT_FALSE(windows().showHelp(nullptr, folder.file("help.html"), 800)); // no desktop
 }
 
 TEST_F(QtWindowSystemTest, AsksForFiles) {
