@@ -7,7 +7,7 @@
 
 #include "ocore/Text/CutText.h"
 #include "platform/UnseenMessage.h"
-#include "platform/win32/SeenDesktop.h"
+#include "platform/WindowSystem.h"
 #include "platform/win32/WideText.h"
 #include "platform/win32/WindowText.h"
 
@@ -17,13 +17,10 @@ const bool unknownExceptionsMayLeave = true;
 
 std::int32_t showMessageBox(WindowHandle owner, const CXString& body, const CXString& title,
                             std::uint32_t flags) {
-    const int answer =
-        isDesktopSeen() ? MessageBoxW(static_cast<HWND>(owner), wide(body), wide(title), flags) : 0;
-    if (answer == 0) {
-        return printUnseenMessage(body, title, flags);
-    }
-    // A box that has OK alone answers so when it is closed, too; Wine says otherwise.
-    return (flags & MB_TYPEMASK) == MB_OK && answer == IDCANCEL ? IDOK : answer;
+    WindowSystem* const system = WindowSystem::find();
+    const std::int32_t answer =
+        system != nullptr ? system->showMessageBox(owner, body, title, flags) : 0;
+    return answer != 0 ? answer : printUnseenMessage(body, title, flags);
 }
 
 CXString getWindowCaption(WindowHandle window) {

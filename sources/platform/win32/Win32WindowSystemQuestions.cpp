@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "platform/System.h"
 #include "platform/win32/Dialog.h"
 #include "platform/win32/WideText.h"
 #include "platform/win32/Win32WindowSystem.h"
@@ -60,7 +59,10 @@ private:
 
 std::int32_t Win32WindowSystem::showMessageBox(WindowHandle owner, std::u16string_view body,
                                                std::u16string_view title, std::uint32_t flags) {
-    return platform::showMessageBox(owner, CXString(body), CXString(title), flags);
+    const int answer = MessageBoxW(static_cast<HWND>(owner), wide(std::u16string(body).c_str()),
+                                   wide(std::u16string(title).c_str()), flags);
+    // A box that has OK alone answers so when it is closed, too; Wine says otherwise.
+    return (flags & MB_TYPEMASK) == MB_OK && answer == IDCANCEL ? IDOK : answer;
 }
 
 std::optional<std::u16string> Win32WindowSystem::askForOpenFile(WindowHandle owner,
