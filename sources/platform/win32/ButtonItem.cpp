@@ -19,8 +19,15 @@ public:
     void setChecked(bool isChecked) override {
         send(BM_SETCHECK, isChecked ? BST_CHECKED : BST_UNCHECKED);
     }
+    bool isDefault() const override;
     void makeDefault() override;
 };
+
+/// The styles of the buttons go with the focus.
+bool AnyButton::isDefault() const {
+    const LRESULT answer = SendMessageW(dialog().window(), DM_GETDEFID, 0, 0);
+    return isThere() && HIWORD(answer) == DC_HASDEFID && LOWORD(answer) == getId();
+}
 
 void AnyButton::makeDefault() {
     if (getType(window()) > BS_DEFPUSHBUTTON) {

@@ -192,6 +192,18 @@ Rectangle Dialog::mapDialogUnits(const Rectangle& units) const {
     return MapDialogRect(m_window, &rect) != FALSE ? asRectangle(rect) : Rectangle();
 }
 
+std::int32_t Dialog::getDotsPerInch() const {
+    return GetDeviceCaps(WindowSurface(m_window).get(), LOGPIXELSY);
+}
+
+std::uint16_t Dialog::getFocusedItem() const {
+    const HWND focus = GetFocus();
+    const auto found = std::find_if(m_items.begin(), m_items.end(), [&](const auto& item) {
+        return item->isThere() && (item->window() == focus || IsChild(item->window(), focus));
+    });
+    return focus != nullptr && found != m_items.end() ? (*found)->getId() : std::uint16_t{0};
+}
+
 // ---- What the window is told --------------------------------------------------------------------
 
 INT_PTR CALLBACK Dialog::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -64,6 +64,8 @@ public:
     /// Of the screen that the dialog is on.
     Rectangle getWorkArea() const override;
     Rectangle mapDialogUnits(const Rectangle& units) const override;
+    std::int32_t getDotsPerInch() const override;
+    std::uint16_t getFocusedItem() const override;
     std::vector<DialogItem*> getItems() const override;
     Item* findItem(std::uint16_t id) const override;
 
@@ -79,6 +81,7 @@ public:
     void setProperty(HWND item, std::u16string_view name, std::uintptr_t value);
     /// Before an item's window goes.
     void forget(HWND item);
+    void tellMouse(std::uint32_t message, std::uint16_t item, LPARAM place);
     bool showHelp(const std::u16string& helpFile, std::uint32_t context);
 
     /// While it lives, what happens to items is the program's doing and raises no event, but that
@@ -112,6 +115,7 @@ private:
     bool onClick(std::uint16_t id);
     bool onNotify(const NMHDR& header);
     bool onSpinStep(const NMUPDOWN& step);
+    void onListViewChanging(const NMLISTVIEW& row);
     bool onListView(const NMLISTVIEW& row);
     bool notify(const Notification& notification);
     bool onScroll(std::uint32_t code, HWND control);

@@ -124,6 +124,10 @@ bool Dialog::onNotify(const NMHDR& header) {
     case ItemKind::spin:
         return header.code == UDN_DELTAPOS && onSpinStep(reinterpret_cast<const NMUPDOWN&>(header));
     case ItemKind::listView:
+        if (header.code == LVN_ITEMCHANGING) {
+            onListViewChanging(reinterpret_cast<const NMLISTVIEW&>(header));
+            return false; // whatever the answer
+        }
         return (header.code == LVN_ITEMCHANGED || header.code == NM_DBLCLK) &&
                onListView(reinterpret_cast<const NMLISTVIEW&>(header));
     default:
@@ -151,6 +155,20 @@ bool Dialog::onSpinStep(const NMUPDOWN& step) {
     notification.position = step.iPos;
     notification.delta = countsUp ? -step.iDelta : step.iDelta;
     return notify(notification);
+}
+
+void Dialog::onListViewChanging(const NMLISTVIEW& row) {
+    const bool isSelection =
+        (row.uChanged & LVIF_STATE) != 0 && ((row.uNewState ^ row.uOldState) & LVIS_SELECTED) != 0;
+    if (!isSelection) {
+        return;
+    }
+    Notification notification;
+    notification.item = static_cast<std::uint16_t>(row.hdr.idFrom);
+    notification.code = notification::listViewChanging;
+    notification.row = row.iItem;
+    notification.newState = row.uNewState & (LVIS_FOCUSED | LVIS_SELECTED);
+    notify(notification);
 }
 
 bool Dialog::onListView(const NMLISTVIEW& row) {
@@ -181,6 +199,14 @@ bool Dialog::onScroll(std::uint32_t code, HWND control) {
                               : static_cast<std::uint32_t>(moveScrollBar(control, code));
     std::intptr_t result = 0;
     return deliver(event::horizontalScroll, MAKEWPARAM(0, position), GetDlgCtrlID(control), result);
+}
+
+void Dialog::tellMouse(std::uint32_t message, std::uint16_t item, LPARAM place) {
+    if (raisesEvents()) {
+        const auto kept = shared_from_this(); // the event may end it
+        std::intptr_t result = 0;
+        deliver(message, item, place, result);
+    }
 }
 
 bool Dialog::onDrawItem(const DRAWITEMSTRUCT& request) {

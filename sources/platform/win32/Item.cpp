@@ -3,6 +3,8 @@
 #include <utility>
 
 #include "platform/win32/Dialog.h"
+#include "platform/win32/GdiHandles.h"
+#include "platform/win32/WideText.h"
 #include "platform/win32/WindowText.h"
 
 namespace zent::platform::win32 {
@@ -38,6 +40,12 @@ Rectangle Item::getPlace() const {
     RECT rect = {};
     GetWindowRect(m_window, &rect);
     MapWindowPoints(nullptr, m_dialog.window(), reinterpret_cast<POINT*>(&rect), 2);
+    return {rect.left, rect.top, rect.right, rect.bottom};
+}
+
+Rectangle Item::getScreenPlace() const {
+    RECT rect = {};
+    GetWindowRect(m_window, &rect);
     return {rect.left, rect.top, rect.right, rect.bottom};
 }
 
@@ -87,6 +95,16 @@ std::u16string Item::getText() const { return getWindowText(m_window); }
 void Item::setText(std::u16string_view text) {
     const Dialog::Silence silence(m_dialog);
     setWindowText(m_window, text);
+}
+
+std::int32_t Item::getTextWidth(std::u16string_view text) const {
+    const WindowSurface surface(m_window);
+    const HGDIOBJ before = SelectObject(surface.get(), reinterpret_cast<HFONT>(send(WM_GETFONT)));
+    SIZE size = {};
+    const std::u16string copy(text);
+    GetTextExtentPoint32W(surface.get(), wide(copy.c_str()), static_cast<int>(copy.size()), &size);
+    SelectObject(surface.get(), before);
+    return size.cx;
 }
 
 void Item::setToolTip(std::u16string_view text) { m_dialog.setToolTip(m_window, text); }

@@ -25,6 +25,7 @@ public:
     std::uint16_t getId() const override { return m_id; }
     Rectangle getPlace() const override;
     void moveTo(const Rectangle& place) override;
+    Rectangle getScreenPlace() const override;
     bool isShown() const override;
     void show(bool isShown) override;
     bool isEnabled() const override;
@@ -33,6 +34,7 @@ public:
     void remove() override;
     std::u16string getText() const override;
     void setText(std::u16string_view text) override;
+    std::int32_t getTextWidth(std::u16string_view text) const override;
     void setToolTip(std::u16string_view text) override;
     void setProperty(std::u16string_view name, std::uintptr_t value) override;
 

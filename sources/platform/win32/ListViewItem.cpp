@@ -1,3 +1,5 @@
+#include <optional>
+
 #include "platform/win32/Dialog.h"
 #include "platform/win32/Item.h"
 #include "platform/win32/ResourceImages.h"
@@ -9,11 +11,16 @@ namespace zent::platform::win32 {
 
 namespace {
 
+/// Where a search begins that goes through all rows.
+constexpr auto firstRow = static_cast<WPARAM>(-1);
+
 class ListViewItem final : public Item, public RowsItem {
 public:
     using Item::Item;
 
     void setStyle(Style style) override;
+    Spacing getIconSpacing() const override;
+    void setIconSpacing(const Spacing& spacing) override;
     void addColumn(std::u16string_view title, std::int32_t width) override;
     std::int32_t addRow(std::u16string_view text, std::uint32_t icon,
                         std::uintptr_t value) override;
@@ -27,6 +34,15 @@ public:
     std::uintptr_t getRowValue(std::int32_t row) const override;
     std::vector<std::int32_t> getSelectedRows() const override;
     void selectRow(std::int32_t row) override;
+    std::int32_t getFocusedRow() const override {
+        return isThere() ? static_cast<std::int32_t>(
+                               send(LVM_GETNEXTITEM, firstRow, LPARAM{LVNI_FOCUSED}))
+                         : -1;
+    }
+    void focusRow(std::int32_t row) override { setState(row, LVIS_FOCUSED, LVIS_FOCUSED); }
+    void ensureRowVisible(std::int32_t row) override {
+        send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), LPARAM{FALSE});
+    }
     bool isRowChecked(std::int32_t row) const override;
     void setRowChecked(std::int32_t row, bool isChecked) override;
 
@@ -43,16 +59,6 @@ private:
             const DWORD newStyle = (style & ~DWORD{LVS_TYPEMASK}) | view;
             SetWindowLongW(window(), GWL_STYLE, static_cast<LONG>(newStyle));
         }
-    }
-
-    /// Icons further apart on a fine screen, where their texts are taller.
-    void spreadIcons() const {
-        constexpr int coarseScreen = 96; // pixels an inch
-        constexpr WORD onCoarse = 70;
-        constexpr WORD onFine = 80;
-        const int density = GetDeviceCaps(WindowSurface(window()).get(), LOGPIXELSY);
-        const WORD across = LOWORD(send(LVM_GETITEMSPACING, FALSE));
-        send(LVM_SETICONSPACING, 0, MAKELPARAM(across, density > coarseScreen ? onFine : onCoarse));
     }
 
     /// Adds an icon to the lists of the large and the small ones; gives its index.
@@ -84,6 +90,9 @@ private:
         const OwnIcon image = createIcon(dialog().resources(), icon, cx, cy);
         return ImageList_ReplaceIcon(images, -1, image.get());
     }
+
+    std::optional<Spacing> m_spacing;
+    bool m_isList = false; // by its style, not for want of columns
 };
 
 /// The numbers of the pictures of a check mark, in their place in an item's state.
@@ -93,11 +102,18 @@ constexpr UINT withMark = 2U << 12U;
 void ListViewItem::setStyle(Style style) {
     constexpr DWORD extended = LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT;
     const Dialog::Silence silence(dialog());
+    m_isList = style == Style::list;
     switch (style) {
     case Style::icons:
         setView(LVS_ICON);
         send(LVM_SETEXTENDEDLISTVIEWSTYLE, extended, LPARAM{0});
-        spreadIcons();
+        if (m_spacing) { // a new style has forgotten it
+            setIconSpacing(*m_spacing);
+        }
+        break;
+    case Style::list:
+        setView(LVS_LIST);
+        send(LVM_SETEXTENDEDLISTVIEWSTYLE, extended, LPARAM{0});
         break;
     case Style::details:
     case Style::checkedDetails:
@@ -109,6 +125,16 @@ void ListViewItem::setStyle(Style style) {
     }
 }
 
+RowsItem::Spacing ListViewItem::getIconSpacing() const {
+    const auto spacing = static_cast<DWORD>(send(LVM_GETITEMSPACING, FALSE));
+    return {LOWORD(spacing), HIWORD(spacing)};
+}
+
+void ListViewItem::setIconSpacing(const Spacing& spacing) {
+    m_spacing = spacing;
+    send(LVM_SETICONSPACING, 0, MAKELPARAM(spacing.across, spacing.down));
+}
+
 void ListViewItem::addColumn(std::u16string_view title, std::int32_t width) {
     std::u16string text(title);
     LVCOLUMNW column = {};
@@ -117,7 +143,7 @@ void ListViewItem::addColumn(std::u16string_view title, std::int32_t width) {
     column.cx = width;
     column.iSubItem = countColumns();
     send(LVM_INSERTCOLUMNW, static_cast<WPARAM>(column.iSubItem), &column);
-    if (hasStyle(LVS_LIST)) {
+    if (hasStyle(LVS_LIST) && !m_isList) {
         setView(LVS_REPORT);
     }
 }
@@ -199,7 +225,7 @@ void ListViewItem::selectRow(std::int32_t row) {
     setState(allRows, 0, LVIS_SELECTED);
     if (hasRow(row)) {
         setState(row, selectedAndFocused, selectedAndFocused);
-        send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), LPARAM{FALSE});
+        ensureRowVisible(row);
     }
 }
 

@@ -34,6 +34,9 @@ void Picture::setBitmap(const ResourceModule& resources, std::uint32_t id, bool 
 }
 
 LRESULT Picture::process(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_NCHITTEST && m_tellMouse) {
+        return HTCLIENT; // by itself the item leaves the mouse to the page
+    }
     const LRESULT result = SubclassedItem::process(message, wParam, lParam);
     if (message == WM_PAINT) {
         m_bitmap.draw(WindowSurface(window()).get(), 0, 0);
@@ -41,6 +44,9 @@ LRESULT Picture::process(UINT message, WPARAM wParam, LPARAM lParam) {
         m_bitmap.draw(reinterpret_cast<HDC>(wParam), 0, 0);
     } else if (message == WM_DESTROY) {
         RemovePropW(window(), bitmapProperty);
+    } else if ((message == WM_MOUSEMOVE || message == WM_LBUTTONDOWN) && m_tellMouse) {
+        const auto tell = m_tellMouse; // which may end the window
+        tell(message, lParam);
     }
     return result;
 }

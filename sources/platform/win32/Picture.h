@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <utility>
 
 #include "platform/ResourceModule.h"
 #include "platform/win32/MaskedBitmap.h"
@@ -16,11 +18,17 @@ public:
     /// A bitmap resource, 0 for none. Without `clearsGround` it is drawn over what is there.
     void setBitmap(const ResourceModule& resources, std::uint32_t id, bool clearsGround);
 
+    /// Gives what is to be told of the mouse on the item: the message and the place in the item.
+    void watchMouse(std::function<void(UINT message, LPARAM place)> tell) {
+        m_tellMouse = std::move(tell);
+    }
+
 protected:
     LRESULT process(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
     MaskedBitmap m_bitmap{nullptr};
+    std::function<void(UINT, LPARAM)> m_tellMouse;
 };
 
 } // namespace zent::platform::win32

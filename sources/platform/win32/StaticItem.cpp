@@ -16,6 +16,14 @@ public:
         }
     }
 
+    void watchMouse() override {
+        if (Picture* const picture = findOrAttachPicture()) {
+            picture->watchMouse([this](UINT message, LPARAM place) {
+                dialog().tellMouse(message, getId(), place);
+            });
+        }
+    }
+
 private:
     /// What stands before the window's procedure; null if the system refuses.
     Picture* findOrAttachPicture() const {

@@ -226,6 +226,30 @@ void click(WindowHandle dialog, std::uint16_t item) {
     }
 }
 
+namespace {
+
+/// What the mouse does at a place in an item, to the window that the system finds there.
+void useMouse(WindowHandle dialog, std::uint16_t item, UINT message, POINT place) {
+    const HWND window = findUsable(dialog, item);
+    ClientToScreen(window, &place);
+    const HWND target = WindowFromPoint(place);
+    ScreenToClient(target, &place);
+    if (window != nullptr) {
+        PostMessageW(target, message, 0, MAKELPARAM(place.x, place.y));
+        serveMessages(asWindow(dialog));
+    }
+}
+
+} // namespace
+
+void moveMouse(WindowHandle dialog, std::uint16_t item, int x, int y) {
+    useMouse(dialog, item, WM_MOUSEMOVE, {x, y});
+}
+
+void pressMouse(WindowHandle dialog, std::uint16_t item, int x, int y) {
+    useMouse(dialog, item, WM_LBUTTONDOWN, {x, y});
+}
+
 /// By the keyboard, from the start of the list.
 void choose(WindowHandle dialog, std::uint16_t item, std::int32_t index) {
     const HWND window = findUsable(dialog, item);
@@ -242,6 +266,21 @@ void choose(WindowHandle dialog, std::uint16_t item, std::int32_t index) {
         before = selected();
         pressKey(asWindow(dialog), before < index ? VK_DOWN : VK_UP);
     }
+}
+
+bool seesRow(WindowHandle dialog, std::uint16_t item, std::int32_t row) {
+    const HWND window = findUsable(dialog, item);
+    RECT place = {LVIR_BOUNDS, 0, 0, 0};
+    SendMessageW(window, LVM_GETITEMRECT, static_cast<WPARAM>(row),
+                 reinterpret_cast<LPARAM>(&place));
+    RECT view = {};
+    GetClientRect(window, &view);
+    const HWND header = reinterpret_cast<HWND>(SendMessageW(window, LVM_GETHEADER, 0, 0));
+    RECT top = {};
+    if (header != nullptr && IsWindowVisible(header) != FALSE) {
+        GetClientRect(header, &top);
+    }
+    return place.top >= top.bottom && place.bottom <= view.bottom && place.bottom > place.top;
 }
 
 void clickRow(WindowHandle dialog, std::uint16_t item, std::int32_t row) {
