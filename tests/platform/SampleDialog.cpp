@@ -9,7 +9,27 @@ namespace zent::test {
 namespace {
 
 constexpr std::size_t headerSize = 40; // of a bitmap
-constexpr std::size_t side = 8;
+constexpr std::uint8_t side = 8;
+
+void paint(std::vector<std::uint8_t>& image, std::size_t pixel, std::uint32_t colour) {
+    for (std::size_t byte = 0; byte < 3; ++byte) {
+        image[headerSize + pixel * 3 + byte] = static_cast<std::uint8_t>(colour >> (8 * byte));
+    }
+}
+
+/// A square bitmap of one colour, without a file's header.
+std::vector<std::uint8_t> makeImage(std::uint8_t size, std::uint32_t colour) {
+    std::vector<std::uint8_t> image(headerSize + std::size_t{size} * size * 3);
+    put32(image, 0, headerSize);
+    put32(image, 4, size);
+    put32(image, 8, size);
+    put16(image, 12, 1);
+    put16(image, 14, 24);
+    for (std::size_t pixel = 0; pixel < std::size_t{size} * size; ++pixel) {
+        paint(image, pixel, colour);
+    }
+    return image;
+}
 
 } // namespace
 
@@ -44,38 +64,51 @@ std::vector<std::byte> sampleTemplate() {
         .build();
 }
 
-SampleResources::SampleResources() : m_bitmap(headerSize + side * side * 3), m_iconGroup(20) {
-    put32(m_bitmap, 0, headerSize);
-    put32(m_bitmap, 4, side);
-    put32(m_bitmap, 8, side);
-    put16(m_bitmap, 12, 1);
-    put16(m_bitmap, 14, 24);
+SampleResources::SampleResources() {
+    using namespace platform;
+    Image bitmap = makeImage(side, 0x0000FF);
     for (std::uint32_t pixel = 0; pixel < side * side; ++pixel) {
-        const bool isRed = pixel % side / 2 % 3 != 0 && pixel / side / 2 % 3 != 0;
-        m_bitmap[headerSize + pixel * 3 + (isRed ? 2 : 0)] = 255;
+        if (pixel % side / 2 % 3 != 0 && pixel / side / 2 % 3 != 0) {
+            paint(bitmap, pixel, 0xFF0000);
+        }
     }
-    m_icon = m_bitmap;
-    m_icon.resize(m_bitmap.size() + side * 4); // a mask that lets all through
-    put32(m_icon, 8, side * 2);
-    put16(m_iconGroup, 2, 1);
-    put16(m_iconGroup, 4, 1);
-    m_iconGroup[6] = m_iconGroup[7] = side;
-    put16(m_iconGroup, 10, 1);
-    put16(m_iconGroup, 12, 24);
-    put32(m_iconGroup, 14, static_cast<std::uint32_t>(m_icon.size()));
-    put16(m_iconGroup, 18, redPicture);
+    addIcon(redPicture, {{side, 0}});
+    Image icon = bitmap;
+    icon.resize(bitmap.size() + side * 4); // a mask that lets all through
+    put32(icon, 8, side * 2);
+    m_images[{redPicture * 10, resourceType::icon}] = icon;
+    m_images[{redPicture, resourceType::bitmap}] = bitmap;
+    addIcon(twoSizes, {{16, smallColour}, {32, largeColour}});
+}
+
+void SampleResources::addIcon(
+    std::uint32_t group, std::initializer_list<std::pair<std::uint8_t, std::uint32_t>> images) {
+    Image directory(6);
+    put16(directory, 2, 1);
+    put16(directory, 4, static_cast<std::uint16_t>(images.size()));
+    std::uint32_t id = group * 10;
+    for (const auto& [size, colour] : images) {
+        Image image = makeImage(size, colour);
+        image.resize(image.size() + std::size_t{size} * 4);
+        put32(image, 8, size * 2U);
+        const std::size_t entry = directory.size();
+        directory.resize(entry + 14);
+        directory[entry] = directory[entry + 1] = size;
+        put16(directory, entry + 4, 1);
+        put16(directory, entry + 6, 24);
+        put32(directory, entry + 8, static_cast<std::uint32_t>(image.size()));
+        put16(directory, entry + 12, static_cast<std::uint16_t>(id));
+        m_images[{id++, platform::resourceType::icon}] = std::move(image);
+    }
+    m_images[{group, platform::resourceType::iconGroup}] = std::move(directory);
 }
 
 std::span<const std::byte> SampleResources::findResource(std::uint32_t id, std::uint32_t type,
                                                          Failure& failure) const {
-    static const std::vector<std::uint8_t> none;
-    const auto& found = id != redPicture                            ? none
-                        : type == platform::resourceType::bitmap    ? m_bitmap
-                        : type == platform::resourceType::icon      ? m_icon
-                        : type == platform::resourceType::iconGroup ? m_iconGroup
-                                                                    : none;
-    failure = found.empty() ? Failure::find : Failure::none;
-    return std::as_bytes(std::span(found));
+    const auto found = m_images.find({id, type});
+    failure = found == m_images.end() ? Failure::find : Failure::none;
+    return found == m_images.end() ? std::span<const std::byte>()
+                                   : std::as_bytes(std::span(found->second));
 }
 
 bool Recorder::processEvent(platform::Dialog& opened, std::uint32_t message, std::uintptr_t wParam,
@@ -99,11 +132,15 @@ bool Recorder::processEvent(platform::Dialog& opened, std::uint32_t message, std
     } else if (message == platform::event::notify) {
         const auto& told = *reinterpret_cast<const platform::Notification*>(lParam);
         const bool isSpin = told.code == platform::notification::spinStep;
-        note("notify", {told.item, told.code, isSpin ? told.position : told.row, told.delta});
+        const bool isChanging = told.code == platform::notification::listViewChanging;
+        note("notify", {told.item, told.code, isSpin ? told.position : told.row,
+                        isChanging ? std::int64_t{told.newState} : told.delta});
     } else if (message == platform::event::horizontalScroll) {
         note("scroll", {lParam, code});
     } else if (message == platform::event::drawItem) {
         onDraw(dialog, *reinterpret_cast<const platform::DrawRequest*>(lParam));
+    } else if (message == platform::event::mouseMoved || message == platform::event::mousePressed) {
+        note("mouse", {message, item, lParam & 0xFFFF, lParam >> 16});
     } else if (message != platform::event::command) {
         note("message", {message});
     }

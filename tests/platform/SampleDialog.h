@@ -27,9 +27,12 @@ enum Item : std::uint16_t {
 std::vector<std::byte> sampleTemplate();
 
 constexpr std::uint32_t redPicture = 500;
+constexpr std::uint32_t twoSizes = 501;
+constexpr std::uint32_t smallColour = 0x00C000;
+constexpr std::uint32_t largeColour = 0xC000C0;
 
-/// A bitmap and an icon of that number, of 8 by 8 pixels: a red square of 4 by 4 in the middle,
-/// else a ground of blue.
+/// A bitmap and an icon of redPicture, of 8 by 8 pixels: a red square of 4 by 4 in the middle, else
+/// a ground of blue. An icon of twoSizes, whose images have a colour each.
 class SampleResources final : public platform::ResourceModule {
 public:
     SampleResources();
@@ -39,9 +42,14 @@ public:
     const void* loadIcon(std::uint32_t) const override { return nullptr; }
 
 private:
-    std::vector<std::uint8_t> m_bitmap;
-    std::vector<std::uint8_t> m_icon;
-    std::vector<std::uint8_t> m_iconGroup;
+    using Image = std::vector<std::uint8_t>;
+
+    /// Of images of the sizes given, each with its colour; their resources are numbered on from the
+    /// group.
+    void addIcon(std::uint32_t group,
+                 std::initializer_list<std::pair<std::uint8_t, std::uint32_t>> images);
+
+    std::map<std::pair<std::uint32_t, std::uint32_t>, Image> m_images; // by number and type
 };
 
 /// Writes down what it is told, and does what the test wants at some of it. Which edit item lost

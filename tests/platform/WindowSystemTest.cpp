@@ -340,6 +340,7 @@ TEST_F(WindowSystemTest, IsUsedByKeyboard) {
         for (int i = 0; i < 12; ++i) {
             user::press(dialog, Key::tab);
             order.push_back(user::focused(dialog));
+            EXPECT_EQ(dialogOf(dialog).getFocusedItem(), order.back());
         }
         EXPECT_THAT(order, testing::ElementsAre(number, duplex, firstRadio, otherRadio, ownChoice,
                                                 openChoice, list, table, slider, drawn, ok, cancel,
@@ -364,11 +365,14 @@ TEST_F(WindowSystemTest, EnterPressesTheDefaultButton) {
                            .add(cancel, T::button, stop | 1, {115, 25, 50, 14}, u"Cancel")
                            .build();
     user::onceOpen([&](WindowHandle dialog) {
+        EXPECT_TRUE(at<ButtonItem>(dialog, cancel).isDefault());
         at<ButtonItem>(dialog, ok).makeDefault();
         EXPECT_EQ(user::focused(dialog), number);
         EXPECT_EQ(told([&] { user::press(dialog, Key::enter); }), "command 1 0");
         keepScreenshot(dialog, "default-button");
         at(dialog, cancel).focus(); // which Enter presses as long as it has the focus
+        EXPECT_TRUE(at<ButtonItem>(dialog, ok).isDefault());
+        EXPECT_FALSE(at<ButtonItem>(dialog, cancel).isDefault());
         EXPECT_EQ(told([&] { user::press(dialog, Key::enter); }), "command 2 0");
         dialogOf(dialog).end(1);
     });
@@ -466,6 +470,20 @@ TEST_F(WindowSystemTest, MeasuresAndMoves) {
         items[1]->moveTo({30, 40, 90, 55});
         EXPECT_EQ(items[1]->getPlace(), (Rectangle{30, 40, 90, 55}));
 
+        // Where an item stands on the screen.
+        const Rectangle inScreen = at(dialog, duplex).getScreenPlace();
+        const Rectangle other = at(dialog, ok).getScreenPlace();
+        EXPECT_EQ(inScreen.width(), at(dialog, duplex).getPlace().width());
+        EXPECT_EQ(other.left - inScreen.left,
+                  at(dialog, ok).getPlace().left - at(dialog, duplex).getPlace().left);
+        EXPECT_GT(inScreen.left, dialogOf(dialog).getWindowRectangle().left);
+        EXPECT_LT(other.bottom, dialogOf(dialog).getWindowRectangle().bottom);
+
+        const std::int32_t width = at(dialog, table).getTextWidth(u"Stock");
+        EXPECT_GT(width, 10);
+        EXPECT_GT(at(dialog, table).getTextWidth(u"Stock name"), width);
+        EXPECT_EQ(at(dialog, label).getTextWidth(u""), 0);
+
         Rectangle place = dialogOf(dialog).getWindowRectangle();
         place = {place.left + 7, place.top + 5, place.right - 13, place.bottom + 12};
         dialogOf(dialog).moveTo(place);
@@ -539,6 +557,103 @@ TEST_F(WindowSystemTest, ShowsPicturesWithoutTheirGround) {
         at<RowsItem>(dialog, table).addRow(u"row", redPicture, 0);
         EXPECT_GE(count(0xFF0000), 32U); // icons may be drawn larger
     });
+}
+
+/// Of three rows; what the main dialog's list of pages needs.
+TEST_F(WindowSystemTest, ListViewsChangeTheirStyleWhileOpen) {
+    using Style = RowsItem::Style;
+    m_recorder.onInit = [](WindowHandle dialog) {
+        for (const char16_t* const name : {u"Basic", u"Media", u"Covers"}) {
+            at<RowsItem>(dialog, table).addRow(name, twoSizes, 0);
+        }
+        at<RowsItem>(dialog, table).selectRow(0);
+    };
+    run([&](WindowHandle dialog) {
+        const ScratchFolder folder;
+        auto& rows = at<RowsItem>(dialog, table);
+        const auto shows = [&](std::uint32_t colour) {
+            EXPECT_TRUE(user::saveScreenshot(dialog, folder.path() / "dialog.bmp"));
+            return countPixels(folder.read("dialog.bmp"), colour) > 100;
+        };
+        std::int32_t chosen = 0;
+        for (const auto& [style, isLarge] :
+             Rows<Style, bool>{{Style::icons, true}, {Style::list, false}, {Style::icons, true}}) {
+            EXPECT_EQ(told([&] { rows.setStyle(style); }), "");
+            EXPECT_EQ(rows.getSelectedRows(), std::vector{chosen});
+            EXPECT_EQ(rows.getCell(2, 0), u"Covers");
+            EXPECT_EQ(shows(largeColour), isLarge);
+            EXPECT_EQ(shows(smallColour), !isLarge);
+            keepScreenshot(dialog, isLarge ? "icons" : "list");
+            chosen = 1 - chosen;
+            user::clickRow(dialog, table, chosen);
+            EXPECT_EQ(rows.getSelectedRows(), std::vector{chosen});
+        }
+        const RowsItem::Spacing before = rows.getIconSpacing();
+        EXPECT_GT(before.across, 32);
+        EXPECT_GT(before.down, 32);
+        rows.setIconSpacing({before.across, before.down + 9});
+        EXPECT_EQ(rows.getIconSpacing(), (RowsItem::Spacing{before.across, before.down + 9}));
+        EXPECT_GE(dialogOf(dialog).getDotsPerInch(), 72);
+    });
+}
+
+TEST_F(WindowSystemTest, ListViewsTellBeforeTheUserSelects) {
+    m_recorder.onInit = [](WindowHandle dialog) {
+        for (int i = 0; i < 40; ++i) {
+            at<RowsItem>(dialog, table).addRow(u"row", 0, 0);
+        }
+    };
+    run([&](WindowHandle dialog) {
+        auto& rows = at<RowsItem>(dialog, table);
+        EXPECT_EQ(told([&] {
+                      rows.selectRow(0);
+                      rows.focusRow(2);
+                      rows.ensureRowVisible(39);
+                  }),
+                  "");
+        EXPECT_EQ(rows.getFocusedRow(), 2);
+        EXPECT_EQ(rows.getSelectedRows(), std::vector{0});
+        EXPECT_TRUE(user::seesRow(dialog, table, 39));
+        EXPECT_FALSE(user::seesRow(dialog, table, 0));
+
+        std::string log = told([&] { user::clickRow(dialog, table, 1); });
+        EXPECT_THAT(log, HasSubstr("notify 20 -100 0 0; ")); // no longer
+        EXPECT_THAT(log, HasSubstr("notify 20 -100 1 3; "));
+        EXPECT_LT(log.find("-100 1 3"), log.find("-101 1"));
+        EXPECT_EQ(rows.getFocusedRow(), 1);
+        EXPECT_EQ(told([&] { user::clickRow(dialog, table, 1); }), ""); // it is selected
+        log = told([&] { user::press(dialog, Key::down); });
+        EXPECT_THAT(log, HasSubstr("notify 20 -100 2 3; "));
+        EXPECT_EQ(rows.getSelectedRows(), std::vector{2});
+    });
+}
+
+TEST_F(WindowSystemTest, ValuesOfRowsHoldPointers) {
+    run([&](WindowHandle dialog) {
+        const auto pointer = reinterpret_cast<std::uintptr_t>(this);
+        EXPECT_EQ(at<RowsItem>(dialog, table).addRow(u"row", 0, pointer), 0);
+        EXPECT_EQ(at<RowsItem>(dialog, table).getRowValue(0), pointer);
+        for (const std::uint16_t item : {choice, list}) {
+            EXPECT_EQ(at<ChoiceItem>(dialog, item).add(u"entry", pointer, -1), 0);
+            EXPECT_EQ(at<ChoiceItem>(dialog, item).getEntryValue(0), pointer);
+        }
+    });
+}
+
+TEST_F(WindowSystemTest, PicturesTellOfTheMouseIfTheyWatchIt) {
+    m_recorder.onInit = [](WindowHandle dialog) {
+        at<PictureItem>(dialog, picture).setBitmap(redPicture, true);
+    };
+    run([&](WindowHandle dialog) {
+        EXPECT_EQ(told([&] { user::pressMouse(dialog, picture, 3, 2); }), "");
+        at<PictureItem>(dialog, picture).watchMouse();
+        EXPECT_EQ(told([&] { user::moveMouse(dialog, picture, 4, 5); }), "mouse 512 23 4 5");
+        EXPECT_EQ(told([&] { user::pressMouse(dialog, picture, 3, 2); }), "mouse 513 23 3 2");
+    });
+}
+
+TEST_F(WindowSystemTest, HelpThatIsNotThereIsNotShown) {
+    EXPECT_FALSE(windows().showHelp(nullptr, u"no-such-help.hlp", 800));
 }
 
 TEST_F(WindowSystemTest, RefusesBrokenTemplates) {
