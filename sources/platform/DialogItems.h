@@ -35,7 +35,7 @@ public:
     /// Asked for each character that is typed or pasted, for one of two units twice, and takes both
     /// or none; what it refuses is dropped in silence. Backspace, Escape and the keys of the
     /// keyboard's own editing are never refused. False if the window system can't do it.
-    virtual bool setFilter(CharacterFilter /*filter*/) { return true; }
+    virtual bool setFilter(const CharacterFilter& /*filter*/) { return true; }
     /// [start, end) in UTF-16 units of the text; an `end` of -1 is that of the text.
     virtual void selectText(std::int32_t /*start*/, std::int32_t /*end*/) {}
     /// Lets a read-only item look like part of the page.

@@ -365,7 +365,6 @@ TEST_F(WindowSystemTest, EnterPressesTheDefaultButton) {
                            .add(cancel, T::button, stop | 1, {115, 25, 50, 14}, u"Cancel")
                            .build();
     user::onceOpen([&](WindowHandle dialog) {
-        EXPECT_TRUE(at<ButtonItem>(dialog, cancel).isDefault());
         at<ButtonItem>(dialog, ok).makeDefault();
         EXPECT_EQ(user::focused(dialog), number);
         EXPECT_EQ(told([&] { user::press(dialog, Key::enter); }), "command 1 0");
@@ -599,6 +598,7 @@ TEST_F(WindowSystemTest, ListViewsChangeTheirStyleWhileOpen) {
 
 TEST_F(WindowSystemTest, ListViewsTellBeforeTheUserSelects) {
     m_recorder.onInit = [](WindowHandle dialog) {
+        at<RowsItem>(dialog, table).addColumn(u"Name", 80);
         for (int i = 0; i < 40; ++i) {
             at<RowsItem>(dialog, table).addRow(u"row", 0, 0);
         }

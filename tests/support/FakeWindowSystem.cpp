@@ -136,8 +136,8 @@ void FakeItem::setText(std::u16string_view newText) {
 }
 bool FakeItem::isMarkedButton() const { return isButton(*this) && (style & 7) != 0; }
 void FakeItem::makeDefault() { dialog->defaultButton = id; }
-bool FakeItem::setFilter(platform::CharacterFilter newFilter) {
-    filter = std::move(newFilter);
+bool FakeItem::setFilter(const platform::CharacterFilter& newFilter) {
+    filter = newFilter;
     return dialog->system.m_canFilter;
 }
 void FakeItem::clear() {

@@ -55,7 +55,7 @@ public:
     bool isChecked() const override { return checked; }
     void setChecked(bool isChecked) override { checked = isChecked; }
     void makeDefault() override;
-    bool setFilter(platform::CharacterFilter newFilter) override;
+    bool setFilter(const platform::CharacterFilter& newFilter) override;
 
     void clear() override;
     std::int32_t add(std::u16string_view entry, std::uintptr_t value, std::int32_t index) override;

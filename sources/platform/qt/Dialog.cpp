@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
+#include <QStyle>
 
 #include "platform/KeepForever.h"
 #include "platform/qt/ButtonItem.h"
@@ -359,11 +360,11 @@ void Dialog::placeInTheMiddle() {
     setAttribute(Qt::WA_Moved, false);
 }
 
-void Dialog::moveTo(const Rectangle& rectangle) {
-    const QRect place = toQt(rectangle);
-    setInnerSize(place.size() - (frameGeometry().size() - size()));
-    if (place.topLeft() != frameGeometry().topLeft()) {
-        move(place.topLeft());
+void Dialog::moveTo(const Rectangle& place) {
+    const QRect wanted = toQt(place);
+    setInnerSize(wanted.size() - (frameGeometry().size() - size()));
+    if (wanted.topLeft() != frameGeometry().topLeft()) {
+        move(wanted.topLeft());
     }
 }
 

@@ -11,8 +11,8 @@ class EditItem : public Item, public TextItem {
 public:
     static std::unique_ptr<Item> make(Dialog& dialog, const DialogTemplate::Item& source);
 
-    bool setFilter(CharacterFilter filter) override {
-        m_rule.filter = std::move(filter);
+    bool setFilter(const CharacterFilter& filter) override {
+        m_rule.filter = filter;
         return true;
     }
     void setLimit(std::uint32_t units) override;

@@ -2,7 +2,6 @@
 
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "platform/DialogItems.h"
 #include "platform/win32/SubclassedItem.h"
@@ -15,7 +14,7 @@ class EditFilter final : public SubclassedItem {
 public:
     explicit EditFilter(HWND edit) : SubclassedItem(edit) {}
 
-    void setFilter(CharacterFilter filter) { m_filter = std::move(filter); }
+    void setFilter(const CharacterFilter& filter) { m_filter = filter; }
 
 protected:
     LRESULT process(UINT message, WPARAM wParam, LPARAM lParam) override;

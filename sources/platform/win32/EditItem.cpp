@@ -13,7 +13,7 @@ public:
 
     void setText(std::u16string_view text) override;
     void setLimit(std::uint32_t units) override;
-    bool setFilter(CharacterFilter filter) override;
+    bool setFilter(const CharacterFilter& filter) override;
     void selectText(std::int32_t start, std::int32_t end) override {
         SendMessageW(window(), EM_SETSEL, static_cast<WPARAM>(start), end);
     }
@@ -51,10 +51,10 @@ void EditItem::setLimit(std::uint32_t units) {
     setProperty(u"SC_MAX", units);
 }
 
-bool EditItem::setFilter(CharacterFilter filter) {
+bool EditItem::setFilter(const CharacterFilter& filter) {
     EditFilter* const present = findOrAttachFilter();
     if (present != nullptr) {
-        present->setFilter(std::move(filter));
+        present->setFilter(filter);
     }
     return present != nullptr;
 }
