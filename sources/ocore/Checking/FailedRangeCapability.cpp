@@ -6,7 +6,7 @@
 #include "ocore/Attributes/IppList.h"
 #include "ocore/Attributes/PrimitiveInteger.h"
 #include "ocore/Attributes/PrimitiveString.h"
-#include "ocore/Text/CutText.h"
+#include "platform/Surrogates.h"
 
 namespace zent {
 
@@ -38,7 +38,8 @@ std::unique_ptr<AttrValue> FailedRangeCapability::makeText(const AttrValue& valu
     if (text.getValue().length() <= m_upper && text.getValue().length() < m_lower) {
         return nullptr; // nobody knows what to add
     }
-    text.setValue(cutText(text.getValue(), static_cast<std::size_t>(std::max(m_upper, 0))));
+    text.setValue(
+        platform::cutText(text.getValue(), static_cast<std::size_t>(std::max(m_upper, 0))));
     return copy;
 }
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "ocore/Text/CutText.h"
+#include "platform/Surrogates.h"
 
 namespace zent {
 
@@ -68,7 +68,7 @@ UserContext StateData::getUserContext() const {
 }
 
 void StateData::setUserContext(const UserContext& context) {
-    const std::u16string_view units = cutText(context.logonName, maximumNameLength);
+    const std::u16string_view units = platform::cutText(context.logonName, maximumNameLength);
     // The units behind the terminator are cleared, so that nothing of a longer name stays behind.
     for (std::size_t i = 0; i < nameUnits; ++i) {
         write(nameOffset + 2 * i, 2, i < units.size() ? units[i] : 0);

@@ -6,17 +6,17 @@
 #include <xercesc/util/XMLUni.hpp>
 
 #include "ocore/OrdoParse/OrdoParseException.h"
+#include "platform/Surrogates.h"
 
 namespace zent {
 
 namespace {
 
+using platform::isHighSurrogate;
+using platform::isLowSurrogate;
 using xercesc::XMLFormatter;
 
 constexpr char16_t replacement = u'\xFFFD';
-
-constexpr bool isHighSurrogate(char16_t unit) { return (unit & 0xFC00) == 0xD800; }
-constexpr bool isLowSurrogate(char16_t unit) { return (unit & 0xFC00) == 0xDC00; }
 
 /// Neither to be escaped anywhere nor to be looked at more closely.
 constexpr bool isPlain(char16_t unit) {

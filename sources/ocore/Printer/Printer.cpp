@@ -2,8 +2,8 @@
 
 #include "ocore/Compress/PersistentSettings.h"
 #include "ocore/Printer/CreateStreamTranslator.h"
-#include "ocore/Text/CutText.h"
 #include "ocore/User/User.h"
+#include "platform/Surrogates.h"
 
 namespace zent {
 
@@ -70,7 +70,7 @@ void Printer::applyUserContext(FeatureSettings& settings, const UserContext& con
 void Printer::setCut(FeatureSettings& settings, const _FI& feature, const CXString& text) {
     if (!text.isEmpty()) {
         const std::uint32_t limit = getCapabilities().getUpperLimit(feature);
-        settings.setString(feature, cutText(text, limit));
+        settings.setString(feature, platform::cutText(text, limit));
     }
 }
 

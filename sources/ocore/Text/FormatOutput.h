@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "ocore/Text/CutText.h"
+#include "platform/Surrogates.h"
 
 namespace zent {
 
@@ -17,7 +17,7 @@ public:
 
     FormatOutput() { m_text.reserve(120); } // most texts
 
-    void append(std::u16string_view text) { m_text += cutText(text, room()); }
+    void append(std::u16string_view text) { m_text += platform::cutText(text, room()); }
     /// ASCII.
     void append(std::string_view text) {
         m_text.append(text.begin(),

@@ -7,9 +7,9 @@
 #include <cmath>
 #include <string>
 
-#include "ocore/Text/CutText.h"
 #include "ocore/Text/FloatText.h"
 #include "platform/CodePage.h"
+#include "platform/Surrogates.h"
 
 namespace zent {
 
@@ -245,7 +245,7 @@ bool FormatSpecifier::formatText(const FormatArgument& argument, FormatOutput& o
     } else {
         return false;
     }
-    text = cutText(text, m_precision.value_or(text.size()));
+    text = platform::cutText(text, m_precision.value_or(text.size()));
     appendField(Field<char16_t>{{}, 0, text}, false, output);
     return true;
 }

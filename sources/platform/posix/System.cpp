@@ -14,8 +14,8 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-#include "ocore/Text/CutText.h"
 #include "platform/Files.h"
+#include "platform/Surrogates.h"
 #include "platform/UnseenMessage.h"
 #include "platform/WindowSystem.h"
 

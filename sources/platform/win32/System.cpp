@@ -5,7 +5,7 @@
 
 #include <cxxabi.h>
 
-#include "ocore/Text/CutText.h"
+#include "platform/Surrogates.h"
 #include "platform/UnseenMessage.h"
 #include "platform/WindowSystem.h"
 #include "platform/win32/WideText.h"

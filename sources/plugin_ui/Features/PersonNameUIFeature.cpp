@@ -15,7 +15,7 @@ void PersonNameUIFeature::updateFeatureWithNewSettings() {
     const bool isPreferred = isLogonNamePreferred();
     if (isPreferred) {
         const CXString name = User::getLogonName();
-        writeText(CXString(platform::wholeStart(name, getTextBox().getMaxLength())));
+        writeText(CXString(platform::cutText(name, getTextBox().getMaxLength())));
     }
     getTextBox().setText(readText());
     getTextBox().setEnabled(!isPreferred);
