@@ -1,19 +1,15 @@
 #include "Text.h"
 
 #include <algorithm>
-#include <array>
-#include <cwchar>
-#include <locale>
 
 #include "ExitStatus.h"
+#include "platform/Surrogates.h"
 
 namespace jobticket {
 
 namespace {
 
-using Utf8Converter = std::codecvt<char16_t, char8_t, std::mbstate_t>;
-
-const Utf8Converter& converter() { return std::use_facet<Utf8Converter>(std::locale::classic()); }
+using zent::platform::takeUtf8;
 
 char toLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
@@ -37,40 +33,7 @@ std::string escaped(char16_t control) {
     }
 }
 
-/// As much of a text as is UTF-8; the rest stays.
-std::u16string takeUtf8(std::string_view& text) {
-    const std::u8string bytes(text.begin(), text.end());
-    std::u16string result(bytes.size(), u'\0'); // never more units than bytes
-    std::mbstate_t state = {};
-    const char8_t* next = bytes.data();
-    char16_t* end = result.data();
-    converter().in(state, bytes.data(), bytes.data() + bytes.size(), next, result.data(),
-                   result.data() + result.size(), end);
-    result.resize(static_cast<std::size_t>(end - result.data()));
-    text.remove_prefix(static_cast<std::size_t>(next - bytes.data()));
-    return result;
-}
-
 } // namespace
-
-std::string toUtf8(std::u16string_view text) {
-    std::string result;
-    while (!text.empty()) {
-        std::mbstate_t state = {};
-        std::array<char8_t, 256> chunk = {};
-        const char16_t* next = text.data();
-        char8_t* end = chunk.data();
-        converter().out(state, text.data(), text.data() + text.size(), next, chunk.data(),
-                        chunk.data() + chunk.size(), end);
-        result.append(chunk.data(), end);
-        if (next == text.data()) { // half of a surrogate pair
-            result += "\xEF\xBF\xBD";
-            ++next;
-        }
-        text.remove_prefix(static_cast<std::size_t>(next - text.data()));
-    }
-    return result;
-}
 
 std::u16string fromUtf8(std::string_view text) {
     std::u16string result = takeUtf8(text);
@@ -125,15 +88,12 @@ std::string toPrintable(std::string_view text) {
 
 std::string shorten(const std::string& text, std::size_t length) {
     constexpr std::u16string_view ellipsis = u"...";
-    std::u16string units = fromUtf8(text);
+    const std::u16string units = fromUtf8(text);
     if (units.size() <= length) {
         return text;
     }
-    units.resize(length - ellipsis.size());
-    if ((units.back() & 0xFC00U) == 0xD800U) { // the other half is cut off
-        units.pop_back();
-    }
-    return toUtf8(units.append(ellipsis));
+    std::u16string start(zent::platform::cutText(units, length - ellipsis.size()));
+    return toUtf8(start.append(ellipsis));
 }
 
 std::string inQuotes(std::string_view argument) { return '"' + toPrintable(argument) + '"'; }

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Utf8.h"
 #include "zent27.h"
 
 namespace jobticket {
@@ -11,7 +12,7 @@ namespace jobticket {
 using ZentText = std::basic_string<ZentChar>;
 
 /// UTF-8 is what the program reads and prints on every system, whatever the locale.
-std::string toUtf8(std::u16string_view text);
+using zent::platform::toUtf8;
 /// Raises ProgramError (usage) for text that isn't UTF-8.
 std::u16string fromUtf8(std::string_view text);
 
