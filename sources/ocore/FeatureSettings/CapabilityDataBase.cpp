@@ -1,13 +1,11 @@
 #include "ocore/FeatureSettings/CapabilityDataBase.h"
 
 #include <algorithm>
-#include <memory>
 
 #include "ocore/Faults/Exceptions.h"
 #include "ocore/FeatureSettings/CapabilityTable.h"
 #include "ocore/FeatureSettings/FeatureDataBase.h"
 #include "ocore/FeatureSettings/NestedIDText.h"
-#include "ocore/Resources/SharedTable.h"
 #include "platform/KeepForever.h"
 
 namespace zent {
@@ -20,19 +18,20 @@ constexpr std::uint32_t namingRole = 2;
 /// The rows by feature and type, which is how they are authored.
 using CapabilityStore = std::vector<CapabilityInfo>;
 
-std::unique_ptr<const CapabilityStore> buildStore() {
-    auto built = std::make_unique<CapabilityStore>();
+CapabilityStore buildStore() {
+    CapabilityStore built;
     for (const CapabilityRow& row : getCapabilityRows()) {
-        built->push_back({row.feature, makeNestedAttrID(row.leaf, row.parents, namingRole),
-                          row.definedBy, row.type, SyntaxList(row.syntaxes)});
+        built.push_back({row.feature, makeNestedAttrID(row.leaf, row.parents, namingRole),
+                         row.definedBy, row.type, SyntaxList(row.syntaxes)});
     }
     return built;
 }
 
-SharedTable<CapabilityStore>& sharedStore =
-    keepForever<SharedTable<CapabilityStore>>(u"CapabilityDataBase");
-
-const CapabilityStore& store() { return *sharedStore; }
+/// Built at its first need, once for all threads. A build that fails is tried again.
+const CapabilityStore& store() {
+    static const auto& built = keepForever<CapabilityStore>(buildStore());
+    return built;
+}
 
 const CapabilityInfo* findInfo(FeatureEnum feature, std::uint32_t type) {
     const std::span<const CapabilityInfo> rows = CapabilityDataBase().getRows(feature);
@@ -42,7 +41,7 @@ const CapabilityInfo* findInfo(FeatureEnum feature, std::uint32_t type) {
 
 } // namespace
 
-CapabilityDataBase::CapabilityDataBase() { sharedStore.get(buildStore); }
+CapabilityDataBase::CapabilityDataBase() { store(); }
 
 std::span<const CapabilityInfo> CapabilityDataBase::getRows(FeatureEnum feature) const {
     // Not equal_range: clang 14 can't compile the range that it gives.

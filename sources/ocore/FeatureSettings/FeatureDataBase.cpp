@@ -1,12 +1,10 @@
 #include "ocore/FeatureSettings/FeatureDataBase.h"
 
 #include <map>
-#include <memory>
 
 #include "ocore/Faults/Exceptions.h"
 #include "ocore/FeatureSettings/FeatureTable.h"
 #include "ocore/FeatureSettings/NestedIDText.h"
-#include "ocore/Resources/SharedTable.h"
 #include "platform/KeepForever.h"
 
 namespace zent {
@@ -37,21 +35,23 @@ FeatureInfo makeInfo(const FeatureRow& row) {
     return info;
 }
 
-std::unique_ptr<const FeatureStore> buildStore() {
-    auto store = std::make_unique<FeatureStore>();
+FeatureStore buildStore() {
+    FeatureStore store;
     for (const FeatureRow& row : getFeatureRows()) {
-        store->byNumber.push_back(makeInfo(row));
+        store.byNumber.push_back(makeInfo(row));
     }
-    for (const FeatureInfo& info : store->byNumber) {
-        store->byUniqueID.emplace(info.m_nestedID.getName().view(), info.m_feature);
-        store->byAbbreviation.emplace(info.m_abbreviation.view(), info.m_feature);
+    for (const FeatureInfo& info : store.byNumber) {
+        store.byUniqueID.emplace(info.m_nestedID.getName().view(), info.m_feature);
+        store.byAbbreviation.emplace(info.m_abbreviation.view(), info.m_feature);
     }
     return store;
 }
 
-SharedTable<FeatureStore>& sharedStore = keepForever<SharedTable<FeatureStore>>(u"FeatureDataBase");
-
-const FeatureStore& store() { return *sharedStore; }
+/// Built at its first need, once for all threads. A build that fails is tried again.
+const FeatureStore& store() {
+    static const auto& built = keepForever<FeatureStore>(buildStore());
+    return built;
+}
 
 using NumberByText = std::map<std::u16string_view, FeatureEnum>;
 
@@ -62,7 +62,7 @@ const FeatureInfo* findByText(const NumberByText& map, const CXString& text) {
 
 } // namespace
 
-FeatureDataBase::FeatureDataBase() { sharedStore.get(buildStore); }
+FeatureDataBase::FeatureDataBase() { store(); }
 
 bool FeatureDataBase::hasFeature(FeatureEnum feature) const {
     return feature >= feature::first && feature <= feature::last;

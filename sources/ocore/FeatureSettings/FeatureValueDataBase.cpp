@@ -1,13 +1,11 @@
 #include "ocore/FeatureSettings/FeatureValueDataBase.h"
 
 #include <map>
-#include <memory>
 #include <vector>
 
 #include "ocore/Faults/Exceptions.h"
 #include "ocore/FeatureSettings/FeatureDataBase.h"
 #include "ocore/FeatureSettings/FeatureValueTable.h"
-#include "ocore/Resources/SharedTable.h"
 #include "platform/KeepForever.h"
 
 namespace zent {
@@ -66,22 +64,23 @@ void addMediaNames(ValueStore& store) {
     }
 }
 
-std::unique_ptr<const ValueStore> buildStore() {
-    auto built = std::make_unique<ValueStore>();
+ValueStore buildStore() {
+    ValueStore built;
     for (const FeatureValueRow& row : getLowerValueRows()) {
-        built->add(makeInfo(row));
+        built.add(makeInfo(row));
     }
-    addMediaNames(*built);
+    addMediaNames(built);
     for (const FeatureValueRow& row : getUpperValueRows()) {
-        built->add(makeInfo(row));
+        built.add(makeInfo(row));
     }
     return built;
 }
 
-SharedTable<ValueStore>& sharedStore =
-    keepForever<SharedTable<ValueStore>>(u"FeatureValueDataBase");
-
-const ValueStore& store() { return *sharedStore; }
+/// Built at its first need, once for all threads. A build that fails is tried again.
+const ValueStore& store() {
+    static const auto& built = keepForever<ValueStore>(buildStore());
+    return built;
+}
 
 const FeatureValueInfo* findFixed(std::int32_t value) {
     const auto& rows = store().byNumber;
@@ -107,7 +106,7 @@ const FeatureValueInfo* findByAbbreviation(const CXString& abbreviation) {
 
 } // namespace
 
-FeatureValueDataBase::FeatureValueDataBase() { sharedStore.get(buildStore); }
+FeatureValueDataBase::FeatureValueDataBase() { store(); }
 
 FeatureValueReference FeatureValueDataBase::getFeatureValueInfo(std::int32_t value) const {
     FeatureValueReference info = findFeatureValueInfo(value);

@@ -2,11 +2,9 @@
 
 #include <algorithm>
 #include <iterator>
-#include <memory>
 #include <utility>
 
 #include "ocore/Resources/ResourceLibrary.h"
-#include "ocore/Resources/SharedTable.h"
 #include "platform/KeepForever.h"
 #include "resources/ids.h"
 
@@ -46,15 +44,15 @@ StockSize::StockSize(const Row& row, CXString displayName)
       m_displayName(std::move(displayName)) {}
 
 const std::vector<StockSize>& StockSize::store() {
-    static auto& sizes = keepForever<SharedTable<std::vector<StockSize>>>(u"StockSize");
-    return sizes.get([]() -> std::unique_ptr<const std::vector<StockSize>> {
+    static const auto& sizes = keepForever<std::vector<StockSize>>([] {
         const ResourceLibrary resources;
-        auto built = std::make_unique<std::vector<StockSize>>();
+        std::vector<StockSize> built;
         for (const Row& row : rows) {
-            built->push_back(StockSize(row, resources.getString(row.displayStringID)));
+            built.push_back(StockSize(row, resources.getString(row.displayStringID)));
         }
         return built;
-    });
+    }());
+    return sizes;
 }
 
 StockSize::StockSize(std::uint32_t code) {
