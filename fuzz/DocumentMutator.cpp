@@ -62,7 +62,7 @@ std::vector<Element> findElements(std::string_view document) {
 /// The names that the document type declares, from its file beside the program.
 const std::vector<std::string>& declaredNames() {
     static const auto names = [] {
-        const CXString program = platform::getModulePath();
+        const CXString program(platform::getModulePath());
         const CXString path =
             program.left(program.findLast(platform::pathSeparator) + 1) + u"ordo-v02025.dtd";
         std::ifstream file(path.toNarrow(), std::ios::binary);

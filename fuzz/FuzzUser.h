@@ -17,9 +17,8 @@ class FuzzUser {
 public:
     explicit FuzzUser(SessionArguments& arguments) : m_arguments(arguments) {
         s_answer = messageAnswer::ok;
-        UserMessage::setPresenter([](platform::WindowHandle, const CXString& body,
-                                     const CXString& title, std::uint32_t style) {
-            require(body.c_str()[body.length()] == u'\0' && title.c_str()[title.length()] == u'\0');
+        UserMessage::setPresenter([](platform::WindowHandle, std::u16string_view,
+                                     std::u16string_view, std::uint32_t style) {
             return (style & messageStyle::okCancel) != 0 ? s_answer : messageAnswer::ok;
         });
     }

@@ -36,7 +36,7 @@ void require(bool holds) {
 class Setting {
 public:
     Setting() {
-        const CXString program = platform::getModulePath();
+        const CXString program(platform::getModulePath());
         ResourceLibrary::setPath(program.left(program.findLast(platform::pathSeparator) + 1) +
                                  u"zenres27.dll");
         std::filesystem::create_directories(m_folder);

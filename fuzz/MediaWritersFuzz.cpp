@@ -35,7 +35,7 @@ using Stocks = std::map<std::string, bool>;
 class Setting {
 public:
     Setting() {
-        const CXString program = platform::getModulePath();
+        const CXString program(platform::getModulePath());
         ResourceLibrary::setPath(program.left(program.findLast(platform::pathSeparator) + 1) +
                                  u"zenres27.dll");
     }

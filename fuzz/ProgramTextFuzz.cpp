@@ -26,7 +26,7 @@ using zent::fuzz::require;
 
 void useResourceLibraryOnce() {
     static const bool isSet = [] {
-        const zent::CXString program = zent::platform::getModulePath();
+        const zent::CXString program(zent::platform::getModulePath());
         zent::ResourceLibrary::setPath(
             program.left(program.findLast(zent::platform::pathSeparator) + 1) + u"zenres27.dll");
         return true;

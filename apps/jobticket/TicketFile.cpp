@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <span>
 #include <system_error>
 
 #include "ExitStatus.h"
@@ -164,7 +165,7 @@ void writeFile(const std::string& name, std::string_view bytes) {
         break;
     }
     const auto file = zent::platform::LockedFile::lock(path);
-    if (file == nullptr || !file->replace(bytes.data(), bytes.size())) {
+    if (file == nullptr || !file->replace(std::as_bytes(std::span(bytes)))) {
         fail(ExitStatus::unwritable, "write", name, lastSystemReason());
     }
 }

@@ -14,7 +14,8 @@ CXString cutToDirectory(const CXString& path, char16_t separator) {
 }
 
 void announceModuleDirectory() {
-    const CXString directory = cutToDirectory(platform::getModulePath(), platform::pathSeparator);
+    const CXString directory =
+        cutToDirectory(CXString(platform::getModulePath()), platform::pathSeparator);
     ordoDtd::setDirectory(directory);
     ResourceLibrary::setPath(directory + u"zenres27.dll");
 }

@@ -4,10 +4,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-
-namespace zent {
-class CXString;
-}
+#include <span>
+#include <string>
+#include <string_view>
 
 namespace zent::platform {
 
@@ -16,16 +15,16 @@ extern const char16_t pathSeparator;
 
 /// Whether a path names no folder: the system would look for it in one of its own choice, where
 /// anybody could have put something of that name.
-bool isBareName(const CXString& path);
+bool isBareName(std::u16string_view path);
 
 /// An open file; closes with the object. On Windows the names of devices, such as "COM1" and
 /// "NUL.txt", aren't those of files: neither this nor the functions below open or find one.
 class OpenFile {
 public:
     /// Opens an existing file for reading, shared for reading; null on failure.
-    static std::unique_ptr<OpenFile> openForReading(const CXString& path);
+    static std::unique_ptr<OpenFile> openForReading(std::u16string_view path);
     /// Creates or truncates a file for writing, shared for reading; null on failure.
-    static std::unique_ptr<OpenFile> createForWriting(const CXString& path);
+    static std::unique_ptr<OpenFile> createForWriting(std::u16string_view path);
 
     virtual ~OpenFile() = default;
     OpenFile(const OpenFile&) = delete;
@@ -33,9 +32,9 @@ public:
 
     /// The size in bytes; false on failure.
     virtual bool getSize(std::uint64_t& size) = 0;
-    /// Reads or writes up to `length` bytes; `done` says how many. False on failure.
-    virtual bool read(void* buffer, std::size_t length, std::size_t& done) = 0;
-    virtual bool write(const void* data, std::size_t length, std::size_t& done) = 0;
+    /// Reads or writes as many bytes, or fewer; `done` says how many. False on failure.
+    virtual bool read(std::span<std::byte> buffer, std::size_t& done) = 0;
+    virtual bool write(std::span<const std::byte> bytes, std::size_t& done) = 0;
     /// The handle's number, for messages.
     virtual std::uintptr_t getHandle() const = 0;
 
@@ -44,7 +43,7 @@ protected:
 };
 
 /// Removes a file; false on failure.
-bool deleteFile(const CXString& path);
+bool deleteFile(std::u16string_view path);
 
 /// What tells one state of a file from another without reading it. All zero if there is no file.
 struct FileStamp {
@@ -54,17 +53,17 @@ struct FileStamp {
     std::uint64_t identity = 0; // file number where the system has one
     bool operator==(const FileStamp&) const = default;
 };
-FileStamp getFileStamp(const CXString& path);
+FileStamp getFileStamp(std::u16string_view path);
 
 /// The full path of the file that this code was loaded from: the library, or the program that the
 /// library's objects are linked into. Empty if the system can't tell, on Windows also if it is over
 /// 260 units.
-CXString getModulePath();
+std::u16string getModulePath();
 
 /// The folder of printer drivers, with a trailing separator: where driver files lie when no
 /// session has told the library its own folder. Windows: by the spooler, for a printer (its
 /// driver's folder) or, with an empty name or failing that, the environment's ("...\3").
 /// Elsewhere: the library's own folder.
-CXString getDriverDirectory(const CXString& printerName);
+std::u16string getDriverDirectory(std::u16string_view printerName = {});
 
 } // namespace zent::platform

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <span>
 #include <string_view>
 
 namespace zent::platform {
@@ -36,7 +37,7 @@ public:
     /// readable as the old one was, and no more than that on the way. False on failure, which
     /// leaves the old one as it was; getLastError() says why. On the way the new file is one beside
     /// the old (".NAME.zent-new"); what a process that was killed has left there goes.
-    virtual bool replace(const void* bytes, std::size_t size) = 0;
+    virtual bool replace(std::span<const std::byte> bytes) = 0;
 
 protected:
     LockedFile() = default;

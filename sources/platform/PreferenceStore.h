@@ -1,9 +1,11 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-
-#include "ocore/Resources/ByteBuffer.h"
-#include "ocore/Text/CXString.h"
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace zent::platform {
 
@@ -22,7 +24,7 @@ constexpr std::uint32_t longestPreferenceName = 16'383;
 /// A value as stored. Its bytes may be none, which is something else than no value.
 struct StoredPreference {
     std::uint32_t type = 0;
-    ByteBuffer bytes;
+    std::vector<std::byte> bytes;
 };
 
 enum class PreferenceStatus {
@@ -54,12 +56,13 @@ struct PreferenceResult {
 
 /// Takes a value out of the store. `value` is touched only by success. One that is too large fails
 /// before it is read.
-PreferenceResult readPreference(const CXString& key, const CXString& name, StoredPreference& value);
+PreferenceResult readPreference(std::u16string_view key, std::u16string_view name,
+                                StoredPreference& value);
 /// Stores a value, in place of the one of that name, and creates the key if there is none.
-PreferenceResult writePreference(const CXString& key, const CXString& name, std::uint32_t type,
-                                 const ByteBuffer& bytes);
+PreferenceResult writePreference(std::u16string_view key, std::u16string_view name,
+                                 std::uint32_t type, std::span<const std::byte> bytes);
 
 /// Where the store of a key lies and what is wrong with it, by a result with an error.
-CXString explainPreferenceFailure(const CXString& key, const PreferenceResult& result);
+std::u16string explainPreferenceFailure(std::u16string_view key, const PreferenceResult& result);
 
 } // namespace zent::platform

@@ -4,10 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <span>
-
-namespace zent {
-class CXString;
-}
+#include <string_view>
 
 namespace zent::platform {
 
@@ -19,7 +16,7 @@ class ResourceModule {
 public:
     /// Loads the library at a full path. Null on failure, with the system's error number in
     /// `lastError` (Windows: GetLastError; elsewhere errno, ENOEXEC for a file of the wrong form).
-    static std::unique_ptr<ResourceModule> load(const CXString& path, std::uint32_t& lastError);
+    static std::unique_ptr<ResourceModule> load(std::u16string_view path, std::uint32_t& lastError);
 
     virtual ~ResourceModule() = default;
     ResourceModule(const ResourceModule&) = delete;

@@ -2,9 +2,9 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <typeinfo>
 
-#include "ocore/Text/CXString.h"
 #include "platform/WindowHandle.h"
 
 namespace zent::platform {
@@ -13,22 +13,22 @@ namespace zent::platform {
 /// `flags` are those of the Windows message box: 16, 32, 48, 64 icons, 8192 task modal, 1 OK and
 /// Cancel. Where there is nobody to see it, on this thread, the text goes to the standard error
 /// stream and a choice counts as refused: Cancel, or No; a box with OK alone counts as OK.
-std::int32_t showMessageBox(WindowHandle owner, const CXString& body, const CXString& title,
+std::int32_t showMessageBox(WindowHandle owner, std::u16string_view body, std::u16string_view title,
                             std::uint32_t flags);
 
 /// The caption of a window, at most 255 units; empty for null.
-CXString getWindowCaption(WindowHandle window);
+std::u16string getWindowCaption(WindowHandle window);
 
 /// The system's text for an error number; empty if it has none. Leaves the last error as it was.
-CXString getSystemErrorText(std::uint32_t error);
+std::u16string getSystemErrorText(std::uint32_t error);
 std::uint32_t getLastError();
 
 std::uint32_t getCurrentThreadId();
 
 /// An integer from a section of a profile file (key=value lines under [section]). Windows looks
 /// where GetPrivateProfileIntW does; elsewhere a bare file name lies in the library's own folder.
-std::int32_t getProfileInteger(const CXString& section, const CXString& key, std::int32_t fallback,
-                               const CXString& file);
+std::int32_t getProfileInteger(std::u16string_view section, std::u16string_view key,
+                               std::int32_t fallback, std::u16string_view file);
 
 /// A type's name as written in the source, with its namespace.
 std::string getTypeName(const std::type_info& type);

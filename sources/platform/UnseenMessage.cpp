@@ -4,13 +4,15 @@
 #include <cstdio>
 #include <string>
 
+#include "platform/CodePage.h"
+
 namespace zent::platform {
 
 namespace {
 
 /// Of what a message holds, line ends are kept; any other control character could steer a terminal.
-std::string printable(const CXString& text) {
-    std::string result = text.toNarrow();
+std::string printable(std::u16string_view text) {
+    std::string result = toAnsi(text);
     std::erase(result, '\r');
     std::replace_if(
         result.begin(), result.end(),
@@ -54,7 +56,8 @@ Answer answerOfNobody(std::uint32_t flags) {
 
 } // namespace
 
-std::int32_t printUnseenMessage(const CXString& body, const CXString& title, std::uint32_t flags) {
+std::int32_t printUnseenMessage(std::u16string_view body, std::u16string_view title,
+                                std::uint32_t flags) {
     constexpr std::int32_t ok = 1;
     const Answer answer = answerOfNobody(flags);
     const std::string rule(72, '-');

@@ -1,14 +1,14 @@
 #pragma once
 
 #include <cstdint>
-
-#include "ocore/Text/CXString.h"
+#include <string_view>
 
 namespace zent::platform {
 
 /// Writes a message box to the standard error stream, where there is nobody to show it to, and
 /// gives the answer that it counts as: what refuses (Cancel, No, Abort) where there is a choice,
 /// else OK.
-std::int32_t printUnseenMessage(const CXString& body, const CXString& title, std::uint32_t flags);
+std::int32_t printUnseenMessage(std::u16string_view body, std::u16string_view title,
+                                std::uint32_t flags);
 
 } // namespace zent::platform

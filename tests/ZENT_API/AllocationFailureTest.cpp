@@ -70,7 +70,7 @@ void exhaust(Job& job, const Call& call) {
 TEST(AllocationFailureTest, EveryCallReportsItAndTheLibraryGoesOn) {
     const WindowSystemReplacement none(nullptr); // nobody is there to answer a dialog
     const ScratchPreferences scratch;
-    UserMessage::setPresenter([](platform::WindowHandle, const CXString&, const CXString&,
+    UserMessage::setPresenter([](platform::WindowHandle, std::u16string_view, std::u16string_view,
                                  std::uint32_t) { return messageAnswer::ok; });
     {
         Job job;

@@ -13,7 +13,7 @@ using test::ScratchFolder;
 
 bool replace(const CXString& path, std::string_view content) {
     const auto file = LockedFile::lock(path);
-    return file != nullptr && file->replace(content.data(), content.size());
+    return file != nullptr && file->replace(std::as_bytes(std::span(content)));
 }
 
 std::size_t countFiles(const ScratchFolder& folder) {
@@ -40,7 +40,7 @@ TEST(LockedFile, IsHeldByOneAtATime) {
     EXPECT_TRUE(LockedFile::lock(folder.file("b"))) << "another file is another lock";
     std::thread second([&] { EXPECT_TRUE(replace(folder.file("a"), "second")); });
     std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    EXPECT_TRUE(first->replace("first", 5));
+    EXPECT_TRUE(first->replace(std::as_bytes(std::span("first", 5))));
     EXPECT_EQ(folder.read("a"), "first");
     first.reset();
     second.join();

@@ -208,7 +208,7 @@ TEST(PeResourceReader, SurvivesEachCutAndEachChangedByte) {
 
 /// The reader and the system's own way to a resource library agree; on Windows that is the loader.
 TEST(PeResourceReader, AgreesWithTheSystemOnTheResourceLibrary) {
-    const CXString program = getModulePath();
+    const CXString program(getModulePath());
     const CXString library = program.left(program.findLast(pathSeparator) + 1) + u"zenres27.dll";
     ByteBuffer file;
     zent::File::read(library, file);

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "PrintText.h"
+#include "platform/CodePage.h"
 #include "support/Rows.h"
 #include "support/ScratchPreferences.h"
 
@@ -15,14 +15,16 @@ class PreferenceStoreTest : public testing::Test {
 protected:
     const test::ScratchPreferences m_scratch;
 
-    static ByteBuffer bytes(const std::string& content) { return {content.data(), content.size()}; }
-    static PreferenceStatus write(const CXString& key, const CXString& name,
+    static std::span<const std::byte> bytes(const std::string& content) {
+        return std::as_bytes(std::span(content));
+    }
+    static PreferenceStatus write(std::u16string_view key, std::u16string_view name,
                                   const std::string& content,
                                   std::uint32_t type = registryType::binary) {
         return writePreference(key, name, type, bytes(content)).status;
     }
     /// The value as "type:bytes", or "absent".
-    static std::string read(const CXString& key, const CXString& name) {
+    static std::string read(std::u16string_view key, std::u16string_view name) {
         StoredPreference value;
         const PreferenceResult result = readPreference(key, name, value);
         if (result.status == PreferenceStatus::done) {
@@ -62,7 +64,7 @@ TEST_F(PreferenceStoreTest, RefusesWhatIsTooLarge) {
     EXPECT_EQ(write(u"a\\key", u"name", largest), PreferenceStatus::done);
     EXPECT_EQ(write(u"a\\key", u"name", largest + 'y'), PreferenceStatus::valueFailed);
     EXPECT_EQ(read(u"a\\key", u"name"), "3:" + largest);
-    const CXString longName{std::u16string(longestPreferenceName + 1, u'n')};
+    const std::u16string longName(longestPreferenceName + 1, u'n');
     EXPECT_EQ(write(u"a\\key", longName, "x"), PreferenceStatus::valueFailed);
     EXPECT_EQ(write(longName, u"name", "x"), PreferenceStatus::keyFailed);
 }
@@ -98,19 +100,20 @@ TEST_F(PreferenceStoreTest, KeepsKeysAndNamesApart) {
 }
 
 TEST_F(PreferenceStoreTest, TellsMissingKeysFromMissingValues) {
-    StoredPreference value{registryType::number, bytes("kept")};
+    const std::vector<std::byte> kept(4, std::byte{7});
+    StoredPreference value{registryType::number, kept};
     const PreferenceResult missing = readPreference(u"a\\key", u"name", value);
     EXPECT_EQ(missing.status, PreferenceStatus::noKey);
     EXPECT_NE(missing.error, 0U);
-    const std::string why = explainPreferenceFailure(u"a\\key", missing).toNarrow();
+    const std::string why = toAnsi(explainPreferenceFailure(u"a\\key", missing));
     EXPECT_LT(why.find(": "), why.size() - 2) << why;
 
     ASSERT_EQ(write(u"a\\key", u"name", ""), PreferenceStatus::done);
     EXPECT_EQ(readPreference(u"a\\key", u"other", value).status, PreferenceStatus::noValue);
-    EXPECT_EQ(value.bytes, bytes("kept"));
+    EXPECT_EQ(value.bytes, kept);
     EXPECT_EQ(value.type, registryType::number);
     EXPECT_EQ(readPreference(u"a\\key", u"name", value).status, PreferenceStatus::done);
-    EXPECT_TRUE(value.bytes.isEmpty());
+    EXPECT_TRUE(value.bytes.empty());
 }
 
 } // namespace

@@ -52,10 +52,10 @@ TEST(System, ReadsIntegersFromProfileFiles) {
 
 TEST(System, NamesErrorsThreadsAndTypes) {
     constexpr std::uint32_t noSuchFile = 2; // on both kinds of system
-    EXPECT_FALSE(getSystemErrorText(noSuchFile).isEmpty());
-    EXPECT_TRUE(getSystemErrorText(0x2FFFFFFF).isEmpty());
+    EXPECT_FALSE(getSystemErrorText(noSuchFile).empty());
+    EXPECT_TRUE(getSystemErrorText(0x2FFFFFFF).empty());
     EXPECT_EQ(getTypeName(typeid(CXString)), "zent::CXString");
-    EXPECT_TRUE(getWindowCaption(nullptr).isEmpty());
+    EXPECT_TRUE(getWindowCaption(nullptr).empty());
     const std::uint32_t here = getCurrentThreadId();
     EXPECT_EQ(getCurrentThreadId(), here);
     std::thread([here] { EXPECT_NE(getCurrentThreadId(), here); }).join();

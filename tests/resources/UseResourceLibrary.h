@@ -7,9 +7,8 @@ namespace zent::test {
 
 /// Makes the library open the resource library of that name beside the test program.
 inline void useResourceLibrary(std::u16string_view fileName = u"zenres27.dll") {
-    const CXString program = platform::getModulePath();
-    const auto folder = program.view().rfind(platform::pathSeparator);
-    CXString path(program.view().substr(0, folder + 1)); // empty if there is no folder
+    const std::u16string program = platform::getModulePath();
+    CXString path(program.substr(0, program.rfind(platform::pathSeparator) + 1));
     path += fileName;
     ResourceLibrary::setPath(path);
 }

@@ -7,7 +7,7 @@
 namespace zent::test {
 
 CXString programFolder() {
-    const CXString path = platform::getModulePath();
+    const CXString path(platform::getModulePath());
     return path.left(path.findLast(platform::pathSeparator) + 1);
 }
 

@@ -70,8 +70,8 @@ void ordoDtd::setDirectory(const CXString& directory) {
 std::optional<CXString> ordoDtd::findPath() {
     const OwnedCriticalResource hold(dtdPathGuard);
     if (dtdPath.isEmpty()) {
-        const CXString directory = platform::getDriverDirectory(CXString());
-        if (directory.isEmpty()) {
+        const std::u16string directory = platform::getDriverDirectory();
+        if (directory.empty()) {
             return std::nullopt;
         }
         dtdPath = directory + dtdFileName;

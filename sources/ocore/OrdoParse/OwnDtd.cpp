@@ -23,7 +23,7 @@ std::unique_ptr<ByteBuffer> readDtdFile(const CXString& path) {
     auto bytes = std::make_unique<ByteBuffer>();
     bytes->resize(static_cast<std::size_t>(size));
     std::size_t done = 0;
-    const bool isWhole = file->read(bytes->data(), bytes->size(), done) && done == size;
+    const bool isWhole = file->read({bytes->data(), bytes->size()}, done) && done == size;
     return isWhole ? std::move(bytes) : nullptr;
 }
 

@@ -1,6 +1,7 @@
 #include "ocore/OrdoParse/TarvoXmlFile.h"
 
 #include <new>
+#include <span>
 
 #include "ocore/Faults/Trace.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
@@ -42,7 +43,8 @@ void TarvoXmlFile::read(AttrNodeList* list) {
                        size);
     }
     std::size_t done = 0;
-    if (!file->read(block.get(), static_cast<std::size_t>(size), done) || done != size) {
+    const std::span<char> room(block.get(), static_cast<std::size_t>(size));
+    if (!file->read(std::as_writable_bytes(room), done) || done != size) {
         traceLastError();
         raiseOrdoParse(ordoParseCode::readFileFailed,
                        "TarvoXmlFile::read(): Failed to read. dwNumBytesRead = %ld\r\n", done);
@@ -79,7 +81,7 @@ CXString TarvoXmlFile::getStreamName() const {
 
 bool TarvoXmlFile::write(std::string_view bytes) {
     std::size_t done = 0;
-    if (!m_file->write(bytes.data(), bytes.size(), done) || done != bytes.size()) {
+    if (!m_file->write(std::as_bytes(std::span(bytes)), done) || done != bytes.size()) {
         traceLastError();
         raiseOrdoParse(ordoParseCode::writeFileFailed,
                        "TarvoXmlFile::handleOutput(): Failed WriteFile(). dwNumBytesWritten = "

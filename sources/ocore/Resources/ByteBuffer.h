@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "ocore/Text/CXString.h"
@@ -15,6 +16,7 @@ class ByteBuffer {
 public:
     ByteBuffer() = default;
     ByteBuffer(const void* data, std::size_t length);
+    explicit ByteBuffer(std::vector<std::byte> bytes) : m_bytes(std::move(bytes)) {}
     /// One byte, 0 or 1.
     static ByteBuffer fromBool(bool value);
     /// Four bytes, little-endian.

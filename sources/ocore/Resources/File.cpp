@@ -20,7 +20,7 @@ void File::read(const CXString& path, ByteBuffer& content) {
     content.clear();
     content.resize(static_cast<std::size_t>(size));
     std::size_t done = 0;
-    if (!file->read(content.data(), content.size(), done) || done != content.size()) {
+    if (!file->read({content.data(), content.size()}, done) || done != content.size()) {
         Raise<ReadFileException>()("File::read(): ReadFile() failed or didn't read the expected "
                                    "number of bytes for file %s with handle 0x%lx.\r\n",
                                    path, file->getHandle());

@@ -111,7 +111,7 @@ ResourceData ResourceLibrary::loadResData(std::uint32_t id, std::uint32_t type) 
 }
 
 CXString getDriverFilePath(const CXString& printerName, const CXString& fileName) {
-    return platform::getDriverDirectory(printerName) + fileName;
+    return CXString(platform::getDriverDirectory(printerName)) + fileName;
 }
 
 } // namespace zent

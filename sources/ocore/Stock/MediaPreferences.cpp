@@ -165,7 +165,7 @@ void MediaPreferences::save(const StockList& stocks, platform::LockedFile& lock)
     const CXString path = pathOf(m_folder, currentFile);
     ByteBuffer document;
     OmpTranslator().anlToBuffer(list, &document);
-    if (!lock.replace(document.data(), document.size())) {
+    if (!lock.replace(document.bytes())) {
         trace::systemErrorText(platform::getLastError(), traceLevel::xmlLayer);
         raiseOrdoParse(ordoParseCode::openForWritingFailed,
                        "MediaPreferences::save(): Failed to put the new file into the place of "

@@ -29,13 +29,14 @@ bool Registry::getValue(const CXString& key, const CXString& name, ByteBuffer& v
                                           name, result.error, result.error,
                                           platform::explainPreferenceFailure(key, result));
     }
-    value = std::move(stored.bytes);
+    value = ByteBuffer(std::move(stored.bytes));
     return result.status == Status::done;
 }
 
 void Registry::setValue(const CXString& key, const CXString& name, std::uint32_t type,
                         const ByteBuffer& value) const {
-    const platform::PreferenceResult result = platform::writePreference(key, name, type, value);
+    const platform::PreferenceResult result =
+        platform::writePreference(key, name, type, value.bytes());
     traceError(key, result);
     if (result.status == Status::keyFailed) {
         Raise<RegistryRequestException>()("Registry::setValue(): Call to RegCreateKeyEx(%s) "

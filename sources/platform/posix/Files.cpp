@@ -11,7 +11,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "ocore/Text/CXString.h"
+#include "platform/CodePage.h"
 #include "platform/KeepForever.h"
 
 namespace zent::platform {
@@ -34,17 +34,15 @@ public:
         return true;
     }
 
-    bool read(void* buffer, std::size_t length, std::size_t& done) override {
-        auto* bytes = static_cast<std::byte*>(buffer);
-        return transfer(length, done, [&](std::size_t offset) {
-            return ::read(m_descriptor, bytes + offset, length - offset);
+    bool read(std::span<std::byte> buffer, std::size_t& done) override {
+        return transfer(buffer, done, [this](std::span<std::byte> rest) {
+            return ::read(m_descriptor, rest.data(), rest.size());
         });
     }
 
-    bool write(const void* data, std::size_t length, std::size_t& done) override {
-        const auto* bytes = static_cast<const std::byte*>(data);
-        return transfer(length, done, [&](std::size_t offset) {
-            return ::write(m_descriptor, bytes + offset, length - offset);
+    bool write(std::span<const std::byte> bytes, std::size_t& done) override {
+        return transfer(bytes, done, [this](std::span<const std::byte> rest) {
+            return ::write(m_descriptor, rest.data(), rest.size());
         });
     }
 
@@ -53,11 +51,11 @@ public:
 private:
     /// The system may move less than it was asked to, or be interrupted, without anything being
     /// wrong.
-    template <typename Step>
-    static bool transfer(std::size_t length, std::size_t& done, const Step& step) {
+    template <typename Byte, typename Step>
+    static bool transfer(std::span<Byte> bytes, std::size_t& done, const Step& step) {
         done = 0;
-        while (done < length) {
-            const ssize_t moved = step(done);
+        while (done < bytes.size()) {
+            const ssize_t moved = step(bytes.subspan(done));
             if (moved < 0 && errno != EINTR) {
                 return false;
             }
@@ -96,12 +94,12 @@ const std::string& loadedFrom() {
 
 } // namespace
 
-bool isBareName(const CXString& path) { return path.findLast(pathSeparator) < 0; }
+bool isBareName(std::u16string_view path) { return path.find(pathSeparator) == path.npos; }
 
-std::unique_ptr<OpenFile> OpenFile::openForReading(const CXString& path) {
+std::unique_ptr<OpenFile> OpenFile::openForReading(std::u16string_view path) {
     // A pipe would make the call wait for a writer, and a folder opens though it can't be read:
     // only what holds bytes is a file here.
-    const int descriptor = open(path.toNarrow().c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    const int descriptor = open(toAnsi(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (descriptor < 0) {
         return nullptr;
     }
@@ -118,17 +116,17 @@ std::unique_ptr<OpenFile> OpenFile::openForReading(const CXString& path) {
     return file;
 }
 
-std::unique_ptr<OpenFile> OpenFile::createForWriting(const CXString& path) {
+std::unique_ptr<OpenFile> OpenFile::createForWriting(std::u16string_view path) {
     const int descriptor =
-        open(path.toNarrow().c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+        open(toAnsi(path).c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
     return descriptor < 0 ? nullptr : std::make_unique<PosixFile>(descriptor);
 }
 
-bool deleteFile(const CXString& path) { return unlink(path.toNarrow().c_str()) == 0; }
+bool deleteFile(std::u16string_view path) { return unlink(toAnsi(path).c_str()) == 0; }
 
-FileStamp getFileStamp(const CXString& path) {
+FileStamp getFileStamp(std::u16string_view path) {
     struct stat status = {};
-    if (stat(path.toNarrow().c_str(), &status) != 0) {
+    if (stat(toAnsi(path).c_str(), &status) != 0) {
         return {};
     }
     constexpr std::uint64_t nanosecondsPerSecond = 1'000'000'000;
@@ -139,14 +137,11 @@ FileStamp getFileStamp(const CXString& path) {
             .identity = static_cast<std::uint64_t>(status.st_ino)};
 }
 
-CXString getModulePath() {
-    const std::string& path = loadedFrom();
-    return {path.data(), path.size()};
-}
+std::u16string getModulePath() { return fromAnsi(loadedFrom()); }
 
-CXString getDriverDirectory(const CXString& /*printerName*/) {
-    const CXString path = getModulePath();
-    return path.left(path.findLast(pathSeparator) + 1);
+std::u16string getDriverDirectory(std::u16string_view /*printerName*/) {
+    const std::u16string path = getModulePath();
+    return path.substr(0, path.rfind(pathSeparator) + 1);
 }
 
 } // namespace zent::platform

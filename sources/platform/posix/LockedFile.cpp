@@ -13,7 +13,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "ocore/Text/CXString.h"
+#include "platform/CodePage.h"
 #include "platform/posix/Pause.h"
 
 namespace zent::platform {
@@ -137,16 +137,14 @@ Descriptor acquire(const std::string& path) {
     return Descriptor(-1);
 }
 
-bool writeAll(int descriptor, const void* bytes, std::size_t size) {
-    const auto* rest = static_cast<const std::byte*>(bytes);
-    while (size > 0) {
-        const ssize_t written = write(descriptor, rest, size);
+bool writeAll(int descriptor, std::span<const std::byte> bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = write(descriptor, bytes.data(), bytes.size());
         if (written < 0 && errno != EINTR) {
             return false;
         }
         if (written > 0) {
-            rest += written;
-            size -= static_cast<std::size_t>(written);
+            bytes = bytes.subspan(static_cast<std::size_t>(written));
         }
     }
     return true;
@@ -193,7 +191,7 @@ public:
 
     static std::string lockOf(const std::string& stem) { return stem + "lock"; }
 
-    bool replace(const void* bytes, std::size_t size) override {
+    bool replace(std::span<const std::byte> bytes) override {
         struct stat old = {};
         const bool isThere = stat(m_path.c_str(), &old) == 0;
         if (!isThere && errno != ENOENT) {
@@ -208,7 +206,7 @@ public:
         if (!file.isOpen()) {
             return false;
         }
-        const bool isComplete = writeAll(file.get(), bytes, size) &&
+        const bool isComplete = writeAll(file.get(), bytes) &&
                                 (!isThere || takeOver(file.get(), old)) && fsync(file.get()) == 0 &&
                                 close(file.release()) == 0 &&
                                 rename(temporary.c_str(), m_path.c_str()) == 0;
@@ -234,13 +232,11 @@ private:
     Descriptor m_lock; // goes last: the file of the lock is gone before the lock is free
 };
 
-std::string toBytes(std::u16string_view path) { return CXString(path).toNarrow(); }
-
 } // namespace
 
 FileKind getFileKind(std::u16string_view path) {
     struct stat status = {};
-    if (stat(toBytes(path).c_str(), &status) != 0) {
+    if (stat(toAnsi(path).c_str(), &status) != 0) {
         return errno == ENOENT ? FileKind::missing : FileKind::unknown;
     }
     if (S_ISREG(status.st_mode)) {
@@ -250,7 +246,7 @@ FileKind getFileKind(std::u16string_view path) {
 }
 
 std::unique_ptr<LockedFile> LockedFile::lock(std::u16string_view path) {
-    const std::string target = followLinks(toBytes(path));
+    const std::string target = followLinks(toAnsi(path));
     if (target.empty()) {
         return nullptr;
     }

@@ -7,6 +7,7 @@
 #include <sqlite3.h>
 #include <sys/stat.h>
 
+#include "platform/CodePage.h"
 #include "platform/System.h"
 #include "platform/posix/Pause.h"
 #include "platform/posix/PreferenceSnapshot.h"
@@ -50,18 +51,18 @@ public:
         m_statement.reset(statement);
     }
 
-    void bind(const CXString& text) {
-        const auto* units = reinterpret_cast<const char*>(text.c_str());
-        const std::size_t size = text.view().size() * sizeof(char16_t);
+    void bind(std::u16string_view text) {
+        // A null address would bind no value in place of an empty one.
+        const auto* units = reinterpret_cast<const char*>(text.empty() ? u"" : text.data());
+        const std::size_t size = text.size() * sizeof(char16_t);
         require(
             sqlite3_bind_text64(m_statement.get(), ++m_bound, units, size, nullptr, SQLITE_UTF16));
     }
     void bind(std::uint32_t number) {
         require(sqlite3_bind_int64(m_statement.get(), ++m_bound, number));
     }
-    void bind(const ByteBuffer& bytes) {
-        // A null address would bind no value in place of an empty one.
-        const void* data = bytes.isEmpty() ? "" : static_cast<const void*>(bytes.data());
+    void bind(std::span<const std::byte> bytes) {
+        const void* data = bytes.empty() ? "" : static_cast<const void*>(bytes.data());
         require(sqlite3_bind_blob64(m_statement.get(), ++m_bound, data, bytes.size(), nullptr));
     }
 
@@ -79,12 +80,13 @@ public:
     std::uint32_t getNumber(int column) {
         return static_cast<std::uint32_t>(sqlite3_column_int64(m_statement.get(), column));
     }
-    ByteBuffer getBytes(int column) {
+    std::vector<std::byte> getBytes(int column) {
         // In this order: the second asks for the size of what the first has made.
         const void* data = sqlite3_column_blob(m_statement.get(), column);
         requireMemory(data);
         const int size = sqlite3_column_bytes(m_statement.get(), column);
-        return {data, static_cast<std::size_t>(size)};
+        const auto* bytes = static_cast<const std::byte*>(data);
+        return {bytes, bytes + size};
     }
     std::u16string getText(int column) {
         const void* data = sqlite3_column_text16(m_statement.get(), column);
@@ -202,7 +204,7 @@ std::shared_ptr<const PreferenceSnapshot> readAll(Connection& database, const Fi
     return snapshot;
 }
 
-bool take(const PreferenceSnapshot& snapshot, const CXString& key, const CXString& name,
+bool take(const PreferenceSnapshot& snapshot, std::u16string_view key, std::u16string_view name,
           StoredPreference& value) {
     const StoredPreference* const found = snapshot.find(key, name);
     if (found != nullptr) {
@@ -213,8 +215,8 @@ bool take(const PreferenceSnapshot& snapshot, const CXString& key, const CXStrin
 
 /// Looks into the database. The state is one that its file was in before the call, if that could be
 /// told and no snapshot of it is kept.
-bool find(const std::string& path, const std::optional<FileState>& state, const CXString& key,
-          const CXString& name, StoredPreference& value) {
+bool find(const std::string& path, const std::optional<FileState>& state, std::u16string_view key,
+          std::u16string_view name, StoredPreference& value) {
     Connection database(path);
     database.run("BEGIN"); // one lock for all that follows
     if (!hasTable(database)) {
@@ -279,7 +281,7 @@ bool isOfValue(const StoreError& error) {
 
 } // namespace
 
-PreferenceResult readPreference(const CXString& key, const CXString& name,
+PreferenceResult readPreference(std::u16string_view key, std::u16string_view name,
                                 StoredPreference& value) {
     const std::string path = getPath();
     const auto state = findFileState(path);
@@ -299,12 +301,12 @@ PreferenceResult readPreference(const CXString& key, const CXString& name,
     }
 }
 
-PreferenceResult writePreference(const CXString& key, const CXString& name, std::uint32_t type,
-                                 const ByteBuffer& bytes) {
-    if (key.view().size() > longestPreferenceName) {
+PreferenceResult writePreference(std::u16string_view key, std::u16string_view name,
+                                 std::uint32_t type, std::span<const std::byte> bytes) {
+    if (key.size() > longestPreferenceName) {
         return {PreferenceStatus::keyFailed, SQLITE_TOOBIG};
     }
-    if (name.view().size() > longestPreferenceName || bytes.size() > largestPreference) {
+    if (name.size() > longestPreferenceName || bytes.size() > largestPreference) {
         return {PreferenceStatus::valueFailed, SQLITE_TOOBIG};
     }
     PreferenceStatus failure = PreferenceStatus::keyFailed;
@@ -326,10 +328,11 @@ PreferenceResult writePreference(const CXString& key, const CXString& name, std:
     }
 }
 
-CXString explainPreferenceFailure(const CXString& /*key*/, const PreferenceResult& result) {
+std::u16string explainPreferenceFailure(std::u16string_view /*key*/,
+                                        const PreferenceResult& result) {
     const std::string path = getPath();
-    CXString text(path.empty() ? "the user has no home folder" : path.c_str());
-    text += u": " + CXString(sqlite3_errstr(static_cast<int>(result.error)));
+    std::u16string text = fromAnsi(path.empty() ? "the user has no home folder" : path);
+    text += u": " + fromAnsi(sqlite3_errstr(static_cast<int>(result.error)));
     if (result.systemError != 0) {
         text += u" (" + getSystemErrorText(result.systemError) + u")";
     }

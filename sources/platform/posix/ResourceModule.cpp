@@ -5,9 +5,8 @@
 #include <cstring>
 #include <optional>
 #include <utility>
+#include <vector>
 
-#include "ocore/Resources/ByteBuffer.h"
-#include "ocore/Text/CXString.h"
 #include "platform/Files.h"
 #include "platform/PeResourceReader.h"
 
@@ -19,7 +18,7 @@ constexpr std::uint64_t largestFile = 64ULL * 1024 * 1024;
 
 class PeResourceModule final : public ResourceModule {
 public:
-    PeResourceModule(ByteBuffer file, PeResourceReader reader)
+    PeResourceModule(std::vector<std::byte> file, PeResourceReader reader)
         : m_file(std::move(file)), m_reader(std::move(reader)) {}
 
     std::int32_t loadString(std::uint32_t id, char16_t* buffer,
@@ -51,12 +50,12 @@ public:
     }
 
 private:
-    ByteBuffer m_file;
+    std::vector<std::byte> m_file;
     PeResourceReader m_reader;
 };
 
 /// The bytes of a file; on failure nothing, and errno says why.
-std::optional<ByteBuffer> readAll(const CXString& path) {
+std::optional<std::vector<std::byte>> readAll(std::u16string_view path) {
     const auto file = OpenFile::openForReading(path);
     std::uint64_t size = 0;
     if (!file || !file->getSize(size)) {
@@ -66,10 +65,9 @@ std::optional<ByteBuffer> readAll(const CXString& path) {
         errno = EFBIG;
         return std::nullopt;
     }
-    ByteBuffer bytes;
-    bytes.resize(size);
+    std::vector<std::byte> bytes(size);
     std::size_t done = 0;
-    if (!file->read(bytes.data(), bytes.size(), done)) {
+    if (!file->read(bytes, done)) {
         return std::nullopt;
     }
     bytes.resize(done);
@@ -78,7 +76,7 @@ std::optional<ByteBuffer> readAll(const CXString& path) {
 
 } // namespace
 
-std::unique_ptr<ResourceModule> ResourceModule::load(const CXString& path,
+std::unique_ptr<ResourceModule> ResourceModule::load(std::u16string_view path,
                                                      std::uint32_t& lastError) {
     if (isBareName(path)) {
         lastError = ENOENT;
@@ -89,8 +87,8 @@ std::unique_ptr<ResourceModule> ResourceModule::load(const CXString& path,
         lastError = static_cast<std::uint32_t>(errno);
         return nullptr;
     }
-    // Moving the buffer leaves its bytes where they are, so the reader may view them before.
-    auto reader = PeResourceReader::open(std::as_const(*file).bytes());
+    // Moving the vector leaves its bytes where they are, so the reader may view them before.
+    auto reader = PeResourceReader::open(*file);
     if (!reader) {
         lastError = ENOEXEC;
         return nullptr;

@@ -14,6 +14,7 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include "platform/CodePage.h"
 #include "platform/Files.h"
 #include "platform/Surrogates.h"
 #include "platform/UnseenMessage.h"
@@ -52,7 +53,7 @@ std::int32_t leadingNumber(std::string_view text) {
 
 } // namespace
 
-std::int32_t showMessageBox(WindowHandle owner, const CXString& body, const CXString& title,
+std::int32_t showMessageBox(WindowHandle owner, std::u16string_view body, std::u16string_view title,
                             std::uint32_t flags) {
     WindowSystem* const windowSystem = WindowSystem::find();
     const std::int32_t answer =
@@ -60,17 +61,16 @@ std::int32_t showMessageBox(WindowHandle owner, const CXString& body, const CXSt
     return answer != 0 ? answer : printUnseenMessage(body, title, flags);
 }
 
-CXString getWindowCaption(WindowHandle window) {
+std::u16string getWindowCaption(WindowHandle window) {
     constexpr std::size_t longestCaption = 255;
     WindowSystem* const windowSystem = window != nullptr ? WindowSystem::find() : nullptr;
-    return windowSystem != nullptr
-               ? CXString(cutText(windowSystem->getCaption(window), longestCaption))
-               : CXString();
+    return std::u16string(
+        windowSystem != nullptr ? cutText(windowSystem->getCaption(window), longestCaption) : u"");
 }
 
-CXString getSystemErrorText(std::uint32_t error) {
+std::u16string getSystemErrorText(std::uint32_t error) {
     const char* text = strerrordesc_np(static_cast<int>(error));
-    return CXString(text);
+    return text != nullptr ? fromAnsi(text) : std::u16string();
 }
 
 std::uint32_t getLastError() { return static_cast<std::uint32_t>(errno); }
@@ -80,15 +80,16 @@ std::uint32_t getCurrentThreadId() {
     return id;
 }
 
-std::int32_t getProfileInteger(const CXString& section, const CXString& key, std::int32_t fallback,
-                               const CXString& file) {
-    const CXString path = isBareName(file) ? getDriverDirectory(CXString()) + file : file;
+std::int32_t getProfileInteger(std::u16string_view section, std::u16string_view key,
+                               std::int32_t fallback, std::u16string_view file) {
+    const std::u16string folder = isBareName(file) ? getDriverDirectory() : std::u16string();
+    const std::u16string path = folder + std::u16string(file);
     if (isBareName(path)) { // the library's own folder isn't known
         return fallback;
     }
-    std::ifstream lines(path.toNarrow());
-    const std::string heading = '[' + section.toNarrow() + ']';
-    const std::string name = key.toNarrow();
+    std::ifstream lines(toAnsi(path));
+    const std::string heading = '[' + toAnsi(section) + ']';
+    const std::string name = toAnsi(key);
     bool isInSection = false;
     for (std::string line; std::getline(lines, line);) {
         const std::string_view text = trimmed(line);

@@ -6,6 +6,7 @@
 
 #include <dlfcn.h>
 
+#include "platform/CodePage.h"
 #include "platform/Files.h"
 
 namespace zent::platform {
@@ -28,11 +29,11 @@ Adapter loadAdapter() {
     if (!isDisplayNamed()) {
         return nullptr;
     }
-    const CXString path = getDriverDirectory(CXString()) + u"libzent27-qt.so";
+    const std::u16string path = getDriverDirectory() + u"libzent27-qt.so";
     if (isBareName(path)) { // the library's own folder isn't known
         return nullptr;
     }
-    void* const library = dlopen(path.toNarrow().c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
+    void* const library = dlopen(toAnsi(path).c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
     return library != nullptr ? reinterpret_cast<Adapter>(dlsym(library, "zentQtWindowSystem"))
                               : nullptr;
 }

@@ -29,17 +29,15 @@ public:
         return true;
     }
 
-    bool read(void* buffer, std::size_t length, std::size_t& done) override {
-        auto* bytes = static_cast<std::byte*>(buffer);
-        return transfer(length, done, [&](std::size_t offset, DWORD count, DWORD* moved) {
-            return ReadFile(m_handle, bytes + offset, count, moved, nullptr);
+    bool read(std::span<std::byte> buffer, std::size_t& done) override {
+        return transfer(buffer, done, [this](std::byte* rest, DWORD count, DWORD* moved) {
+            return ReadFile(m_handle, rest, count, moved, nullptr);
         });
     }
 
-    bool write(const void* data, std::size_t length, std::size_t& done) override {
-        const auto* bytes = static_cast<const std::byte*>(data);
-        return transfer(length, done, [&](std::size_t offset, DWORD count, DWORD* moved) {
-            return WriteFile(m_handle, bytes + offset, count, moved, nullptr);
+    bool write(std::span<const std::byte> bytes, std::size_t& done) override {
+        return transfer(bytes, done, [this](const std::byte* rest, DWORD count, DWORD* moved) {
+            return WriteFile(m_handle, rest, count, moved, nullptr);
         });
     }
 
@@ -47,14 +45,14 @@ public:
 
 private:
     /// One call takes 32-bit counts only.
-    template <typename Step>
-    static bool transfer(std::size_t length, std::size_t& done, const Step& step) {
+    template <typename Byte, typename Step>
+    static bool transfer(std::span<Byte> bytes, std::size_t& done, const Step& step) {
         constexpr std::size_t mostAtOnce = 0x40000000;
         done = 0;
-        while (done < length) {
-            const auto count = static_cast<DWORD>(std::min(length - done, mostAtOnce));
+        while (done < bytes.size()) {
+            const auto count = static_cast<DWORD>(std::min(bytes.size() - done, mostAtOnce));
             DWORD moved = 0;
-            if (step(done, count, &moved) == FALSE) {
+            if (step(bytes.data() + done, count, &moved) == FALSE) {
                 return false;
             }
             if (moved == 0) {
@@ -69,7 +67,7 @@ private:
 };
 
 /// Whether a path may be handed to the system; if not, the last error says so.
-bool isOfFile(const CXString& path) {
+bool isOfFile(std::u16string_view path) {
     const bool isDevice = isDeviceName(path);
     if (isDevice) {
         SetLastError(ERROR_INVALID_NAME);
@@ -77,10 +75,11 @@ bool isOfFile(const CXString& path) {
     return !isDevice;
 }
 
-std::unique_ptr<OpenFile> open(const CXString& path, DWORD access, DWORD creation) {
-    const HANDLE handle = isOfFile(path) ? CreateFileW(wide(path), access, FILE_SHARE_READ, nullptr,
-                                                       creation, FILE_ATTRIBUTE_NORMAL, nullptr)
-                                         : INVALID_HANDLE_VALUE;
+std::unique_ptr<OpenFile> open(std::u16string_view path, DWORD access, DWORD creation) {
+    const HANDLE handle = isOfFile(path)
+                              ? CreateFileW(terminated(path).c_str(), access, FILE_SHARE_READ,
+                                            nullptr, creation, FILE_ATTRIBUTE_NORMAL, nullptr)
+                              : INVALID_HANDLE_VALUE;
     if (handle == INVALID_HANDLE_VALUE) {
         return nullptr;
     }
@@ -96,18 +95,19 @@ std::uint64_t joined(FILETIME time) {
     return (std::uint64_t{time.dwHighDateTime} << 32) | time.dwLowDateTime;
 }
 
-CXString getFolder(const CXString& path) { return path.left(path.findLast(pathSeparator) + 1); }
+std::u16string getFolder(std::u16string_view path) {
+    return std::u16string(path.substr(0, path.rfind(pathSeparator) + 1));
+}
 
 wchar_t driverEnvironment[] = L"Windows NT x86";
 
 /// The folder of a printer's driver, with its separator; empty on failure.
-CXString getFolderOfDriver(const CXString& printerName) {
+std::u16string getFolderOfDriver(std::u16string_view printerName) {
     HANDLE printer = nullptr;
-    std::vector<char16_t> name(printerName.c_str(), printerName.c_str() + printerName.length() + 1);
-    if (OpenPrinterW(wide(name.data()), &printer, nullptr) == FALSE) {
+    if (OpenPrinterW(terminated(printerName).data(), &printer, nullptr) == FALSE) {
         return {};
     }
-    CXString folder;
+    std::u16string folder;
     DWORD needed = 0;
     if (GetPrinterDriverW(printer, driverEnvironment, 2, nullptr, 0, &needed) == FALSE &&
         GetLastError() == ERROR_INSUFFICIENT_BUFFER) {
@@ -116,7 +116,7 @@ CXString getFolderOfDriver(const CXString& printerName) {
         std::vector<DRIVER_INFO_2W> buffer(size / sizeof(DRIVER_INFO_2W) + 1);
         if (GetPrinterDriverW(printer, driverEnvironment, 2,
                               reinterpret_cast<LPBYTE>(buffer.data()), size, &needed) != FALSE) {
-            folder = getFolder(CXString(units(buffer.front().pDriverPath)));
+            folder = getFolder(units(buffer.front().pDriverPath));
         }
     }
     ClosePrinter(printer);
@@ -124,15 +124,15 @@ CXString getFolderOfDriver(const CXString& printerName) {
 }
 
 /// The folder of the environment's drivers of version 3, with its separator; empty on failure.
-CXString getFolderOfEnvironment() {
+std::u16string getFolderOfEnvironment() {
     wchar_t buffer[260] = {};
     DWORD needed = 0;
     if (GetPrinterDriverDirectoryW(nullptr, driverEnvironment, 1, reinterpret_cast<LPBYTE>(buffer),
                                    sizeof(buffer), &needed) == FALSE) {
         return {};
     }
-    CXString folder(units(buffer));
-    if (folder.right(2) != u"\\3") {
+    std::u16string folder = units(buffer);
+    if (!folder.ends_with(u"\\3")) {
         folder += u"\\3";
     }
     return folder + pathSeparator;
@@ -140,24 +140,24 @@ CXString getFolderOfEnvironment() {
 
 } // namespace
 
-bool isBareName(const CXString& path) {
-    return path.view().find_first_of(u"\\/:") == std::u16string_view::npos;
-}
+bool isBareName(std::u16string_view path) { return path.find_first_of(u"\\/:") == path.npos; }
 
-std::unique_ptr<OpenFile> OpenFile::openForReading(const CXString& path) {
+std::unique_ptr<OpenFile> OpenFile::openForReading(std::u16string_view path) {
     return open(path, GENERIC_READ, OPEN_EXISTING);
 }
 
-std::unique_ptr<OpenFile> OpenFile::createForWriting(const CXString& path) {
+std::unique_ptr<OpenFile> OpenFile::createForWriting(std::u16string_view path) {
     return open(path, GENERIC_WRITE, CREATE_ALWAYS);
 }
 
-bool deleteFile(const CXString& path) { return isOfFile(path) && DeleteFileW(wide(path)) != FALSE; }
+bool deleteFile(std::u16string_view path) {
+    return isOfFile(path) && DeleteFileW(terminated(path).c_str()) != FALSE;
+}
 
-FileStamp getFileStamp(const CXString& path) {
+FileStamp getFileStamp(std::u16string_view path) {
     WIN32_FILE_ATTRIBUTE_DATA found = {};
     if (!isOfFile(path) ||
-        GetFileAttributesExW(wide(path), GetFileExInfoStandard, &found) == FALSE) {
+        GetFileAttributesExW(terminated(path).c_str(), GetFileExInfoStandard, &found) == FALSE) {
         return {};
     }
     // The file's number would need the file to be opened; its birth tells as much.
@@ -167,25 +167,25 @@ FileStamp getFileStamp(const CXString& path) {
             .identity = joined(found.ftCreationTime)};
 }
 
-CXString getModulePath() {
+std::u16string getModulePath() {
     constexpr DWORD capacity = 261;
     wchar_t path[capacity] = {};
     // A path that is cut would lead into a folder further up.
     const DWORD length = GetModuleFileNameW(getOwnModule(), path, capacity);
-    return length < capacity ? CXString(units(path)) : CXString();
+    return length < capacity ? std::u16string(units(path), length) : std::u16string();
 }
 
-CXString getDriverDirectory(const CXString& printerName) {
-    CXString folder;
-    if (!printerName.isEmpty()) {
+std::u16string getDriverDirectory(std::u16string_view printerName) {
+    std::u16string folder;
+    if (!printerName.empty()) {
         folder = getFolderOfDriver(printerName);
     }
-    if (folder.isEmpty()) {
+    if (folder.empty()) {
         folder = getFolderOfEnvironment();
     }
     // Without a spooler a library must not be looked for in the drive's root, where anybody could
     // have put one.
-    return folder.isEmpty() ? getFolder(getModulePath()) : folder;
+    return folder.empty() ? getFolder(getModulePath()) : folder;
 }
 
 } // namespace zent::platform

@@ -108,17 +108,15 @@ std::vector<char> readProtection(const std::u16string& path) {
     return isRead ? descriptor : std::vector<char>();
 }
 
-bool writeAll(const Handle& file, const void* bytes, std::size_t size) {
+bool writeAll(const Handle& file, std::span<const std::byte> bytes) {
     constexpr std::size_t mostAtOnce = 0x40000000;
-    const auto* rest = static_cast<const std::byte*>(bytes);
-    while (size > 0) {
+    while (!bytes.empty()) {
+        const auto count = static_cast<DWORD>(std::min(bytes.size(), mostAtOnce));
         DWORD written = 0;
-        if (WriteFile(file.get(), rest, static_cast<DWORD>(std::min(size, mostAtOnce)), &written,
-                      nullptr) == FALSE) {
+        if (WriteFile(file.get(), bytes.data(), count, &written, nullptr) == FALSE) {
             return false;
         }
-        rest += written;
-        size -= written;
+        bytes = bytes.subspan(written);
     }
     return true;
 }
@@ -140,14 +138,14 @@ public:
 
     static std::u16string lockOf(const std::u16string& stem) { return stem + u"lock"; }
 
-    bool replace(const void* bytes, std::size_t size) override {
+    bool replace(std::span<const std::byte> bytes) override {
         const std::u16string temporary = m_stem + u"new";
         removeQuietly(temporary); // nobody else writes while the lock is held
         Handle file = createTemporary(temporary);
         if (!file.isOpen()) {
             return false;
         }
-        const bool isWritten = writeAll(file, bytes, size) && FlushFileBuffers(file.get()) != FALSE;
+        const bool isWritten = writeAll(file, bytes) && FlushFileBuffers(file.get()) != FALSE;
         file.reset();
         const bool isReplaced =
             isWritten && MoveFileExW(wide(temporary), wide(m_path),

@@ -21,12 +21,12 @@ public:
     Key(const Key&) = delete;
     Key& operator=(const Key&) = delete;
 
-    LSTATUS open(const CXString& path) {
-        return RegOpenKeyExW(HKEY_CURRENT_USER, wide(path), 0, KEY_READ, &m_key);
+    LSTATUS open(std::u16string_view path) {
+        return RegOpenKeyExW(HKEY_CURRENT_USER, terminated(path).c_str(), 0, KEY_READ, &m_key);
     }
-    LSTATUS create(const CXString& path) {
-        return RegCreateKeyExW(HKEY_CURRENT_USER, wide(path), 0, nullptr, REG_OPTION_NON_VOLATILE,
-                               KEY_ALL_ACCESS, nullptr, &m_key, nullptr);
+    LSTATUS create(std::u16string_view path) {
+        return RegCreateKeyExW(HKEY_CURRENT_USER, terminated(path).c_str(), 0, nullptr,
+                               REG_OPTION_NON_VOLATILE, KEY_ALL_ACCESS, nullptr, &m_key, nullptr);
     }
     HKEY get() const { return m_key; }
 
@@ -34,7 +34,7 @@ private:
     HKEY m_key = nullptr;
 };
 
-BYTE* bytesOf(ByteBuffer& buffer) { return reinterpret_cast<BYTE*>(buffer.data()); }
+BYTE* bytesOf(std::vector<std::byte>& buffer) { return reinterpret_cast<BYTE*>(buffer.data()); }
 
 PreferenceResult resultOf(PreferenceStatus status, LSTATUS error) {
     return {status, static_cast<std::uint32_t>(error)};
@@ -42,8 +42,9 @@ PreferenceResult resultOf(PreferenceStatus status, LSTATUS error) {
 
 } // namespace
 
-PreferenceResult readPreference(const CXString& path, const CXString& name,
+PreferenceResult readPreference(std::u16string_view path, std::u16string_view name,
                                 StoredPreference& value) {
+    const std::wstring wideName = terminated(name);
     Key key;
     LSTATUS error = key.open(path);
     if (error != ERROR_SUCCESS) {
@@ -52,15 +53,15 @@ PreferenceResult readPreference(const CXString& path, const CXString& name,
     StoredPreference found;
     DWORD type = 0;
     DWORD size = 0;
-    error = RegQueryValueExW(key.get(), wide(name), nullptr, &type, nullptr, &size);
+    error = RegQueryValueExW(key.get(), wideName.c_str(), nullptr, &type, nullptr, &size);
     const bool exists = error == ERROR_SUCCESS;
     while (exists && size > 0) {
         if (size > largestPreference) {
             return resultOf(PreferenceStatus::valueFailed, ERROR_FILE_TOO_LARGE);
         }
         found.bytes.resize(size);
-        error =
-            RegQueryValueExW(key.get(), wide(name), nullptr, &type, bytesOf(found.bytes), &size);
+        error = RegQueryValueExW(key.get(), wideName.c_str(), nullptr, &type, bytesOf(found.bytes),
+                                 &size);
         // Another process may have changed the value, or taken it away, meanwhile.
         if (error != ERROR_MORE_DATA) {
             found.bytes.resize(error == ERROR_SUCCESS ? size : 0);
@@ -78,8 +79,8 @@ PreferenceResult readPreference(const CXString& path, const CXString& name,
     return {};
 }
 
-PreferenceResult writePreference(const CXString& path, const CXString& name, std::uint32_t type,
-                                 const ByteBuffer& bytes) {
+PreferenceResult writePreference(std::u16string_view path, std::u16string_view name,
+                                 std::uint32_t type, std::span<const std::byte> bytes) {
     if (bytes.size() > largestPreference) {
         return resultOf(PreferenceStatus::valueFailed, ERROR_FILE_TOO_LARGE);
     }
@@ -88,17 +89,17 @@ PreferenceResult writePreference(const CXString& path, const CXString& name, std
     if (error != ERROR_SUCCESS) {
         return resultOf(PreferenceStatus::keyFailed, error);
     }
-    // The system looks behind a text, and counts a zero unit there as a part of it.
-    ByteBuffer guarded = bytes;
-    guarded.append(u"|");
-    error = RegSetValueExW(key.get(), wide(name), 0, type, bytesOf(guarded),
+    // The system looks at what follows a text, and counts a zero unit there as a part of it.
+    std::vector<std::byte> guarded(bytes.begin(), bytes.end());
+    guarded.resize(bytes.size() + sizeof(wchar_t), std::byte{1});
+    error = RegSetValueExW(key.get(), terminated(name).c_str(), 0, type, bytesOf(guarded),
                            static_cast<DWORD>(bytes.size()));
     return error == ERROR_SUCCESS ? PreferenceResult{}
                                   : resultOf(PreferenceStatus::valueFailed, error);
 }
 
-CXString explainPreferenceFailure(const CXString& key, const PreferenceResult& result) {
-    return u"HKEY_CURRENT_USER\\" + key + u": " + getSystemErrorText(result.error);
+std::u16string explainPreferenceFailure(std::u16string_view key, const PreferenceResult& result) {
+    return u"HKEY_CURRENT_USER\\" + std::u16string(key) + u": " + getSystemErrorText(result.error);
 }
 
 } // namespace zent::platform

@@ -1,6 +1,5 @@
 #include "platform/ResourceModule.h"
 
-#include "ocore/Text/CXString.h"
 #include "platform/Files.h"
 #include "platform/win32/WideText.h"
 
@@ -61,14 +60,15 @@ private:
 
 } // namespace
 
-std::unique_ptr<ResourceModule> ResourceModule::load(const CXString& path,
+std::unique_ptr<ResourceModule> ResourceModule::load(std::u16string_view path,
                                                      std::uint32_t& lastError) {
     if (isBareName(path)) {
         lastError = ERROR_BAD_PATHNAME;
         return nullptr;
     }
     // The altered search path: what the library itself needs is looked for in its own folder.
-    const HMODULE module = LoadLibraryExW(wide(path), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+    const HMODULE module =
+        LoadLibraryExW(terminated(path).c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
     if (module == nullptr) {
         lastError = GetLastError();
         return nullptr;

@@ -15,7 +15,7 @@ namespace zent::platform {
 
 const bool unknownExceptionsMayLeave = true;
 
-std::int32_t showMessageBox(WindowHandle owner, const CXString& body, const CXString& title,
+std::int32_t showMessageBox(WindowHandle owner, std::u16string_view body, std::u16string_view title,
                             std::uint32_t flags) {
     WindowSystem* const system = WindowSystem::find();
     const std::int32_t answer =
@@ -23,24 +23,24 @@ std::int32_t showMessageBox(WindowHandle owner, const CXString& body, const CXSt
     return answer != 0 ? answer : printUnseenMessage(body, title, flags);
 }
 
-CXString getWindowCaption(WindowHandle window) {
+std::u16string getWindowCaption(WindowHandle window) {
     constexpr std::size_t longestCaption = 255;
-    return window != nullptr
-               ? CXString(cutText(getWindowText(static_cast<HWND>(window)), longestCaption))
-               : CXString();
+    return std::u16string(window != nullptr
+                              ? cutText(getWindowText(static_cast<HWND>(window)), longestCaption)
+                              : u"");
 }
 
-CXString getSystemErrorText(std::uint32_t error) {
+std::u16string getSystemErrorText(std::uint32_t error) {
     const DWORD lastError = GetLastError();
     wchar_t* text = nullptr;
     // With the first flag, the buffer's place takes the address of what the system allocates.
     const DWORD length = FormatMessageW(
         FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
         nullptr, error, 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
-    CXString result;
+    std::u16string result;
     if (length != 0) {
-        result = units(text);
-        result.trimRight();
+        result.assign(units(text), length);
+        result.resize(result.find_last_not_of(u" \t\n\v\f\r") + 1);
         LocalFree(text);
     }
     SetLastError(lastError);
@@ -51,10 +51,10 @@ std::uint32_t getLastError() { return GetLastError(); }
 
 std::uint32_t getCurrentThreadId() { return GetCurrentThreadId(); }
 
-std::int32_t getProfileInteger(const CXString& section, const CXString& key, std::int32_t fallback,
-                               const CXString& file) {
-    return static_cast<std::int32_t>(
-        GetPrivateProfileIntW(wide(section), wide(key), fallback, wide(file)));
+std::int32_t getProfileInteger(std::u16string_view section, std::u16string_view key,
+                               std::int32_t fallback, std::u16string_view file) {
+    return static_cast<std::int32_t>(GetPrivateProfileIntW(
+        terminated(section).c_str(), terminated(key).c_str(), fallback, terminated(file).c_str()));
 }
 
 std::string getTypeName(const std::type_info& type) {

@@ -17,4 +17,10 @@ inline const char16_t* units(const wchar_t* text) {
     return reinterpret_cast<const char16_t*>(text);
 }
 
+/// A copy with a terminator, which views lack and the system's functions ask for:
+/// `terminated(path).c_str()`.
+inline std::wstring terminated(std::u16string_view text) {
+    return {wide(text.data()), text.size()};
+}
+
 } // namespace zent::platform

@@ -59,8 +59,8 @@ private:
 
 std::int32_t Win32WindowSystem::showMessageBox(WindowHandle owner, std::u16string_view body,
                                                std::u16string_view title, std::uint32_t flags) {
-    const int answer = MessageBoxW(static_cast<HWND>(owner), wide(std::u16string(body).c_str()),
-                                   wide(std::u16string(title).c_str()), flags);
+    const int answer = MessageBoxW(static_cast<HWND>(owner), terminated(body).c_str(),
+                                   terminated(title).c_str(), flags);
     // A box that has OK alone answers so when it is closed, too; Wine says otherwise.
     return (flags & MB_TYPEMASK) == MB_OK && answer == IDCANCEL ? IDOK : answer;
 }

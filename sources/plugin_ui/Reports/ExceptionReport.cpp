@@ -66,7 +66,8 @@ void compose(UserMessage& message, const Context& context, const CXString& title
     if (!errorNumber.isEmpty()) {
         addParagraph(errorNumber);
     }
-    message.setTitle(!title.isEmpty() ? title : platform::getWindowCaption(context.owner));
+    message.setTitle(!title.isEmpty() ? title
+                                      : CXString(platform::getWindowCaption(context.owner)));
     message.setBody(body);
 }
 

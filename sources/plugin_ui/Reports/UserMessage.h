@@ -66,8 +66,8 @@ public:
     std::int32_t show() const;
 
     /// What shows boxes: the platform's, unless a test sets its own. Null sets the platform's.
-    using Presenter = std::int32_t (*)(platform::WindowHandle owner, const CXString& body,
-                                       const CXString& title, std::uint32_t flags);
+    using Presenter = std::int32_t (*)(platform::WindowHandle owner, std::u16string_view body,
+                                       std::u16string_view title, std::uint32_t flags);
     static void setPresenter(Presenter presenter);
 
 protected:

@@ -36,7 +36,7 @@ using test::ScratchFolder;
 
 bool replace(const CXString& path, std::string_view content) {
     const auto file = LockedFile::lock(path);
-    return file != nullptr && file->replace(content.data(), content.size());
+    return file != nullptr && file->replace(std::as_bytes(std::span(content)));
 }
 
 mode_t modesOf(const fs::path& path) {
@@ -95,7 +95,7 @@ TEST(PosixLockedFile, WhatCantBeToldIsntTakenForMissing) {
         ASSERT_TRUE(file);
         injectedError = error;
         EXPECT_EQ(getFileKind(folder.file("omedpref.omp")), FileKind::unknown);
-        EXPECT_FALSE(file->replace("x", 1));
+        EXPECT_FALSE(file->replace({}));
         EXPECT_EQ(errno, error);
         EXPECT_EQ(test::ordoFailure([&] { MediaPreferences preferences(name); }).substr(0, 3),
                   "15:");

@@ -4,7 +4,6 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
-#include "ocore/Text/CXString.h"
 #include "platform/Files.h"
 #include "platform/posix/Environment.h"
 #include "zent27.h"
@@ -18,7 +17,7 @@ TEST(PosixModulePath, IsAsLongAsItIs) {
     const test::TemporaryFolder scratch;
     const fs::path folder = scratch.path() / std::string(200, 'a') / std::string(200, 'b');
     fs::create_directories(folder);
-    const fs::path companions = getDriverDirectory(CXString()).toNarrow();
+    const fs::path companions = getDriverDirectory();
     for (const char* const file : {"libzent27.so", "zenres27.dll", "ordo-v02025.dtd"}) {
         fs::copy_file(companions / file, folder / file);
     }

@@ -61,21 +61,18 @@ mode_t modeOf(const fs::path& path) {
     return status.st_mode & 07777U;
 }
 
-PreferenceStatus write(const CXString& name, const ByteBuffer& value) {
-    return writePreference(key, name, registryType::binary, value).status;
+PreferenceStatus write(std::u16string_view name, const ByteBuffer& value) {
+    return writePreference(key, name, registryType::binary, value.bytes()).status;
 }
 
 /// The first byte of a value, if all others are the same; -1 for no value, -2 for a torn one.
-int read(const CXString& name, std::size_t size) {
+int read(std::u16string_view name, std::size_t size) {
     StoredPreference value;
     if (readPreference(key, name, value).status != PreferenceStatus::done) {
         return -1;
     }
-    const std::byte first = value.bytes.isEmpty() ? std::byte{0} : *value.bytes.data();
-    ByteBuffer whole;
-    whole.resize(size);
-    std::fill_n(whole.data(), size, first);
-    return value.bytes == whole ? static_cast<int>(first) : -2;
+    const std::byte first = value.bytes.empty() ? std::byte{0} : value.bytes.front();
+    return value.bytes == std::vector(size, first) ? static_cast<int>(first) : -2;
 }
 
 class PreferenceDatabaseTest : public testing::Test {

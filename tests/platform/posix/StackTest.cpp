@@ -57,7 +57,7 @@ TEST(StackTest, NoCallTakesMoreThanTheHeaderSays) {
 #endif
     const WindowSystemReplacement none(nullptr); // dialogs have the stack that their system needs
     const ScratchPreferences scratch;
-    UserMessage::setPresenter([](platform::WindowHandle, const CXString&, const CXString&,
+    UserMessage::setPresenter([](platform::WindowHandle, std::u16string_view, std::u16string_view,
                                  std::uint32_t) { return messageAnswer::ok; });
     std::unique_ptr<Job> job;
     expectLittleStack("the first calls of a process", [&] { job = std::make_unique<Job>(); });

@@ -15,8 +15,8 @@ namespace {
 
 /// The test program's own, with a separator.
 std::wstring programFolder() {
-    const CXString path = getModulePath();
-    return wide(path.left(path.findLast(pathSeparator) + 1));
+    const std::u16string path = getModulePath();
+    return terminated(path.substr(0, path.rfind(pathSeparator) + 1));
 }
 
 void putCompanionsInto(const std::wstring& folder) {

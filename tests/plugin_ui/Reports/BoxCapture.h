@@ -32,8 +32,8 @@ public:
     const std::vector<ShownBox>& shown() const { return s_boxes; }
 
 private:
-    static std::int32_t present(platform::WindowHandle owner, const CXString& body,
-                                const CXString& title, std::uint32_t flags) {
+    static std::int32_t present(platform::WindowHandle owner, std::u16string_view body,
+                                std::u16string_view title, std::uint32_t flags) {
         s_boxes.push_back({owner, body, title, flags});
         return s_answer;
     }

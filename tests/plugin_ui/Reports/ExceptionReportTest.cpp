@@ -150,7 +150,7 @@ TEST_F(ExceptionReportTest, OwnFailuresStayInside) {
     EXPECT_TRUE(boxes.shown().empty());
 
     UserMessage::setPresenter(
-        [](platform::WindowHandle, const CXString&, const CXString&,
+        [](platform::WindowHandle, std::u16string_view, std::u16string_view,
            std::uint32_t) -> std::int32_t { throw std::runtime_error("no display"); });
     EXPECT_NO_THROW(report(InvalidZentSessionException()));
     EXPECT_TRUE(reportUnknownException(boxTitle, call, 0, u""));
