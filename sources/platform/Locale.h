@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ocore/Text/CXString.h"
+#include <string>
 
 namespace zent::platform {
 
@@ -9,11 +9,11 @@ namespace zent::platform {
 // or LC_CTYPE, then LANG); the host's own locale isn't touched.
 
 /// The system of measurement: "0" metric, "1" US. Empty if the system can't tell.
-CXString getLocaleMeasurement();
+std::u16string getLocaleMeasurement();
 
 /// The usual paper: "1" US letter, "5" US legal, "8" A3, "9" A4. Empty if the system can't tell;
 /// Windows may give other numbers, elsewhere other papers give an empty text.
-CXString getLocalePaperSize();
+std::u16string getLocalePaperSize();
 
 /// Whether the user's language counts a UTF-16 unit among its letters and digits.
 bool isLetterOrDigit(char16_t unit);

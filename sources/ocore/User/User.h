@@ -6,6 +6,10 @@
 
 namespace zent {
 
+namespace platform {
+struct UserProfile;
+}
+
 /// The user who runs the process, asked of the system by each call.
 class User {
 public:
@@ -14,6 +18,8 @@ public:
     /// The folder of the user's own files, without a trailing separator. Raises
     /// UserInformationRequestException or ProcessTokenRequestException.
     static CXString getProfileDirectoryPath();
+    /// The same of what the system has answered.
+    static CXString getProfileDirectoryPath(const platform::UserProfile& profile);
 
     /// The name that the user has logged on with; empty, which is no failure, if it isn't known.
     static CXString getLogonName();

@@ -43,7 +43,7 @@ constexpr Paper papers[] = {
 
 } // namespace
 
-CXString getLocaleMeasurement() {
+std::u16string getLocaleMeasurement() {
     const UserLocale locale = openUserLocale(LC_MEASUREMENT_MASK);
     if (locale == nullptr) {
         return {};
@@ -58,7 +58,7 @@ CXString getLocaleMeasurement() {
     }
 }
 
-CXString getLocalePaperSize() {
+std::u16string getLocalePaperSize() {
     const UserLocale locale = openUserLocale(LC_PAPER_MASK);
     if (locale == nullptr) {
         return {};

@@ -2,7 +2,6 @@
 
 #include <vector>
 
-#include "ocore/Faults/Exceptions.h"
 #include "platform/win32/SystemLibrary.h"
 #include "platform/win32/WideText.h"
 #include "platform/win32/WindowsProcessToken.h"
@@ -15,51 +14,50 @@ namespace zent::platform {
 
 namespace {
 
-CXString asText(std::vector<wchar_t> buffer) {
+std::u16string asText(std::vector<wchar_t> buffer) {
     buffer.push_back(L'\0');
-    return CXString(units(buffer.data()));
+    return units(buffer.data());
 }
 
-CXString getProfileDirectory(const SystemLibrary& userenv) {
+UserProfile failed(ProfileStatus status) { return {.status = status, .error = GetLastError()}; }
+
+UserProfile findProfile(const SystemLibrary& userenv) {
     const auto getDirectory =
         userenv.find<decltype(&GetUserProfileDirectoryW)>("GetUserProfileDirectoryW");
     if (getDirectory == nullptr) {
-        Raise<UserInformationRequestException>()(
-            "User::getProfileDirectoryPath(): Failed call to GetProcAddress for the "
-            "GetUserProfileDirectory(). LastError of 0x%lx.\r\n",
-            GetLastError());
+        return failed(ProfileStatus::noFunction);
     }
-    const WindowsProcessToken token(TOKEN_QUERY);
+    constexpr DWORD access = TOKEN_QUERY;
+    const WindowsProcessToken token(access);
+    if (!token.isOpen()) {
+        UserProfile profile = failed(ProfileStatus::tokenRefused);
+        profile.access = access;
+        return profile;
+    }
     DWORD size = 0;
     getDirectory(token.get(), nullptr, &size);
     std::vector<wchar_t> buffer(size);
     if (getDirectory(token.get(), buffer.data(), &size) == FALSE) {
-        Raise<UserInformationRequestException>()(
-            "User::getProfileDirectoryPath(): Failed call to GetUserProfileDirectory() to fill in "
-            "the buffer with token handle of 0x%lx. LastError of 0x%lx.\r\n",
-            reinterpret_cast<std::uintptr_t>(token.get()), GetLastError());
+        UserProfile profile = failed(ProfileStatus::directoryRefused);
+        profile.token = reinterpret_cast<std::uintptr_t>(token.get());
+        return profile;
     }
-    return asText(std::move(buffer));
+    return {.directory = asText(std::move(buffer))};
 }
 
-CXString getWindowsDirectory() {
+UserProfile findWindowsDirectory() {
     const UINT size = GetWindowsDirectoryW(nullptr, 0);
     std::vector<wchar_t> buffer(size);
     const UINT length = GetWindowsDirectoryW(buffer.data(), size);
-    if (length == 0 || length > size) {
-        Raise<UserInformationRequestException>()(
-            "User::GetUserProfileDirectory(): Failed call to GetWindowsDirectory() to fill in the "
-            "buffer. LastError of 0x%lx.\r\n",
-            GetLastError());
-    }
-    return asText(std::move(buffer));
+    return length == 0 || length > size ? failed(ProfileStatus::noDirectory)
+                                        : UserProfile{.directory = asText(std::move(buffer))};
 }
 
 using NetWkstaUserGetInfoFunction = decltype(&NetWkstaUserGetInfo);
 
-CXString getWorkstationUser(const SystemLibrary& netapi, NetWkstaUserGetInfoFunction getInfo,
-                            std::uint32_t& systemError) {
-    CXString name;
+std::u16string getWorkstationUser(const SystemLibrary& netapi, NetWkstaUserGetInfoFunction getInfo,
+                                  std::uint32_t& systemError) {
+    std::u16string name;
     BYTE* result = nullptr;
     const NET_API_STATUS status = getInfo(nullptr, 0, &result);
     if (status == NERR_Success && result != nullptr) {
@@ -76,7 +74,7 @@ CXString getWorkstationUser(const SystemLibrary& netapi, NetWkstaUserGetInfoFunc
     return name;
 }
 
-CXString getNetworkUser(std::uint32_t& systemError) {
+std::u16string getNetworkUser(std::uint32_t& systemError) {
     wchar_t name[256] = {};
     DWORD capacity = 256;
     const DWORD status = WNetGetUserW(nullptr, name, &capacity);
@@ -84,12 +82,12 @@ CXString getNetworkUser(std::uint32_t& systemError) {
         systemError = status;
         return {};
     }
-    return CXString(units(name));
+    return units(name);
 }
 
 } // namespace
 
-CXString getUserLogonName(std::uint32_t& systemError) {
+std::u16string getUserLogonName(std::uint32_t& systemError) {
     systemError = 0;
     const SystemLibrary netapi(L"netapi32.dll");
     const auto getInfo = netapi.find<NetWkstaUserGetInfoFunction>("NetWkstaUserGetInfo");
@@ -97,14 +95,17 @@ CXString getUserLogonName(std::uint32_t& systemError) {
                               : getNetworkUser(systemError);
 }
 
-CXString getUserProfileDirectory(std::uint32_t& systemError) {
-    systemError = 0;
+UserProfile findUserProfile() {
     const SystemLibrary userenv(L"userenv.dll");
     if (userenv.isLoaded()) {
-        return getProfileDirectory(userenv);
+        return findProfile(userenv);
     }
-    systemError = GetLastError();
-    return getWindowsDirectory();
+    const DWORD notLoaded = GetLastError();
+    UserProfile profile = findWindowsDirectory();
+    if (profile.status == ProfileStatus::found) {
+        profile.error = notLoaded;
+    }
+    return profile;
 }
 
 } // namespace zent::platform

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "ocore/Text/CXString.h"
+#include <string>
+#include <string_view>
 
 #include <windows.h>
 
@@ -12,7 +13,6 @@ static_assert(sizeof(wchar_t) == sizeof(char16_t));
 
 inline const wchar_t* wide(const char16_t* text) { return reinterpret_cast<const wchar_t*>(text); }
 inline wchar_t* wide(char16_t* text) { return reinterpret_cast<wchar_t*>(text); }
-inline const wchar_t* wide(const CXString& text) { return wide(text.c_str()); }
 inline const char16_t* units(const wchar_t* text) {
     return reinterpret_cast<const char16_t*>(text);
 }

@@ -60,7 +60,7 @@ TEST(WindowsUser, HasLocale) {
     }
 }
 
-TEST(WindowsUser, HasProcessToken) { EXPECT_NE(WindowsProcessToken(TOKEN_QUERY).get(), nullptr); }
+TEST(WindowsUser, HasProcessToken) { EXPECT_TRUE(WindowsProcessToken(TOKEN_QUERY).isOpen()); }
 
 } // namespace
 } // namespace zent::platform
