@@ -1,8 +1,12 @@
+// What the library does when the system's loader lets go of it.
+
 #include "platform/LibraryEntry.h"
 
 #include "ocore/Faults/Trace.h"
 
-namespace zent::platform {
+namespace zent {
+
+namespace {
 
 void onProcessDetach() {
     trace::output(u"DllMain(DLL_PROCESS_DETACH)\r\n");
@@ -12,4 +16,11 @@ void onProcessDetach() {
 
 void onThreadDetach() { trace::output(u"DllMain(DLL_THREAD_DETACH)\r\n"); }
 
-} // namespace zent::platform
+[[maybe_unused]] const bool areHooksSet = [] {
+    platform::libraryHooks = {.onProcessDetach = onProcessDetach, .onThreadDetach = onThreadDetach};
+    return true;
+}();
+
+} // namespace
+
+} // namespace zent

@@ -36,10 +36,10 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID /*reserved
         zent::platform::stayLoaded();
         break;
     case DLL_PROCESS_DETACH:
-        zent::platform::onProcessDetach();
+        zent::platform::libraryHooks.onProcessDetach();
         break;
     case DLL_THREAD_DETACH:
-        zent::platform::onThreadDetach();
+        zent::platform::libraryHooks.onThreadDetach();
         break;
     default:
         break;
