@@ -62,7 +62,7 @@ CXString User::getProfileDirectoryPath(const platform::UserProfile& profile) {
 
 CXString User::getLogonName() {
     std::uint32_t systemError = 0;
-    const CXString name(platform::getUserLogonName(systemError));
+    CXString name(platform::getUserLogonName(systemError));
     traceError(systemError);
     return name;
 }

@@ -94,7 +94,9 @@ const std::string& loadedFrom() {
 
 } // namespace
 
-bool isBareName(std::u16string_view path) { return path.find(pathSeparator) == path.npos; }
+bool isBareName(std::u16string_view path) {
+    return path.find(pathSeparator) == std::u16string_view::npos;
+}
 
 std::unique_ptr<OpenFile> OpenFile::openForReading(std::u16string_view path) {
     // A pipe would make the call wait for a writer, and a folder opens though it can't be read:

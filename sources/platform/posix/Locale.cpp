@@ -3,11 +3,11 @@
 #include <bit>
 #include <clocale>
 #include <cstdint>
+#include <cwctype>
 #include <memory>
 #include <type_traits>
 
 #include <langinfo.h>
-#include <wctype.h>
 
 namespace zent::platform {
 

@@ -31,7 +31,7 @@ int waitForOthers(void* /*unused*/, int pauses) {
 
 /// Raised in here for whatever SQLite refuses.
 struct StoreError {
-    int code;
+    int code = SQLITE_OK;
     int systemError = 0; // an errno number, if it comes from that
 };
 

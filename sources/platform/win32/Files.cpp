@@ -140,7 +140,9 @@ std::u16string getFolderOfEnvironment() {
 
 } // namespace
 
-bool isBareName(std::u16string_view path) { return path.find_first_of(u"\\/:") == path.npos; }
+bool isBareName(std::u16string_view path) {
+    return path.find_first_of(u"\\/:") == std::u16string_view::npos;
+}
 
 std::unique_ptr<OpenFile> OpenFile::openForReading(std::u16string_view path) {
     return open(path, GENERIC_READ, OPEN_EXISTING);
