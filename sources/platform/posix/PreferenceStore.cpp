@@ -182,6 +182,23 @@ constexpr std::string_view createTable = "CREATE TABLE IF NOT EXISTS preference 
                                          "bytes BLOB NOT NULL, "
                                          "PRIMARY KEY (key, name)) STRICT";
 
+/// The form of the database that this library writes. The database itself says which it has; 0 is
+/// said by those that were written before the form had a number, and is the same form.
+constexpr std::uint32_t formVersion = 1;
+constexpr std::string_view sayForm = "PRAGMA user_version = 1";
+/// What a database of a later form fails with; SQLite gives this code to nothing any more.
+constexpr int laterForm = SQLITE_FORMAT;
+
+/// The form of a database. A later one isn't looked into: what stands there may mean other things.
+std::uint32_t requireKnownForm(Connection& database) {
+    Statement select = database.prepare("PRAGMA user_version");
+    const std::uint32_t version = select.step() ? select.getNumber(0) : 0;
+    if (version > formVersion) {
+        throw StoreError{laterForm};
+    }
+    return version;
+}
+
 /// Takes what may be kept of a database; null if it is nothing.
 std::shared_ptr<const PreferenceSnapshot> readAll(Connection& database, const FileState& state) {
     // A write-ahead log takes what is written without a trace in the file itself.
@@ -219,6 +236,7 @@ bool find(const std::string& path, const std::optional<FileState>& state, std::u
           std::u16string_view name, StoredPreference& value) {
     Connection database(path);
     database.run("BEGIN"); // one lock for all that follows
+    requireKnownForm(database);
     if (!hasTable(database)) {
         return false;
     }
@@ -263,6 +281,9 @@ Connection openForWriting(const std::string& path) {
     Connection database = openCreated(path, reason);
     database.run(keepUnits);
     database.run("BEGIN IMMEDIATE");
+    if (requireKnownForm(database) != formVersion) {
+        database.run(sayForm);
+    }
     database.run(createTable);
     return database;
 }
@@ -331,8 +352,11 @@ PreferenceResult writePreference(std::u16string_view key, std::u16string_view na
 std::u16string explainPreferenceFailure(std::u16string_view /*key*/,
                                         const PreferenceResult& result) {
     const std::string path = getPath();
+    const std::string_view reason =
+        result.error == laterForm ? "a later version of this software keeps other preferences there"
+                                  : sqlite3_errstr(static_cast<int>(result.error));
     std::u16string text = fromAnsi(path.empty() ? "the user has no home folder" : path);
-    text += u": " + fromAnsi(sqlite3_errstr(static_cast<int>(result.error)));
+    text += u": " + fromAnsi(reason);
     if (result.systemError != 0) {
         text += u" (" + getSystemErrorText(result.systemError) + u")";
     }

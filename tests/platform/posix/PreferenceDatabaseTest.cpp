@@ -232,6 +232,25 @@ void runSql(const fs::path& file, const std::string& sql) {
     sqlite3_close(database);
 }
 
+TEST_F(PreferenceDatabaseTest, SaysItsFormAndLeavesLaterOnesAlone) {
+    constexpr std::size_t lastByteOfForm = 63; // of the file's header
+    ASSERT_EQ(write(u"name", ByteBuffer::fromBool(true)), PreferenceStatus::done);
+    EXPECT_EQ(contentOf(m_file)[lastByteOfForm], 1);
+    runSql(m_file, "PRAGMA user_version = 0"); // as the first versions left it
+    EXPECT_EQ(read(u"name", 1), 1);
+    EXPECT_EQ(contentOf(m_file)[lastByteOfForm], 0);
+    EXPECT_EQ(write(u"other", {}), PreferenceStatus::done);
+    EXPECT_EQ(contentOf(m_file)[lastByteOfForm], 1);
+    EXPECT_EQ(read(u"name", 1), 1);
+    for (const char* const later : {"PRAGMA user_version = 2", "PRAGMA user_version = -1"}) {
+        runSql(m_file, later);
+        const std::string content = contentOf(m_file);
+        expectUnusable(m_file, "24 (0x18)",
+                       "a later version of this software keeps other preferences there");
+        EXPECT_EQ(contentOf(m_file), content) << "is left as it was";
+    }
+}
+
 TEST_F(PreferenceDatabaseTest, JudgesSizesBeforeBytesAreRead) {
     ByteBuffer large;
     large.resize(largestPreference);
