@@ -28,6 +28,7 @@ help:
 	@echo "make test     build for Linux and Windows, and run all tests: native, sanitizers, Wine"
 	@echo "make windows  build for Windows x86-64 and x86, into build/windows-*/bin"
 	@echo "make unit     after a change: build without optimisation, and run the tests of the library"
+	@echo "make coverage tell for each folder of sources/ how many of its lines the tests reach"
 	@echo "make bench    measure the library beside its floors and beside other libraries"
 	@echo "make fuzz     let libFuzzer loose on the library, FUZZ_SECONDS=$(FUZZ_SECONDS) for each target"
 	@echo "make fuzz-coverage  tell for each file how many of its lines the inputs of fuzzing reach"
@@ -94,6 +95,16 @@ unit:
 	@$(call configure,debug)
 	@$(call build,debug)
 	@ctest --preset unit
+
+.PHONY: coverage
+coverage:
+	$(call say,What the coverage needs)
+	@tools/install-packages native test coverage
+	$(call say,Building the tests to count lines)
+	@$(call configure,test-coverage)
+	@$(call build,test-coverage)
+	$(call say,Lines of sources/ that the tests reach)
+	@tools/test-coverage build/test-coverage
 
 .PHONY: bench
 bench:
