@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "expected/ExpectedTable.h"
+#include "ocore/FeatureSettings/FeatureValueTable.h"
 #include "platform/BoundedBytes.h"
 #include "resources/UseResourceLibrary.h"
 
@@ -45,8 +45,10 @@ std::vector<std::uint32_t> readPixels(platform::Bytes bitmap) {
 
 TEST(PicturesTest, EachIdThatTheTableOfValuesNamesHasItsOwnPicture) {
     std::set<std::uint32_t> ids;
-    for (const ExpectedRow& row : readExpectedTable("values.tsv")) {
-        ids.insert(static_cast<std::uint32_t>(row.number("imageId")));
+    for (const auto rows : {getLowerValueRows(), getUpperValueRows()}) {
+        for (const FeatureValueRow& row : rows) {
+            ids.insert(row.imageID);
+        }
     }
     ids.erase(0);
     ASSERT_EQ(ids.size(), 28U);

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "expected/ExpectedTable.h"
 #include "ocore/Capabilities/Capabilities.h"
 #include "ocore/Checking/SettingsValidator.h"
 #include "ocore/Printer/PrinterDefaults.h"
@@ -8,6 +7,7 @@
 #include "resources/UseResourceLibrary.h"
 #include "support/OrdoDocument.h"
 #include "support/ProblemText.h"
+#include "support/TestFile.h"
 
 namespace zent::test {
 namespace {

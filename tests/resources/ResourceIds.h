@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "expected/ExpectedTable.h"
+#include "support/TestFile.h"
 
 namespace zent::test {
 

@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include "PrintText.h"
-#include "expected/ExpectedTable.h"
 #include "resources/ResourceIds.h"
 #include "resources/UseResourceLibrary.h"
 #include "resources/ids.h"
@@ -14,8 +13,8 @@
 namespace zent::test {
 namespace {
 
-const char* const tableParts[] = {"features", "media", "messages", "printers", "sizes", "values"};
-const char* const dialogPart = "dialogs"; // named by the classes of dialogs alone
+const char* const parts[] = {"dialogs",  "features", "media", "messages",
+                             "printers", "sizes",    "values"};
 
 /// The strings of one authored part, as rows of `id, "text"`; every fault is reported.
 std::map<std::int32_t, std::string> readStrings(const std::string& part) {
@@ -40,8 +39,8 @@ std::map<std::int32_t, std::string> readStrings(const std::string& part) {
 }
 
 std::map<std::int32_t, std::string> readAllStrings() {
-    std::map<std::int32_t, std::string> all = readStrings(dialogPart);
-    for (const char* part : tableParts) {
+    std::map<std::int32_t, std::string> all;
+    for (const char* part : parts) {
         for (const auto& [id, text] : readStrings(part)) {
             EXPECT_TRUE(all.emplace(id, text).second) << id << " stands twice";
         }
@@ -94,13 +93,10 @@ TEST(StringTableTest, TextsFitForUsers) {
     }
 }
 
-TEST(StringTableTest, EachIdThatATableNamesHasItsText) {
+TEST(StringTableTest, EachIdHasItsText) {
     const std::map<std::int32_t, std::string> authored = readAllStrings();
-    const std::vector<ExpectedRow> wanted = readExpectedTable("strings-ids.tsv");
-    EXPECT_EQ(wanted.size() + readStrings(dialogPart).size(), authored.size());
-    for (const ExpectedRow& row : wanted) {
-        EXPECT_TRUE(authored.contains(row.number("id")))
-            << row.number("id") << ", named by " << row.text("namedBy");
+    for (const auto& [name, id] : idsByName()) {
+        EXPECT_TRUE(!name.starts_with("IDS_") || authored.contains(id)) << name;
     }
     for (const char16_t* fileName : {u"zenres37.dll", u"zenres27.dll"}) {
         useResourceLibrary(fileName);

@@ -21,4 +21,15 @@ std::string readTestFile(const std::string& path) {
     return content.str();
 }
 
+std::vector<std::string> split(const std::string& text, char separator) {
+    std::vector<std::string> words;
+    std::istringstream stream(text);
+    for (std::string word; std::getline(stream, word, separator);) {
+        if (!word.empty()) {
+            words.push_back(word);
+        }
+    }
+    return words;
+}
+
 } // namespace zent::test

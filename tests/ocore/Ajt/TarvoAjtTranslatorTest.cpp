@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include "expected/ExpectedTable.h"
 #include "ocore/Capabilities/Capabilities.h"
 #include "ocore/Faults/Exceptions.h"
 #include "ocore/FeatureSettings/FeatureTable.h"
@@ -15,6 +14,7 @@
 #include "support/ListText.h"
 #include "support/OrdoDocument.h"
 #include "support/Rows.h"
+#include "support/TestFile.h"
 
 namespace zent::test {
 namespace {
@@ -333,8 +333,8 @@ TEST_F(TarvoAjtTranslatorTest, AFailureWritesNothing) {
     }
 }
 
-// One printer of each family that takes the stream. The expected streams are worked out by
-// golden/ajt/expected_streams.py.
+// One printer of each family that takes the stream. The expected streams were worked out from
+// the rules of the stream by a script that shared nothing with this library.
 TEST_F(TarvoAjtTranslatorTest, FullTicketsOfEachFamily) {
     useOrdoDtd();
     const Rows<std::string, std::uint32_t> rows{{"family-07", 1},  {"family-11", 17},

@@ -1,17 +1,20 @@
 #include "ocore/Compress/PersistentSettings.h"
 
+#include <algorithm>
 #include <string>
 
 #include <gtest/gtest.h>
 
-#include "expected/ExpectedTable.h"
 #include "ocore/Compress/CompressedBuffer.h"
 #include "ocore/Faults/Exceptions.h"
+#include "ocore/FeatureSettings/FeatureIdentifier.h"
+#include "ocore/FeatureSettings/FeatureValueDataBase.h"
 #include "ocore/User/User.h"
 #include "support/ListText.h"
 #include "support/OrdoDocument.h"
 #include "support/Rows.h"
 #include "support/ScratchPreferences.h"
+#include "support/TestFile.h"
 
 namespace zent::test {
 namespace {
@@ -58,10 +61,53 @@ private:
     ScratchPreferences m_preferences;
 };
 
+void addValue(AttrNodeList& list, const FeatureValueInfo& row, const AttrID& name) {
+    if (row.m_type == AVTE_ENUM) {
+        list.addEnum(std::stoi(row.m_text.toNarrow()), name);
+    } else if (row.m_type == AVTE_INTEGER) {
+        list.addInteger(std::stoi(row.m_text.toNarrow()), name);
+    } else if (row.m_type == AVTE_MIMEMEDIA) {
+        list.addMimeMediaType(row.m_text, name);
+    } else {
+        list.addKeyword(row.m_text, name);
+    }
+}
+
+/// Each feature once for each value that it can have, within one collection.
+AttrNodeList everything() {
+    const FeatureValueDataBase values;
+    AttrNodeList list;
+    AttrNodeList& all = *list.addCollection(AttrID(u"media-col"));
+    for (FeatureEnum feature = feature::first; feature <= feature::last; ++feature) {
+        const AttrID name(_FI(feature).getName());
+        bool hasValue = false;
+        for (std::int32_t number = 1; number < value::firstRunTimeValue; ++number) {
+            const auto row = values.findFeatureValueInfo(number);
+            if (row && std::ranges::count(row->m_features, feature) > 0) {
+                addValue(all, *row, name);
+                hasValue = true;
+            }
+        }
+        if (!hasValue) {
+            all.addInteger(5, name);
+        }
+    }
+    return list;
+}
+
+// Blobs last for years: a feature or value may never travel under another abbreviation.
+TEST_F(PersistentSettingsTest, AbbreviationsNeverChange) {
+    PersistentSettings settings;
+    settings.setUserContext({u"me", true, false, true});
+    settings.setFromAttrNodeList(everything());
+    const ByteBuffer blob = bytesOf(readTestFile("golden/state/tables.blob"));
+    EXPECT_TRUE(settings.getBuffer() == blob);
+    EXPECT_EQ(listIn(blob), textOfList(everything()));
+}
+
 // The same on every system: what an application stored on one, it may hand back on another.
 TEST_F(PersistentSettingsTest, ABlobIsTheSameOnEverySystem) {
     const Rows<const char*, const char*> rows{
-        // The blobs are made by golden/state/make-blob.
         {"golden/ordo/report.xml", "golden/state/report.blob"},
         {"../examples/brochure-with-covers.xml", "golden/state/brochure.blob"},
     };

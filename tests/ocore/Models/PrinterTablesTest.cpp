@@ -1,105 +1,51 @@
+#include <algorithm>
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
-#include "expected/ExpectedTable.h"
 #include "ocore/Models/PrinterModel.h"
+#include "ocore/Models/PrinterTables.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/Raised.h"
 
 namespace zent::test {
 namespace {
 
-std::uint32_t unsignedNumber(const ExpectedRow& row, const std::string& column) {
-    return static_cast<std::uint32_t>(row.number(column));
-}
-
-/// The number of some model of a family.
-std::uint32_t modelOf(std::uint32_t family) {
-    for (const ModelInfo& model : getModelTable()) {
-        if (model.family == family) {
-            return model.model;
+TEST(PrinterTablesTest, EachFamilyModelAndDriverStandsOnceAndRefersToOthers) {
+    useResourceLibrary();
+    for (std::uint32_t i = 0; i < getFamilyTable().size(); ++i) {
+        const FamilyInfo& family = getFamilyTable()[i];
+        SCOPED_TRACE(testing::Message() << "family " << family.family);
+        EXPECT_EQ(family.family, i + 1);
+        EXPECT_EQ(PrinterModel::getFamilyInfoIndex(family.family), i);
+        EXPECT_TRUE(std::ranges::any_of(
+            getModelTable(), [&](const ModelInfo& model) { return model.family == i + 1; }));
+    }
+    for (std::uint32_t i = 0; i < getModelTable().size(); ++i) {
+        const ModelInfo& info = getModelTable()[i];
+        SCOPED_TRACE(testing::Message() << "model " << info.model);
+        EXPECT_EQ(info.model, i + 1);
+        EXPECT_EQ(PrinterModel::getModelInfoIndex(info.model), i);
+        const FamilyInfo& family = getFamilyTable()[PrinterModel::getFamilyInfoIndex(info.family)];
+        const PrinterModel model(info.model, pageLanguage::monochromePcl);
+        EXPECT_EQ(model.getDisplayName(), ResourceLibrary().getString(info.displayNameStringID));
+        EXPECT_FALSE(model.getDisplayName().isEmpty());
+        // Only the second form has a resource of its own.
+        for (const std::uint32_t form : {0U, 1U, 2U, 3U, 4U}) {
+            EXPECT_EQ(model.getCapabilityResource(form),
+                      form == 2 ? family.capabilityResource2 : family.capabilityResource1);
         }
     }
-    ADD_FAILURE() << "family " << family << " has no model";
-    return 1;
-}
-
-TEST(PrinterTablesTest, FamiliesAreThoseOfTheTable) {
-    const std::vector<ExpectedRow> rows = readExpectedTable("families.tsv");
-    ASSERT_EQ(getFamilyTable().size(), rows.size());
-    for (std::uint32_t i = 0; i < rows.size(); ++i) {
-        const ExpectedRow& row = rows[i];
-        SCOPED_TRACE("family " + row.text("family"));
-        EXPECT_EQ(PrinterModel::getFamilyInfoIndex(unsignedNumber(row, "family")), i);
-        const PrinterModel model(modelOf(unsignedNumber(row, "family")), 2);
-        const AjtPrinterTraits& traits = model.getTraits();
-        row.expect({{"capabilityResource1", model.getCapabilityResource(1)},
-                    {"capabilityResource2", model.getCapabilityResource(2)},
-                    {"takesOrdo", model.takesOrdo()},
-                    {"capability1a", model.isSeparateCoversCapable()},
-                    {"capability1b", model.isInsertMultipleMediaCapable()},
-                    {"capability1c", model.isTiffPrintSaveCapable()},
-                    {"featureDefault", model.getFeatureDefault()},
-                    {"mediaTextCapability", model.getMediaTextCapability()},
-                    {"maxPageNumber", model.getMaxPageNumber()},
-                    {"jobNameLimit", model.getJobNameLimit()},
-                    {"jobNameRule", model.getJobNameRule()},
-                    {"accountRangeUpper", model.getAccountRangeUpper()},
-                    {"accountRangeLower", model.getAccountRangeLower()},
-                    {"accountRule", model.getAccountRule()},
-                    {"requestingUserLimit", model.getRequestingUserLimit()},
-                    {"recipientLimit", model.getRecipientLimit()},
-                    {"sheetMessageLimit", model.getSheetMessageLimit()},
-                    {"operatorMessageLimit", model.getOperatorMessageLimit()},
-                    {"phoneNumberLimit", model.getPhoneNumberLimit()},
-                    {"mediaColorLimit", model.getMediaColorLimit()},
-                    {"imageShiftRule", model.getImageShiftRule()},
-                    {"signatureSizeSwap", traits.signatureSizeSwap},
-                    {"unixDestination", traits.unixDestination},
-                    {"mediaWeightDefault", traits.mediaWeightDefault},
-                    {"explicitFinishingNone", traits.explicitFinishingNone},
-                    {"fullPageExceptions", traits.fullPageExceptions}});
-        EXPECT_EQ(traits.mediaSizeLimits, (AjtPrinterTraits::MediaSizeLimits{
-                                              row.number("xMinimum"), row.number("xMaximum"),
-                                              row.number("yMinimum"), row.number("yMaximum")}));
-    }
-    // Only the second form has a resource of its own.
-    const PrinterModel model(1, 2);
-    for (const std::uint32_t form : {0U, 3U, 4U}) {
-        EXPECT_EQ(model.getCapabilityResource(form), model.getCapabilityResource(1));
-    }
-}
-
-TEST(PrinterTablesTest, ModelsAreThoseOfTheTable) {
-    useResourceLibrary();
-    const std::vector<ExpectedRow> rows = readExpectedTable("models.tsv");
-    ASSERT_EQ(getModelTable().size(), rows.size());
-    for (std::uint32_t i = 0; i < rows.size(); ++i) {
-        const std::uint32_t number = unsignedNumber(rows[i], "model");
-        SCOPED_TRACE(number);
-        EXPECT_EQ(PrinterModel::getModelInfoIndex(number), i);
-        const ModelInfo& info = getModelTable()[i];
-        rows[i].expect({{"stringId", info.displayNameStringID},
-                        {"family", info.family},
-                        {"name", PrinterModel(number, 2).getDisplayName()}});
-    }
-}
-
-TEST(PrinterTablesTest, DriversAreThoseOfTheTable) {
-    const std::vector<ExpectedRow> rows = readExpectedTable("drivers.tsv");
-    ASSERT_EQ(getDriverTable().size(), rows.size());
-    for (const ExpectedRow& row : rows) {
-        const CXString name(row.wide("name"));
-        SCOPED_TRACE(row.text("name"));
-        const std::uint32_t index = PrinterModel::getDriverInfoIndex(name);
-        const DriverInfo& driver = getDriverTable()[index];
-        const PrinterModel model = PrinterModel::fromDriverName(name);
-        row.expect({{"pdl", driver.pdl}, {"model", driver.model}});
-        row.expect({{"pdl", model.getPdl()}, {"model", model.getModel()}});
+    for (std::uint32_t i = 0; i < getDriverTable().size(); ++i) {
+        const DriverInfo& driver = getDriverTable()[i];
+        const CXString name(driver.driverName);
+        SCOPED_TRACE(name.toNarrow());
         // Either way finds the one row: no name and no pair of model and language stands twice.
-        EXPECT_EQ(PrinterModel::getDriverInfoIndex(driver.model, driver.pdl), index);
+        EXPECT_EQ(PrinterModel::getDriverInfoIndex(name), i);
+        EXPECT_EQ(PrinterModel::getDriverInfoIndex(driver.model, driver.pdl), i);
+        const PrinterModel model = PrinterModel::fromDriverName(name);
+        EXPECT_EQ(model.getPdl(), driver.pdl);
+        EXPECT_EQ(model.getModel(), driver.model);
         EXPECT_EQ(model.getDriverName(), name);
     }
 }

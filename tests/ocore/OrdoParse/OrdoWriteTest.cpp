@@ -4,12 +4,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "expected/ExpectedTable.h"
 #include "ocore/Attributes/IppNull.h"
 #include "ocore/Attributes/PrimitiveString.h"
 #include "ocore/OrdoParse/OrdoCategories.h"
 #include "support/ListText.h"
 #include "support/OrdoDocument.h"
+#include "support/TestFile.h"
 
 namespace zent::test {
 namespace {
@@ -146,13 +146,9 @@ TEST_F(OrdoWriteTest, NamesThatXmlDoesNotAllowFail) {
     }
 }
 
-TEST(OrdoCategoriesTest, AreThoseOfTheDocumentFormat) {
-    const auto rows = readExpectedTable("categories.tsv");
-    EXPECT_EQ(rows.size(), 169U);
-    for (const ExpectedRow& row : rows) {
-        const std::u16string category = row.wide("category");
-        EXPECT_EQ(nameOf(findOrdoCategory(row.wide("name"))), category) << row.text("name");
-    }
+TEST(OrdoCategoriesTest, AttributesOfTheOperationAreNoneOfTheJob) {
+    EXPECT_EQ(findOrdoCategory(u"requesting-user-name"), OrdoCategory::operation);
+    EXPECT_EQ(findOrdoCategory(u"job-account-id"), OrdoCategory::jobTemplate);
     for (const char16_t* name : {u"", u"copie", u"copies ", u"x-dimension", u"zzz"}) {
         EXPECT_EQ(findOrdoCategory(name), OrdoCategory::none);
     }

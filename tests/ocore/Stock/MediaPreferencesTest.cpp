@@ -3,11 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "PrintText.h"
-#include "expected/ExpectedTable.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/ListText.h"
 #include "support/OrdoDocument.h"
 #include "support/ScratchFolder.h"
+#include "support/TestFile.h"
 
 namespace zent::test {
 namespace {
