@@ -56,6 +56,7 @@ DialogFit fitDialog(std::span<const FittedItem> items, std::uint16_t firstItem,
 void fitDialogToContent(platform::Dialog& dialog, std::uint16_t firstItem) {
     const std::vector<platform::DialogItem*> items = dialog.getItems();
     std::vector<FittedItem> fitted;
+    fitted.reserve(items.size());
     for (const platform::DialogItem* const item : items) {
         fitted.push_back({item->getId(), item->getPlace(), item->isMarkedButton()});
     }

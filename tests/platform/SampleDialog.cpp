@@ -74,7 +74,7 @@ SampleResources::SampleResources() {
     }
     addIcon(redPicture, {{side, 0}});
     Image icon = bitmap;
-    icon.resize(bitmap.size() + side * 4); // a mask that lets all through
+    icon.resize(bitmap.size() + std::size_t{side} * 4); // a mask that lets all through
     put32(icon, 8, side * 2);
     m_images[{redPicture * 10, resourceType::icon}] = icon;
     m_images[{redPicture, resourceType::bitmap}] = bitmap;

@@ -65,7 +65,7 @@ public:
     bool notesFocus = false;
     std::string log;
 
-    bool processEvent(platform::Dialog& dialog, std::uint32_t message, std::uintptr_t wParam,
+    bool processEvent(platform::Dialog& opened, std::uint32_t message, std::uintptr_t wParam,
                       std::intptr_t lParam, std::intptr_t& result) override;
 
 private:
