@@ -5,10 +5,8 @@
 #include "ocore/Attributes/AttrNodeList.h"
 #include "ocore/Text/CXString.h"
 
-namespace zent {
-
 /// The document type definition of the ordo document, "ordo-v02025.dtd".
-namespace ordoDtd {
+namespace zent::ordoDtd {
 
 /// Says, for the whole process, where it lies: the directory with its trailing separator. Until
 /// then it is looked for where driver files lie.
@@ -20,6 +18,4 @@ std::optional<CXString> findPath();
 /// from elsewhere may hold members that the document type doesn't declare.
 void requireReadable(const AttrNodeList& list);
 
-} // namespace ordoDtd
-
-} // namespace zent
+} // namespace zent::ordoDtd

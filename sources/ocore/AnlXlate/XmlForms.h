@@ -2,10 +2,8 @@
 
 #include "ocore/OrdoParse/XmlForm.h"
 
-namespace zent {
-
 /// The XML forms.
-namespace xmlForm {
+namespace zent::xmlForm {
 
 /// The public form of a ticket, under the attribute names and syntaxes of the Internet Printing
 /// Protocol. The root holds at most two category elements, each made when the first attribute goes
@@ -21,6 +19,4 @@ extern const XmlForm ocap;
 /// The media library of a user: a flat list of attribute elements, not validated.
 extern const XmlForm mediaPreference;
 
-} // namespace xmlForm
-
-} // namespace zent
+} // namespace zent::xmlForm

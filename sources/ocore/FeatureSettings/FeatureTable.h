@@ -10,14 +10,14 @@ namespace zent {
 
 /// One feature as it is authored; FeatureDataBase makes a FeatureInfo of it.
 struct FeatureRow {
-    FeatureEnum feature;
-    const char16_t* leaf;
-    const char16_t* parents; // as makeNestedAttrID() takes them
-    const char16_t* abbreviation;
-    std::array<const char16_t*, 3> syntaxes; // null where there is none
-    std::uint32_t supportClass;
-    std::uint32_t displayStringID;
-    std::array<FeatureEnum, 2> related; // none fills up
+    FeatureEnum feature = feature::none;
+    const char16_t* leaf = nullptr;
+    const char16_t* parents = nullptr; // as makeNestedAttrID() takes them
+    const char16_t* abbreviation = nullptr;
+    std::array<const char16_t*, 3> syntaxes = {}; // null where there is none
+    std::uint32_t supportClass = 0;
+    std::uint32_t displayStringID = 0;
+    std::array<FeatureEnum, 2> related = {}; // none fills up
     FeatureUnit unit;
 };
 

@@ -25,7 +25,7 @@ struct RunTimeValues::Store {
     std::map<std::pair<FeatureEnum, std::u16string_view>, Row*> byText;
 
     static Store& get() {
-        static Store& store = keepForever<Store>();
+        static auto& store = keepForever<Store>();
         return store;
     }
 
@@ -72,7 +72,7 @@ struct RunTimeValues::Store {
 };
 
 CriticalResource& RunTimeValues::getCriticalResource() {
-    static CriticalResource& resource = keepForever<CriticalResource>(u"FeatureValueDataBase");
+    static auto& resource = keepForever<CriticalResource>(u"FeatureValueDataBase");
     return resource;
 }
 

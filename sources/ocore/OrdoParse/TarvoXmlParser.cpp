@@ -64,7 +64,7 @@ CXString writingEncoding(const XmlDocument& document) {
 void TarvoXmlParser::parse(std::span<const std::byte> bytes) { parse(bytes, findDtd()); }
 
 void TarvoXmlParser::parseSkeleton(std::string_view skeleton) {
-    static KeptSkeletons& withoutValidation = keepForever<KeptSkeletons>();
+    static auto& withoutValidation = keepForever<KeptSkeletons>();
     const auto dtd = findDtd();
     // Where a definition can't be compiled, the parser has to read it anew with each document.
     KeptSkeletons* const kept = dtd          ? &dtd->getSkeletons()
