@@ -29,7 +29,11 @@ std::string setOf(const std::string& name, std::initializer_list<const char*> me
                   const char* syntax = "keyword") {
     std::string text = "<" + name + " syntax='1setOf'>";
     for (const char* const member : members) {
-        text += std::string("<value syntax='") + syntax + "'>" + member + "</value>";
+        text += "<value syntax='";
+        text += syntax;
+        text += "'>";
+        text += member;
+        text += "</value>";
     }
     return text + "</" + name + ">";
 }

@@ -106,9 +106,9 @@ TEST_F(SettingsProblemFixerTest, BlanksBecomeUnderscores) {
 
 TEST_F(SettingsProblemFixerTest, HalfACharacterIsCutToo) {
     AttrNodeList ticket;
-    std::u16string name(254, u'n');
+    CXString name(std::u16string(254, u'n'));
     name += u"\U0001D11E"; // two units, of which the limit would leave one
-    ticket.addName(CXString(name), AttrID(u"job-name"));
+    ticket.addName(name, AttrID(u"job-name"));
     EXPECT_EQ(fix(ticket), "job-name=name:" + std::string(254, 'n'));
 }
 

@@ -91,8 +91,8 @@ TEST(StockTest, ReplacesTheMediaOfATicket) {
 
 TEST(StockTest, MatchesByIdThenKeyAndDescription) {
     using enum StockMatch;
-    const char* const id1 = "!private-stock-logical-id=1";
-    const char* const id2 = "!private-stock-logical-id=2";
+    const std::string id1 = "!private-stock-logical-id=1";
+    const std::string id2 = "!private-stock-logical-id=2";
     const std::string ours = "media-col{media-key=name:Ours media-color=red}";
     const std::string theirs = "media-col{media-key=name:Theirs media-color=red}";
     const struct {
@@ -101,9 +101,8 @@ TEST(StockTest, MatchesByIdThenKeyAndDescription) {
         StockMatch match;
         StockDifference difference;
     } rows[] = {
-        {red + std::string(id1), std::string("media=plain ") + id1, best, StockDifference::source},
-        {std::string("media=plain ") + id1, std::string("media=plain ") + id2, none,
-         StockDifference::logicalID},
+        {red + id1, "media=plain " + id1, best, StockDifference::source},
+        {"media=plain " + id1, "media=plain " + id2, none, StockDifference::logicalID},
         {red, "media=plain", none, StockDifference::source},
         {"media=plain", "media=plain", nextBest, StockDifference::none},
         {"media=plain", "media=bond", none, StockDifference::key},
