@@ -13,6 +13,7 @@
 #include "FuzzInput.h"
 #include "Json.h"
 #include "SameList.h"
+#include "Session.h"
 #include "Text.h"
 #include "ocore/Resources/ResourceLibrary.h"
 #include "platform/Files.h"
@@ -83,6 +84,18 @@ void assign(const std::string& text) {
             requireSensible(assignment.path.back().feature, value);
         }
         hintAtMisspelling(assignment);
+    }
+}
+
+/// On a ticket of its own, and taken back.
+void apply(const std::string& text) {
+    static const Session session;
+    Ticket ticket(session);
+    for (const Assignment& assignment : parseAssignments(text)) {
+        setValues(ticket, assignment.path, assignment.values);
+        removeValues(ticket, assignment.path);
+        const PathStep& step = assignment.path.front();
+        require(assignment.path.size() > 1 || step.index || ticket.count(step.feature) == 0);
     }
 }
 
@@ -272,7 +285,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string text(data + 1, data + size);
     switch (data[0] % 3) {
     case 0:
+        jobticket::looksLikeAssignment(text);
         jobticket::mayRefuse([&] { jobticket::assign(text); });
+        jobticket::mayRefuse([&] { jobticket::apply(text); });
         break;
     case 1:
         jobticket::mayRefuse([&] { jobticket::toPathText(text); });
