@@ -21,7 +21,8 @@ bool isBareName(std::u16string_view path);
 /// "NUL.txt", aren't those of files: neither this nor the functions below open or find one.
 class OpenFile {
 public:
-    /// Opens an existing file for reading, shared for reading; null on failure.
+    /// Opens an existing file for reading; others may read or replace it meanwhile. Null on
+    /// failure.
     static std::unique_ptr<OpenFile> openForReading(std::u16string_view path);
     /// Creates or truncates a file for writing, shared for reading; null on failure.
     static std::unique_ptr<OpenFile> createForWriting(std::u16string_view path);

@@ -5,6 +5,7 @@
 
 #include "platform/win32/DeviceName.h"
 #include "platform/win32/Module.h"
+#include "platform/win32/Patience.h"
 #include "platform/win32/WideText.h"
 
 #include <winspool.h>
@@ -75,11 +76,19 @@ bool isOfFile(std::u16string_view path) {
     return !isDevice;
 }
 
-std::unique_ptr<OpenFile> open(std::u16string_view path, DWORD access, DWORD creation) {
-    const HANDLE handle = isOfFile(path)
-                              ? CreateFileW(terminated(path).c_str(), access, FILE_SHARE_READ,
-                                            nullptr, creation, FILE_ATTRIBUTE_NORMAL, nullptr)
-                              : INVALID_HANDLE_VALUE;
+std::unique_ptr<OpenFile> open(std::u16string_view path, DWORD access, DWORD sharing,
+                               DWORD creation) {
+    if (!isOfFile(path)) {
+        return nullptr;
+    }
+    const std::wstring name = terminated(path);
+    constexpr DWORD longestWait = 500;
+    HANDLE handle = INVALID_HANDLE_VALUE;
+    whileOthersUseIt(longestWait, [&] {
+        handle = CreateFileW(name.c_str(), access, sharing, nullptr, creation,
+                             FILE_ATTRIBUTE_NORMAL, nullptr);
+        return handle != INVALID_HANDLE_VALUE;
+    });
     if (handle == INVALID_HANDLE_VALUE) {
         return nullptr;
     }
@@ -145,11 +154,11 @@ bool isBareName(std::u16string_view path) {
 }
 
 std::unique_ptr<OpenFile> OpenFile::openForReading(std::u16string_view path) {
-    return open(path, GENERIC_READ, OPEN_EXISTING);
+    return open(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE, OPEN_EXISTING);
 }
 
 std::unique_ptr<OpenFile> OpenFile::createForWriting(std::u16string_view path) {
-    return open(path, GENERIC_WRITE, CREATE_ALWAYS);
+    return open(path, GENERIC_WRITE, FILE_SHARE_READ, CREATE_ALWAYS);
 }
 
 bool deleteFile(std::u16string_view path) {

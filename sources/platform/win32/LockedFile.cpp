@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/win32/DeviceName.h"
+#include "platform/win32/Patience.h"
 #include "platform/win32/WideText.h"
 
 namespace zent::platform {
@@ -147,9 +148,17 @@ public:
         }
         const bool isWritten = writeAll(file, bytes) && FlushFileBuffers(file.get()) != FALSE;
         file.reset();
-        const bool isReplaced =
-            isWritten && MoveFileExW(wide(temporary), wide(m_path),
-                                     MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
+        bool isReplaced = false;
+        if (isWritten) {
+            // Those who only read have no lock, and a file can't be replaced under their hands.
+            constexpr DWORD longestWait = 5'000;
+            whileOthersUseIt(longestWait, [&] {
+                isReplaced =
+                    MoveFileExW(wide(temporary), wide(m_path),
+                                MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
+                return isReplaced;
+            });
+        }
         if (!isReplaced) {
             removeQuietly(temporary);
         }
