@@ -139,6 +139,9 @@ std::optional<std::uint32_t> parseNumber(std::string_view text) {
 std::string_view nameOf(std::string_view step) { return step.substr(0, step.find_first_of("[#")); }
 
 AttributeStep parseAttributeStep(std::string_view text) {
+    if (nameOf(text).empty()) {
+        Feature::named(""); // raises the error for a name that none has
+    }
     AttributeStep step = {zent::AttrID(zent::CXString(fromUtf8(nameOf(text)))), 0, std::nullopt};
     if (const std::size_t bracket = text.find('['); bracket != std::string_view::npos) {
         step.index = parseNumber(text.substr(bracket + 1, text.find(']') - bracket - 1));

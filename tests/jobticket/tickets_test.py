@@ -176,6 +176,8 @@ class Editing(InFolder):
         self.assertEqual(run("unset", "-", "job-priority", "job-k-octets", "number-up#2",
                              "number-up", "job-sheets", data=ticket),
                          run("set", REPORT))
+        for path in "", ".", "media-col.", ".copies", "[0]":
+            run("unset", REPORT, path, status=BAD_VALUE)
 
     def test_reads_assignments_from_a_file(self):
         edits = self.folder / "edits"
