@@ -151,7 +151,7 @@ public:
         bool isReplaced = false;
         if (isWritten) {
             // Those who only read have no lock, and a file can't be replaced under their hands.
-            constexpr DWORD longestWait = 5'000;
+            constexpr DWORD longestWait = 2'000;
             whileOthersUseIt(longestWait, [&] {
                 isReplaced =
                     MoveFileExW(wide(temporary), wide(m_path),
