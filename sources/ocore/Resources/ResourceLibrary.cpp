@@ -20,7 +20,7 @@ struct LoadedLibrary {
 };
 
 LoadedLibrary& loadedLibrary() {
-    static LoadedLibrary& library = keepForever<LoadedLibrary>();
+    static auto& library = keepForever<LoadedLibrary>();
     return library;
 }
 
