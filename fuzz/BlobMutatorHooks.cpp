@@ -135,9 +135,6 @@ std::string mutateBlob(Blob blob, Random& random) {
 } // namespace
 
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
-                                               std::size_t most, unsigned int seed);
-
-extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
                                                std::size_t most, unsigned int seed) {
     constexpr std::size_t oneInFour = 4;
     Random random(seed);

@@ -53,13 +53,6 @@ void mutate(Calls& calls, Random& random) {
 } // namespace
 
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
-                                               std::size_t most, unsigned int seed);
-extern "C" std::size_t LLVMFuzzerCustomCrossOver(const std::uint8_t* first, std::size_t firstSize,
-                                                 const std::uint8_t* second, std::size_t secondSize,
-                                                 std::uint8_t* out, std::size_t most,
-                                                 unsigned int seed);
-
-extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
                                                std::size_t most, unsigned int seed) {
     constexpr std::size_t oneInFour = 4;
     Random random(seed);

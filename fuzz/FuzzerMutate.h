@@ -1,6 +1,7 @@
 #pragma once
 
-// libFuzzer's own mutation of bytes, for mutators that know more of an input's structure.
+// Between libFuzzer and mutators that know an input's structure: its own mutation of bytes, and
+// what it calls of theirs.
 
 #include <algorithm>
 #include <cstddef>
@@ -8,6 +9,12 @@
 #include <string>
 
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t most);
+extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
+                                               std::size_t most, unsigned int seed);
+extern "C" std::size_t LLVMFuzzerCustomCrossOver(const std::uint8_t* first, std::size_t firstSize,
+                                                 const std::uint8_t* second, std::size_t secondSize,
+                                                 std::uint8_t* out, std::size_t most,
+                                                 unsigned int seed);
 
 namespace zent::fuzz {
 
