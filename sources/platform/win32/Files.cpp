@@ -82,9 +82,9 @@ std::unique_ptr<OpenFile> open(std::u16string_view path, DWORD access, DWORD sha
         return nullptr;
     }
     const std::wstring name = terminated(path);
-    constexpr DWORD longestWait = 500;
+    constexpr Patience patience = {.whileOpen = 500, .whileDenied = 500};
     HANDLE handle = INVALID_HANDLE_VALUE;
-    whileOthersUseIt(longestWait, [&] {
+    whileOthersUseIt(patience, [&] {
         handle = CreateFileW(name.c_str(), access, sharing, nullptr, creation,
                              FILE_ATTRIBUTE_NORMAL, nullptr);
         return handle != INVALID_HANDLE_VALUE;

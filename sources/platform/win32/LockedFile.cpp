@@ -83,20 +83,14 @@ std::u16string makeStem(const std::u16string& path) {
 
 /// The lock, once it is held; closed on failure. Nobody else can open the file meanwhile.
 Handle acquire(const std::u16string& path) {
-    constexpr DWORD pause = 5; // all in milliseconds
-    constexpr DWORD longestWait = 30'000;
-    constexpr DWORD longestRemoval = 1'000; // a file that is about to go can't be opened either
-    for (DWORD waited = 0;; waited += pause) {
-        Handle file(CreateFileW(wide(path), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
-                                FILE_ATTRIBUTE_NORMAL, nullptr));
-        const DWORD error = GetLastError();
-        const bool mayBeFreeLater = (error == ERROR_SHARING_VIOLATION && waited < longestWait) ||
-                                    (error == ERROR_ACCESS_DENIED && waited < longestRemoval);
-        if (file.isOpen() || !mayBeFreeLater) {
-            return file;
-        }
-        Sleep(pause);
-    }
+    constexpr Patience patience = {.whileOpen = 30'000, .whileDenied = 1'000};
+    HANDLE file = INVALID_HANDLE_VALUE;
+    whileOthersUseIt(patience, [&] {
+        file = CreateFileW(wide(path), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+                           FILE_ATTRIBUTE_NORMAL, nullptr);
+        return file != INVALID_HANDLE_VALUE;
+    });
+    return Handle(file);
 }
 
 /// Who may do what with a file; empty if there is none.
@@ -151,8 +145,8 @@ public:
         bool isReplaced = false;
         if (isWritten) {
             // Those who only read have no lock, and a file can't be replaced under their hands.
-            constexpr DWORD longestWait = 2'000;
-            whileOthersUseIt(longestWait, [&] {
+            constexpr Patience patience = {.whileOpen = 2'000, .whileDenied = 2'000};
+            whileOthersUseIt(patience, [&] {
                 isReplaced =
                     MoveFileExW(wide(temporary), wide(m_path),
                                 MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;

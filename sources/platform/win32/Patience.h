@@ -4,17 +4,24 @@
 
 namespace zent::platform {
 
-/// Tries a step until it succeeds or fails for another reason than that the file is in somebody's
-/// hands: whoever reads or replaces it is done soon. The longest wait is in milliseconds. The last
-/// error is that of the last try.
+/// How long to wait for a file, in milliseconds: one that others have open, and one that they are
+/// about to remove or replace, to which the system denies access as to one that isn't ours.
+struct Patience {
+    DWORD whileOpen;
+    DWORD whileDenied;
+};
+
+/// Tries a step until it succeeds, fails for another reason, or the patience is at its end. The
+/// last error is that of the last try.
 template <typename Step>
-void whileOthersUseIt(DWORD longestWait, const Step& step) {
+void whileOthersUseIt(Patience patience, const Step& step) {
     constexpr DWORD pause = 5;
     for (DWORD waited = 0; !step(); waited += pause) {
         const DWORD error = GetLastError();
         const bool mayBeFreeLater =
-            error == ERROR_SHARING_VIOLATION || error == ERROR_ACCESS_DENIED;
-        if (!mayBeFreeLater || waited >= longestWait) {
+            (error == ERROR_SHARING_VIOLATION && waited < patience.whileOpen) ||
+            (error == ERROR_ACCESS_DENIED && waited < patience.whileDenied);
+        if (!mayBeFreeLater) {
             return;
         }
         Sleep(pause);
