@@ -116,8 +116,9 @@ void DialogBenchmark::registerMerge() {
 
 void DialogBenchmark::registerChange() {
     add("dialog/change/zent", [this] {
+        platform::Dialog withoutItems;
         std::intptr_t result = 0;
-        m_tree.processMessage(DialogMessage(nullptr, UIM_SETTINGS_CHANGED), result);
+        m_tree.processMessage(DialogMessage(withoutItems, UIM_SETTINGS_CHANGED), result);
     });
     add("dialog/change/read", [this] {
         for (const FeatureEnum feature : m_features) {
