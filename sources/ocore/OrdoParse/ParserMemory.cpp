@@ -25,33 +25,37 @@ struct ParserMemory::Large {
     std::size_t bytes;
 };
 
-namespace {
+/// What one parse leaves to the next.
+struct ParserMemory::Kept {
+    ~Kept() {
+        for (Large* spare : spares) {
+            ::operator delete(spare);
+        }
+    }
+
+    alignas(alignment) std::array<std::byte, firstPiece> piece;
+    std::array<Large*, mostSpares> spares{};
+};
 
 // What waits for the next document. Whoever uses it has taken it away.
-std::atomic<std::byte*> keptPiece{nullptr};
-std::atomic<void*> keptSpare{nullptr};
+std::atomic<ParserMemory::Kept*> ParserMemory::waiting{nullptr};
 
-std::unique_ptr<std::byte[]> takePiece(std::size_t size) {
-    std::unique_ptr<std::byte[]> piece(keptPiece.exchange(nullptr));
-    return piece != nullptr ? std::move(piece) : std::make_unique_for_overwrite<std::byte[]>(size);
+std::unique_ptr<ParserMemory::Kept> ParserMemory::takeKept() {
+    std::unique_ptr<Kept> kept(waiting.exchange(nullptr));
+    return kept != nullptr ? std::move(kept) : std::unique_ptr<Kept>(new Kept);
 }
 
-} // namespace
-
 ParserMemory::ParserMemory(std::size_t bytes, std::size_t blocks)
-    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): what is released below is kept
-    : m_mostBytes(bytes), m_mostBlocks(blocks), m_firstPiece(takePiece(firstPiece)),
-      m_pieces(m_firstPiece.get(), firstPiece, std::pmr::new_delete_resource()),
-      m_spare(static_cast<Large*>(keptSpare.exchange(nullptr))) {}
+    : m_mostBytes(bytes), m_mostBlocks(blocks), m_kept(takeKept()),
+      m_pieces(m_kept->piece.data(), firstPiece, std::pmr::new_delete_resource()) {}
 
 ParserMemory::~ParserMemory() {
-    delete[] keptPiece.exchange(m_firstPiece.release());
-    ::operator delete(keptSpare.exchange(m_spare));
     for (Large* block = m_newest; block != nullptr;) {
         Large* const older = block->older;
         ::operator delete(block);
         block = older;
     }
+    delete waiting.exchange(m_kept.release());
 }
 
 void* ParserMemory::allocate(XMLSize_t size) {
@@ -99,8 +103,12 @@ ParserMemory::Head* ParserMemory::allocateLarge(std::size_t size) {
     if (size > std::numeric_limits<std::size_t>::max() - heads) {
         throw std::bad_alloc();
     }
-    const bool isSpare = m_spare != nullptr && m_spare->bytes == size;
-    void* const memory = isSpare ? std::exchange(m_spare, nullptr) : ::operator new(heads + size);
+    const auto fits = [size](const Large* spare) {
+        return spare != nullptr && spare->bytes == size;
+    };
+    const auto spare = std::find_if(m_kept->spares.begin(), m_kept->spares.end(), fits);
+    void* const memory = spare != m_kept->spares.end() ? std::exchange(*spare, nullptr)
+                                                       : ::operator new(heads + size);
     auto* const block = new (memory) Large{m_newest, nullptr, size};
     m_bytes += size;
     if (m_newest != nullptr) {
@@ -117,7 +125,7 @@ void ParserMemory::deallocateLarge(Large* block) {
         block->older->newer = block->newer;
     }
     if (block->bytes <= largestSpare) {
-        std::swap(block, m_spare);
+        std::swap(block, m_kept->spares[m_nextSpare++ % mostSpares]);
     }
     ::operator delete(block);
 }

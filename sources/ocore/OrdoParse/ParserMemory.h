@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -17,10 +18,10 @@ namespace zent {
 ///
 /// A parser asks for some hundreds of small blocks before it has read anything, which is a third of
 /// the time that a short ticket takes. So these are cut from one piece and used again by size; the
-/// heap serves large ones alone. The last of those to come back waits for the next of its size: a
-/// parser takes one for each entity that it reads, and for hundreds of them in a document type. It
-/// and the first piece wait for the next document, too, since heaps give so much memory back to the
-/// system, and get it anew page by page.
+/// heap serves large ones alone. The last few of those to come back wait for others of their size:
+/// a parser takes one for each entity that it reads, nested as the entities are, and for hundreds
+/// of them in a document type. They and the first piece wait for the next document, too, since
+/// heaps give so much memory back to the system, and get it anew page by page.
 ///
 /// It also bounds what a hostile document makes the parser keep before any event tells of it, such
 /// as the attributes of a tag that doesn't end.
@@ -48,6 +49,7 @@ public:
 private:
     struct Head;
     struct Large;
+    struct Kept;
 
     /// What heaps give. Not std::max_align_t: with MinGW for x86 that is another one by the order
     /// of the headers, and so would be this class.
@@ -57,6 +59,11 @@ private:
     static constexpr std::size_t firstPiece = std::size_t{96} * 1024;
     static constexpr std::size_t largestSpare = std::size_t{256} * 1024;
 
+    static constexpr std::size_t mostSpares = 4;
+
+    static std::atomic<Kept*> waiting;
+    static std::unique_ptr<Kept> takeKept();
+
     Head* allocateSmall(std::size_t sizeClass);
     Head* allocateLarge(std::size_t size);
     void deallocateLarge(Large* block);
@@ -65,11 +72,11 @@ private:
     std::size_t m_mostBlocks;
     std::size_t m_bytes = 0;
     std::size_t m_blocks = 0;
-    std::unique_ptr<std::byte[]> m_firstPiece;
+    std::unique_ptr<Kept> m_kept;
     std::pmr::monotonic_buffer_resource m_pieces;
     std::array<Head*, sizeClasses> m_free{}; // blocks to be used again
     Large* m_newest = nullptr;
-    Large* m_spare = nullptr; // not among those that are out
+    std::size_t m_nextSpare = 0; // the place where the next one waits
 };
 
 } // namespace zent
