@@ -1,5 +1,6 @@
 #include "platform/Utf8.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "platform/Surrogates.h"
@@ -112,9 +113,14 @@ std::u16string takeUtf8(std::string_view& narrow) {
 }
 
 std::u16string fromUtf8(std::string_view narrow) {
-    std::u16string wide;
+    // Most texts are plain ASCII, whole or up to their first name.
+    const auto isOther = [](char character) {
+        return static_cast<unsigned char>(character) >= 0x80;
+    };
+    const auto other = std::find_if(narrow.begin(), narrow.end(), isOther);
+    std::u16string wide(narrow.begin(), other);
     wide.reserve(narrow.size());
-    for (std::size_t i = 0; i < narrow.size();) {
+    for (std::size_t i = wide.size(); i < narrow.size();) {
         append(decodeNext(narrow, i).value_or(replacement), wide);
     }
     return wide;
