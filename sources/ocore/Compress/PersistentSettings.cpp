@@ -144,10 +144,12 @@ ByteBuffer PersistentSettings::upgrade(const ByteBuffer& state) {
 }
 
 ByteBuffer PersistentSettings::upgradeFromDocument(const ByteBuffer& state) {
-    Parts parts = defaultParts();
+    ByteBuffer payload;
     if (state.size() > documentHeaderSize) {
-        parts.payload = toSmallDocument(expand(behind(state, documentHeaderSize)));
+        payload = toSmallDocument(expand(behind(state, documentHeaderSize)));
     }
+    Parts parts = defaultParts();
+    parts.payload.swap(payload);
     parts.data.setStateTag(static_cast<std::uint16_t>(readNumber(state, documentTagOffset, 2)));
     return compose(parts);
 }
