@@ -2,9 +2,9 @@
 // its ticket, and the same ticket again after travelling anew; what is taken trusted may fail at
 // any later use, but with a failure that has a name.
 //
-// Input: a byte that says how the rest becomes a blob, since deflate would hide its content from
-// the fuzzer: as it is, as the payload, as the content, as a full ordo document of either older
-// form.
+// Input: a byte that says whether the blob is trusted, and how the rest becomes a blob, since
+// deflate would hide its content from the fuzzer: as it is, as the payload, as the content, as a
+// full ordo document of either older form.
 
 #include <algorithm>
 #include <cstdint>
@@ -58,13 +58,15 @@ ByteBuffer compose(std::int32_t headerSize, std::int32_t version, const ByteBuff
     return blob;
 }
 
-ByteBuffer makeBlob(std::uint8_t how, const ByteBuffer& rest) {
+constexpr int forms = 5;
+
+ByteBuffer makeBlob(int form, const ByteBuffer& rest) {
     constexpr std::int32_t recent = 0x03080001;
     constexpr std::int32_t fullPayload = 0x04000001;
     constexpr std::int32_t document = 0x03070001;
     ByteBuffer withStructure = StateData().getBytes();
     withStructure.append(rest);
-    switch (how % 5) {
+    switch (form) {
     case 1:
         return compose(8, recent, {}, withStructure);
     case 2:
@@ -113,26 +115,24 @@ std::u16string describe(const PersistentSettings& state) {
     return text;
 }
 
-/// Whether it is refused, or unlike all before.
-bool importUntrusted(const ByteBuffer& blob) {
+void importUntrusted(const ByteBuffer& blob) {
     PersistentSettings state = makeState();
     const ByteBuffer before = state.getBuffer();
     if (!succeeds([&] { state.importPersistentSettingsState(blob, false); })) {
         require(state.getBuffer() == before);
-        return true;
+        return;
     }
     AttrNodeList parsedByImport;
     state.toAttrNodeList(&parsedByImport);
     static zent::fuzz::SeenLists seen;
     if (!seen.isNew(parsedByImport, describe(state))) {
-        return false;
+        return;
     }
     state.validate();
     AttrNodeList parsedAnew;
     state.toAttrNodeList(&parsedAnew);
     require(parsedAnew.getNumberOfNodes() == parsedByImport.getNumberOfNodes());
     requireTravels(parsedByImport, state);
-    return true;
 }
 
 void importTrusted(const ByteBuffer& blob) {
@@ -165,9 +165,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     openSessionOnce();
-    const ByteBuffer blob = makeBlob(data[0], {data + 1, size - 1});
-    if (importUntrusted(blob)) {
+    const ByteBuffer blob = makeBlob(data[0] % forms, {data + 1, size - 1});
+    const bool isTrusted = data[0] / forms % 2 != 0;
+    if (isTrusted) {
         importTrusted(blob);
+    } else {
+        importUntrusted(blob);
     }
     return 0;
 }
