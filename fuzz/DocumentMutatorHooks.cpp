@@ -9,7 +9,7 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
                                                std::size_t most, unsigned int seed) {
     constexpr std::size_t oneInFour = 4;
     Random random(seed);
-    const std::string before(data, data + size);
+    const std::string before(reinterpret_cast<const char*>(data), size);
     std::string after = before;
     if (zent::fuzz::below(random, oneInFour) != 0) {
         after = zent::fuzz::mutateDocument(before, random);
@@ -25,7 +25,8 @@ extern "C" std::size_t LLVMFuzzerCustomCrossOver(const std::uint8_t* first, std:
                                                  std::uint8_t* out, std::size_t most,
                                                  unsigned int seed) {
     Random random(seed);
-    const std::string crossed = zent::fuzz::crossDocuments({first, first + firstSize},
-                                                           {second, second + secondSize}, random);
+    const std::string crossed =
+        zent::fuzz::crossDocuments({reinterpret_cast<const char*>(first), firstSize},
+                                   {reinterpret_cast<const char*>(second), secondSize}, random);
     return zent::fuzz::handBack(crossed, out, most);
 }
