@@ -43,7 +43,7 @@ native:
 	$(call say,What the Linux build needs)
 	@tools/install-packages native
 	$(call say,Building for Linux into build/native/bin)
-	@$(call configure,native) -DZENT_TESTS=OFF
+	@$(call configure,native) -DZENT_TESTS=OFF -DZENT_BENCHMARKS=OFF
 	@$(call build,native)
 
 .PHONY: run
@@ -65,9 +65,9 @@ windows:
 .PHONY: test
 test:
 	$(call say,What the tests need)
-	@tools/install-packages native windows test
+	@tools/install-packages native windows test bench
 	$(call say,Linux)
-	@$(call configure,native) -DZENT_TESTS=ON
+	@$(call configure,native) -DZENT_TESTS=ON -DZENT_BENCHMARKS=ON
 	@$(call build,native)
 	@$(call test,native)
 	$(call say,Linux under AddressSanitizer and UBSan)
