@@ -16,14 +16,11 @@ constexpr bool countsStocks = true;
 /// What the components of a dialog share, and what it points to.
 struct DialogContext {
     explicit DialogContext(ZENTSession& session)
-        : stocks(session),
+        : ticketStocks(session),
           printerStocks(StockList::createFromCapabilities(session.getCapabilities())),
-          configuration{.capabilities = &session.getCapabilities(),
-                        .stockList = printerStocks.get(),
-                        .preferences = *session.getUserPreferences(),
-                        .stockInformation = &stocks} {}
+          configuration(UIConfiguration::forPrinter(session, *printerStocks, ticketStocks)) {}
 
-    StockInformation stocks;
+    StockInformation ticketStocks;
     std::unique_ptr<StockList> printerStocks;
     UIConfiguration configuration;
 };
