@@ -6,7 +6,8 @@
 #include <benchmark/benchmark.h>
 
 #include "platform/DialogTemplate.h"
-#include "plugin_ui/Features/JobNotesUIDialog.h"
+#include "plugin_ui/Features/DialogTable.h"
+#include "plugin_ui/Features/JobNotesUIFeature.h"
 #include "plugin_ui/Features/TextEntryUIFeature.h"
 
 namespace zent::bench {
@@ -88,7 +89,7 @@ void DialogBenchmark::registerAll() {
 
 void DialogBenchmark::registerConstruction() {
     add("dialog/construct/zent", [this] {
-        JobNotesUIDialog dialog(m_configuration, true, ConfigurableUIComponent::jobLevel);
+        JobNotesUIDialog dialog(m_configuration, ConfigurableUIComponent::jobLevel);
         if (!dialog.configure()) {
             throw std::logic_error("the printer takes no job notes");
         }

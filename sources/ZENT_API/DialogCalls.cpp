@@ -3,15 +3,13 @@
 #include "ZENT_API/CallFrame.h"
 #include "ocore/Stock/StockInformation.h"
 #include "ocore/Stock/StockList.h"
-#include "plugin_ui/Features/JobNotesUIDialog.h"
+#include "plugin_ui/Features/DialogTable.h"
+#include "plugin_ui/Features/JobNotesUIFeature.h"
 #include "plugin_ui/Reports/CurrentWindowSystem.h"
 
 using namespace zent;
 
 namespace {
-
-/// Dialogs that work on the ticket as a whole have their stocks counted.
-constexpr bool countsStocks = true;
 
 /// What the components of a dialog share, and what it points to.
 struct DialogContext {
@@ -30,7 +28,7 @@ ZentResult runJobNotes(ZENTSession& session, platform::WindowHandle owner,
     if (findWindowSystem() == nullptr) {
         return ZENT_ERR_DIALOG_START;
     }
-    JobNotesUIDialog dialog(configuration, countsStocks, ConfigurableUIComponent::jobLevel);
+    JobNotesUIDialog dialog(configuration, ConfigurableUIComponent::jobLevel);
     if (!dialog.configure()) {
         return ZENT_ERR_DIALOG_START;
     }

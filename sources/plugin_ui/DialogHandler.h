@@ -10,11 +10,9 @@ namespace zent {
 /// caller's settings.
 class DialogHandler : public ConfigurableUIComponent, public platform::DialogProcedure {
 public:
-    /// `bindStockInformation`: whether the working copy is what the stocks are counted in.
-    DialogHandler(UIConfiguration& configuration, FeatureEnum parentFeature,
-                  bool bindStockInformation)
-        : ConfigurableUIComponent(configuration, parentFeature),
-          m_bindStockInformation(bindStockInformation) {}
+    /// `bindStockInformation` says whether stocks are counted in the working copy.
+    DialogHandler(UIConfiguration& configuration, bool bindStockInformation)
+        : ConfigurableUIComponent(configuration), m_bindStockInformation(bindStockInformation) {}
 
     /// Exceptions of the library and the standard are shown to the user, and the event is over; any
     /// other leaves only if the user wants to stop. A validation that fails is a refusal. At the

@@ -16,11 +16,11 @@ constexpr std::intptr_t accepted = 1;
 
 } // namespace
 
-UIDialog::UIDialog(UIConfiguration& configuration, std::uint32_t templateId,
-                   FeatureEnum parentFeature, bool bindStockInformation, bool fitToContent)
-    : DialogHandler(configuration, parentFeature, bindStockInformation),
-      m_fitToContent(fitToContent) {
-    setTemplateId(templateId);
+UIDialog::UIDialog(UIConfiguration& configuration, const DialogFacts& facts)
+    : DialogHandler(configuration, facts.bindStockInformation), m_facts(facts) {
+    if (m_facts.templateId != 0) {
+        setTemplateId(m_facts.templateId);
+    }
 }
 
 UIDialog::~UIDialog() {
@@ -32,11 +32,6 @@ UIDialog::~UIDialog() {
 void UIDialog::setTemplateId(std::uint32_t id) {
     m_templateResource.setResource(id, true);
     m_templateResource.load(ResourceLibrary());
-}
-
-void UIDialog::setButtonIds(std::uint16_t okId, std::uint16_t cancelId) {
-    m_okId = okId;
-    m_cancelId = cancelId;
 }
 
 void UIDialog::setScreenPosition(std::int32_t x, std::int32_t y) {
@@ -72,8 +67,8 @@ void UIDialog::onDialogCreated(platform::Dialog& dialog) {
     if (!m_title.isEmpty()) {
         dialog.setCaption(m_title);
     }
-    if (m_fitToContent) {
-        fitDialogToContent(dialog, m_okId);
+    if (m_facts.fitToContent) {
+        fitDialogToContent(dialog, m_facts.okId);
     }
 }
 
@@ -82,20 +77,20 @@ void UIDialog::onDialogReady(platform::Dialog& dialog) {
         dialog.moveTo(
             placePopup(dialog.getWindowRectangle(), m_screenX, m_screenY, dialog.getWorkArea()));
     }
-    auto& accepting = dialog.item<platform::ButtonItem>(m_okId);
-    accepting.makeDefault(); // a template merged in may have brought another
+    auto& accepting = dialog.item<platform::ButtonItem>(m_facts.okId);
+    accepting.makeDefault(); // for a template that was merged in may have brought another
     accepting.show(true);
-    dialog.item(m_cancelId).show(true);
+    dialog.item(m_facts.cancelId).show(true);
 }
 
 bool UIDialog::onCommand(const DialogMessage& message, std::intptr_t& result) {
-    if (message.getItem() == m_okId) {
+    if (message.getItem() == m_facts.okId) {
         if (validateDialog(message.getDialog())) {
             accept();
         }
         return true;
     }
-    if (message.getItem() == m_cancelId) {
+    if (message.getItem() == m_facts.cancelId) {
         cancel();
         return true;
     }

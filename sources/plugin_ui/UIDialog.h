@@ -6,19 +6,29 @@
 
 namespace zent {
 
-/// A dialog: a template, and the tree of objects behind its items. It edits a copy of the settings,
-/// which goes over them when the user accepts. It can be run any number of times. Its observers
-/// hear of a modeless run that was accepted.
+/// What tells one dialog from another, besides the features that it shows.
+struct DialogFacts {
+    /// 0 where whoever makes the dialog sets the template.
+    std::uint32_t templateId = 0;
+    /// Whether stocks are counted in what the dialog edits, and not in the ticket of the session.
+    bool bindStockInformation = false;
+    /// Whether the window takes the size that its items need.
+    bool fitToContent = true;
+    /// The buttons that accept and cancel.
+    std::uint16_t okId = 1;
+    std::uint16_t cancelId = 2;
+    /// An item that no feature shows, such as a heading; 0 if there is none.
+    std::uint16_t staticItem = 0;
+};
+
+/// A dialog: a template, and the tree of objects that bring its items to life. It edits a copy of
+/// the settings, which goes over them when the user accepts. It can be run any number of times. Its
+/// observers hear when a modeless run was accepted.
 class UIDialog : public DialogHandler, public ObserverSubject {
 public:
     /// Loads the template, all of whose items are hidden until their controls show them. Raises
-    /// what ResourceLibrary and DialogResource raise. `fitToContent`: the window takes the size
-    /// that its items need.
-    UIDialog(UIConfiguration& configuration, std::uint32_t templateId, FeatureEnum parentFeature,
-             bool bindStockInformation, bool fitToContent = true);
-    /// Without a template, which is to be set.
-    UIDialog(UIConfiguration& configuration, FeatureEnum parentFeature, bool bindStockInformation)
-        : DialogHandler(configuration, parentFeature, bindStockInformation) {}
+    /// what ResourceLibrary and DialogResource raise.
+    UIDialog(UIConfiguration& configuration, const DialogFacts& facts);
     /// Closes a modeless window that is open.
     ~UIDialog() override;
 
@@ -28,18 +38,14 @@ public:
     /// Opens the dialog and returns at once. The settings must live until it is closed.
     void runModeless(platform::WindowHandle owner, FeatureSettings& settings);
 
-    /// The items of the buttons that accept and cancel.
-    void setButtonIds(std::uint16_t okId, std::uint16_t cancelId);
-    /// Empty: as the template has it.
+    /// With an empty title the window keeps that of the template.
     void setTitle(const CXString& title) { m_title = title; }
-    /// Opens the window to the left of the place and as high. (0, 0): where the window system
-    /// likes.
+    /// Opens the window to the left of the place and as high; at (0, 0) the window system chooses
+    /// the place.
     void setScreenPosition(std::int32_t x, std::int32_t y);
     void setTemplate(const DialogResource& resource) { m_templateResource = resource; }
     void setTemplateId(std::uint32_t id);
 
-    std::uint16_t getOkId() const { return m_okId; }
-    std::uint16_t getCancelId() const { return m_cancelId; }
     /// Null unless the dialog was opened modeless and is open.
     platform::WindowHandle getModelessWindow() const;
 
@@ -53,11 +59,9 @@ private:
     void cancel();
     void closeModeless();
 
+    DialogFacts m_facts;
     DialogResource m_templateResource;
     CXString m_title;
-    std::uint16_t m_okId = 1;
-    std::uint16_t m_cancelId = 2;
-    bool m_fitToContent = true;
     std::int32_t m_screenX = 0;
     std::int32_t m_screenY = 0;
     platform::Dialog* m_dialog = &platform::none<platform::Dialog>(); // while it is open

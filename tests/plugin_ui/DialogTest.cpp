@@ -164,9 +164,9 @@ TEST_F(DialogTest, ABoxThatCantBeFilteredIsAFault) {
 }
 
 TEST_F(DialogTest, EnterAccepts) {
-    m_dialog.setButtonIds(button, cancel);
+    TestDialog dialog(m_configuration, items(), {.okId = button});
     m_windows.onceOpen([&](Window window) { EXPECT_EQ(m_windows.defaultButton(window), button); });
-    m_dialog.runModal(nullptr, m_ticket);
+    dialog.runModal(nullptr, m_ticket);
 }
 
 TEST_F(DialogTest, AModelessDialogCommitsAtOKAndTells) {
@@ -232,7 +232,7 @@ TEST_F(DialogTest, WhatIsLockedStaysDisabledUntilItIsUnlocked) {
 }
 
 TEST_F(DialogTest, NoTemplateNoDialog) {
-    UIDialog empty(m_configuration, ConfigurableUIComponent::jobLevel, false);
+    UIDialog empty(m_configuration, DialogFacts{});
     EXPECT_THROW(empty.runModal(nullptr, m_ticket), ResourceAcquisitionException);
     const WindowSystemReplacement none(nullptr);
     EXPECT_THROW(m_dialog.runModal(nullptr, m_ticket), ResourceAcquisitionException);

@@ -13,8 +13,9 @@ namespace zent::test {
 /// A dialog of a test's own items; the tree is for the test to make.
 class TestDialog : public UIDialog {
 public:
-    TestDialog(UIConfiguration& configuration, const TemplateBuilder& items)
-        : UIDialog(configuration, jobLevel, false) {
+    TestDialog(UIConfiguration& configuration, const TemplateBuilder& items,
+               const DialogFacts& facts = {})
+        : UIDialog(configuration, facts) {
         DialogResource resource(1, true);
         resource.load(items.build());
         setTemplate(resource);

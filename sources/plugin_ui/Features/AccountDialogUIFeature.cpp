@@ -7,7 +7,6 @@ namespace zent {
 AccountDialogUIFeature::AccountDialogUIFeature(UIConfiguration& configuration,
                                                FeatureEnum parentFeature)
     : UIFeature(configuration, parentFeature) {
-    addStaticControl(IDC_ACCOUNT_GROUP);
     makeChild<AccountUIFeature>(configuration, 0, IDC_ACCOUNT_ID_LABEL, IDC_ACCOUNT_ID,
                                 feature::jobAccountID);
     m_user = &makeChild<AccountUIFeature>(configuration, 0, IDC_ACCOUNT_USER_LABEL,

@@ -1,6 +1,7 @@
 #include "plugin_ui/Features/JobNotesUIFeature.h"
 
-#include "plugin_ui/Features/AccountUIDialog.h"
+#include "plugin_ui/Features/AccountDialogUIFeature.h"
+#include "plugin_ui/Features/DialogTable.h"
 #include "plugin_ui/Features/JobNameUIFeature.h"
 #include "plugin_ui/Features/PersonNameUIFeature.h"
 #include "resources/ids.h"
@@ -11,7 +12,7 @@ JobNotesUIFeature::JobNotesUIFeature(UIConfiguration& configuration, FeatureEnum
     : UIFeature(configuration, parentFeature) {
     makeChild<JobNameUIFeature>(configuration, IDC_JOB_GROUP, IDC_JOB_NAME_LABEL, IDC_JOB_NAME);
     m_accountButton = &makeChild<DialogLaunchButtonUIFeature>(
-        configuration, std::make_unique<AccountUIDialog>(configuration, IDD_ACCOUNT, parentFeature),
+        configuration, std::make_unique<AccountUIDialog>(configuration, parentFeature),
         IDC_ACCOUNT_BUTTON);
     m_accountEntry =
         &makeChild<AccountUIFeature>(configuration, IDC_JOB_GROUP, IDC_JOB_ACCOUNT_LABEL,

@@ -4,7 +4,8 @@
 
 #include "ocore/Resources/ResourceLibrary.h"
 #include "platform/KeepForever.h"
-#include "plugin_ui/Features/CustomStringUIDialog.h"
+#include "plugin_ui/Features/CustomStringDialogUIFeature.h"
+#include "plugin_ui/Features/DialogTable.h"
 #include "resources/ids.h"
 
 namespace zent {
@@ -146,7 +147,7 @@ std::optional<FeatureValue> KeyWordListUIFeature::askForCustomValue() {
     if (!dialog.runModal(getWindow(), scratch)) {
         return std::nullopt;
     }
-    return FeatureValue::fromText(m_feature, dialog.getText());
+    return FeatureValue::fromText(m_feature, dialog.getRoot().getText());
 }
 
 void KeyWordListUIFeature::setPrinterDefault(FeatureSettings& settings) {
