@@ -9,6 +9,6 @@ void BitmapUIControl::setBitmap(std::uint32_t bitmap) {
     displayControl();
 }
 
-void BitmapUIControl::displayControl() { item().setBitmap(m_bitmap, m_bitmap != IDB_OVERLAY); }
+void BitmapUIControl::showValue() { item().setBitmap(m_bitmap, m_bitmap != IDB_OVERLAY); }
 
 } // namespace zent

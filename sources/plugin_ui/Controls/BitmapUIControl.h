@@ -14,8 +14,10 @@ public:
     void setBitmap(std::uint32_t bitmap);
     std::uint32_t getBitmap() const { return m_bitmap; }
 
-    void displayControl() override;
     void setControlCallBack() override { displayControl(); }
+
+protected:
+    void showValue() override;
 
 private:
     std::uint32_t m_bitmap;

@@ -14,7 +14,7 @@ void CheckBoxUIControl::setCaptionId(std::uint32_t stringId) {
     displayCaption();
 }
 
-void CheckBoxUIControl::displayControl() { item().setChecked(m_isChecked); }
+void CheckBoxUIControl::showValue() { item().setChecked(m_isChecked); }
 
 void CheckBoxUIControl::displayCaption() {
     if (hasWindow() && m_captionId != 0) {

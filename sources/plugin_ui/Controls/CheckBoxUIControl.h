@@ -13,9 +13,11 @@ public:
     void setChecked(bool isChecked);
 
     void setCaptionId(std::uint32_t stringId) override;
-    void displayControl() override;
     void setControlCallBack() override { displayCaption(); }
     bool processControlMessage(const DialogMessage& message, std::intptr_t& result) override;
+
+protected:
+    void showValue() override;
 
 private:
     void displayCaption();

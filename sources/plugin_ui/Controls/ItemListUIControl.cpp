@@ -45,7 +45,7 @@ void ItemListUIControl::select(std::uint32_t value) {
     displayControl();
 }
 
-void ItemListUIControl::displayControl() { item().select(findValue(m_selectedValue)); }
+void ItemListUIControl::showValue() { item().select(findValue(m_selectedValue)); }
 
 void ItemListUIControl::setControlCallBack() { showEntries(); }
 

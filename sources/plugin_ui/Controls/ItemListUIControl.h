@@ -27,12 +27,13 @@ public:
     /// Of the item that the user has chosen last.
     const CXString& getText() const { return m_text; }
 
-    void displayControl() override;
     void setControlCallBack() override;
 
 protected:
     /// `label` may be 0.
     ItemListUIControl(std::uint16_t item, std::uint16_t label);
+
+    void showValue() override;
 
     /// Takes over what the user has chosen; whether it is another value.
     bool takeSelection();

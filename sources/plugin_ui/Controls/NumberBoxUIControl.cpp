@@ -57,11 +57,10 @@ void NumberBoxUIControl::setEmpty() {
     displayControl();
 }
 
-void NumberBoxUIControl::displayControl() {
+void NumberBoxUIControl::showValue() {
     if (!hasWindow()) {
         return;
     }
-    const Showing showing(*this);
     if (m_isEmpty) {
         item().setText(u"");
         return;
@@ -101,9 +100,7 @@ void NumberBoxUIControl::setControlCallBack() {
 bool NumberBoxUIControl::processControlMessage(const DialogMessage& message,
                                                std::intptr_t& result) {
     if (message.isCommand(getItemId(), platform::notification::editChanged)) {
-        if (!isShowing()) {
-            handleChange();
-        }
+        handleChange();
         return true;
     }
     if (message.isCommand(getItemId(), platform::notification::editLeft)) {

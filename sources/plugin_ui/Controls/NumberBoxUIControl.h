@@ -32,9 +32,11 @@ public:
     bool isEmpty() const { return m_isEmpty; }
     void setEmpty();
 
-    void displayControl() override;
     void setControlCallBack() override;
     bool processControlMessage(const DialogMessage& message, std::intptr_t& result) override;
+
+protected:
+    void showValue() override;
 
 private:
     void handleChange();

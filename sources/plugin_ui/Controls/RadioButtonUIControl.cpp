@@ -17,7 +17,7 @@ void RadioButtonUIControl::bindItems(const platform::Dialog& dialog) {
     }
 }
 
-void RadioButtonUIControl::displayControl() {
+void RadioButtonUIControl::showValue() {
     for (platform::ButtonItem* const button : m_buttons) {
         button->setChecked(false);
     }

@@ -14,10 +14,10 @@ public:
     std::uint16_t getCheckedId() const { return m_checkedId; }
     void setCheckedId(std::uint16_t item);
 
-    void displayControl() override;
     bool processControlMessage(const DialogMessage& message, std::intptr_t& result) override;
 
 protected:
+    void showValue() override;
     void bindItems(const platform::Dialog& dialog) override;
 
 private:

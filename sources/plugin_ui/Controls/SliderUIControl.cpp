@@ -23,7 +23,7 @@ void SliderUIControl::setValue(std::int32_t value) {
 
 void SliderUIControl::setControlCallBack() { item().setRange(m_lower, m_upper); }
 
-void SliderUIControl::displayControl() { item().setPosition(m_value); }
+void SliderUIControl::showValue() { item().setPosition(m_value); }
 
 bool SliderUIControl::processControlMessage(const DialogMessage& message,
                                             std::intptr_t& /*result*/) {

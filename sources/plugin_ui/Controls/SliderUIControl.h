@@ -16,9 +16,11 @@ public:
     std::int32_t getValue() const { return m_value; }
     void setValue(std::int32_t value);
 
-    void displayControl() override;
     void setControlCallBack() override;
     bool processControlMessage(const DialogMessage& message, std::intptr_t& result) override;
+
+protected:
+    void showValue() override;
 
 private:
     std::int32_t m_lower = 0;

@@ -22,10 +22,7 @@ void TextBoxUIControl::setMaxLength(std::uint32_t length) {
     item().setLimit(m_maxLength);
 }
 
-void TextBoxUIControl::displayControl() {
-    const Showing showing(*this);
-    item().setText(m_text);
-}
+void TextBoxUIControl::showValue() { item().setText(m_text); }
 
 void TextBoxUIControl::setControlCallBack() {
     if (!item().isThere()) {
@@ -52,10 +49,8 @@ bool TextBoxUIControl::processControlMessage(const DialogMessage& message,
     if (!message.isCommand(getItemId(), platform::notification::editChanged)) {
         return false;
     }
-    if (!isShowing()) {
-        m_text = item().getText();
-        notifyObservers();
-    }
+    m_text = item().getText();
+    notifyObservers();
     return true;
 }
 

@@ -25,9 +25,11 @@ public:
     /// Makes a read-only box look like part of the page.
     void setTransparent(bool isTransparent) { m_isTransparent = isTransparent; }
 
-    void displayControl() override;
     void setControlCallBack() override;
     bool processControlMessage(const DialogMessage& message, std::intptr_t& result) override;
+
+protected:
+    void showValue() override;
 
 private:
     CXString m_text;

@@ -1,8 +1,24 @@
 #include "plugin_ui/Controls/UIControl.h"
 
+#include <algorithm>
+
 #include "plugin_ui/FirstFailure.h"
 
 namespace zent {
+
+/// As long as one lives, the items speak of what the program does, and the control doesn't listen.
+/// It stands here and not in the features, which could only tell the two apart by flags of their
+/// own.
+class UIControl::Showing {
+public:
+    explicit Showing(UIControl& control) : m_control(control) { ++m_control.m_showings; }
+    ~Showing() { --m_control.m_showings; }
+    Showing(const Showing&) = delete;
+    Showing& operator=(const Showing&) = delete;
+
+private:
+    UIControl& m_control;
+};
 
 UIControl::UIControl(std::uint16_t item) { addItem(item); }
 
@@ -23,6 +39,18 @@ platform::DialogItem& UIControl::getFirstItem() const {
     return m_items.empty() ? platform::none<platform::DialogItem>() : *m_items.front();
 }
 
+void UIControl::displayControl() {
+    const Showing showing(*this);
+    showValue();
+}
+
+bool UIControl::processItemMessage(const DialogMessage& message, std::intptr_t& result) {
+    if (m_showings != 0) {
+        return std::ranges::find(m_itemIds, message.getItem()) != m_itemIds.end();
+    }
+    return processControlMessage(message, result);
+}
+
 bool UIControl::onInitDialog(const DialogMessage& message, std::intptr_t& result) {
     m_dialog = &message.getDialog();
     bindItems(*m_dialog);
@@ -30,7 +58,10 @@ bool UIControl::onInitDialog(const DialogMessage& message, std::intptr_t& result
         m_isEnabled = getFirstItem().isEnabled();
     }
     FirstFailure failure;
-    failure.attempt([this] { setControlCallBack(); });
+    failure.attempt([this] {
+        const Showing showing(*this);
+        setControlCallBack();
+    });
     if (m_isLocked) {
         enableItems(false);
     }
@@ -44,16 +75,16 @@ bool UIControl::onInitDialog(const DialogMessage& message, std::intptr_t& result
 }
 
 bool UIControl::onCommand(const DialogMessage& message, std::intptr_t& result) {
-    const bool isHandled = processControlMessage(message, result);
+    const bool isHandled = processItemMessage(message, result);
     return isHandled && !m_forwardCommands ? isHandled : processChildren(message, result);
 }
 
 bool UIControl::onNotify(const DialogMessage& message, std::intptr_t& result) {
-    return processControlMessage(message, result) || processChildren(message, result);
+    return processItemMessage(message, result) || processChildren(message, result);
 }
 
 bool UIControl::onOtherMessage(const DialogMessage& message, std::intptr_t& result) {
-    return processControlMessage(message, result) || processChildren(message, result);
+    return processItemMessage(message, result) || processChildren(message, result);
 }
 
 bool UIControl::onShow(const DialogMessage& message, std::intptr_t& result) {

@@ -19,14 +19,15 @@ namespace zent {
 class UIControl : public MessageProcessorWithChildren, public ObserverSubject {
 public:
     virtual void setCaptionId(std::uint32_t /*stringId*/) {}
-    /// Makes the items show the value.
-    virtual void displayControl() {}
+    /// Makes the items show the value. What they tell of meanwhile is no act of the user's, and no
+    /// observer hears of it.
+    void displayControl();
     /// Looks at what the user has done; true if it was done to this control.
     virtual bool processControlMessage(const DialogMessage& /*message*/,
                                        std::intptr_t& /*result*/) {
         return false;
     }
-    /// Prepares the items when the dialog starts.
+    /// Prepares the items when the dialog starts. What they tell of meanwhile is dropped as well.
     virtual void setControlCallBack() {}
 
     bool onInitDialog(const DialogMessage& message, std::intptr_t& result) override;
@@ -55,6 +56,9 @@ public:
 protected:
     explicit UIControl(std::uint16_t item);
 
+    /// The part of displayControl() that each kind of control does in its own way.
+    virtual void showValue() {}
+
     /// One more item that shows, hides, enables and disables with the control; 0 is none.
     void addItem(std::uint16_t item);
     /// Gets the items from a dialog that starts, or from none when it has ended.
@@ -65,21 +69,10 @@ protected:
     platform::DialogItem& getFirstItem() const;
     bool hasWindow() const { return m_dialog->getHandle() != nullptr; }
 
-    /// While it lives the control shows its value: what its items tell of that is no act of the
-    /// user's.
-    class Showing {
-    public:
-        explicit Showing(UIControl& control) : m_control(control) { ++m_control.m_showings; }
-        ~Showing() { --m_control.m_showings; }
-        Showing(const Showing&) = delete;
-        Showing& operator=(const Showing&) = delete;
-
-    private:
-        UIControl& m_control;
-    };
-    bool isShowing() const { return m_showings != 0; }
-
 private:
+    class Showing;
+
+    bool processItemMessage(const DialogMessage& message, std::intptr_t& result);
     void deliver(std::uint32_t message);
     void showItems(bool isShown);
     void enableItems(bool isEnabled);
@@ -90,7 +83,7 @@ private:
     bool m_isEnabled = true;
     bool m_isLocked = false;
     bool m_forwardCommands = false;
-    int m_showings = 0;
+    int m_showings = 0; // how many guards are alive: they may be nested
     CXString m_toolTipText;
 };
 
