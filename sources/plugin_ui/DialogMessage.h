@@ -14,8 +14,9 @@ constexpr std::uint32_t UIM_ENABLE = 32772;
 constexpr std::uint32_t UIM_DISABLE = 32773;
 constexpr std::uint32_t UIM_VALIDATE = 32774; // the result is one of validation
 constexpr std::uint32_t UIM_VALIDATE_FOR_SAVE = 32775;
-constexpr std::uint32_t UIM_FEATURE_ANNOUNCE = 32776; // wParam: a role; lParam: the UIFeature
-constexpr std::uint32_t UIM_LOCK = 32777;             // disables until UIM_UNLOCK
+constexpr std::uint32_t UIM_FEATURE_ANNOUNCE =
+    32776;                                // wParam: a FeatureRole; lParam: the UIFeature
+constexpr std::uint32_t UIM_LOCK = 32777; // disables until UIM_UNLOCK
 constexpr std::uint32_t UIM_UNLOCK = 32778;
 
 /// The results of a validation.

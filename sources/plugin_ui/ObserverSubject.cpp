@@ -1,5 +1,6 @@
 #include "plugin_ui/ObserverSubject.h"
 
+#include <algorithm>
 #include <atomic>
 
 namespace zent {
@@ -12,6 +13,12 @@ std::atomic<std::uint32_t> subjectCount = 0;
 } // namespace
 
 ObserverSubject::ObserverSubject() : m_subjectId(static_cast<std::uint16_t>(++subjectCount)) {}
+
+void ObserverSubject::attach(Observer& observer) {
+    if (std::ranges::find(m_observers, &observer) == m_observers.end()) {
+        m_observers.push_back(&observer);
+    }
+}
 
 // By index: an observer may attach another.
 void ObserverSubject::notifyObservers() {

@@ -15,7 +15,9 @@ public:
     ObserverSubject(const ObserverSubject&) = delete;
     ObserverSubject& operator=(const ObserverSubject&) = delete;
 
-    void attach(Observer& observer) { m_observers.push_back(&observer); }
+    /// An observer that is attached already stays where it is: one that attaches itself at each
+    /// start of a dialog hears of a change once.
+    void attach(Observer& observer);
     /// In the order of attaching.
     void notifyObservers();
 

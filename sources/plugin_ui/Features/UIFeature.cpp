@@ -12,6 +12,7 @@ bool UIFeature::onInitDialog(const DialogMessage& message, std::intptr_t& result
     FirstFailure failure;
     failure.attempt([&] { isHandled = processChildren(message, result); });
     failure.attempt([this] { initializeFeature(); });
+    failure.attempt([this] { announce(); });
     failure.raise();
     return isHandled;
 }
@@ -43,6 +44,19 @@ void UIFeature::addStaticControl(std::uint16_t item) { makeChild<StaticUIControl
 void UIFeature::deliver(std::uint32_t message) {
     std::intptr_t result = 0;
     processMessage(DialogMessage(*m_dialog, message), result);
+}
+
+void UIFeature::announce() {
+    if (m_role != FeatureRole::none) {
+        DialogMessage(*m_dialog, UIM_FEATURE_ANNOUNCE, static_cast<std::uintptr_t>(m_role),
+                      reinterpret_cast<std::intptr_t>(this))
+            .resend();
+    }
+}
+
+UIFeature* UIFeature::findAnnounced(const DialogMessage& message, FeatureRole role) {
+    return message.getWParam() == static_cast<std::uintptr_t>(role) ? message.getObject<UIFeature>()
+                                                                    : nullptr;
 }
 
 void UIFeature::refreshSelf() { deliver(UIM_SETTINGS_CHANGED); }

@@ -6,12 +6,19 @@
 
 namespace zent {
 
+/// What others know a feature as that depend on it. The numbers are those of the announcement.
+enum class FeatureRole : std::uint32_t { none = 0, plex = 1 };
+
 /// Binds controls to a feature of the ticket. It keeps no value of its own: each change that the
 /// user makes is written at once to the dialog's working settings, and whether those survive is
 /// decided by the dialog.
 class UIFeature : public ConfigurableUIComponent, public Observer, public ObserverSubject {
 public:
-    using ConfigurableUIComponent::ConfigurableUIComponent;
+    /// A feature with a role announces itself by UIM_FEATURE_ANNOUNCE when its dialog starts. Who
+    /// depends on it attaches itself then, and hears of each change.
+    explicit UIFeature(UIConfiguration& configuration, FeatureEnum parentFeature = jobLevel,
+                       FeatureRole role = FeatureRole::none)
+        : ConfigurableUIComponent(configuration, parentFeature), m_role(role) {}
 
     /// The dialog's working settings; null before the dialog starts.
     virtual FeatureSettings* getSettings() { return m_settings; }
@@ -46,9 +53,14 @@ protected:
     /// Tells whoever holds the dialog that the ticket has changed.
     void reportChanged();
 
+    /// The feature that a message announces in the role; null if it announces another.
+    static UIFeature* findAnnounced(const DialogMessage& message, FeatureRole role);
+
 private:
     void deliver(std::uint32_t message);
+    void announce();
 
+    FeatureRole m_role;
     platform::Dialog* m_dialog = &platform::none<platform::Dialog>();
     FeatureSettings* m_settings = nullptr;
 };
