@@ -75,8 +75,8 @@ void DialogBenchmark::fillTree() {
         m_session.settings().setString(_FI(m_features.back()), u"A text of some length");
         const auto item = static_cast<std::uint16_t>(100 + i);
         m_tree
-            .makeChild<TextEntryUIFeature>(m_configuration, std::uint16_t{0}, std::uint16_t{0},
-                                           item, m_features.back())
+            .makeChild<TextEntryUIFeature>(
+                m_configuration, TextEntryRow{.feature = m_features.back(), .editId = item})
             .setSettings(&m_session.settings());
     }
 }

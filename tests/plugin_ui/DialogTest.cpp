@@ -1,24 +1,26 @@
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include "ocore/Faults/Exceptions.h"
+#include "platform/DialogTemplate.h"
 #include "plugin_ui/Controls/NumberBoxUIControl.h"
 #include "plugin_ui/Controls/PushButtonUIControl.h"
 #include "plugin_ui/DialogFitting.h"
 #include "plugin_ui/Features/DialogLaunchButtonUIFeature.h"
+#include "plugin_ui/Features/DialogTable.h"
 #include "plugin_ui/Features/TextEntryUIFeature.h"
 #include "plugin_ui/Reports/BoxCapture.h"
 #include "plugin_ui/TestDialog.h"
+#include "support/Rows.h"
 
 namespace zent::test {
 namespace {
 
+using DialogItem = platform::DialogTemplate::Item;
 using Window = FakeWindowSystem::Window;
 
-constexpr std::uint16_t ok = 1;
-constexpr std::uint16_t cancel = 2;
-constexpr std::uint16_t edit = 10;
-constexpr std::uint16_t label = 11;
-constexpr std::uint16_t button = 12;
+enum Id : std::uint16_t { ok = 1, cancel, edit, label, button };
 
 TemplateBuilder items() {
     return TemplateBuilder(u"Test")
@@ -46,9 +48,11 @@ protected:
                         "job-sheet-message-allowable-char-limit=20"),
           m_dialog(m_configuration, items()) {}
 
-    TextEntryUIFeature& addEntry() {
-        return m_dialog.makeChild<TextEntryUIFeature>(m_configuration, std::uint16_t{0}, label,
-                                                      edit, feature::jobSheetMessage);
+    TextEntryUIFeature& addEntry() { return addEntry(m_dialog); }
+    TextEntryUIFeature& addEntry(UIDialog& dialog) {
+        return dialog.makeChild<TextEntryUIFeature>(
+            m_configuration,
+            TextEntryRow{.feature = feature::jobSheetMessage, .labelId = label, .editId = edit});
     }
 
     TestDialog m_dialog;
@@ -64,22 +68,35 @@ TEST_F(DialogTest, ItemsWithoutAFeatureStayHidden) {
     EXPECT_FALSE(m_dialog.runModal(nullptr, m_ticket));
 }
 
-/// Fails as soon as the user does something.
-class Failing : public UIFeature {
+/// Fails at a moment of its choice.
+class FailingAt : public TestFeature {
 public:
-    explicit Failing(UIConfiguration& configuration) : UIFeature(configuration) {
+    enum class Moment { initialization, update, validation, act };
+    FailingAt(UIConfiguration& configuration, Moment moment)
+        : TestFeature(configuration), m_moment(moment) {
         makeChild<PushButtonUIControl>(button).attach(*this);
     }
-    bool isSupported() override { return true; }
-    void updateFeatureWithNewSettings() override {}
-    void handleSubjectUpdate(std::uint16_t /*subjectId*/) override {
-        Raise<IndexOutOfBoundsException>{}("nothing there\r\n");
+    void initializeFeature() override { failAt(Moment::initialization); }
+    void updateFeatureWithNewSettings() override { failAt(Moment::update); }
+    bool validate(platform::WindowHandle /*window*/) override {
+        failAt(Moment::validation);
+        return true;
     }
+    void handleSubjectUpdate(std::uint16_t /*subjectId*/) override { failAt(Moment::act); }
+
+private:
+    void failAt(Moment moment) const {
+        if (moment == m_moment) {
+            Raise<IndexOutOfBoundsException>{}("nothing there\r\n");
+        }
+    }
+
+    Moment m_moment;
 };
 
 TEST_F(DialogTest, AFailureIsReportedAndTheDialogGoesOn) {
     addEntry();
-    m_dialog.makeChild<Failing>(m_configuration);
+    m_dialog.makeChild<FailingAt>(m_configuration, FailingAt::Moment::act);
     m_dialog.setTitle(u"Titled");
     const BoxCapture boxes;
     m_windows.onceOpen([&](Window window) {
@@ -95,44 +112,18 @@ TEST_F(DialogTest, AFailureIsReportedAndTheDialogGoesOn) {
     EXPECT_GE(m_windows.changesReported(), 5U);
 }
 
-/// Fails at what it is told to.
-class FailingAt : public UIFeature {
-public:
-    enum class Moment { initialization, update, validation };
-    FailingAt(UIConfiguration& configuration, Moment moment)
-        : UIFeature(configuration), m_moment(moment) {}
-    bool isSupported() override { return true; }
-    void initializeFeature() override { failAt(Moment::initialization); }
-    void updateFeatureWithNewSettings() override { failAt(Moment::update); }
-    bool validate(platform::WindowHandle /*window*/) override {
-        failAt(Moment::validation);
-        return true;
-    }
-    void handleSubjectUpdate(std::uint16_t /*subjectId*/) override {}
-
-private:
-    void failAt(Moment moment) const {
-        if (moment == m_moment) {
-            Raise<IndexOutOfBoundsException>{}("nothing there\r\n");
-        }
-    }
-
-    Moment m_moment;
-};
-
 TEST_F(DialogTest, AFailureAtTheStartLeavesTheRestOfTheDialog) {
     for (const auto moment : {FailingAt::Moment::initialization, FailingAt::Moment::update}) {
         TestDialog dialog(m_configuration, items());
         dialog.makeChild<FailingAt>(m_configuration, moment)
             .makeChild<FailingAt>(m_configuration, moment);
-        dialog.makeChild<TextEntryUIFeature>(m_configuration, std::uint16_t{0}, label, edit,
-                                             feature::jobSheetMessage);
+        addEntry(dialog);
         m_ticket.setAttrNodeList(listOf("job-sheet-message=text:a"));
         m_configuration.readOnly = moment == FailingAt::Moment::update;
         const BoxCapture boxes;
         m_windows.onceOpen([&](Window window) {
             EXPECT_EQ(m_windows.shownItems(window),
-                      (std::vector<std::uint16_t>{label, edit, ok, cancel}));
+                      (std::vector<std::uint16_t>{label, edit, button, ok, cancel}));
             EXPECT_EQ(m_windows.item(window, edit).getText(), u"a");
             m_windows.type(window, edit, u"b");
             m_windows.click(window, ok);
@@ -153,14 +144,17 @@ TEST_F(DialogTest, AFailureInAValidationIsARefusal) {
     EXPECT_EQ(boxes.shown().size(), 1U);
 }
 
-TEST_F(DialogTest, ABoxThatCantBeFilteredIsAFault) {
-    m_dialog.makeChild<NumberBoxUIControl>(edit);
-    addEntry();
-    m_windows.setCanFilter(false);
-    const BoxCapture boxes;
-    m_windows.onceOpen([&](Window window) { EXPECT_TRUE(m_windows.item(window, ok).isShown()); });
-    m_dialog.runModal(nullptr, m_ticket);
-    EXPECT_EQ(boxes.shown().size(), 1U);
+TEST_F(DialogTest, ABoxThatIsMissingOrCantBeFilteredIsAFault) {
+    for (const std::uint16_t id : {std::uint16_t{edit}, std::uint16_t{99}}) {
+        TestDialog dialog(m_configuration, items());
+        dialog.makeChild<NumberBoxUIControl>(id);
+        m_windows.setCanFilter(id != edit);
+        const BoxCapture boxes;
+        m_windows.onceOpen(
+            [&](Window window) { EXPECT_TRUE(m_windows.item(window, ok).isShown()); });
+        dialog.runModal(nullptr, m_ticket);
+        EXPECT_EQ(boxes.shown().size(), 1U);
+    }
 }
 
 TEST_F(DialogTest, EnterAccepts) {
@@ -195,8 +189,7 @@ TEST_F(DialogTest, AModelessDialogCommitsAtOKAndTells) {
 TEST_F(DialogTest, WhatIsLockedStaysDisabledUntilItIsUnlocked) {
     TextEntryUIFeature& entry = addEntry();
     auto inner = std::make_unique<TestDialog>(m_configuration, items());
-    inner->makeChild<TextEntryUIFeature>(m_configuration, std::uint16_t{0}, label, edit,
-                                         feature::jobSheetMessage);
+    addEntry(*inner);
     m_dialog.makeChild<DialogLaunchButtonUIFeature>(m_configuration, std::move(inner), button);
     m_configuration.readOnly = true;
     m_windows.onceOpen([&](Window window) {
@@ -238,45 +231,49 @@ TEST_F(DialogTest, NoTemplateNoDialog) {
     EXPECT_THROW(m_dialog.runModal(nullptr, m_ticket), ResourceAcquisitionException);
 }
 
+// ---- The table of dialogs -----------------------------------------------------------------------
+
+/// The items that its row names are in a dialog's template.
+void expectItems(const DialogFacts& row) {
+    SCOPED_TRACE(row.templateId);
+    const ResourceData loaded = ResourceLibrary().loadDialog(row.templateId);
+    const auto dialog = platform::DialogTemplate::read(loaded.getBytes().bytes());
+    ASSERT_TRUE(dialog);
+    for (const std::uint16_t id : {row.okId, row.cancelId, row.staticItem}) {
+        EXPECT_TRUE(id == 0 || std::ranges::count(dialog->items, id, &DialogItem::id) == 1) << id;
+    }
+}
+
+TEST(DialogTableTest, RowsAgreeWithTheirTemplates) {
+    useResourceLibrary();
+    std::apply([](const auto&... row) { (expectItems(row), ...); }, dialogTable);
+}
+
 // ---- The place of windows and items ------------------------------------------------------------
 
 using platform::Rectangle;
 
 TEST(DialogFittingTest, ItemsBeginAtTheMargin) {
-    struct Row {
-        const char* what;
-        std::vector<FittedItem> items;
-        std::int32_t moveX;
-        std::int32_t moveY;
-        Rectangle window;
-    };
     // A frame of 10 and 30 around an inner area of 200 by 100; margins of 7.
     const DialogExtent extent{{100, 50, 310, 180}, {0, 0, 200, 100}, {7, 7, 7, 7}, 3};
-    const Row rows[] = {
-        {"fits", {{1, {7, 7, 193, 93}, false}}, 0, 0, {100, 50, 310, 180}},
-        {"right of the margin", {{1, {27, 7, 193, 93}, false}}, -20, 0, {100, 50, 290, 180}},
-        {"too large",
-         {{1, {7, 7, 50, 20}, false}, {9, {7, 7, 250, 120}, false}},
-         0,
-         0,
-         {100, 50, 367, 207}},
-        {"a group's top counts from below",
-         {{1, {7, 7, 193, 93}, false}, {9, {7, 4, 193, 93}, true}},
-         0,
-         0,
-         {100, 50, 310, 180}},
-        {"no first item: the inner area counts",
-         {{9, {50, 50, 60, 60}, false}},
-         7,
-         7,
-         {100, 50, 324, 194}},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.what);
-        const DialogFit fit = fitDialog(row.items, 1, extent);
-        EXPECT_EQ(fit.moveX, row.moveX);
-        EXPECT_EQ(fit.moveY, row.moveY);
-        EXPECT_EQ(fit.window, row.window);
+    for (const auto& [what, found, expected] :
+         Rows<const char*, std::vector<FittedItem>, DialogFit>{
+             {"fits", {{1, {7, 7, 193, 93}, false}}, {0, 0, {100, 50, 310, 180}}},
+             {"right of the margin", {{1, {27, 7, 193, 93}, false}}, {-20, 0, {100, 50, 290, 180}}},
+             {"too large",
+              {{1, {7, 7, 50, 20}, false}, {9, {7, 7, 250, 120}, false}},
+              {0, 0, {100, 50, 367, 207}}},
+             {"a group's top counts from below",
+              {{1, {7, 7, 193, 93}, false}, {9, {7, 4, 193, 93}, true}},
+              {0, 0, {100, 50, 310, 180}}},
+             {"no first item: the inner area counts",
+              {{9, {50, 50, 60, 60}, false}},
+              {7, 7, {100, 50, 324, 194}}},
+         }) {
+        const DialogFit fit = fitDialog(found, 1, extent);
+        EXPECT_EQ(std::tuple(fit.moveX, fit.moveY), std::tuple(expected.moveX, expected.moveY))
+            << what;
+        EXPECT_EQ(fit.window, expected.window) << what;
     }
 }
 

@@ -4,39 +4,42 @@
 #include "plugin_ui/Controls/OwndrwPushButtonUIControl.h"
 #include "plugin_ui/Controls/RadioButtonUIControl.h"
 #include "plugin_ui/Controls/SliderUIControl.h"
-#include "plugin_ui/Features/CheckBoxUIFeature.h"
-#include "plugin_ui/Features/KeyWordListUIFeature.h"
-#include "plugin_ui/Features/NumberCheckBoxUIFeature.h"
+#include "plugin_ui/Features/FeatureRow.h"
 #include "plugin_ui/Reports/BoxCapture.h"
 #include "plugin_ui/TestDialog.h"
 #include "resources/ids.h"
+#include "support/Rows.h"
 
 namespace zent::test {
 namespace {
 
 using Window = FakeWindowSystem::Window;
 
-constexpr std::uint16_t ok = 1;
-constexpr std::uint16_t combo = 10;
-constexpr std::uint16_t box = 11;
-constexpr std::uint16_t defaultBox = 12;
-constexpr std::uint16_t number = 13;
-constexpr std::uint16_t spin = 14;
-constexpr std::uint16_t range = 15;
-constexpr std::uint16_t picture = 16;
-constexpr std::uint16_t radio = 17;
-constexpr std::uint16_t otherRadio = 18;
-constexpr std::uint16_t track = 19;
+enum Id : std::uint16_t {
+    ok = 1,
+    cancel,
+    combo,
+    box,
+    defaultBox,
+    number,
+    spin,
+    range,
+    picture,
+    radio,
+    otherRadio,
+    track
+};
 constexpr std::uint16_t customEdit = IDC_CUSTOM_VALUE;
 
 constexpr std::uint32_t autoCheckBox = 3;
 constexpr std::uint32_t autoRadioButton = 9;
 
-/// One whose names of media take no blanks.
-constexpr std::uint32_t modelWithoutBlanks = 17;
+/// One whose names of media take no spaces.
+constexpr std::uint32_t modelWithoutSpaces = 17;
 
-constexpr FeatureEnum antiAliasing = feature::antiAliasing;
-constexpr FeatureEnum mediaOrderCount = feature::mediaOrderCount;
+constexpr KeyWordListRow plexRow{
+    .feature = feature::antiAliasing, .comboId = combo, .role = FeatureRole::plex};
+constexpr KeyWordListRow ownValuesRow{feature::mediaColor, combo, 0, picture, IDB_OVERLAY};
 
 TemplateBuilder items() {
     TemplateBuilder builder(u"Features");
@@ -54,7 +57,7 @@ TemplateBuilder items() {
         .add(spin, u"msctls_updown32", 0, {})
         .add(picture, TemplateBuilder::label, 0, {})
         .add(ok, TemplateBuilder::button, 0, {}, u"OK")
-        .add(2, TemplateBuilder::button, 0, {}, u"Cancel");
+        .add(cancel, TemplateBuilder::button, 0, {}, u"Cancel");
 }
 
 class FeaturesTest : public DialogFixture {
@@ -66,17 +69,21 @@ protected:
                         "media-color-supported[value=white value=red] "
                         "media-order-count-supported[value(lower-bound=1 upper-bound=250)] "
                         "user-defined-values-supported[value=media-color]",
-                        modelWithoutBlanks),
+                        modelWithoutSpaces),
           m_dialog(m_configuration, items()) {}
 
     /// Runs the dialog on a ticket, ends it with OK, and gives what has become of the ticket.
     std::string run(std::string_view text, const std::function<void(Window)>& acts) {
+        return run(m_dialog, text, acts);
+    }
+    std::string run(UIDialog& dialog, std::string_view text,
+                    const std::function<void(Window)>& acts) {
         m_ticket.setAttrNodeList(listOf(text));
         m_windows.onceOpen([this, acts](Window window) {
             acts(window);
             m_windows.click(window, ok);
         });
-        EXPECT_TRUE(m_dialog.runModal(nullptr, m_ticket));
+        EXPECT_TRUE(dialog.runModal(nullptr, m_ticket));
         return ticket();
     }
 
@@ -95,9 +102,23 @@ protected:
     TestDialog m_dialog;
 };
 
+/// Depends on the feature of a role.
+class Dependent : public TestFeature {
+public:
+    using TestFeature::TestFeature;
+    bool onFeatureAnnounce(const DialogMessage& message, std::intptr_t& /*result*/) override {
+        EXPECT_EQ(findAnnounced(message, FeatureRole::none), nullptr);
+        findAnnounced(message, FeatureRole::plex)->attach(*this);
+        return false;
+    }
+    void handleSubjectUpdate(std::uint16_t /*subjectId*/) override { ++changes; }
+
+    std::size_t changes = 0;
+};
+
 TEST_F(FeaturesTest, ADropDownListOffersThePrintersValues) {
-    auto& list = m_dialog.makeChild<KeyWordListUIFeature>(m_configuration, combo, std::uint16_t{0},
-                                                          antiAliasing, TJTF_ANY);
+    const auto& dependent = m_dialog.makeChild<Dependent>(m_configuration);
+    auto& list = m_dialog.makeChild<KeyWordListUIFeature>(m_configuration, plexRow, TJTF_ANY);
     list.setDefaultText(IDS_ACCOUNT_TITLE); // before there is a window
     const std::string none = run("anti-aliasing=none", [&](Window window) {
         EXPECT_EQ(choices(window), u"Account|Standard|[No anti-aliasing]");
@@ -110,28 +131,16 @@ TEST_F(FeaturesTest, ADropDownListOffersThePrintersValues) {
     EXPECT_EQ(run("anti-aliasing=none", [&](Window window) { m_windows.choose(window, combo, 0); }),
               "");
     EXPECT_EQ(m_windows.changesReported(), 2U);
+    EXPECT_EQ(dependent.changes, 2U); // once a change, though it was announced at each start
     m_ticket.setAttrNodeList(listOf("anti-aliasing=none"));
     m_dialog.broadcastPrinterDefault(m_ticket);
     EXPECT_EQ(ticket(), "");
 }
 
 TEST_F(FeaturesTest, AValueOfTheUsersOwnIsAskedFor) {
-    m_dialog.makeChild<KeyWordListUIFeature>(m_configuration, combo, std::uint16_t{0},
-                                             feature::mediaColor, TJTF_ANY, picture, IDB_OVERLAY,
-                                             0U);
+    m_dialog.makeChild<KeyWordListUIFeature>(m_configuration, ownValuesRow, TJTF_ANY);
     const char* const pink = "media-col{media-color=name:pink}";
     // A value that the ticket brings along stands in the list, also when another one is chosen.
-    EXPECT_EQ(run(pink,
-                  [&](Window window) {
-                      EXPECT_EQ(choices(window),
-                                u"Printer default|White|Red|Custom\u2026|[pink (custom)]");
-                      EXPECT_EQ(m_windows.item(window, picture).bitmap, std::uint32_t{IDB_OVERLAY});
-                      EXPECT_FALSE(m_windows.item(window, picture).isGroundCleared);
-                      m_windows.choose(window, combo, 2);
-                      EXPECT_EQ(choices(window),
-                                u"Printer default|White|[Red]|Custom\u2026|pink (custom)");
-                  }),
-              "media-col{media-color=red}");
     // Giving up puts the choice back.
     EXPECT_EQ(run(pink,
                   [&](Window window) {
@@ -143,8 +152,13 @@ TEST_F(FeaturesTest, AValueOfTheUsersOwnIsAskedFor) {
                       m_windows.choose(window, combo, 3);
                       EXPECT_EQ(choices(window),
                                 u"Printer default|White|Red|Custom\u2026|[pink (custom)]");
+                      EXPECT_EQ(m_windows.item(window, picture).bitmap, std::uint32_t{IDB_OVERLAY});
+                      EXPECT_FALSE(m_windows.item(window, picture).isGroundCleared);
+                      m_windows.choose(window, combo, 2);
+                      EXPECT_EQ(choices(window),
+                                u"Printer default|White|[Red]|Custom\u2026|pink (custom)");
                   }),
-              pink);
+              "media-col{media-color=red}");
     const auto typeOwn = [&](std::u16string_view text, std::u16string_view offered) {
         return run("", [&](Window window) {
             m_windows.onceOpen([&](Window asking) {
@@ -155,7 +169,7 @@ TEST_F(FeaturesTest, AValueOfTheUsersOwnIsAskedFor) {
             EXPECT_EQ(choices(window), offered);
         });
     };
-    // A text is taken within the printer's limits: 27 characters, no blanks.
+    // A text is taken within the printer's limits: 27 characters, no spaces.
     EXPECT_EQ(typeOwn(u"sky blue 2 " + std::u16string(30, u'x'),
                       u"Printer default|White|Red|Custom\u2026|[skyblue2xxxxxxxxxxxxxxxxxxx "
                       "(custom)]"),
@@ -178,10 +192,36 @@ TEST_F(FeaturesTest, AValueOfTheUsersOwnIsAskedFor) {
               "media-col{media-color=red}");
 }
 
+TEST_F(FeaturesTest, RowsSayHowValuesOfTheUsersOwnAreOffered) {
+    using List = KeyWordListRow;
+    for (const auto& [flag, offered, red, teal] :
+         Rows<bool List::*, std::u16string_view, std::int32_t, std::int32_t>{
+             {&List::sortList, u"Custom\u2026|Printer default|Red|White|[teal (custom)]", 2, 4},
+             {&List::showCustomFirst, u"Printer default|[teal (custom)]|Custom\u2026|White|Red", 4,
+              1},
+             {&List::replaceCustomItem, u"Printer default|White|Red|Custom\u2026|[teal (custom)]",
+              2, 4},
+             {&List::decorateValues, u"Printer default|White|Red|Custom\u2026|[teal]", 2, 4}}) {
+        List list = ownValuesRow;
+        list.*flag = !(list.*flag);
+        TestDialog dialog(m_configuration, items());
+        dialog.makeChild<KeyWordListUIFeature>(m_configuration, list, TJTF_ANY);
+        const char* const own = "media-col{media-color=name:teal}";
+        const std::string result =
+            run(dialog, own, [&, shown = offered, red = red, teal = teal](Window window) {
+                EXPECT_EQ(choices(window), shown);
+                m_windows.choose(window, combo, red);
+                m_windows.choose(window, combo, teal); // or ask for another, in vain
+            });
+        EXPECT_EQ(result, list.replaceCustomItem ? "media-col{media-color=red}" : own);
+    }
+}
+
 TEST_F(FeaturesTest, CheckBoxesStandForTwoValuesAndTheDefault) {
-    m_dialog.makeChild<CheckBoxUIFeature>(
-        m_configuration, antiAliasing, box, defaultBox, FeatureValue(antiAliasing, u"standard"),
-        FeatureValue(antiAliasing, u"none"), ConfigurableUIComponent::jobLevel);
+    const FeatureRow features[] = {CheckBoxRow{feature::antiAliasing, box, defaultBox,
+                                               value::antiAliasingStandard,
+                                               value::antiAliasingNone}};
+    addFeatures(m_dialog, features);
     EXPECT_EQ(run("",
                   [&](Window window) {
                       EXPECT_TRUE(m_windows.item(window, defaultBox).isChecked());
@@ -210,9 +250,9 @@ TEST_F(FeaturesTest, ANumberMayBeLeftToThePrinter) {
     for (const bool inverts : {false, true}) {
         SCOPED_TRACE(inverts);
         TestDialog dialog(m_configuration, items());
-        auto& feature = dialog.makeChild<NumberCheckBoxUIFeature>(
-            m_configuration, mediaOrderCount, spin, range, number, box, NumberType::signedInteger,
-            5, inverts, ConfigurableUIComponent::jobLevel);
+        const NumberRow row{feature::mediaOrderCount, spin, range, number, box, 5, inverts};
+        const auto& counted = dialog.makeChild<NumberCheckBoxUIFeature>(
+            m_configuration, row, ConfigurableUIComponent::jobLevel);
         m_ticket.setAttrNodeList(AttrNodeList());
         m_windows.onceOpen([&](Window window) {
             EXPECT_EQ(m_windows.item(window, range).getText(), u"(1 - 250)");
@@ -227,7 +267,7 @@ TEST_F(FeaturesTest, ANumberMayBeLeftToThePrinter) {
         });
         EXPECT_TRUE(dialog.runModal(nullptr, m_ticket));
         EXPECT_EQ(ticket(), "media-col{media-order-count=600}");
-        EXPECT_EQ(feature.getLastValue(), 600);
+        EXPECT_EQ(counted.getLastValue(), 600);
         m_windows.onceOpen([&](Window window) {
             EXPECT_TRUE(m_windows.item(window, number).isEnabled());
             m_windows.click(window, box);
@@ -295,6 +335,32 @@ TEST_F(ControlsTest, NumberBoxes) {
     });
 }
 
+/// Its item tells of what the program does, as those of some toolkits do.
+class Echoing : public UIControl {
+public:
+    explicit Echoing(std::uint16_t item) : UIControl(item) {}
+    bool processControlMessage(const DialogMessage& /*message*/,
+                               std::intptr_t& /*result*/) override {
+        notifyObservers();
+        return true;
+    }
+
+protected:
+    void showValue() override { getFirstItem().setText(getFirstItem().getText() + u"1"); }
+};
+
+TEST_F(ControlsTest, WhatTheyShowIsNoActOfTheUser) {
+    auto& control = m_dialog.makeChild<Echoing>(number);
+    control.attach(*this);
+    run("", [&](Window window) {
+        control.displayControl();
+        EXPECT_EQ(m_windows.item(window, number).getText(), u"1");
+        EXPECT_EQ(m_notified, 0);
+        m_windows.type(window, number, u"2");
+        EXPECT_EQ(m_notified, 1);
+    });
+}
+
 TEST_F(ControlsTest, RadioButtonsAndSliders) {
     auto& buttons = m_dialog.makeChild<RadioButtonUIControl>(radio);
     buttons.addButton(otherRadio);
@@ -322,31 +388,20 @@ TEST_F(ControlsTest, RadioButtonsAndSliders) {
 TEST_F(ControlsTest, DrawnButtonsShowWhatTheyAre) {
     m_dialog.makeChild<OwndrwPushButtonUIControl>(
         box, OwndrwPushButtonUIControl::Bitmaps{1220, 1221, 1222});
-    struct Row {
-        std::uint32_t action;
-        std::uint32_t state;
-        std::uint32_t bitmap;
-    };
     std::uint32_t drawn = 0;
+    const std::tuple<std::uint32_t, std::uint32_t, std::uint32_t> rows[] = {
+        {1, 0, 1220}, {2, 1, 1221}, {1, 4, 1222}, {1, 5, 1221}, {4, 0, 1221 /* as before */}};
     run("", [&](Window window) {
-        for (const Row& row : {Row{1, 0, 1220}, Row{2, 1, 1221}, Row{1, 4, 1222}, Row{1, 5, 1221},
-                               Row{4, 0, 1221 /* as before */}}) {
+        for (const auto& [action, state, bitmap] : rows) {
             platform::DrawRequest request{.item = box,
-                                          .action = row.action,
-                                          .state = row.state,
-                                          .drawBitmap = [&](auto bitmap) { drawn = bitmap; }};
+                                          .action = action,
+                                          .state = state,
+                                          .drawBitmap = [&](auto chosen) { drawn = chosen; }};
             m_windows.getDialog(window).send(platform::event::drawItem, box,
                                              reinterpret_cast<std::intptr_t>(&request));
-            EXPECT_EQ(drawn, row.bitmap);
+            EXPECT_EQ(drawn, bitmap);
         }
     });
-}
-
-TEST_F(ControlsTest, ABoxWithoutItsItemIsAFault) {
-    m_dialog.makeChild<NumberBoxUIControl>(std::uint16_t{99});
-    const BoxCapture boxes;
-    EXPECT_FALSE(m_dialog.runModal(nullptr, m_ticket)); // there is nothing to press
-    EXPECT_EQ(boxes.shown().size(), 1U);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "plugin_ui/Features/UIFeature.h"
 #include "plugin_ui/UIDialog.h"
 #include "resources/UseResourceLibrary.h"
 #include "support/FakeWindowSystem.h"
@@ -20,6 +21,15 @@ public:
         resource.load(items.build());
         setTemplate(resource);
     }
+};
+
+/// A feature that every printer has and that does nothing by itself.
+class TestFeature : public UIFeature {
+public:
+    using UIFeature::UIFeature;
+    bool isSupported() override { return true; }
+    void updateFeatureWithNewSettings() override {}
+    void handleSubjectUpdate(std::uint16_t /*subjectId*/) override {}
 };
 
 /// What every dialog of a test stands on: windows, a printer, and a user without preferences.

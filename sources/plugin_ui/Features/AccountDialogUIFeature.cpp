@@ -4,16 +4,22 @@
 
 namespace zent {
 
+namespace {
+
+constexpr TextEntryRow account{feature::jobAccountID, 0, IDC_ACCOUNT_ID_LABEL, IDC_ACCOUNT_ID};
+constexpr TextEntryRow user{feature::jobAccountingUserID, 0, IDC_ACCOUNT_USER_LABEL,
+                            IDC_ACCOUNT_USER};
+constexpr TextEntryRow data{feature::jobAccountingData, 0, IDC_ACCOUNT_DATA_LABEL,
+                            IDC_ACCOUNT_DATA};
+
+} // namespace
+
 AccountDialogUIFeature::AccountDialogUIFeature(UIConfiguration& configuration,
                                                FeatureEnum parentFeature)
     : UIFeature(configuration, parentFeature) {
-    makeChild<AccountUIFeature>(configuration, 0, IDC_ACCOUNT_ID_LABEL, IDC_ACCOUNT_ID,
-                                feature::jobAccountID);
-    m_user = &makeChild<AccountUIFeature>(configuration, 0, IDC_ACCOUNT_USER_LABEL,
-                                          IDC_ACCOUNT_USER, feature::jobAccountingUserID);
-    m_data = &makeChild<AccountUIFeature>(configuration, 0, IDC_ACCOUNT_DATA_LABEL,
-                                          IDC_ACCOUNT_DATA, feature::jobAccountingData);
-    setParentFeature(parentFeature);
+    makeChild<AccountUIFeature>(configuration, account, parentFeature);
+    m_user = &makeChild<AccountUIFeature>(configuration, user, parentFeature);
+    m_data = &makeChild<AccountUIFeature>(configuration, data, parentFeature);
 }
 
 bool AccountDialogUIFeature::isSupported() {

@@ -2,15 +2,14 @@
 
 namespace zent {
 
-CheckBoxUIFeature::CheckBoxUIFeature(UIConfiguration& configuration, FeatureEnum feature,
-                                     std::uint16_t mainId, std::uint16_t defaultId,
-                                     FeatureValue checkedValue, FeatureValue uncheckedValue,
+CheckBoxUIFeature::CheckBoxUIFeature(UIConfiguration& configuration, const CheckBoxRow& row,
                                      FeatureEnum parentFeature)
-    : UIFeature(configuration, parentFeature), m_feature(feature), m_checkedValue(checkedValue),
-      m_uncheckedValue(uncheckedValue), m_mainBox(makeChild<CheckBoxUIControl>(mainId)) {
+    : UIFeature(configuration, parentFeature, row.role), m_feature(row.feature),
+      m_checkedValue(row.checkedValue), m_uncheckedValue(row.uncheckedValue),
+      m_mainBox(makeChild<CheckBoxUIControl>(row.mainId)) {
     m_mainBox.attach(*this);
     if (getCapabilities().isPrinterDefaultAvailable(m_feature, hasParentFeature())) {
-        m_defaultBox = &makeChild<CheckBoxUIControl>(defaultId);
+        m_defaultBox = &makeChild<CheckBoxUIControl>(row.defaultId);
         m_defaultBox->attach(*this);
     }
 }

@@ -6,13 +6,26 @@
 
 namespace zent {
 
-/// A feature of two values: a check box, and a second one for the printer's default where that is
-/// a choice.
+class CheckBoxUIFeature;
+
+/// What tells one check box from another.
+struct CheckBoxRow {
+    using Class = CheckBoxUIFeature;
+
+    FeatureEnum feature{};
+    std::uint16_t mainId = 0;
+    std::uint16_t defaultId = 0;
+    value::Number checkedValue{};
+    value::Number uncheckedValue{};
+    FeatureRole role = FeatureRole::none;
+};
+
+/// A feature of two values, for which a check box stands, and a second one for the printer's
+/// default where that is a choice.
 class CheckBoxUIFeature : public UIFeature {
 public:
-    CheckBoxUIFeature(UIConfiguration& configuration, FeatureEnum feature, std::uint16_t mainId,
-                      std::uint16_t defaultId, FeatureValue checkedValue,
-                      FeatureValue uncheckedValue, FeatureEnum parentFeature);
+    CheckBoxUIFeature(UIConfiguration& configuration, const CheckBoxRow& row,
+                      FeatureEnum parentFeature);
 
     bool isSupported() override;
     void updateFeatureWithNewSettings() override;

@@ -7,10 +7,6 @@
 
 namespace zent {
 
-JobNameUIFeature::JobNameUIFeature(UIConfiguration& configuration, std::uint16_t extraItemId,
-                                   std::uint16_t labelId, std::uint16_t editId)
-    : TextEntryUIFeature(configuration, extraItemId, labelId, editId, feature::jobName) {}
-
 void JobNameUIFeature::updateFeatureWithNewSettings() {
     if (getPreferences().getJobNamePreference()) {
         getTextBox().disable();

@@ -8,8 +8,7 @@ namespace zent {
 /// here.
 class JobNameUIFeature : public TextEntryUIFeature {
 public:
-    JobNameUIFeature(UIConfiguration& configuration, std::uint16_t extraItemId,
-                     std::uint16_t labelId, std::uint16_t editId);
+    using TextEntryUIFeature::TextEntryUIFeature;
 
     void updateFeatureWithNewSettings() override;
     bool validate(platform::WindowHandle window) override;

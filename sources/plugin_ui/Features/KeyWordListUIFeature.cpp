@@ -26,29 +26,20 @@ const FeatureValue& customItem(const _FI& feature, std::uint32_t labelId) {
 
 } // namespace
 
-KeyWordListUIFeature::KeyWordListUIFeature(UIConfiguration& configuration, std::uint16_t comboId,
-                                           std::uint16_t labelId, FeatureEnum feature,
-                                           FeatureEnum parentFeature)
-    : KeyWordListUIFeature(configuration, comboId, labelId, feature, parentFeature, 0, 0, 0) {}
-
-KeyWordListUIFeature::KeyWordListUIFeature(UIConfiguration& configuration, std::uint16_t comboId,
-                                           std::uint16_t labelId, FeatureEnum feature,
-                                           FeatureEnum parentFeature, std::uint16_t bitmapItemId,
-                                           std::uint32_t defaultBitmapId,
-                                           std::uint32_t customLabelId)
-    : UIFeature(configuration, parentFeature), m_feature(feature),
-      m_comboBox(makeChild<ComboBoxUIControl>(comboId, labelId)),
-      m_defaultBitmapId(defaultBitmapId), m_customLabelId(customLabelId) {
+KeyWordListUIFeature::KeyWordListUIFeature(UIConfiguration& configuration,
+                                           const KeyWordListRow& row, FeatureEnum parentFeature)
+    : UIFeature(configuration, parentFeature, row.role), m_row(row), m_feature(row.feature),
+      m_comboBox(makeChild<ComboBoxUIControl>(row.comboId, row.labelId)) {
     m_comboBox.attach(*this);
-    if (bitmapItemId != 0) {
-        m_bitmapControl = &makeChild<BitmapUIControl>(bitmapItemId, defaultBitmapId);
+    if (row.bitmapItemId != 0) {
+        m_bitmapControl = &makeChild<BitmapUIControl>(row.bitmapItemId, row.defaultBitmapId);
     }
 }
 
 bool KeyWordListUIFeature::isSupported() { return isFeatureSupported(m_feature); }
 
 const FeatureValue& KeyWordListUIFeature::getCustomItem() const {
-    return customItem(m_feature, m_customLabelId);
+    return customItem(m_feature, m_row.customLabelId);
 }
 
 bool KeyWordListUIFeature::isOffered(const FeatureValue& value) const {
@@ -56,7 +47,7 @@ bool KeyWordListUIFeature::isOffered(const FeatureValue& value) const {
 }
 
 void KeyWordListUIFeature::appendItem(const CXString& text, const FeatureValue& value) {
-    m_comboBox.addItem(text, codeOf(value), m_showCustomFirst ? 1 : -1);
+    m_comboBox.addItem(text, codeOf(value), m_row.showCustomFirst ? 1 : -1);
 }
 
 void KeyWordListUIFeature::initializeFeature() {
@@ -69,7 +60,7 @@ void KeyWordListUIFeature::initializeFeature() {
     m_customValues.clear();
     m_lastCustomValue.reset();
     m_customAllowed = getCapabilities().isUserDefinable(m_feature);
-    if (m_customAllowed && m_replaceCustomItem) {
+    if (m_customAllowed && m_row.replaceCustomItem) {
         appendItem(getCustomItem().getText(), getCustomItem());
     } else if (m_customAllowed) {
         addCustomValue(getCustomItem());
@@ -79,7 +70,7 @@ void KeyWordListUIFeature::initializeFeature() {
 
 void KeyWordListUIFeature::addCustomValue(const FeatureValue& value) {
     CXString text = value.getText();
-    if (m_decorateValues && value != getCustomItem()) {
+    if (m_row.decorateValues && value != getCustomItem()) {
         const ResourceLibrary library;
         text = CXString::FormatResource(library.getModule(), IDS_CUSTOM_VALUE, text);
     }
@@ -98,7 +89,7 @@ void KeyWordListUIFeature::updateFeatureWithNewSettings() {
     if (value != FeatureValue() && !isOffered(value) && m_customAllowed) {
         addCustomValue(value);
     }
-    if (m_sortList) {
+    if (m_row.sortList) {
         m_comboBox.sort();
     }
     m_comboBox.select(codeOf(value));
@@ -108,13 +99,13 @@ void KeyWordListUIFeature::updateFeatureWithNewSettings() {
 void KeyWordListUIFeature::showBitmap(const FeatureValue& value) {
     if (m_bitmapControl != nullptr) {
         const std::uint32_t own = value.getImageID();
-        m_bitmapControl->setBitmap(own != 0 ? own : m_defaultBitmapId);
+        m_bitmapControl->setBitmap(own != 0 ? own : m_row.defaultBitmapId);
     }
 }
 
 bool KeyWordListUIFeature::isCustomChoice(const FeatureValue& value) const {
     return m_customAllowed &&
-           (value == getCustomItem() || (m_replaceCustomItem && m_lastCustomValue == value));
+           (value == getCustomItem() || (m_row.replaceCustomItem && m_lastCustomValue == value));
 }
 
 void KeyWordListUIFeature::handleSubjectUpdate(std::uint16_t /*subjectId*/) {

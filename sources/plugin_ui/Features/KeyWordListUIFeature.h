@@ -9,27 +9,37 @@
 
 namespace zent {
 
-/// A feature that has one of the printer's values: a drop-down list of them, with a picture of the
-/// chosen one if wanted. Where users may define values, a last item asks for one.
+class KeyWordListUIFeature;
+
+/// What tells one drop-down list of keywords from another. Items and texts of number 0 are left
+/// out.
+struct KeyWordListRow {
+    using Class = KeyWordListUIFeature;
+
+    FeatureEnum feature{};
+    std::uint16_t comboId = 0;
+    std::uint16_t labelId = 0;
+    /// The place of a picture of the chosen value, and the one for values that have none.
+    std::uint16_t bitmapItemId = 0;
+    std::uint32_t defaultBitmapId = 0;
+    /// A string that completes the text of the custom item.
+    std::uint32_t customLabelId = 0;
+    FeatureRole role = FeatureRole::none;
+    bool sortList = false;
+    /// Whether the custom item stands right after the first one.
+    bool showCustomFirst = false;
+    /// Whether choosing the custom value that is shown changes it, as the custom item does.
+    bool replaceCustomItem = false;
+    /// Whether values that users have defined are marked as such.
+    bool decorateValues = true;
+};
+
+/// A feature that has one of the printer's values: a drop-down list offers them, beside a picture
+/// of the chosen one if wanted. Where users may define values, one more item asks for one.
 class KeyWordListUIFeature : public UIFeature {
 public:
-    KeyWordListUIFeature(UIConfiguration& configuration, std::uint16_t comboId,
-                         std::uint16_t labelId, FeatureEnum feature, FeatureEnum parentFeature);
-    /// With a picture; `bitmapItemId` 0 is none. `defaultBitmapId` is for values that have none.
-    /// `customLabelId` is a resource string for the text of the custom item, 0 for none.
-    KeyWordListUIFeature(UIConfiguration& configuration, std::uint16_t comboId,
-                         std::uint16_t labelId, FeatureEnum feature, FeatureEnum parentFeature,
-                         std::uint16_t bitmapItemId, std::uint32_t defaultBitmapId,
-                         std::uint32_t customLabelId);
-
-    // To be set before the dialog starts.
-    void setSortList(bool sorts) { m_sortList = sorts; }
-    /// The custom item stands right behind the first one.
-    void setShowCustomFirst(bool isFirst) { m_showCustomFirst = isFirst; }
-    /// Choosing the custom value that is shown changes it, as the custom item does.
-    void setReplaceCustomItem(bool replaces) { m_replaceCustomItem = replaces; }
-    /// Whether values that users have defined are marked as such.
-    void setDecorateValues(bool decorates) { m_decorateValues = decorates; }
+    KeyWordListUIFeature(UIConfiguration& configuration, const KeyWordListRow& row,
+                         FeatureEnum parentFeature);
 
     bool isSupported() override;
     void initializeFeature() override;
@@ -55,18 +65,13 @@ private:
     CXString getLastCustomText() const;
     std::optional<FeatureValue> askForCustomValue();
 
+    KeyWordListRow m_row;
     _FI m_feature;
     std::vector<FeatureValue> m_values;
     ComboBoxUIControl& m_comboBox;
     BitmapUIControl* m_bitmapControl = nullptr;
-    std::uint32_t m_defaultBitmapId = 0;
-    std::uint32_t m_customLabelId = 0;
-    bool m_sortList = false;
-    bool m_showCustomFirst = false;
-    bool m_replaceCustomItem = false;
-    bool m_decorateValues = true;
     bool m_customAllowed = false;
-    std::vector<FeatureValue> m_customValues; // whose items stand in the box by their numbers
+    std::vector<FeatureValue> m_customValues; // keeps alive what the items name by number alone
     std::optional<FeatureValue> m_lastCustomValue;
     std::uint32_t m_defaultTextId = 0;
     bool m_initialised = false;

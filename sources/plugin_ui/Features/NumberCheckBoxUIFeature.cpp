@@ -9,25 +9,21 @@ constexpr std::uint32_t rangeTextCapacity = 50;
 } // namespace
 
 NumberCheckBoxUIFeature::NumberCheckBoxUIFeature(UIConfiguration& configuration,
-                                                 FeatureEnum feature, std::uint16_t editSpinId,
-                                                 std::uint16_t rangeTextId, std::uint16_t numberId,
-                                                 std::uint16_t checkBoxId, NumberType numberType,
-                                                 std::int32_t initialValue, bool invertCheck,
-                                                 FeatureEnum parentFeature)
-    : UIFeature(configuration, parentFeature), m_feature(feature), m_initialValue(initialValue),
-      m_invertCheck(invertCheck), m_lastValue(initialValue) {
-    if (numberId != 0) {
-        m_numberBox = &makeChild<NumberBoxUIControl>(numberId, editSpinId);
-        m_numberBox->setNumberType(numberType);
+                                                 const NumberRow& row, FeatureEnum parentFeature)
+    : UIFeature(configuration, parentFeature, row.role), m_feature(row.feature),
+      m_initialValue(row.initialValue), m_invertCheck(row.invertCheck),
+      m_lastValue(row.initialValue) {
+    if (row.numberId != 0) {
+        m_numberBox = &makeChild<NumberBoxUIControl>(row.numberId, row.editSpinId);
         m_numberBox->attach(*this);
     }
-    if (rangeTextId != 0) {
+    if (row.rangeTextId != 0) {
         m_rangeText = &makeChild<TextBoxUIControl>(
-            rangeTextId, std::initializer_list<std::uint16_t>{}, rangeTextCapacity);
+            row.rangeTextId, std::initializer_list<std::uint16_t>{}, rangeTextCapacity);
     }
-    if (checkBoxId != 0 &&
+    if (row.checkBoxId != 0 &&
         getCapabilities().isPrinterDefaultAvailable(m_feature, hasParentFeature())) {
-        m_checkBox = &makeChild<CheckBoxUIControl>(checkBoxId);
+        m_checkBox = &makeChild<CheckBoxUIControl>(row.checkBoxId);
         m_checkBox->attach(*this);
     }
 }

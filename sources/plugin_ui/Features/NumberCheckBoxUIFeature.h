@@ -7,17 +7,30 @@
 
 namespace zent {
 
-/// A feature that is a number: a box for it, a text that tells its range, and, where the printer's
-/// default is a choice, a check box for whether there is a number at all.
+class NumberCheckBoxUIFeature;
+
+/// What tells one number from another. Items of number 0 are left out.
+struct NumberRow {
+    using Class = NumberCheckBoxUIFeature;
+
+    FeatureEnum feature{};
+    std::uint16_t editSpinId = 0;
+    std::uint16_t rangeTextId = 0;
+    std::uint16_t numberId = 0;
+    std::uint16_t checkBoxId = 0;
+    /// What is shown where the ticket holds no number.
+    std::int32_t initialValue = 0;
+    /// Whether the check box is ticked for the printer's default and not for a number.
+    bool invertCheck = false;
+    FeatureRole role = FeatureRole::none;
+};
+
+/// A feature that is a number: a box takes it, a text says its range, and, where the printer's
+/// default is a choice, a check box says whether there is a number at all.
 class NumberCheckBoxUIFeature : public UIFeature {
 public:
-    /// Items of number 0 are left out; `editSpinId` is the spin of the box `numberId`.
-    /// `initialValue` is shown where the ticket holds none. The check box is ticked for a number,
-    /// or, with `invertCheck`, for the printer's default.
-    NumberCheckBoxUIFeature(UIConfiguration& configuration, FeatureEnum feature,
-                            std::uint16_t editSpinId, std::uint16_t rangeTextId,
-                            std::uint16_t numberId, std::uint16_t checkBoxId, NumberType numberType,
-                            std::int32_t initialValue, bool invertCheck, FeatureEnum parentFeature);
+    NumberCheckBoxUIFeature(UIConfiguration& configuration, const NumberRow& row,
+                            FeatureEnum parentFeature);
 
     bool isSupported() override;
     void initializeFeature() override;
@@ -25,7 +38,7 @@ public:
     void handleSubjectUpdate(std::uint16_t subjectId) override;
     void setPrinterDefault(FeatureSettings& settings) override;
 
-    /// The number that the user has chosen last, or `initialValue`.
+    /// The number that the user has chosen last; until then the one that was shown without any.
     std::int32_t getLastValue() const { return m_lastValue; }
 
 private:

@@ -10,15 +10,14 @@ constexpr std::uint32_t usualCapacity = 50;
 
 } // namespace
 
-TextEntryUIFeature::TextEntryUIFeature(UIConfiguration& configuration, std::uint16_t extraItemId,
-                                       std::uint16_t labelId, std::uint16_t editId,
-                                       FeatureEnum feature)
-    : UIFeature(configuration), m_feature(feature),
-      m_textBox(makeChild<TextBoxUIControl>(editId, std::initializer_list<std::uint16_t>{labelId},
-                                            usualCapacity)) {
+TextEntryUIFeature::TextEntryUIFeature(UIConfiguration& configuration, const TextEntryRow& row,
+                                       FeatureEnum parentFeature)
+    : UIFeature(configuration, parentFeature), m_feature(row.feature),
+      m_textBox(makeChild<TextBoxUIControl>(
+          row.editId, std::initializer_list<std::uint16_t>{row.labelId}, usualCapacity)) {
     m_textBox.attach(*this);
-    if (extraItemId != 0) {
-        addStaticControl(extraItemId);
+    if (row.extraItemId != 0) {
+        addStaticControl(row.extraItemId);
     }
 }
 

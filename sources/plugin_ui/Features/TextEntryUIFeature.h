@@ -5,13 +5,25 @@
 
 namespace zent {
 
+class TextEntryUIFeature;
+
+/// What tells one text from another.
+struct TextEntryRow {
+    using Class = TextEntryUIFeature;
+
+    FeatureEnum feature{};
+    /// A heading, which shows with the feature but is never disabled with it, since it may stand
+    /// above several; 0 for none.
+    std::uint16_t extraItemId = 0;
+    std::uint16_t labelId = 0;
+    std::uint16_t editId = 0;
+};
+
 /// A feature that is a text. An empty box leaves the feature out of the ticket.
 class TextEntryUIFeature : public UIFeature {
 public:
-    /// `extraItemId` is a heading, or 0, which shows with the feature but is never disabled with
-    /// it: it may stand above several.
-    TextEntryUIFeature(UIConfiguration& configuration, std::uint16_t extraItemId,
-                       std::uint16_t labelId, std::uint16_t editId, FeatureEnum feature);
+    TextEntryUIFeature(UIConfiguration& configuration, const TextEntryRow& row,
+                       FeatureEnum parentFeature = jobLevel);
 
     bool isSupported() override;
     void initializeFeature() override;
