@@ -3,8 +3,12 @@
 #include <gtest/gtest.h>
 
 #include "dialogs/DialogSession.h"
+#include "ocore/Stock/StockInformation.h"
+#include "ocore/Stock/StockList.h"
 #include "ocore/User/User.h"
+#include "plugin_ui/UIConfiguration.h"
 #include "resources/ids.h"
+#include "support/Rows.h"
 
 namespace zent::test {
 namespace {
@@ -86,27 +90,22 @@ TEST(JobNotesTest, NothingReachesTheTicketWithoutOK) {
 }
 
 TEST(JobNotesTest, TheKeyboardGoesFromTopToBottom) {
-    struct Row {
-        std::uint32_t model;
-        std::vector<std::uint16_t> items;
-    };
-    const Row rows[] = {
-        {plainAccount,
-         {item::jobName, item::account, item::sender, item::recipient, item::banner,
-          item::operatorMessage, item::ok, item::cancel, item::jobName}},
-        {wholeAccount,
-         {item::jobName, item::accountButton, item::sender, item::recipient, item::banner,
-          item::operatorMessage, item::ok, item::cancel, item::jobName}},
-    };
-    for (const Row& row : rows) {
-        const DialogSession job(row.model);
-        user::onceOpen([&](WindowHandle dialog) {
+    for (const auto& [model, items] : Rows<std::uint32_t, std::vector<std::uint16_t>>{
+             {plainAccount,
+              {item::jobName, item::account, item::sender, item::recipient, item::banner,
+               item::operatorMessage, item::ok, item::cancel, item::jobName}},
+             {wholeAccount,
+              {item::jobName, item::accountButton, item::sender, item::recipient, item::banner,
+               item::operatorMessage, item::ok, item::cancel, item::jobName}},
+         }) {
+        const DialogSession job(model);
+        user::onceOpen([&expected = items](WindowHandle dialog) {
             std::vector<std::uint16_t> visited{user::focused(dialog)};
-            while (visited.size() < row.items.size()) {
+            while (visited.size() < expected.size()) {
                 user::press(dialog, user::Key::tab);
                 visited.push_back(user::focused(dialog));
             }
-            EXPECT_EQ(visited, row.items);
+            EXPECT_EQ(visited, expected);
             user::press(dialog, user::Key::enter); // anywhere in a box, accepts
         });
         EXPECT_EQ(job.invoke(), ZENT_OK);
@@ -175,25 +174,7 @@ TEST(JobNotesTest, ATextThatThePrinterRefusesKeepsTheDialogOpen) {
     EXPECT_NE(job.boxes()[0].owner, nullptr);
 }
 
-TEST(JobNotesTest, BoxesTakeNoMoreThanThePrinter) {
-    const DialogSession job(capitalAccount);
-    user::onceOpen([&](WindowHandle dialog) {
-        retype(dialog, item::jobName, std::u16string(60, u'n'));
-        user::paste(dialog, item::phone, u"+1 555 0100 0100 0100 0100");
-        user::click(dialog, item::accountButton);
-        user::click(dialog, item::ok);
-    });
-    user::onceOpen([&](WindowHandle dialog) {
-        user::type(dialog, item::accountEdit, u"1234567890ABCDEF");
-        user::click(dialog, item::accountOk);
-    });
-    EXPECT_EQ(job.invoke(), ZENT_OK);
-    EXPECT_EQ(job.ticket(), "job-name=name:" + std::string(40, 'n') +
-                                " job-phone-number=text:+1 555 0100 0100 01 "
-                                "job-account-id=name:1234567890AB");
-}
-
-TEST(JobNotesTest, BoxesShowWhatTheyTake) {
+TEST(JobNotesTest, BoxesTakeAndShowNoMoreThanThePrinterTakes) {
     const DialogSession job(capitalAccount);
     user::onceOpen([](WindowHandle dialog) {
         const auto shown = [&](std::uint16_t item) { return at(dialog, item).getText(); };
@@ -202,13 +183,20 @@ TEST(JobNotesTest, BoxesShowWhatTheyTake) {
         EXPECT_EQ(shown(item::phone), u"");
         user::paste(dialog, item::phone, std::u16string(5000, u'5'));
         EXPECT_EQ(shown(item::phone), std::u16string(19, u'5'));
+        retype(dialog, item::jobName, std::u16string(60, u'n'));
+        EXPECT_EQ(shown(item::jobName), std::u16string(40, u'n'));
         retype(dialog, item::jobName, std::u16string(39, u'n') + u"\U0001F600");
         EXPECT_EQ(shown(item::jobName), std::u16string(39, u'n'));
+        user::click(dialog, item::accountButton);
         user::click(dialog, item::ok);
     });
+    user::onceOpen([](WindowHandle dialog) {
+        user::type(dialog, item::accountEdit, u"1234567890ABCDEF");
+        user::click(dialog, item::accountOk);
+    });
     EXPECT_EQ(job.invoke(), ZENT_OK);
-    EXPECT_EQ(job.ticket(), "job-phone-number=text:" + std::string(19, '5') +
-                                " job-name=name:" + std::string(39, 'n'));
+    EXPECT_EQ(job.ticket(), "job-phone-number=text:" + std::string(19, '5') + " job-name=name:" +
+                                std::string(39, 'n') + " job-account-id=name:1234567890AB");
 }
 
 TEST(JobNotesTest, WhatNobodyTouchesStaysAsItWas) {
@@ -261,6 +249,15 @@ TEST(JobNotesTest, PreferencesFillBoxesAndLockThem) {
                                 " job-account-id=name:7");
     ASSERT_EQ(job.boxes().size(), 1U);
     EXPECT_EQ(job.boxes()[0].body, resourceText(IDS_ACCOUNT_MISSING));
+}
+
+TEST(UIConfigurationTest, NamesThePrinterAsAWhole) {
+    const DialogSession job(wholeAccount);
+    StockInformation stocks(job.session());
+    const auto known = StockList::createFromCapabilities(job.session().getCapabilities());
+    const auto configuration = UIConfiguration::forPrinter(job.session(), *known, stocks);
+    EXPECT_EQ(configuration.printerName, resourceText(IDS_MODEL_CHROMASET_580));
+    EXPECT_EQ(textOfList(*configuration.printerDefaults->getAttrNodeList()).find("copies=1"), 0U);
 }
 
 TEST(JobNotesTest, WithoutWindowsTheyRefuseToStart) {

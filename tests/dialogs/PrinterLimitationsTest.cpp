@@ -43,33 +43,28 @@ TEST(PrinterLimitationsTest, TheUserAgreesToARepairOrNot) {
     const Act enter = [](WindowHandle dialog) { user::press(dialog, user::Key::enter); };
     const Act escape = [](WindowHandle dialog) { user::press(dialog, user::Key::escape); };
     const Act close = [](WindowHandle dialog) { user::close(dialog); };
-    struct Row {
-        Act act;
-        std::uint32_t mode;
-        ZentBool usable;
-    };
-    const Row rows[] = {{ok, 3, 1}, {cancel, 3, 0}, {ok, 4, 0},     {cancel, 4, 0},
-                        {ok, 5, 1}, {enter, 5, 1},  {escape, 5, 0}, {close, 5, 0}};
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.mode);
+    const std::tuple<Act, std::uint32_t, ZentBool> rows[] = {
+        {ok, 3, 1}, {cancel, 3, 0}, {ok, 4, 0},     {cancel, 4, 0},
+        {ok, 5, 1}, {enter, 5, 1},  {escape, 5, 0}, {close, 5, 0}};
+    for (const auto& [act, mode, usable] : rows) {
+        SCOPED_TRACE(mode);
         const DialogSession job;
         job.setTicket("copies=3 media-col{media-type=handmade}");
-        user::onceOpen([&](WindowHandle dialog) {
+        user::onceOpen([act = act, mode = mode](WindowHandle dialog) {
             EXPECT_EQ(windowSystem().getCaption(dialog), u"Mine");
-            EXPECT_EQ(
-                at(dialog, item::label).getText(),
-                resourceText(row.mode == 4 ? IDS_NOTHING_CHANGES : IDS_REPAIR_QUESTION).view());
+            EXPECT_EQ(at(dialog, item::label).getText(),
+                      resourceText(mode == 4 ? IDS_NOTHING_CHANGES : IDS_REPAIR_QUESTION).view());
             const std::u16string report = at(dialog, item::report).getText();
             EXPECT_NE(report.find(u"\tMedia type"), std::u16string::npos);
-            EXPECT_EQ(report.find(u"->") != std::u16string::npos, row.mode != 4);
+            EXPECT_EQ(report.find(u"->") != std::u16string::npos, mode != 4);
             keepScreenshot(dialog, "printer-limitations");
             user::type(dialog, item::report, u"x"); // to be read only
             EXPECT_EQ(at(dialog, item::report).getText(), report);
-            row.act(dialog);
+            act(dialog);
         });
-        EXPECT_EQ(apply(job, row.mode, title), (Applied{ZENT_OK, 1, row.usable}));
-        EXPECT_EQ(job.ticket(), row.usable != 0 ? "copies=3 media-col{media-type=stationery}"
-                                                : "copies=3 media-col{media-type=handmade}");
+        EXPECT_EQ(apply(job, mode, title), (Applied{ZENT_OK, 1, usable}));
+        EXPECT_EQ(job.ticket(), usable != 0 ? "copies=3 media-col{media-type=stationery}"
+                                            : "copies=3 media-col{media-type=handmade}");
     }
 }
 

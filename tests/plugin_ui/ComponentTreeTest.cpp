@@ -3,8 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "ocore/FeatureSettings/FeatureSettings.h"
-#include "plugin_ui/Features/UIFeature.h"
 #include "plugin_ui/MessageProcessorWithChildren.h"
+#include "plugin_ui/TestDialog.h"
+#include "support/Rows.h"
 
 namespace zent::test {
 namespace {
@@ -13,12 +14,11 @@ using Log = std::string;
 
 platform::Dialog& noDialog = platform::none<platform::Dialog>();
 
-/// Writes down what reaches it, and answers as told.
+/// Writes down what reaches it, and answers as its maker wants.
 class Node : public MessageProcessorWithChildren {
 public:
     Node(Log& log, std::string name, bool accepts = true)
         : m_log(log), m_name(std::move(name)), m_accepts(accepts) {}
-    ~Node() override { note("gone"); }
 
     bool validate(platform::WindowHandle /*window*/) override {
         note("asked");
@@ -53,34 +53,20 @@ TEST(ComponentTreeTest, MessagesGoDepthFirstUntilOneIsHandled) {
     EXPECT_EQ(log, "root command; a command; a1 command; b command; ");
 }
 
-TEST(ComponentTreeTest, ChildrenGoInTheirOrder) {
-    Log log;
-    {
-        Node root(log, "root");
-        root.makeChild<Node>(log, "a");
-        root.makeChild<Node>(log, "b");
-    }
-    EXPECT_EQ(log, "root gone; a gone; b gone; ");
-}
-
 TEST(ComponentTreeTest, TheFirstRefusalEndsAValidation) {
-    struct Row {
-        bool secondAccepts;
-        const char* asked;
-        std::intptr_t result;
-    };
-    for (const Row& row : {Row{true, "a asked; b asked; c asked; root asked; ", 1},
-                           Row{false, "a asked; b asked; ", 2}}) {
+    for (const auto& [secondAccepts, asked, answer] : Rows<bool, const char*, std::intptr_t>{
+             {true, "a asked; b asked; c asked; root asked; ", 1},
+             {false, "a asked; b asked; ", 2}}) {
         for (const std::uint32_t message : {UIM_VALIDATE, UIM_VALIDATE_FOR_SAVE}) {
             Log log;
             Node root(log, "root");
             root.makeChild<Node>(log, "a");
-            root.makeChild<Node>(log, "b", row.secondAccepts);
+            root.makeChild<Node>(log, "b", secondAccepts);
             root.makeChild<Node>(log, "c");
             std::intptr_t result = 0;
             root.processMessage({noDialog, message}, result);
-            EXPECT_EQ(log, row.asked);
-            EXPECT_EQ(result, row.result);
+            EXPECT_EQ(log, asked);
+            EXPECT_EQ(result, answer);
         }
     }
 }
@@ -103,13 +89,11 @@ TEST(ComponentTreeTest, ComponentMessagesReachWhatIsRegistered) {
               u"UIComponentMessage::UIMsgSetPrinterDefault (0x2), wParam = 5604 (0x15e4)");
 }
 
-class Feature : public UIFeature {
+class Feature : public TestFeature {
 public:
     Feature(UIConfiguration& configuration, bool isThere)
-        : UIFeature(configuration), m_isThere(isThere) {}
+        : TestFeature(configuration), m_isThere(isThere) {}
     bool isSupported() override { return m_isThere; }
-    void updateFeatureWithNewSettings() override {}
-    void handleSubjectUpdate(std::uint16_t /*subjectId*/) override {}
 
 private:
     bool m_isThere;

@@ -4,6 +4,7 @@
 
 #include "platform/DialogTemplate.h"
 #include "support/Raised.h"
+#include "support/Rows.h"
 #include "support/TemplateBuilder.h"
 
 namespace zent::test {
@@ -31,29 +32,23 @@ std::vector<std::byte> bytesOf(const DialogResource& resource) {
 }
 
 TEST(DialogResourceTest, ItemsAreWholeRecordsWithTheirPadding) {
-    struct Row {
-        const char* what;
-        TemplateBuilder::Name windowClass;
-        TemplateBuilder::Name title;
-        std::vector<std::uint8_t> data;
-        std::size_t size;
-    };
-    const Row rows[] = {
-        {"ordinal, no title, no data", std::uint16_t{0x80}, u"", {}, 28},
-        {"ordinal title", std::uint16_t{0x82}, std::uint16_t{1300}, {}, 28},
-        {"title of two", std::uint16_t{0x80}, u"OK", {}, 32},
-        {"class by name", u"Edit", u"", {}, 32},
-        {"data of 8, 10 with their length", std::uint16_t{0x80}, u"", {1, 2, 3, 4, 5, 6, 7, 8}, 36},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.what);
+    for (const auto& [what, windowClass, title, data, size] :
+         Rows<const char*, TemplateBuilder::Name, TemplateBuilder::Name, std::vector<std::uint8_t>,
+              std::size_t>{
+             {"ordinal, no title, no data", std::uint16_t{0x80}, u"", {}, 28},
+             {"ordinal title", std::uint16_t{0x82}, std::uint16_t{1300}, {}, 28},
+             {"title of two", std::uint16_t{0x80}, u"OK", {}, 32},
+             {"class by name", u"Edit", u"", {}, 32},
+             {"data of 8", std::uint16_t{0x80}, u"", {1, 2, 3, 4, 5, 6, 7, 8}, 36},
+         }) {
+        SCOPED_TRACE(what);
         auto bytes = TemplateBuilder(u"Odd")
-                         .add(5, row.windowClass, 0, {}, row.title, row.data)
+                         .add(5, windowClass, 0, {}, title, data)
                          .add(6, TemplateBuilder::button, 0, {})
                          .build();
         const DialogResource resource = resourceOf(bytes);
         ASSERT_EQ(resource.getItemCount(), 2U);
-        EXPECT_EQ(resource.getItems()[0].size(), row.size);
+        EXPECT_EQ(resource.getItems()[0].size(), size);
         EXPECT_EQ(resource.getSize() % 4, 0U);
         bytes.resize(resource.getSize()); // the padding of the last
         EXPECT_EQ(bytesOf(resource), bytes);

@@ -181,11 +181,5 @@ TEST_F(ExceptionReportTest, DetailsTellTypeLocationAndMessage) {
               u"std::runtime_error\r\nNo additional information available.\r\n");
 }
 
-TEST_F(ExceptionReportTest, ResultCodes) {
-    EXPECT_EQ(resultCodeOf(InvalidZentSessionException()), 6U);
-    EXPECT_EQ(resultCodeOf(std::bad_array_new_length()), 18U);
-    EXPECT_EQ(resultCodeOf(std::runtime_error("other")), 31U);
-}
-
 } // namespace
 } // namespace zent::test
