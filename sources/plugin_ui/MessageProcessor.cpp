@@ -7,6 +7,8 @@ namespace zent {
 
 namespace {
 
+/// Messages and handlers are paired in this one place, so that a tree can be driven by whoever
+/// delivers the numbers.
 struct Handler {
     std::uint32_t message;
     bool (MessageProcessor::*handle)(const DialogMessage&, std::intptr_t&);
@@ -29,12 +31,6 @@ constexpr Handler handlers[] = {
     {UIM_UNLOCK, &MessageProcessor::onUnlock},
 };
 
-/// The answer of a node whose children have no objection: only a refusal ends the walk.
-bool concludeValidation(bool isAccepted, std::intptr_t& result) {
-    result = isAccepted ? validation::accepted : validation::refused;
-    return !isAccepted;
-}
-
 } // namespace
 
 bool MessageProcessor::processMessage(const DialogMessage& message, std::intptr_t& result) {
@@ -43,14 +39,21 @@ bool MessageProcessor::processMessage(const DialogMessage& message, std::intptr_
     return (this->*handle)(message, result);
 }
 
+bool MessageProcessor::ask(Question question, const DialogMessage& message, std::intptr_t& result) {
+    if (processChildren(message, result)) {
+        return true;
+    }
+    const bool isAccepted = (this->*question)(message.getWindow());
+    result = isAccepted ? validation::accepted : validation::refused;
+    return !isAccepted; // only a refusal ends the walk
+}
+
 bool MessageProcessor::onValidate(const DialogMessage& message, std::intptr_t& result) {
-    return processChildren(message, result) ||
-           concludeValidation(validate(message.getWindow()), result);
+    return ask(&MessageProcessor::validate, message, result);
 }
 
 bool MessageProcessor::onValidateForSave(const DialogMessage& message, std::intptr_t& result) {
-    return processChildren(message, result) ||
-           concludeValidation(validateForSave(message.getWindow()), result);
+    return ask(&MessageProcessor::validateForSave, message, result);
 }
 
 } // namespace zent

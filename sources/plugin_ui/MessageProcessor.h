@@ -17,7 +17,7 @@ public:
         return false;
     }
 
-    // A handler that a class doesn't replace only passes the message on.
+    // The handlers share one body: what a class doesn't replace passes the message on.
 #define ZENT_MESSAGE_HANDLER(name)                                                                 \
     virtual bool name(const DialogMessage& message, std::intptr_t& result) {                       \
         return processChildren(message, result);                                                   \
@@ -36,8 +36,8 @@ public:
     ZENT_MESSAGE_HANDLER(onLock)
     ZENT_MESSAGE_HANDLER(onUnlock)
 #undef ZENT_MESSAGE_HANDLER
-    /// Children first: the first refusal ends the walk, and is the result. With none, asks
-    /// validate().
+    /// The children come first, and the first refusal ends the walk as its result. Without one
+    /// validate() or validateForSave() is asked.
     virtual bool onValidate(const DialogMessage& message, std::intptr_t& result);
     virtual bool onValidateForSave(const DialogMessage& message, std::intptr_t& result);
 
@@ -51,6 +51,10 @@ public:
     virtual Support getSupport() { return Support::notAFeature; }
     virtual void setParentFeature(FeatureEnum /*feature*/) {}
     virtual void setSettings(FeatureSettings* /*settings*/) {}
+
+private:
+    using Question = bool (MessageProcessor::*)(platform::WindowHandle);
+    bool ask(Question question, const DialogMessage& message, std::intptr_t& result);
 };
 
 } // namespace zent
