@@ -20,17 +20,17 @@ public:
     /// Takes the features that the printer doesn't have out of the tree, for good; their items stay
     /// hidden. Returns whether any of the children is a feature that stays.
     virtual bool configure();
-    /// The page-level feature that this works in. Goes on to the children that are features.
+    /// Names the page-level feature that this works in, also to the children that are features.
     void setParentFeature(FeatureEnum feature) override;
 
     UIConfiguration& getConfiguration() const { return m_configuration; }
     const Capabilities& getCapabilities() const { return *m_configuration.capabilities; }
     const UserPreferences& getPreferences() const { return m_configuration.preferences; }
     FeatureEnum getParentFeature() const { return m_parentFeature; }
-    /// TJTF_ANY stands for the job as well where changes are told of.
+    /// Where a change is reported, TJTF_ANY stands for the job as well.
     bool isJobLevel() const { return m_parentFeature == jobLevel || m_parentFeature == TJTF_ANY; }
     bool hasParentFeature() const { return m_parentFeature != jobLevel; }
-    /// Whether the printer has the feature here.
+    /// Whether the printer has the feature at this level.
     bool isFeatureSupported(const _FI& feature) const;
 
 private:

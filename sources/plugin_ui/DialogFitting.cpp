@@ -8,7 +8,7 @@ namespace {
 
 using platform::Rectangle;
 
-/// Dialog units.
+/// Both are in dialog units, which grow with the font.
 constexpr std::int32_t marginUnits = 7;
 constexpr std::int32_t markedInsetUnits = 3;
 
@@ -39,6 +39,7 @@ DialogExtent measureDialog(const platform::Dialog& dialog) {
 
 } // namespace
 
+// The content is moved and not only the frame: a merged page may begin anywhere.
 DialogFit fitDialog(std::span<const FittedItem> items, std::uint16_t firstItem,
                     const DialogExtent& extent) {
     const auto& [window, client, margin, inset] = extent;

@@ -8,15 +8,19 @@ namespace zent {
 
 /// What a dialog is fitted to, in pixels.
 struct DialogExtent {
-    platform::Rectangle window;   // on the screen, frame included
-    platform::Rectangle client;   // from (0, 0)
-    platform::Rectangle margin;   // to each side of the content
-    std::int32_t markedInset = 0; // how far below its top a marked button begins
+    /// On the screen, with the frame.
+    platform::Rectangle window;
+    /// Begins at (0, 0).
+    platform::Rectangle client;
+    /// Is left free on each side of the content.
+    platform::Rectangle margin;
+    /// How far below the top of its item a group box or other marked button is drawn.
+    std::int32_t markedInset = 0;
 };
 
 /// How a dialog fits its items with the margin left around them.
 struct DialogFit {
-    /// By which all items move.
+    /// All items move by this.
     std::int32_t moveX = 0;
     std::int32_t moveY = 0;
     platform::Rectangle window;
@@ -36,7 +40,8 @@ struct FittedItem {
 DialogFit fitDialog(std::span<const FittedItem> items, std::uint16_t firstItem,
                     const DialogExtent& extent);
 
-/// Fits a dialog's window to its items.
+/// Gives a dialog's window the size that its items need. Templates are translated and merged, so
+/// their own size is never right for all.
 void fitDialogToContent(platform::Dialog& dialog, std::uint16_t firstItem);
 
 /// The place of a popup whose right edge is wanted at `right` and whose top at `top`: it rises if

@@ -47,6 +47,8 @@ bool DialogHandler::processEvent(platform::Dialog& dialog, std::uint32_t message
     return false;
 }
 
+// Each step is taken even if one before it failed: half a dialog with its buttons can be closed,
+// one that nobody has shown can't.
 void DialogHandler::startTree(platform::Dialog& dialog, std::intptr_t& result) {
     FirstFailure failure;
     const auto deliver = [&](const DialogMessage& message) {
@@ -79,7 +81,7 @@ void DialogHandler::setTarget(FeatureSettings& settings) {
     m_workingSettings.setAttrNodeList(*settings.getAttrNodeList());
 }
 
-// Into the list itself: the target may be a view, or be viewed.
+// The list itself is assigned, since the target may be a view, or be viewed.
 void DialogHandler::commitSettings() {
     *m_targetSettings->getAttrNodeList() = *m_workingSettings.getAttrNodeList();
 }

@@ -5,9 +5,9 @@
 
 namespace zent {
 
-/// The procedure behind every dialog: it turns each event into a DialogMessage, passes it down the
-/// tree whose root it is, and keeps exceptions in. What the tree edits is a working copy of the
-/// caller's settings.
+/// The one procedure of all dialogs. It turns each event into a DialogMessage, passes it down the
+/// tree whose root it is, and lets no exception out into the toolkit. What the tree edits is a
+/// working copy of the caller's settings, so that Cancel has nothing to undo.
 class DialogHandler : public ConfigurableUIComponent, public platform::DialogProcedure {
 public:
     /// `bindStockInformation` says whether stocks are counted in the working copy.
@@ -20,11 +20,11 @@ public:
     bool processEvent(platform::Dialog& dialog, std::uint32_t message, std::uintptr_t wParam,
                       std::intptr_t lParam, std::intptr_t& result) override;
 
-    /// The window is there, and the tree hasn't heard of it yet.
+    /// Is called when the window is there and the tree hasn't heard of it yet.
     virtual void onDialogCreated(platform::Dialog& /*dialog*/) {}
-    /// The tree is ready, and nothing is shown yet.
+    /// Is called when the tree is ready and nothing is shown yet.
     virtual void onDialogReady(platform::Dialog& /*dialog*/) {}
-    /// The configuration is as read-only again as it was at the start.
+    /// Makes the configuration as read-only again as it was at the start.
     bool onDestroy(const DialogMessage& message, std::intptr_t& result) override;
     /// Copies the working settings over the caller's.
     virtual void commitSettings();

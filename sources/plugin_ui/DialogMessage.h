@@ -6,7 +6,7 @@
 
 namespace zent {
 
-/// Messages of the library's own; those of the window system are platform::event.
+/// These messages are the library's own; those of the window system are platform::event.
 constexpr std::uint32_t UIM_HIDE = 32769;
 constexpr std::uint32_t UIM_SHOW = 32770;
 constexpr std::uint32_t UIM_SETTINGS_CHANGED = 32771; // show what the settings hold now
@@ -14,9 +14,8 @@ constexpr std::uint32_t UIM_ENABLE = 32772;
 constexpr std::uint32_t UIM_DISABLE = 32773;
 constexpr std::uint32_t UIM_VALIDATE = 32774; // the result is one of validation
 constexpr std::uint32_t UIM_VALIDATE_FOR_SAVE = 32775;
-constexpr std::uint32_t UIM_FEATURE_ANNOUNCE =
-    32776;                                // wParam: a FeatureRole; lParam: the UIFeature
-constexpr std::uint32_t UIM_LOCK = 32777; // disables until UIM_UNLOCK
+constexpr std::uint32_t UIM_FEATURE_ANNOUNCE = 32776; // wParam: FeatureRole; lParam: UIFeature
+constexpr std::uint32_t UIM_LOCK = 32777;             // disables until UIM_UNLOCK
 constexpr std::uint32_t UIM_UNLOCK = 32778;
 
 /// The results of a validation.
@@ -44,7 +43,7 @@ public:
         return reinterpret_cast<T*>(m_lParam);
     }
 
-    /// Of a command: the item, and what happened to it.
+    /// A command names an item and what happened to it.
     std::uint16_t getItem() const { return static_cast<std::uint16_t>(m_wParam); }
     std::uint16_t getNotification() const { return static_cast<std::uint16_t>(m_wParam >> 16); }
     bool isCommand(std::uint16_t item, std::uint32_t notification) const {

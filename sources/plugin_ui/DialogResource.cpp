@@ -41,6 +41,8 @@ DialogResource& DialogResource::operator=(const DialogResource& other) {
     return *this;
 }
 
+// Items stay whole records of bytes, and are never interpreted further: whatever the designer of a
+// page has put into them reaches the window system as it was.
 std::size_t DialogResource::getSize() const {
     return std::accumulate(
         m_items.begin(), m_items.end(), getBytes().size(),
@@ -93,7 +95,7 @@ void DialogResource::splitItems(std::span<const std::byte> bytes) {
         }
         offset += item.size;
     }
-    // The bytes may be these ones.
+    // A copy comes first, since the bytes may be these ones.
     ByteBuffer start(bytes.data(), std::min(parsed->headerSize, bytes.size()));
     start.resize(parsed->headerSize);
     this->bytes().swap(start);
@@ -138,7 +140,7 @@ DialogResource& DialogResource::operator+(DialogResource& other) {
     if (m_items.empty() && own != 0) {
         splitItems(getBytes().bytes());
     }
-    const std::size_t count = other.m_items.size(); // which grows if the other is this one
+    const std::size_t count = other.m_items.size(); // this grows if the other is this one
     for (std::size_t i = 0; i < count; ++i) {
         m_items.push_back(other.m_items[i]);
     }

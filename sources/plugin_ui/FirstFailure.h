@@ -15,7 +15,7 @@ public:
             keepCurrent();
         }
     }
-    /// For a catch clause.
+    /// Is to be called from a catch clause.
     void keepCurrent() {
         if (m_failure == nullptr) {
             m_failure = std::current_exception();

@@ -41,8 +41,8 @@ public:
     virtual bool onValidate(const DialogMessage& message, std::intptr_t& result);
     virtual bool onValidateForSave(const DialogMessage& message, std::intptr_t& result);
 
-    /// Whether what the user has entered may go into the ticket, or into a file. One that refuses
-    /// has told the user why.
+    /// Whether what the user has entered may go into the ticket, or into a file. Who refuses tells
+    /// the user why.
     virtual bool validate(platform::WindowHandle /*window*/) { return true; }
     virtual bool validateForSave(platform::WindowHandle window) { return validate(window); }
 

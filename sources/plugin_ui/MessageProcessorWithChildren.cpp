@@ -8,7 +8,8 @@ namespace zent {
 
 namespace {
 
-/// Whether the nodes after one that fails are to hear of a message all the same.
+/// Whether the nodes after one that fails are to hear of a message all the same. A feature that
+/// can't be shown mustn't keep others from being shown, locked or taken down.
 bool isForEachNode(const DialogMessage& message) {
     switch (message.getMessage()) {
     case platform::event::initDialog:
@@ -29,7 +30,7 @@ MessageProcessorWithChildren::MessageProcessorWithChildren() {
     m_children.reserve(usualCount);
 }
 
-// By index: a handler may add children.
+// An index is safe where an iterator isn't, since a handler may add children.
 bool MessageProcessorWithChildren::processChildren(const DialogMessage& message,
                                                    std::intptr_t& result) {
     FirstFailure failure;

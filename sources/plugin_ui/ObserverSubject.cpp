@@ -7,7 +7,7 @@ namespace zent {
 
 namespace {
 
-/// Subjects are made on the threads of all dialogs.
+/// This is atomic because dialogs of several threads make subjects.
 std::atomic<std::uint32_t> subjectCount = 0;
 
 } // namespace
@@ -20,7 +20,7 @@ void ObserverSubject::attach(Observer& observer) {
     }
 }
 
-// By index: an observer may attach another.
+// An index is safe where an iterator isn't, since an observer may attach another.
 void ObserverSubject::notifyObservers() {
     for (std::size_t i = 0; i < m_observers.size(); ++i) { // NOLINT(modernize-loop-convert)
         m_observers[i]->handleSubjectUpdate(m_subjectId);

@@ -18,7 +18,7 @@ public:
     /// An observer that is attached already stays where it is: one that attaches itself at each
     /// start of a dialog hears of a change once.
     void attach(Observer& observer);
-    /// In the order of attaching.
+    /// Observers hear in the order in which they were attached.
     void notifyObservers();
 
     /// By which an observer tells its subjects apart. The numbers come again after 65,536 others.

@@ -7,8 +7,8 @@
 
 namespace zent {
 
-/// A node of the objects behind a dialog. It knows further components, which it doesn't own, and
-/// passes component messages on to them.
+/// A node of the tree of objects that a dialog consists of. It knows further components, which it
+/// doesn't own, and passes component messages on to them.
 class UIComponent {
 public:
     UIComponent();
@@ -29,7 +29,7 @@ public:
     /// Names the item that stands for the printer default.
     virtual void setDefaultText(std::uint32_t /*stringId*/) {}
 
-    /// Begin a walk at this component's own list.
+    /// These begin a walk at this component's own list.
     void broadcastPrinterDefault(FeatureSettings& settings);
     void broadcastDefaultText(std::uint32_t stringId);
 

@@ -20,7 +20,7 @@ struct UIComponentMessage {
     std::uint32_t wParam = 0;
     FeatureSettings* lParam = nullptr;
 
-    /// For the trace. Both kinds are shown under the name of the first.
+    /// Is for the trace, where both kinds have always had the name of the first.
     CXString getDebugText() const;
 };
 

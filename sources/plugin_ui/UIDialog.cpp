@@ -10,7 +10,7 @@ namespace zent {
 
 namespace {
 
-/// What ends a modal dialog.
+/// A modal dialog ends with one of these.
 constexpr std::intptr_t cancelled = 0;
 constexpr std::intptr_t accepted = 1;
 
@@ -97,6 +97,7 @@ bool UIDialog::onCommand(const DialogMessage& message, std::intptr_t& result) {
     return processChildren(message, result);
 }
 
+// Nobody waits for a modeless dialog, so that one commits by itself and tells its observers.
 void UIDialog::accept() {
     if (m_modeless == nullptr) {
         m_dialog->end(accepted);

@@ -4,13 +4,13 @@
 
 namespace zent {
 
-/// A picture, whose background stays out.
+/// Shows a picture without its background.
 class BitmapUIControl : public UIControlOf<platform::PictureItem> {
 public:
     explicit BitmapUIControl(std::uint16_t item, std::uint32_t bitmap = 0)
         : UIControlOf(item), m_bitmap(bitmap) {}
 
-    /// A bitmap resource, 0 for none.
+    /// Names a bitmap resource, 0 for none.
     void setBitmap(std::uint32_t bitmap);
     std::uint32_t getBitmap() const { return m_bitmap; }
 

@@ -62,6 +62,8 @@ bool isTextCharacter(FilterMode mode, char16_t character) {
 
 } // namespace
 
+// Text is refused as it is typed, so that a number box never holds what isn't the beginning of a
+// number; what is pasted comes here character by character.
 bool acceptsNumberCharacter(NumberType type, const TypingState& state, char16_t character) {
     if (isEditingKey(character)) {
         return true;

@@ -16,18 +16,18 @@ struct TypingState {
     std::uint32_t maximumLength = 0;
 };
 
-/// What a text box takes. The numbers are the field's own.
+/// What a text box takes. The items keep these numbers as a property of theirs.
 enum class FilterMode : std::uint32_t {
     all = 1,
     lettersAndDigits = 2,
-    lettersAndDigitsNoSpaces = 3, // for features whose values hold no blanks; the same characters
-    lettersDigitsAndMarks = 4,    // also a blank, "!" and "_"
+    lettersAndDigitsNoSpaces = 3, // for features whose values hold no spaces; the same characters
+    lettersDigitsAndMarks = 4,    // also a space, "!" and "_"
 };
 
 /// Whether a number box takes a character at the place of the selection. Raises
 /// UnknownCaseException for an unknown type.
 bool acceptsNumberCharacter(NumberType type, const TypingState& state, char16_t character);
-/// The same for a text box.
+/// Whether a text box takes it. Raises the same for an unknown mode.
 bool acceptsTextCharacter(FilterMode mode, const TypingState& state, char16_t character);
 
 } // namespace zent

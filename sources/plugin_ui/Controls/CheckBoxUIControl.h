@@ -4,7 +4,7 @@
 
 namespace zent {
 
-/// A box with a mark, or without.
+/// A box that the user ticks or leaves empty.
 class CheckBoxUIControl : public UIControlOf<platform::ButtonItem> {
 public:
     explicit CheckBoxUIControl(std::uint16_t item) : UIControlOf(item) {}
@@ -23,7 +23,7 @@ private:
     void displayCaption();
 
     bool m_isChecked = false;
-    std::uint32_t m_captionId = 0; // 0: as the template has it
+    std::uint32_t m_captionId = 0; // with 0 the caption is the template's
 };
 
 } // namespace zent

@@ -6,12 +6,12 @@
 
 namespace zent {
 
-/// A list of texts with a value each, of which the user chooses one: what combo boxes and list
-/// boxes have in common. The list is kept here and shown by the item.
+/// A list of texts with a value each, of which the user chooses one. It is what combo boxes and
+/// list boxes have in common. The list is kept here, for features fill it before there is an item.
 class ItemListUIControl : public UIControlOf<platform::ChoiceItem> {
 public:
     void clear();
-    /// At an index; -1 or 0 appends.
+    /// Inserts at an index; -1 or 0 appends.
     void addItem(const CXString& text, std::uint32_t value, std::int32_t position = -1);
     /// The index of the first item of that value, or -1.
     std::int32_t findValue(std::uint32_t value) const;
@@ -24,7 +24,7 @@ public:
     /// Chooses the item of that value, or none if there is no such item. The value is kept even so.
     void select(std::uint32_t value);
     std::uint32_t getSelectedValue() const { return m_selectedValue; }
-    /// Of the item that the user has chosen last.
+    /// Gives the text of the item that the user has chosen last.
     const CXString& getText() const { return m_text; }
 
     void setControlCallBack() override;
@@ -35,7 +35,7 @@ protected:
 
     void showValue() override;
 
-    /// Takes over what the user has chosen; whether it is another value.
+    /// Takes over what the user has chosen, and says whether it is another value.
     bool takeSelection();
     void setText(const CXString& text) { m_text = text; }
 

@@ -40,7 +40,7 @@ void NumberBoxUIControl::setBounds(double lower, double upper) { m_decimalBounds
 std::int32_t NumberBoxUIControl::getInteger() const {
     constexpr double lowest = std::numeric_limits<std::int32_t>::min();
     constexpr double highest = std::numeric_limits<std::uint32_t>::max();
-    // By way of 64 bits: an unsigned number keeps its 32.
+    // An unsigned number keeps its 32 bits on the way through 64.
     return static_cast<std::int32_t>(
         static_cast<std::int64_t>(std::clamp(m_value, lowest, highest)));
 }
@@ -133,6 +133,7 @@ double NumberBoxUIControl::readNumber() const {
         "NumberBoxUIControl::displayControl() Unknown ANL value for disposition.\r\n");
 }
 
+// The value is held beside the text: what is shown has fewer digits, and mustn't come back.
 void NumberBoxUIControl::storeValue(double value, bool isEmpty) {
     if (value != m_value || isEmpty != m_isEmpty) {
         m_value = value;
@@ -168,7 +169,7 @@ void NumberBoxUIControl::handleStep(const platform::Notification& step) {
         const std::int32_t next = stepInteger(shown, step.delta, addressOf(m_integerBounds));
         item().setText(CXString::Format(u"%d", next));
     }
-    handleChange(); // which the text has brought about already if it has changed
+    handleChange(); // the text has brought this about already if it has changed
 }
 
 } // namespace zent

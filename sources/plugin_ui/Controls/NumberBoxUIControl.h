@@ -8,7 +8,7 @@
 
 namespace zent {
 
-/// A box that takes a number, with a spin to step it if there is one.
+/// A box that takes a number, and a spin that steps it if there is one.
 class NumberBoxUIControl : public UIControlOf<platform::TextItem> {
 public:
     /// `spin` may be 0.
@@ -16,11 +16,11 @@ public:
                                 std::initializer_list<std::uint16_t> labels = {});
 
     void setNumberType(NumberType type) { m_numberType = type; }
-    /// In characters, sign and point included.
+    /// Counts characters, with sign and point.
     void setMaxLength(std::uint16_t length);
     void setBounds(std::int32_t lower, std::int32_t upper);
     void setBounds(double lower, double upper);
-    /// Behind the point: how far a step goes.
+    /// Counts digits after the point; a step changes the last of them.
     void setDecimals(std::uint32_t decimals) { m_decimals = decimals; }
     /// Whether an integer beyond the bounds becomes the bound when the user leaves the box.
     void setClampOnLeave(bool clamps) { m_clampOnLeave = clamps; }

@@ -12,6 +12,7 @@ std::uint16_t countDigits(std::int32_t number) {
     return static_cast<std::uint16_t>(std::to_string(number).size());
 }
 
+// The standard's parsers look at the locale, take more than boxes do, or know no UTF-16.
 std::int64_t parseInteger(std::u16string_view text, bool isSigned) {
     text.remove_prefix(std::min(text.find_first_not_of(u" \t"), text.size()));
     const bool isNegative = isSigned && text.starts_with(u'-');

@@ -13,15 +13,15 @@ enum class NumberType : std::int32_t { unsignedInteger = 1, decimal = 2, signedI
 /// The length that the text of a number needs: its digits, and the sign of a negative one.
 std::uint16_t countDigits(std::int32_t number);
 
-/// The whole number that a text begins with, after blanks; 0 if it is none, or has more than 32
-/// bits. "-" is part of it only if signed.
+/// The whole number that a text begins with, after spaces; 0 if it is none, or has more than 32
+/// bits. A "-" belongs to it only if it is signed.
 std::int64_t parseInteger(std::u16string_view text, bool isSigned);
-/// The number that a text begins with, 0 if it is none; whatever the locale.
+/// The number that a text begins with, 0 if it is none. The point is a point in every locale.
 double parseDecimal(std::u16string_view text);
-/// With two digits behind the point if so many are asked for, with one for any other number.
+/// With two digits after the point if so many are asked for, with one for any other number.
 CXString formatDecimal(double value, std::uint32_t decimals);
 
-/// Bounds of a number box, both included.
+/// The bounds of a number box, which are both allowed.
 template <typename Number>
 struct NumberBounds {
     Number lower;
@@ -29,10 +29,10 @@ struct NumberBounds {
 };
 
 /// One step of a spin: a unit of the last decimal, against the sign of `delta`. What would leave
-/// the bounds stays as it is. Null: no bounds.
+/// the bounds stays as it is. A null pointer stands for no bounds.
 double stepDecimal(double value, std::uint32_t decimals, std::int32_t delta,
                    const NumberBounds<double>* bounds);
-/// The same by 1; what would leave the bounds, or 32 bits, becomes the bound.
+/// One step of a spin by 1. What would leave the bounds, or 32 bits, becomes the bound.
 std::int32_t stepInteger(double value, std::int32_t delta,
                          const NumberBounds<std::int32_t>* bounds);
 

@@ -39,7 +39,7 @@ bool RadioButtonUIControl::processControlMessage(const DialogMessage& message,
     if (!isClickOnButton(message)) {
         return false;
     }
-    // A button is told of as clicked when the keyboard's focus reaches it, too.
+    // A button counts as clicked when the keyboard's focus reaches it, too.
     const auto checked = std::ranges::find_if(
         m_buttons, [](const platform::ButtonItem* button) { return button->isChecked(); });
     if (checked != m_buttons.end() && (*checked)->getId() != m_checkedId) {

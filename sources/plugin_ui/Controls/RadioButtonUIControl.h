@@ -4,13 +4,13 @@
 
 namespace zent {
 
-/// Any number of buttons, one of which is marked.
+/// A group of any number of buttons, of which the user marks one.
 class RadioButtonUIControl : public UIControl {
 public:
     explicit RadioButtonUIControl(std::uint16_t firstButton) : UIControl(firstButton) {}
 
     void addButton(std::uint16_t item) { addItem(item); }
-    /// The item that is marked, 0 for none.
+    /// Gives the item that is marked, 0 for none.
     std::uint16_t getCheckedId() const { return m_checkedId; }
     void setCheckedId(std::uint16_t item);
 

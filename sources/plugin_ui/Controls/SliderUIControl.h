@@ -6,7 +6,7 @@
 
 namespace zent {
 
-/// A track bar.
+/// A track bar, which the user drags to a whole number.
 class SliderUIControl : public UIControlOf<platform::RangeItem> {
 public:
     explicit SliderUIControl(std::uint16_t trackBar,

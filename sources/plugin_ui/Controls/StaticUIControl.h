@@ -4,7 +4,7 @@
 
 namespace zent {
 
-/// A label that shows and hides.
+/// A label, which only shows and hides with what it belongs to.
 class StaticUIControl : public UIControl {
 public:
     explicit StaticUIControl(std::uint16_t item) : UIControl(item) {}

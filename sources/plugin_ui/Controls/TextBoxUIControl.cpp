@@ -22,6 +22,8 @@ void TextBoxUIControl::setMaxLength(std::uint32_t length) {
     item().setLimit(m_maxLength);
 }
 
+// An edit item may show less than the text: it counts line ends in its own way. So the text isn't
+// read back before the user has changed it.
 void TextBoxUIControl::showValue() { item().setText(m_text); }
 
 void TextBoxUIControl::setControlCallBack() {

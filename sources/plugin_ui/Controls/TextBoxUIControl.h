@@ -10,14 +10,14 @@ namespace zent {
 /// A box that takes a text, or shows one.
 class TextBoxUIControl : public UIControlOf<platform::TextItem> {
 public:
-    /// `maximumLength` in UTF-16 units.
+    /// `maximumLength` counts UTF-16 units.
     TextBoxUIControl(std::uint16_t edit, std::initializer_list<std::uint16_t> labels,
                      std::uint32_t maximumLength, FilterMode mode = FilterMode::all);
 
-    /// What stands in the box: what was set, until the user changes it.
+    /// Gives the text that was set until the user changes it, with its own line ends and length.
     const CXString& getText() const { return m_text; }
     void setText(const CXString& text);
-    /// How much the user can enter; a text that is set may be longer.
+    /// Limits what the user can enter; a text that is set may be longer.
     void setMaxLength(std::uint32_t length);
     std::uint32_t getMaxLength() const { return m_maxLength; }
     bool isTooLong() const { return m_text.view().size() > m_maxLength; }

@@ -10,7 +10,7 @@
 namespace zent {
 
 /// One logical control of a dialog, which may span several of its items (a label, a box and a
-/// spin): shows, hides, enables and disables them together, holds the value, and tells its
+/// spin). It shows, hides, enables and disables them together, holds the value, and tells its
 /// observers when the user changes it.
 ///
 /// Controls are made before there is a window. What is set then is kept, and shown when the dialog
@@ -64,7 +64,7 @@ protected:
     /// Gets the items from a dialog that starts, or from none when it has ended.
     virtual void bindItems(const platform::Dialog& dialog);
     const std::vector<std::uint16_t>& getItemIds() const { return m_itemIds; }
-    /// The first, 0 if there is none.
+    /// Gives the first, 0 if there is none.
     std::uint16_t getItemId() const { return m_itemIds.empty() ? std::uint16_t{0} : m_itemIds[0]; }
     platform::DialogItem& getFirstItem() const;
     bool hasWindow() const { return m_dialog->getHandle() != nullptr; }

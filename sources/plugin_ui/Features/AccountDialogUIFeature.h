@@ -4,12 +4,12 @@
 
 namespace zent {
 
-/// All that a printer's accounting can ask for: the account, its user, and further data.
+/// Asks for all that a printer's accounting can want: the account, its user, and further data.
 class AccountDialogUIFeature : public UIFeature {
 public:
     AccountDialogUIFeature(UIConfiguration& configuration, FeatureEnum parentFeature);
 
-    /// Not for a printer that knows the account alone: that fits on the page of job notes.
+    /// A printer that knows the account alone needs no dialog: that fits on the page of job notes.
     bool isSupported() override;
     void updateFeatureWithNewSettings() override {}
     void handleSubjectUpdate(std::uint16_t /*subjectId*/) override {}

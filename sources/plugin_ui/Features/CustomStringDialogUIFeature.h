@@ -6,7 +6,7 @@
 
 namespace zent {
 
-/// A value of the user's own for a feature: a text, which mustn't be empty.
+/// Asks for a value of the user's own for a feature, which is a text and mustn't be empty.
 class CustomStringDialogUIFeature : public UIFeature {
 public:
     CustomStringDialogUIFeature(UIConfiguration& configuration, FeatureEnum feature,

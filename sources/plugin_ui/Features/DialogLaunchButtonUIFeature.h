@@ -6,16 +6,16 @@
 
 namespace zent {
 
-/// A button that opens a dialog on the same settings. The dialog is a component but no child:
-/// component messages reach it, messages of this window don't.
+/// A button that opens a dialog on the same settings. The dialog is a component but no child, so
+/// that component messages reach it and messages of this window don't.
 class DialogLaunchButtonUIFeature : public UIFeature {
 public:
-    /// Without a button: a subclass makes its own control, and attaches this to it.
+    /// Makes no button. A subclass makes its own control, and attaches this to it.
     DialogLaunchButtonUIFeature(UIConfiguration& configuration, std::unique_ptr<UIDialog> dialog);
     /// `toolTipId` is a resource string, 0 for none.
     DialogLaunchButtonUIFeature(UIConfiguration& configuration, std::unique_ptr<UIDialog> dialog,
                                 std::uint16_t buttonId, std::uint32_t toolTipId = 0);
-    /// With a dialog that belongs to someone else, and must outlive this.
+    /// Takes a dialog that belongs to someone else and must outlive this.
     DialogLaunchButtonUIFeature(UIConfiguration& configuration, UIDialog& dialog,
                                 std::uint16_t buttonId, std::uint32_t toolTipId = 0);
 

@@ -5,8 +5,7 @@
 
 namespace zent {
 
-/// What names a job and the people behind it: the name, the account, sender, recipient, and
-/// messages.
+/// Names a job and the people it concerns: the name, the account, sender, recipient, and messages.
 class JobNotesUIFeature : public UIFeature {
 public:
     JobNotesUIFeature(UIConfiguration& configuration, FeatureEnum parentFeature);

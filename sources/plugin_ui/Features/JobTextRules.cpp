@@ -13,7 +13,7 @@ bool holds(std::u16string_view set, char16_t unit) {
     return set.find(unit) != std::u16string_view::npos;
 }
 
-/// By the low seven bits, as the printers look at them; 8 is let through.
+/// Printers look at the low seven bits, and let 8 through.
 bool isForbidden(char16_t unit) {
     const auto low = static_cast<char16_t>(unit & 0x7F);
     return low < 8 || (low >= 9 && low <= 31) || low == u'\\' || low == u'"' ||

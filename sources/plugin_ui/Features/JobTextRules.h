@@ -29,7 +29,7 @@ struct JobNameRule {
     bool isRequired = false;
 };
 
-/// What is wrong with a text, as the id of the text that tells it.
+/// Says what is wrong with a text, by the id of the message for the user.
 std::uint32_t findFault(const CXString& text, const AccountRule& rule);
 std::uint32_t findFault(const CXString& text, const JobNameRule& rule);
 

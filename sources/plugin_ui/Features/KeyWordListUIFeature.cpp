@@ -50,6 +50,8 @@ void KeyWordListUIFeature::appendItem(const CXString& text, const FeatureValue& 
     m_comboBox.addItem(text, codeOf(value), m_row.showCustomFirst ? 1 : -1);
 }
 
+// The list is the printer's and not the ticket's: what a ticket brings along is added only where
+// users may define values, and else stands unselected for the check to find.
 void KeyWordListUIFeature::initializeFeature() {
     m_comboBox.clear();
     m_values = getCapabilities().getFeatureCapabilities(m_feature, hasParentFeature());
@@ -131,7 +133,7 @@ CXString KeyWordListUIFeature::getLastCustomText() const {
     return isThere ? m_lastCustomValue->getText() : CXString();
 }
 
-/// A text that names a value of the feature gives that one.
+/// A text that names a value of the feature gives that one, so that no value comes twice.
 std::optional<FeatureValue> KeyWordListUIFeature::askForCustomValue() {
     CustomStringUIDialog dialog(getConfiguration(), m_feature.getFeature(), getLastCustomText());
     FeatureSettings scratch;

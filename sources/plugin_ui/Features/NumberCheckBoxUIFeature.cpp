@@ -77,6 +77,7 @@ void NumberCheckBoxUIFeature::handleSubjectUpdate(std::uint16_t subjectId) {
     reportChanged();
 }
 
+// While the printer decides, the number stays in its disabled box, so that the user gets it back.
 void NumberCheckBoxUIFeature::handleCheckBox() {
     if (m_numberBox != nullptr) {
         m_numberBox->setEnabled(isNumberWanted());

@@ -29,14 +29,14 @@ public:
     void initializeFeature() override;
     void updateFeatureWithNewSettings() override;
     void handleSubjectUpdate(std::uint16_t subjectId) override;
-    /// Refuses a text that is too long for the printer: what the ticket brings along may be.
+    /// Refuses a text that is too long for the printer, as one that the ticket brings along may be.
     bool validate(platform::WindowHandle window) override;
 
     const _FI& getFeature() const { return m_feature; }
     TextBoxUIControl& getTextBox() { return m_textBox; }
 
 protected:
-    /// What the ticket holds; empty if it holds nothing.
+    /// Gives what the ticket holds, the empty text if it holds nothing.
     CXString readText();
     void writeText(const CXString& text);
 

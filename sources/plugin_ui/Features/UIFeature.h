@@ -6,7 +6,7 @@
 
 namespace zent {
 
-/// What others know a feature as that depend on it. The numbers are those of the announcement.
+/// As what a feature announces itself to those that depend on it.
 enum class FeatureRole : std::uint32_t { none = 0, plex = 1 };
 
 /// Binds controls to a feature of the ticket. It keeps no value of its own: each change that the
@@ -30,22 +30,22 @@ public:
     /// Fills the controls with what the printer offers: once per start of the dialog, after the
     /// children.
     virtual void initializeFeature() {}
-    // handleSubjectUpdate(): reads the control of that identity and writes its value to the
+    // handleSubjectUpdate() reads the control of that identity and writes its value to the
     // settings.
 
     bool onInitDialog(const DialogMessage& message, std::intptr_t& result) override;
     bool onSettingsChanged(const DialogMessage& message, std::intptr_t& result) override;
     bool onDestroy(const DialogMessage& message, std::intptr_t& result) override;
 
-    /// Also for the children that are features.
+    /// Passes the settings on to the children that are features.
     void setSettings(FeatureSettings* settings) override;
 
 protected:
     platform::WindowHandle getWindow() const { return m_dialog->getHandle(); }
 
-    /// A label that shows and hides with the feature.
+    /// Adds a label that shows and hides with the feature.
     void addStaticControl(std::uint16_t item);
-    /// Makes this feature, or each feature of the dialog, show the settings anew.
+    /// These make this feature, or each feature of the dialog, show the settings anew.
     void refreshSelf();
     void refreshDialog();
     void enableSelf();

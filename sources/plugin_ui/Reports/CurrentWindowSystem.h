@@ -4,10 +4,11 @@
 
 namespace zent {
 
-/// The window system that dialogs are on: the platform's, unless a test has put another in place;
-/// null if there is none.
+/// Finds the window system that dialogs are on, which is the platform's unless a test has put
+/// another in its place. Gives null if there is none.
 platform::WindowSystem* findWindowSystem();
-/// The same for code that runs inside a dialog. Raises ResourceAcquisitionException without one.
+/// Does the same for code that runs inside a dialog. Raises ResourceAcquisitionException without
+/// one.
 platform::WindowSystem& windowSystem();
 
 /// Puts a window system in the place of the platform's, or none (null), as long as it lives.

@@ -12,13 +12,13 @@ namespace zent {
 
 namespace {
 
-/// How the box gets its title: by number, or as a text if there is one.
+/// A box gets its title by number, or as a text if there is one.
 struct Title {
     std::uint32_t id = 0;
     CXString text;
 };
 
-/// What all variants of a report are given besides the exception.
+/// All variants of a report are given this besides the exception.
 struct Context {
     platform::WindowHandle owner;
     const CXString& locationName;
@@ -71,7 +71,7 @@ void compose(UserMessage& message, const Context& context, const CXString& title
     message.setBody(body);
 }
 
-/// For when the resource strings themselves are out of reach.
+/// The text is fixed because the resource strings themselves are out of reach.
 void showMissingResources(const std::exception& exception) {
     UserMessage message(u"Tarvo Printer Driver",
                         u"Could not load the resource DLL. It's probably missing. Translated "

@@ -9,9 +9,9 @@
 namespace zent {
 
 /// Shows a caught exception to the user as a box of resource strings with the error number, and
-/// passes the details to the trace. To be called from the exception's handler: raises nothing of
-/// its own, but if the user answers with Cancel, it stops in a debugger or, without one, rethrows
-/// the exception.
+/// passes the details to the trace. It is to be called from the exception's handler. It raises
+/// nothing of its own, but if the user answers with Cancel, it stops in a debugger or, without one,
+/// rethrows the exception.
 ///
 /// The title is a resource string (0: the owner's caption) or a ready text. `locationName` says
 /// which call failed, as in "ZENT::fnOpenSession()"; it and `extraText` are for the trace.

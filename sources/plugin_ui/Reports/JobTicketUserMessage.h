@@ -4,16 +4,16 @@
 
 namespace zent {
 
-/// A message box on a failure that has to do with a ticket: a resource string, and below it what
-/// the failure is about, such as the name of the ticket's file.
+/// A message box on a failure that has to do with a ticket. Below a resource string it names what
+/// the failure is about, such as the ticket's file.
 class JobTicketUserMessage : public UserMessage {
 public:
     /// Raises what ResourceLibrary raises.
     JobTicketUserMessage(platform::WindowHandle owner, std::uint32_t titleId, std::uint32_t bodyId,
                          const CXString& subject, std::uint32_t flags = 0,
                          Severity severity = Severity::error);
-    /// A ticket that couldn't be read or written; the exception's error number is quoted, and it
-    /// must outlive the message.
+    /// Says that a ticket couldn't be read or written, and quotes the exception's error number. The
+    /// exception must outlive the message.
     JobTicketUserMessage(platform::WindowHandle owner, std::uint32_t titleId,
                          const CXString& fileName, const std::exception& exception);
 

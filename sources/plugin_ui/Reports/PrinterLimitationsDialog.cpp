@@ -18,6 +18,7 @@ PrinterLimitationsDialog::PrinterLimitationsDialog(const CXString& title, const 
                                                    const CXString& report, bool offersChoice)
     : m_title(title), m_label(label), m_report(report), m_offersChoice(offersChoice) {}
 
+// This is no tree of components, for there is no ticket to edit: the report is shown and answered.
 std::intptr_t PrinterLimitationsDialog::run(platform::WindowSystem& system,
                                             platform::WindowHandle owner) {
     const ResourceLibrary library;

@@ -9,17 +9,17 @@ namespace zent {
 /// to what becomes of it, or merely note it.
 class PrinterLimitationsDialog : public platform::DialogProcedure {
 public:
-    /// What ends the dialog: its buttons, as those of a message box.
+    /// The dialog ends with the number of its button, as a message box does.
     static constexpr std::intptr_t agreed = 1;
     static constexpr std::intptr_t refused = 2;
 
-    /// `label` stands above the report. `offersChoice`: whether the user may refuse. Otherwise
-    /// there is one button, to agree.
+    /// `label` stands above the report. `offersChoice` says whether the user may refuse; otherwise
+    /// the only button is to agree.
     PrinterLimitationsDialog(const CXString& title, const CXString& label, const CXString& report,
                              bool offersChoice);
 
-    /// Over a window that may be null. Gives what ended the dialog, 0 if it was closed by other
-    /// means, -1 if it couldn't be made. Raises what ResourceLibrary raises.
+    /// Runs over a window that may be null. Gives what ended the dialog, 0 if it was closed by
+    /// other means, -1 if it couldn't be made. Raises what ResourceLibrary raises.
     std::intptr_t run(platform::WindowSystem& system, platform::WindowHandle owner);
 
     bool processEvent(platform::Dialog& dialog, std::uint32_t message, std::uintptr_t wParam,

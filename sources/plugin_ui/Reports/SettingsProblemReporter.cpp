@@ -18,7 +18,7 @@ SettingsProblemReporter::SettingsProblemReporter(platform::WindowHandle owner,
 
 SettingsProblemReporter SettingsProblemReporter::forStock(platform::WindowHandle owner,
                                                           bool mayDecline) {
-    // The one mode in which it is for the caller to say whether there is a choice.
+    // In this mode alone it is for the caller to say whether there is a choice.
     return {owner, ResourceLibrary().getString(IDS_STOCK_PROBLEM_TITLE), mayDecline,
             reportMode::silentKeep, problemPolicy::repair};
 }

@@ -28,7 +28,7 @@ public:
     /// refuse, which in other modes than silentKeep there always is.
     SettingsProblemReporter(platform::WindowHandle owner, const CXString& title, bool offersChoice,
                             std::uint32_t mode, std::uint32_t policy);
-    /// For a stock that the user has described. The title is a resource string's.
+    /// Reports on a stock that the user has described, under a title of its own.
     static SettingsProblemReporter forStock(platform::WindowHandle owner, bool mayDecline);
 
     bool isSilent() const override { return false; }
@@ -38,10 +38,10 @@ public:
 private:
     bool isChoiceOffered() const;
     RepairWording getWording() const;
-    /// What introduces the report.
+    /// Gives the sentence that introduces the report.
     CXString getLabel() const;
     bool isRefusedInDialog(platform::WindowSystem& system, const CXString& text) const;
-    /// Where no dialog can be shown.
+    /// Asks where no dialog can be shown.
     bool isRefusedInBox(const CXString& text) const;
 
     platform::WindowHandle m_owner;

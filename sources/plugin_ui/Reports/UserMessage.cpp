@@ -77,6 +77,8 @@ void UserMessage::quoteException() {
     }
 }
 
+// A warning's icon has the bits of an error's and a question's, so there is nothing to clear for it
+// but information.
 void UserMessage::deriveStyle() {
     using namespace messageStyle;
     const auto setIcon = [this](std::uint32_t icon, std::uint32_t cleared) {

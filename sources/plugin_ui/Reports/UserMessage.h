@@ -9,7 +9,7 @@
 
 namespace zent {
 
-/// Bits of a message box's style.
+/// These are bits of a message box's style.
 namespace messageStyle {
 constexpr std::uint32_t okCancel = 1;
 constexpr std::uint32_t errorIcon = 16;
@@ -19,7 +19,7 @@ constexpr std::uint32_t informationIcon = 64;
 constexpr std::uint32_t taskModal = 8192;
 } // namespace messageStyle
 
-/// The buttons of a message box, as show() answers.
+/// show() answers with the button that was pressed.
 namespace messageAnswer {
 constexpr std::int32_t ok = 1;
 constexpr std::int32_t cancel = 2;
@@ -36,7 +36,7 @@ public:
                 Severity severity = Severity::error);
     UserMessage(CXString title, CXString body, std::uint32_t flags,
                 Severity severity = Severity::error);
-    /// Title and body by the numbers of resource strings; raises what ResourceLibrary raises.
+    /// Takes title and body by the numbers of resource strings; raises what ResourceLibrary raises.
     UserMessage(platform::WindowHandle owner, std::uint32_t titleId, std::uint32_t bodyId,
                 std::uint32_t flags, Severity severity = Severity::error);
     UserMessage(std::uint32_t titleId, std::uint32_t bodyId, std::uint32_t flags,
@@ -48,13 +48,13 @@ public:
     void setOwner(platform::WindowHandle owner);
     void setTitle(const CXString& title) { m_title = title; }
     void setTitle(std::uint32_t id);
-    /// With an exception set, its error number is appended.
+    /// Appends the error number of the exception that is set.
     void setBody(const CXString& body);
     void setBody(std::uint32_t id);
     void setFlags(std::uint32_t flags);
     void setSeverity(Severity severity);
-    /// The exception to quote, which must outlive the message, or null. Its error number is
-    /// appended to the present body.
+    /// Quotes an exception, which must outlive the message, by its error number; null quotes none
+    /// from now on.
     void setException(const std::exception* exception);
 
     platform::WindowHandle getOwner() const { return m_owner; }
@@ -65,7 +65,7 @@ public:
     /// Shows the box and returns the button pressed.
     std::int32_t show() const;
 
-    /// What shows boxes: the platform's, unless a test sets its own. Null sets the platform's.
+    /// Tests put their own function in the place of the one that shows boxes, and null restores it.
     using Presenter = std::int32_t (*)(platform::WindowHandle owner, std::u16string_view body,
                                        std::u16string_view title, std::uint32_t flags);
     static void setPresenter(Presenter presenter);
