@@ -6,6 +6,7 @@
 #include "TicketSession.h"
 #include "ocore/Capabilities/Capabilities.h"
 #include "ocore/Compress/CompressedBuffer.h"
+#include "support/ScratchUser.h"
 
 namespace zent::bench {
 
@@ -24,6 +25,13 @@ void add(const char* name, Work work) {
     });
 }
 
+void storePreferences() {
+    const TicketSession session;
+    require(fnSetPreferenceBoolValue(session.session(), u"JOB_NAME_PREFERENCE", 1));
+    require(fnSetPreferenceNumberValue(session.session(), u"TOOL_BAR_PREFERENCE", 1));
+    require(fnSetPreferenceStringValue(session.session(), u"PREFERRED_JOB_TICKET", u"ticket"));
+}
+
 /// Each iteration is a process of its own.
 void addFirstSessions(const char* name, double FirstSessions::*which) {
     constexpr benchmark::IterationCount processes = 5;
@@ -39,8 +47,7 @@ void addFirstSessions(const char* name, double FirstSessions::*which) {
 
 } // namespace
 
-SessionBenchmark::SessionBenchmark(const ScratchPreferences& preferences)
-    : m_preferences(preferences), m_model(model, pdl) {
+SessionBenchmark::SessionBenchmark() : m_model(model, pdl) {
     const ResourceData resource = m_library.loadRawData(m_model.getCapabilityResource(form));
     const ByteBuffer& stream = resource.getBytes();
     m_stream = {static_cast<const char*>(static_cast<const void*>(stream.data())), stream.size()};
@@ -57,12 +64,12 @@ void SessionBenchmark::registerAll() {
 
 void SessionBenchmark::registerOpening() {
     add("session/open", [] { openAndClose(); });
-    benchmark::RegisterBenchmark("session/open-stored", [this](benchmark::State& state) {
-        m_preferences.useStored();
+    benchmark::RegisterBenchmark("session/open-stored", [](benchmark::State& state) {
+        const test::ScratchUser user;
+        storePreferences();
         for ([[maybe_unused]] auto each : state) {
             openAndClose();
         }
-        m_preferences.useNone();
     });
 }
 

@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "ScratchPreferences.h"
 #include "XercesFloor.h"
 #include "Zlib.h"
 #include "ocore/Models/PrinterModel.h"
@@ -18,16 +17,15 @@ namespace zent::bench {
 /// - "capabilities/SUBJECT": by the library and by its floor, zlib and Xerces-C's own tree.
 class SessionBenchmark {
 public:
-    explicit SessionBenchmark(const ScratchPreferences& preferences);
+    SessionBenchmark();
 
     void registerAll();
 
 private:
-    void registerOpening();
+    static void registerOpening();
     static void registerFirstSessions();
     void registerCapabilities();
 
-    const ScratchPreferences& m_preferences;
     ResourceLibrary m_library; // stays loaded, as long as a session would be open
     PrinterModel m_model;
     std::string m_stream;

@@ -15,9 +15,9 @@
 #include "FirstSessions.h"
 #include "InstructionsBenchmark.h"
 #include "JobsBenchmark.h"
-#include "ScratchPreferences.h"
 #include "SessionBenchmark.h"
 #include "TicketBenchmark.h"
+#include "support/ScratchUser.h"
 
 int main(int argc, char** argv) {
     try {
@@ -33,8 +33,8 @@ int main(int argc, char** argv) {
         if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
             return EXIT_FAILURE;
         }
-        const zent::bench::ScratchPreferences preferences;
-        zent::bench::SessionBenchmark sessions(preferences);
+        const zent::test::ScratchUser user;
+        zent::bench::SessionBenchmark sessions;
         zent::bench::TicketBenchmark tickets(ZENT_DTD_PATH);
         zent::bench::BlobBenchmark blobs;
         zent::bench::CheckBenchmark checks;

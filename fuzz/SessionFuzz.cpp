@@ -12,7 +12,7 @@
 #include "CallPlaces.h"
 #include "FuzzUser.h"
 #include "SessionArguments.h"
-#include "support/ScratchPreferences.h"
+#include "support/ScratchUser.h"
 
 namespace zent::fuzz {
 
@@ -560,7 +560,7 @@ const std::vector<Play::Call> Play::calls{
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static zent::test::ScratchPreferences scratch;
+    static zent::test::ScratchUser scratch;
     scratch.clear();
     zent::fuzz::Play play(data, size);
     play.run();

@@ -1,16 +1,12 @@
 // Memory may run out at any moment of any call. Each call is made again and again, with its first,
 // second, third ... allocation failing, until it needs no more.
 
-#include <string>
-
-#include <gtest/gtest.h>
-
+#include "support/AllocationFailure.h"
 #include "plugin_ui/Reports/CurrentWindowSystem.h"
 #include "plugin_ui/Reports/UserMessage.h"
-#include "support/AllocationFailure.h"
 #include "support/EveryCall.h"
-#include "support/Rows.h"
-#include "support/ScratchPreferences.h"
+#include "support/LibraryTesting.h"
+#include "support/ScratchUser.h"
 
 namespace zent::test {
 namespace {
@@ -69,7 +65,7 @@ void exhaust(Job& job, const Call& call) {
 
 TEST(AllocationFailureTest, EveryCallReportsItAndTheLibraryGoesOn) {
     const WindowSystemReplacement none(nullptr); // nobody is there to answer a dialog
-    const ScratchPreferences scratch;
+    const ScratchUser scratch;
     UserMessage::setPresenter([](platform::WindowHandle, std::u16string_view, std::u16string_view,
                                  std::uint32_t) { return messageAnswer::ok; });
     {
@@ -89,7 +85,7 @@ TEST(AllocationFailureTest, ADialogHasItsContextBeforeItsKindIsJudged) {
 }
 
 TEST(AllocationFailureTest, AFailedStateBlobLeavesTheDocumentThatWaits) {
-    const ScratchPreferences scratch;
+    const ScratchUser scratch;
     Job job;
     for (const auto& [next, expected] : Rows<std::uint32_t, const std::string&>{
              {ZENT_FORMAT_XML, job.xml}, {ZENT_FORMAT_STATE, job.blob}}) {

@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "ZENT_API/CachedOutput.h"
+
+#include "support/Testing.h"
 
 namespace zent::test {
 namespace {

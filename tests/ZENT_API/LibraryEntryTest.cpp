@@ -1,7 +1,6 @@
 #include "platform/LibraryEntry.h"
 
-#include <gtest/gtest.h>
-
+#include "support/LibraryTesting.h"
 #include "support/TraceCapture.h"
 
 namespace zent::test {

@@ -1,8 +1,6 @@
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
 #include "ZENT_API/ModuleDirectory.h"
-#include "support/Rows.h"
+
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

@@ -1,10 +1,8 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "abi/MessageBoxes.h"
 #include "abi/Session.h"
 #include "abi/ZentLiteral.h"
-#include "support/Rows.h"
 
 namespace zent::test {
 namespace {

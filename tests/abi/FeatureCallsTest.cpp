@@ -1,8 +1,5 @@
-#include <gtest/gtest.h>
-
 #include "abi/Session.h"
 #include "abi/ZentLiteral.h"
-#include "support/Rows.h"
 
 namespace zent::test {
 namespace {

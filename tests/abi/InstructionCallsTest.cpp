@@ -1,10 +1,9 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "abi/MessageBoxes.h"
 #include "abi/Session.h"
 #include "abi/ZentLiteral.h"
-#include "support/ScratchPreferences.h"
+#include "support/ScratchUser.h"
 
 namespace zent::test {
 namespace {
@@ -38,7 +37,7 @@ protected:
         return bytes;
     }
 
-    const ScratchPreferences scratch;
+    const ScratchUser scratch;
     ZentSessionType s = nullptr;
     TarvoJtSettingsType t = nullptr;
 };

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "abi/Session.h"
 #include "abi/ZentLiteral.h"
 

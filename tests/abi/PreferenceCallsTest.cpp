@@ -1,8 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "abi/Session.h"
 #include "abi/ZentLiteral.h"
-#include "support/ScratchPreferences.h"
+#include "support/ScratchUser.h"
 
 namespace zent::test {
 namespace {
@@ -37,7 +35,7 @@ protected:
         return bytes.substr(0, size);
     }
 
-    const ScratchPreferences scratch;
+    const ScratchUser scratch;
     const Session session;
     const ZentSessionType s = session.handle();
 };

@@ -1,11 +1,9 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "abi/MessageBoxes.h"
 #include "abi/Session.h"
 #include "abi/ZentLiteral.h"
-#include "support/Rows.h"
-#include "support/ScratchPreferences.h"
+#include "support/ScratchUser.h"
 
 namespace zent::test {
 namespace {
@@ -34,7 +32,7 @@ std::string importedFrom(const std::string& blob, std::uint32_t model) {
 }
 
 TEST(PrinterSessionTest, PrintersThatNobodyKnowsAreRefused) {
-    const ScratchPreferences scratch;
+    const ScratchUser scratch;
     MessageBoxes boxes;
     int anything = 0;
     auto* const before = reinterpret_cast<ZentSessionType>(&anything);
@@ -101,7 +99,7 @@ TEST(PrinterSessionTest, ATicketTravelsAsABlob) {
 }
 
 TEST(PrinterSessionTest, TheUserInABlobIsRenewed) {
-    const ScratchPreferences scratch;
+    const ScratchUser scratch;
     const Session session;
     const ZentSessionType s = session.handle();
     session.setNumber("copies", 12);

@@ -2,7 +2,6 @@
 #include <functional>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "abi/HeaderAsC.h"
 #include "abi/MessageBoxes.h"

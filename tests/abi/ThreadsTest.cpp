@@ -1,19 +1,16 @@
 // Sessions on different threads share tables, the compiled document type, run-time values and the
 // resource library. The thread sanitizer watches this test.
 
-#include <array>
 #include <atomic>
 #include <chrono>
 #include <cstdlib>
-#include <string>
 #include <thread>
-
-#include <gtest/gtest.h>
 
 #include "abi/ZentLiteral.h"
 #include "support/MemoryInUse.h"
-#include "support/ScratchPreferences.h"
+#include "support/ScratchUser.h"
 #include "support/TestFile.h"
+#include "support/Testing.h"
 #include "zent27.h"
 
 namespace zent::test {
@@ -143,7 +140,7 @@ std::uint32_t numberFromEnvironment(const char* name, std::uint32_t otherwise) {
 /// ZENT_TEST_NAMES plays this with more than a quick run has time for: with a million names the
 /// memory doesn't grow either.
 TEST(ThreadsTest, TicketsBringAnyNumberOfNamesOfTheirOwn) {
-    const ScratchPreferences scratch;
+    const ScratchUser scratch;
     constexpr std::uint32_t namesOfTicket = 250;
     const std::uint32_t quarter =
         numberFromEnvironment("ZENT_TEST_NAMES", 4000) / namesOfTicket / 4;
@@ -184,7 +181,7 @@ TEST(ThreadsTest, TicketsBringAnyNumberOfNamesOfTheirOwn) {
 
 /// ZENT_TEST_EXITS plays this more often than a quick run has time for.
 TEST(ThreadsDeathTest, TheProcessMayEndDuringCalls) {
-    const ScratchPreferences scratch;
+    const ScratchUser scratch;
     const std::uint32_t exits = numberFromEnvironment("ZENT_TEST_EXITS", 12);
     for (std::uint32_t i = 0; i < exits; ++i) {
         EXPECT_EXIT(endDuringCalls(i), testing::ExitedWithCode(0), "");
@@ -192,7 +189,7 @@ TEST(ThreadsDeathTest, TheProcessMayEndDuringCalls) {
 }
 
 TEST(ThreadsTest, SessionsOfEightThreadsDontDisturbEachOther) {
-    const ScratchPreferences scratch;
+    const ScratchUser scratch;
     const std::string ticket = readTestFile("../examples/exception-pages-with-inserts.xml");
     EXPECT_EQ(
         onEightThreads(8, [&](std::uint32_t number,

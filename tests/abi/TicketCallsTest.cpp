@@ -1,7 +1,6 @@
 #include <functional>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "abi/MessageBoxes.h"
 #include "abi/Session.h"

@@ -10,7 +10,7 @@
 #include "support/DialogUser.h"
 #include "support/ListText.h"
 #include "support/OpenDialog.h"
-#include "support/ScratchPreferences.h"
+#include "support/ScratchUser.h"
 #include "support/Screenshots.h"
 
 namespace zent::test {
@@ -49,7 +49,7 @@ public:
     const std::vector<ShownBox>& boxes() const { return m_boxes.shown(); }
 
 private:
-    ScratchPreferences m_preferences;
+    ScratchUser m_preferences;
     BoxCapture m_boxes;
     ZentSessionType m_handle = nullptr;
 };

@@ -1,9 +1,11 @@
 #include "platform/CodePage.h"
 
-#include <gtest/gtest.h>
+#include "support/Testing.h"
 
-namespace zent::platform {
+namespace zent::test {
 namespace {
+
+using namespace platform;
 
 TEST(CodePage, KeepsWhatTheCodePageHas) {
     for (const char* text : {"", "plain ASCII\r\n", "gr\xC3\xBC\xC3\x9F"}) {
@@ -15,4 +17,4 @@ TEST(CodePage, KeepsWhatTheCodePageHas) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

@@ -1,13 +1,12 @@
 #include "platform/DialogTemplate.h"
 
-#include <gtest/gtest.h>
-
 #include "support/TemplateBuilder.h"
+#include "support/Testing.h"
 
-namespace zent::platform {
+namespace zent::test {
 namespace {
 
-using test::TemplateBuilder;
+using namespace platform;
 
 std::vector<std::byte> sample() {
     // Titles of odd and even lengths and creation data of any length: items begin at multiples
@@ -54,4 +53,4 @@ TEST(DialogTemplate, RefusesWhatEndsEarlyAndTheExtendedForm) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

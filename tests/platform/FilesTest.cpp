@@ -1,15 +1,14 @@
 #include "platform/Files.h"
 
 #include <span>
-#include <string>
 
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
 #include "ocore/Resources/File.h"
+#include "support/LibraryTesting.h"
 
-namespace zent::platform {
+namespace zent::test {
 namespace {
+
+using namespace platform;
 
 CXString temporary(const char16_t* name) { return CXString(testing::TempDir().c_str()) + name; }
 
@@ -87,4 +86,4 @@ TEST(Files, DriverDirectoryEndsInASeparator) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

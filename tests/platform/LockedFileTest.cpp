@@ -2,14 +2,13 @@
 
 #include <thread>
 
-#include <gtest/gtest.h>
-
+#include "support/LibraryTesting.h"
 #include "support/ScratchFolder.h"
 
-namespace zent::platform {
+namespace zent::test {
 namespace {
 
-using test::ScratchFolder;
+using namespace platform;
 
 bool replace(const CXString& path, std::string_view content) {
     const auto file = LockedFile::lock(path);
@@ -77,4 +76,4 @@ TEST(LockedFile, KindsOfFiles) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

@@ -1,15 +1,14 @@
 #include "platform/MemoryProbe.h"
 
 #include <atomic>
-#include <cstdint>
-#include <memory>
 #include <thread>
-#include <vector>
 
-#include <gtest/gtest.h>
+#include "support/Testing.h"
 
-namespace zent::platform {
+namespace zent::test {
 namespace {
+
+using namespace platform;
 
 const void* at(std::uintptr_t address) {
     return reinterpret_cast<const void*>(address); // NOLINT(performance-no-int-to-ptr)
@@ -65,4 +64,4 @@ TEST(MemoryProbe, LeavesOtherThreadsWritesAlone) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

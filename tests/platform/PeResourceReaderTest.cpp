@@ -1,23 +1,15 @@
 #include "platform/PeResourceReader.h"
 
-#include <algorithm>
-#include <optional>
-#include <string>
-
-#include <gtest/gtest.h>
-
 #include "ocore/Resources/File.h"
-#include "platform/Files.h"
 #include "platform/PeImage.h"
 #include "platform/ResourceModule.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 
-namespace zent::platform {
+namespace zent::test {
 namespace {
 
-using test::PeImage;
-using test::put16;
-using test::put32;
+using namespace platform;
+
 using File = std::vector<std::uint8_t>;
 
 std::optional<PeResourceReader> open(const File& file) {
@@ -91,7 +83,7 @@ TEST(PeResourceReader, RefusesFilesThatAreBrokenAtTheTop) {
     const auto endOfSection =
         PeImage::resourceAddress + static_cast<std::uint32_t>(whole.size()) - PeImage::resources;
     for (const auto& [what, put, place, value] :
-         test::Rows<const char*, decltype(&put16), std::size_t, std::uint32_t>{
+         Rows<const char*, decltype(&put16), std::size_t, std::uint32_t>{
              {"no DOS signature", put16, 0, 0x5A4E},
              {"PE header outside", put32, 0x3C, 0xFFFFFFF0},
              {"no PE signature", put32, 0x3C, 0x44},
@@ -128,7 +120,7 @@ TEST(PeResourceReader, FindsNothingWhereTheTreeIsBroken) {
     constexpr std::uint32_t data = language + 8;
     constexpr std::uint32_t directory = 0x80000000;
     for (const auto& [what, place, value, found] :
-         test::Rows<const char*, std::size_t, std::uint32_t, const char*>{
+         Rows<const char*, std::size_t, std::uint32_t, const char*>{
              {"nothing", 0, 0x5A4D, "content"},
              {"another type", type, 11, "-"},
              {"a type's name in place of its number", type, directory | 10, "-"},
@@ -157,7 +149,7 @@ TEST(PeResourceReader, FindsNothingWhereTheTreeIsBroken) {
 }
 
 TEST(PeResourceReader, FindsNoStringThatRunsOutOfItsBlock) {
-    for (const auto& [length, block] : test::Rows<std::uint32_t, std::vector<std::uint8_t>>{
+    for (const auto& [length, block] : Rows<std::uint32_t, std::vector<std::uint8_t>>{
              {0, {}},
              {0, {1}},
              {0, {1, 0}},
@@ -239,4 +231,4 @@ TEST(PeResourceReader, AgreesWithTheSystemOnTheResourceLibrary) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

@@ -1,19 +1,17 @@
 #include "platform/PreferenceStore.h"
 
-#include <string>
-
-#include <gtest/gtest.h>
-
 #include "platform/CodePage.h"
-#include "support/Rows.h"
-#include "support/ScratchPreferences.h"
+#include "support/ScratchUser.h"
+#include "support/Testing.h"
 
-namespace zent::platform {
+namespace zent::test {
 namespace {
+
+using namespace platform;
 
 class PreferenceStoreTest : public testing::Test {
 protected:
-    const test::ScratchPreferences m_scratch;
+    const ScratchUser m_scratch;
 
     static std::span<const std::byte> bytes(const std::string& content) {
         return std::as_bytes(std::span(content));
@@ -43,7 +41,7 @@ TEST_F(PreferenceStoreTest, KeepsTypesAndBytes) {
         all[i] = static_cast<char>(i * 31 / 7);
     }
     // Each takes the place of the one before.
-    for (const auto& [type, content] : test::Rows<std::uint32_t, std::string>{
+    for (const auto& [type, content] : Rows<std::uint32_t, std::string>{
              {registryType::text, std::string("a\0\xE9\0", 4)},
              {registryType::text, ""},
              {registryType::text, std::string("e\0n\0d\0\0\0", 8)},
@@ -117,4 +115,4 @@ TEST_F(PreferenceStoreTest, TellsMissingKeysFromMissingValues) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

@@ -4,13 +4,12 @@
 #include <fstream>
 #include <thread>
 
-#include <gtest/gtest.h>
+#include "support/LibraryTesting.h"
 
-#include "PrintText.h"
-#include "support/Rows.h"
-
-namespace zent::platform {
+namespace zent::test {
 namespace {
+
+using namespace platform;
 
 TEST(System, ReadsIntegersFromProfileFiles) {
     const std::filesystem::path path =
@@ -29,8 +28,7 @@ TEST(System, ReadsIntegersFromProfileFiles) {
                            "[Debug2]\n"
                            "thread=4\n";
     const CXString file(path.string().c_str());
-    for (const auto& [section, key, value] :
-         test::Rows<const char16_t*, const char16_t*, std::int32_t>{
+    for (const auto& [section, key, value] : Rows<const char16_t*, const char16_t*, std::int32_t>{
              {u"debug", u"Errors", 5},
              {u"DEBUG", u"eRRORS", 5},
              {u"debug", u"spaced", 17},
@@ -62,4 +60,4 @@ TEST(System, NamesErrorsThreadsAndTypes) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

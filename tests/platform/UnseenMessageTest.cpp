@@ -1,19 +1,17 @@
 #include "platform/UnseenMessage.h"
 
-#include <string>
+#include "support/Testing.h"
 
-#include <gtest/gtest.h>
-
-#include "support/Rows.h"
-
-namespace zent::platform {
+namespace zent::test {
 namespace {
+
+using namespace platform;
 
 TEST(UnseenMessage, IsPrintedAndRefusesWhatItOffers) {
     const std::string rule(72, '-');
     const std::string noDisplay = "\nThere is no display to ask on: taken as ";
     for (const auto& [flags, icon, answer, taken] :
-         test::Rows<std::uint32_t, const char*, std::int32_t, const char*>{
+         Rows<std::uint32_t, const char*, std::int32_t, const char*>{
              {0, "message", 1, ""},                 // OK
              {16 + 8192, "error", 1, ""},           // whatever else is set
              {48 + 1, "warning", 2, "Cancel"},      // OK, Cancel
@@ -32,4 +30,4 @@ TEST(UnseenMessage, IsPrintedAndRefusesWhatItOffers) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

@@ -1,14 +1,14 @@
 #include "platform/Utf8.h"
 
-#include <gtest/gtest.h>
+#include "support/Testing.h"
 
-#include "support/Rows.h"
-
-namespace zent::platform {
+namespace zent::test {
 namespace {
 
+using namespace platform;
+
 TEST(Utf8, IsConvertedAndWhatIsNoneReplaced) {
-    for (const auto& [narrow, wide] : test::Rows<const char*, const char16_t*>{
+    for (const auto& [narrow, wide] : Rows<const char*, const char16_t*>{
              {"\x7F\xC2\x80\xDF\xBF", u"\u007F\u0080\u07FF"},
              {"\xE0\xA0\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBF", u"\u0800\uD7FF\uE000\uFFFF"},
              {"\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", u"\U00010000\U0010FFFF"},
@@ -17,7 +17,7 @@ TEST(Utf8, IsConvertedAndWhatIsNoneReplaced) {
         EXPECT_EQ(fromUtf8(narrow), wide) << narrow;
         EXPECT_EQ(toUtf8(wide), narrow) << narrow;
     }
-    for (const auto& [narrow, wide] : test::Rows<const char*, const char16_t*>{
+    for (const auto& [narrow, wide] : Rows<const char*, const char16_t*>{
              {"a\x80z", u"a\uFFFDz"},                           // no start
              {"a\xFFz", u"a\uFFFDz"},                           // never a byte of UTF-8
              {"\xC0\xAF", u"\uFFFD\uFFFD"},                     // overlong, 2 bytes
@@ -42,4 +42,4 @@ TEST(Utf8, IsConvertedAndWhatIsNoneReplaced) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

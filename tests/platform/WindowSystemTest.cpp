@@ -2,28 +2,28 @@
 
 #include <cstdlib>
 #include <stdexcept>
-#include <utility>
 
 #include <gmock/gmock.h>
 
 #include "platform/SampleDialog.h"
 #include "support/DialogUser.h"
+#include "support/LibraryTesting.h"
 #include "support/OpenDialog.h"
-#include "support/Rows.h"
 #include "support/ScratchFolder.h"
 #include "support/Screenshots.h"
 #include "support/TemplateBuilder.h"
 
 // What each adapter of the window system has to do, whichever toolkit is below.
 
-namespace zent::platform {
+namespace zent::test {
 namespace {
 
-using namespace test;
-using namespace test::sample;
-using test::user::Key;
+using namespace platform;
+
+using namespace sample;
 using testing::EndsWith;
 using testing::HasSubstr;
+using user::Key;
 
 class WindowSystemTest : public testing::Test {
 protected:
@@ -668,4 +668,4 @@ TEST_F(WindowSystemTest, RefusesBrokenTemplates) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

@@ -1,11 +1,6 @@
-#include <algorithm>
 #include <iterator>
 #include <map>
 #include <set>
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "ocore/Attributes/IppList.h"
 #include "ocore/Capabilities/Capabilities.h"
@@ -17,9 +12,8 @@
 #include "ocore/Models/PrinterTables.h"
 #include "ocore/OrdoParse/OrdoCategories.h"
 #include "resources/ResourceIds.h"
-#include "resources/UseResourceLibrary.h"
 #include "resources/ids.h"
-#include "support/ListText.h"
+#include "support/LibraryTesting.h"
 #include "support/TestFile.h"
 
 namespace zent::test {

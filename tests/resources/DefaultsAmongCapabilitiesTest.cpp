@@ -1,16 +1,10 @@
-#include <algorithm>
 #include <set>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "ocore/Capabilities/Capabilities.h"
 #include "ocore/Checking/SettingsValidator.h"
 #include "ocore/Printer/PrinterDefaults.h"
-#include "resources/UseResourceLibrary.h"
-#include "support/ListText.h"
+#include "support/LibraryTesting.h"
 #include "support/ProblemText.h"
-#include "support/Rows.h"
 
 namespace zent::test {
 namespace {

@@ -1,11 +1,8 @@
-#include <algorithm>
 #include <map>
 
-#include <gtest/gtest.h>
-
 #include "platform/DialogTemplate.h"
-#include "resources/UseResourceLibrary.h"
 #include "resources/ids.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

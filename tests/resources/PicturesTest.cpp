@@ -1,13 +1,9 @@
-#include <algorithm>
 #include <map>
 #include <set>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "ocore/FeatureSettings/FeatureValueTable.h"
 #include "platform/BoundedBytes.h"
-#include "resources/UseResourceLibrary.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

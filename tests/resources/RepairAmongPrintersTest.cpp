@@ -1,10 +1,7 @@
-#include <gtest/gtest.h>
-
 #include "ocore/Capabilities/Capabilities.h"
 #include "ocore/Checking/SettingsValidator.h"
 #include "ocore/Printer/PrinterDefaults.h"
 #include "ocore/Repair/TicketRepair.h"
-#include "resources/UseResourceLibrary.h"
 #include "support/OrdoDocument.h"
 #include "support/ProblemText.h"
 #include "support/TestFile.h"

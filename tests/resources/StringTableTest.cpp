@@ -1,14 +1,10 @@
 #include <cctype>
 #include <filesystem>
 #include <map>
-#include <string>
 
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
 #include "resources/ResourceIds.h"
-#include "resources/UseResourceLibrary.h"
 #include "resources/ids.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

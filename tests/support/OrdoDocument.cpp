@@ -2,14 +2,8 @@
 
 #include "ocore/AnlXlate/AnlTranslatorForXml.h"
 #include "ocore/AnlXlate/OrdoDtd.h"
-#include "platform/Files.h"
 
 namespace zent::test {
-
-CXString programFolder() {
-    const CXString path(platform::getModulePath());
-    return path.left(path.findLast(platform::pathSeparator) + 1);
-}
 
 void useOrdoDtd() { ordoDtd::setDirectory(programFolder()); }
 

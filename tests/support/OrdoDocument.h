@@ -1,16 +1,11 @@
 #pragma once
 
-#include <string>
-#include <string_view>
-
-#include "ocore/Attributes/AttrNodeList.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 
-/// The folder of the test program, where the document type definition lies too; with a separator.
-CXString programFolder();
-/// Points the ordo translator there.
+/// Points the ordo translator to the document type definition beside the test program.
 void useOrdoDtd();
 
 /// A ticket around what stands in the root, or in its job template category.

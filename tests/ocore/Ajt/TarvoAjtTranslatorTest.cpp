@@ -1,19 +1,10 @@
 #include "ocore/Ajt/TarvoAjtTranslator.h"
 
-#include <algorithm>
-#include <string>
-
-#include <gtest/gtest.h>
-
 #include "ocore/Capabilities/Capabilities.h"
-#include "ocore/Faults/Exceptions.h"
 #include "ocore/FeatureSettings/FeatureTable.h"
 #include "ocore/FeatureSettings/FeatureValueTable.h"
 #include "ocore/Printer/CreateStreamTranslator.h"
-#include "resources/UseResourceLibrary.h"
-#include "support/ListText.h"
 #include "support/OrdoDocument.h"
-#include "support/Rows.h"
 #include "support/TestFile.h"
 
 namespace zent::test {

@@ -1,10 +1,5 @@
-#include <string>
-
-#include <gtest/gtest.h>
-
 #include "ocore/AnlXlate/AnlTranslatorForXml.h"
 #include "ocore/AnlXlate/OrdoDtd.h"
-#include "support/ListText.h"
 #include "support/OrdoDocument.h"
 #include "support/ScratchFolder.h"
 

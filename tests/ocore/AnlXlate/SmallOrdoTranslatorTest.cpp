@@ -1,11 +1,5 @@
 #include "ocore/AnlXlate/AnlTranslatorForXml.h"
-
-#include <string>
-
-#include <gtest/gtest.h>
-
-#include "support/ListText.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

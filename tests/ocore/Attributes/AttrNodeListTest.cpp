@@ -1,11 +1,6 @@
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
 #include "ocore/Attributes/IppList.h"
 #include "ocore/Attributes/PrimitiveInteger.h"
-#include "support/ListText.h"
-#include "support/Raised.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

@@ -1,17 +1,10 @@
-#include <vector>
-
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
 #include "ocore/Attributes/AttrValueFactory.h"
 #include "ocore/Attributes/IppBoolean.h"
 #include "ocore/Attributes/IppList.h"
 #include "ocore/Attributes/IppNull.h"
 #include "ocore/Attributes/PrimitiveInteger.h"
 #include "ocore/Attributes/PrimitiveString.h"
-#include "support/ListText.h"
-#include "support/Raised.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

@@ -1,12 +1,8 @@
 #include "ocore/Capabilities/Capabilities.h"
 
-#include <string>
-
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include "resources/UseResourceLibrary.h"
-#include "support/Raised.h"
+#include "support/LibraryTesting.h"
 #include "support/TraceCapture.h"
 
 namespace zent::test {

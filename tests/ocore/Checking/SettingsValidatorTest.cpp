@@ -1,12 +1,9 @@
 #include "ocore/Checking/SettingsValidator.h"
 
-#include <gtest/gtest.h>
-
 #include "ocore/Checking/PrivateCapabilityCheck.h"
-#include "resources/UseResourceLibrary.h"
+#include "support/LibraryTesting.h"
 #include "support/ListCapabilities.h"
 #include "support/ProblemText.h"
-#include "support/Rows.h"
 #include "support/TraceCapture.h"
 
 namespace zent::test {

@@ -1,10 +1,7 @@
 #include "ocore/Checking/ValueComparison.h"
 
-#include <gtest/gtest.h>
-
 #include "ocore/Attributes/EmbeddedList.h"
-#include "support/ListText.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

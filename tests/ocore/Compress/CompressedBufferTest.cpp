@@ -1,13 +1,9 @@
 #include "ocore/Compress/CompressedBuffer.h"
 
-#include <string>
-
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <zlib.h>
 
-#include "support/Raised.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

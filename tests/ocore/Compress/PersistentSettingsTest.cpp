@@ -1,19 +1,11 @@
 #include "ocore/Compress/PersistentSettings.h"
 
-#include <algorithm>
-#include <string>
-
-#include <gtest/gtest.h>
-
 #include "ocore/Compress/CompressedBuffer.h"
-#include "ocore/Faults/Exceptions.h"
 #include "ocore/FeatureSettings/FeatureIdentifier.h"
 #include "ocore/FeatureSettings/FeatureValueDataBase.h"
 #include "ocore/User/User.h"
-#include "support/ListText.h"
 #include "support/OrdoDocument.h"
-#include "support/Rows.h"
-#include "support/ScratchPreferences.h"
+#include "support/ScratchUser.h"
 #include "support/TestFile.h"
 
 namespace zent::test {
@@ -58,7 +50,7 @@ protected:
     }
 
 private:
-    ScratchPreferences m_preferences;
+    ScratchUser m_preferences;
 };
 
 void addValue(AttrNodeList& list, const FeatureValueInfo& row, const AttrID& name) {

@@ -1,16 +1,11 @@
 #include "ocore/Faults/OwnedCriticalResource.h"
 
-#include <memory>
-#include <string>
 #include <thread>
-#include <vector>
 
-#include <gtest/gtest.h>
-
-#include "ocore/Faults/Exceptions.h"
 #include "ocore/Faults/Trace.h"
+#include "support/LibraryTesting.h"
 
-namespace zent {
+namespace zent::test {
 namespace {
 
 std::vector<std::u16string> traced;
@@ -91,4 +86,4 @@ TEST(Trace, TakesWhatExceptionsSay) {
 }
 
 } // namespace
-} // namespace zent
+} // namespace zent::test

@@ -1,15 +1,9 @@
 #include "ocore/Faults/TarvoException.h"
 
-#include <memory>
 #include <stdexcept>
-#include <string>
 
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
-#include "ocore/Faults/Exceptions.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

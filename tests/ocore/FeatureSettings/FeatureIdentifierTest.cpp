@@ -1,8 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "ocore/FeatureSettings/FeatureIdentifier.h"
-#include "support/Raised.h"
-#include "support/Rows.h"
+
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

@@ -1,9 +1,6 @@
-#include <gtest/gtest.h>
-
-#include "ocore/Faults/Exceptions.h"
 #include "ocore/FeatureSettings/FeatureSettings.h"
-#include "support/ListText.h"
-#include "support/Rows.h"
+
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

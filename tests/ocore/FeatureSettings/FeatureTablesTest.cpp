@@ -1,10 +1,3 @@
-#include <algorithm>
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
 #include "ocore/FeatureSettings/CapabilityDataBase.h"
 #include "ocore/FeatureSettings/CapabilityIdentifier.h"
 #include "ocore/FeatureSettings/CapabilityTable.h"
@@ -14,9 +7,7 @@
 #include "ocore/FeatureSettings/FeatureValueDataBase.h"
 #include "ocore/FeatureSettings/FeatureValueTable.h"
 #include "ocore/FeatureSettings/StockSize.h"
-#include "resources/UseResourceLibrary.h"
-#include "support/Raised.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

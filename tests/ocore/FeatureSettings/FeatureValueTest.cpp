@@ -1,15 +1,9 @@
-#include <string>
-
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
+#include "ocore/FeatureSettings/FeatureValue.h"
 #include "ocore/Attributes/IppBoolean.h"
 #include "ocore/Attributes/PrimitiveInteger.h"
 #include "ocore/Attributes/PrimitiveString.h"
-#include "ocore/FeatureSettings/FeatureValue.h"
 #include "ocore/FeatureSettings/FeatureValueDataBase.h"
-#include "support/Raised.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

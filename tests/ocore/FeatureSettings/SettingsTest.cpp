@@ -1,11 +1,6 @@
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
-#include "ocore/Attributes/PrimitiveString.h"
-#include "ocore/Faults/Exceptions.h"
 #include "ocore/FeatureSettings/Settings.h"
-#include "support/ListText.h"
-#include "support/Rows.h"
+#include "ocore/Attributes/PrimitiveString.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

@@ -1,9 +1,6 @@
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
 #include "ocore/FeatureSettings/StockSize.h"
-#include "resources/UseResourceLibrary.h"
-#include "support/Rows.h"
+
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

@@ -1,12 +1,6 @@
-#include <algorithm>
-#include <string>
-
-#include <gtest/gtest.h>
-
-#include "ocore/Models/PrinterModel.h"
 #include "ocore/Models/PrinterTables.h"
-#include "resources/UseResourceLibrary.h"
-#include "support/Raised.h"
+#include "ocore/Models/PrinterModel.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

@@ -1,12 +1,8 @@
-#include <string>
-
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "ocore/AnlXlate/OrdoDtd.h"
 #include "ocore/OrdoParse/CompiledDtd.h"
 #include "ocore/OrdoParse/ZNXMLInterface.h"
-#include "support/ListText.h"
 #include "support/OrdoDocument.h"
 #include "support/ScratchFolder.h"
 

@@ -1,17 +1,13 @@
 #include <span>
-#include <string>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "ocore/AnlXlate/OrdoDtd.h"
 #include "ocore/OrdoParse/TarvoXmlDataStream.h"
 #include "ocore/OrdoParse/TarvoXmlParser.h"
 #include "ocore/OrdoParse/XmlLimits.h"
 #include "ocore/OrdoParse/ZNXMLInterface.h"
-#include "support/ListText.h"
 #include "support/OrdoDocument.h"
-#include "support/Rows.h"
 #include "support/ScratchFolder.h"
 
 namespace zent::test {

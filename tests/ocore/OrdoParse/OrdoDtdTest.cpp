@@ -1,13 +1,7 @@
 #include <set>
-#include <string>
-#include <utility>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "ocore/FeatureSettings/FeatureSettings.h"
 #include "ocore/OrdoParse/OrdoCategories.h"
-#include "support/ListText.h"
 #include "support/OrdoDocument.h"
 #include "support/TestFile.h"
 

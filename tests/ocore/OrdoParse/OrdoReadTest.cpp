@@ -1,13 +1,5 @@
-#include <string>
-
-#include <gtest/gtest.h>
-
 #include "ocore/AnlXlate/AnlTranslatorForXml.h"
-#include "ocore/Faults/Exceptions.h"
-#include "support/ListText.h"
 #include "support/OrdoDocument.h"
-#include "support/Raised.h"
-#include "support/Rows.h"
 
 namespace zent::test {
 namespace {

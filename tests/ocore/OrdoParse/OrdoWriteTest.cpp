@@ -1,13 +1,10 @@
 #include <map>
-#include <string>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "ocore/Attributes/IppNull.h"
 #include "ocore/Attributes/PrimitiveString.h"
 #include "ocore/OrdoParse/OrdoCategories.h"
-#include "support/ListText.h"
 #include "support/OrdoDocument.h"
 #include "support/TestFile.h"
 

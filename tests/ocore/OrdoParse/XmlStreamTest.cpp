@@ -1,14 +1,8 @@
-#include <optional>
-#include <string>
-
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "ocore/AnlXlate/XmlForms.h"
 #include "ocore/OrdoParse/TarvoXmlFile.h"
-#include "support/ListText.h"
 #include "support/OrdoDocument.h"
-#include "support/Rows.h"
 #include "support/ScratchFolder.h"
 
 namespace zent::test {

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "ocore/OrdoParse/ZNXMLInterface.h"
 #include "support/OrdoDocument.h"
 

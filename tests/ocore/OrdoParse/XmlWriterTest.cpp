@@ -1,15 +1,12 @@
 #include <span>
-#include <string>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "ocore/OrdoParse/OrdoParseException.h"
 #include "ocore/OrdoParse/TarvoXmlParser.h"
 #include "ocore/OrdoParse/ZNXMLInterface.h"
 #include "ocore/Resources/Stream.h"
 #include "support/OrdoDocument.h"
-#include "support/Rows.h"
 
 namespace zent::test {
 namespace {

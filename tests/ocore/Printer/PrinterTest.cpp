@@ -1,14 +1,10 @@
 #include "ocore/Printer/NonDriverBasedPrinter.h"
 
-#include <string>
-
-#include <gtest/gtest.h>
-
 #include "ocore/Compress/PersistentSettings.h"
 #include "ocore/Resources/Stream.h"
 #include "ocore/User/User.h"
-#include "resources/UseResourceLibrary.h"
-#include "support/ScratchPreferences.h"
+#include "support/LibraryTesting.h"
+#include "support/ScratchUser.h"
 #include "zent27.h"
 
 namespace zent::test {
@@ -16,7 +12,7 @@ namespace {
 
 TEST(PrinterTest, TheUserGoesIntoAStateBlob) {
     useResourceLibrary();
-    const ScratchPreferences preferences;
+    const ScratchUser preferences;
     const NonDriverBasedPrinter made(1, 2, 1, CXString(u"of my own"), false);
     made.getUserPreferences()->setBooleanPreference(u"JOB_NAME_PREFERENCE", false);
     PersistentSettings state;

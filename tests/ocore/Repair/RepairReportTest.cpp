@@ -1,16 +1,13 @@
 #include "ocore/Repair/RepairReport.h"
 
-#include <gtest/gtest.h>
-
 #include "ocore/Checking/SettingsValidator.h"
-#include "ocore/Faults/Exceptions.h"
 #include "ocore/Repair/TicketRepair.h"
 #include "plugin_ui/Reports/BoxCapture.h"
 #include "plugin_ui/Reports/CurrentWindowSystem.h"
 #include "plugin_ui/Reports/JobTicketUserMessage.h"
 #include "plugin_ui/Reports/SettingsProblemReporter.h"
-#include "resources/UseResourceLibrary.h"
 #include "resources/ids.h"
+#include "support/LibraryTesting.h"
 #include "support/ListCapabilities.h"
 
 namespace zent::test {

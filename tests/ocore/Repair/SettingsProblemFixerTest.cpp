@@ -1,7 +1,5 @@
 #include "ocore/Repair/SettingsProblemFixer.h"
 
-#include <gtest/gtest.h>
-
 #include "ocore/Attributes/EmbeddedList.h"
 #include "ocore/Checking/FailedEmbeddedSpacesCapability.h"
 #include "ocore/Checking/FailedRangeCapability.h"
@@ -9,11 +7,9 @@
 #include "ocore/Checking/SettingsValidator.h"
 #include "ocore/Checking/UnsupportedAttribute.h"
 #include "ocore/Checking/UnsupportedValue.h"
-#include "ocore/Faults/Exceptions.h"
-#include "resources/UseResourceLibrary.h"
+#include "support/LibraryTesting.h"
 #include "support/ListCapabilities.h"
 #include "support/ProblemText.h"
-#include "support/Raised.h"
 
 namespace zent::test {
 namespace {

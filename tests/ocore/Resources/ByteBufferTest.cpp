@@ -1,13 +1,8 @@
 #include "ocore/Resources/ByteBuffer.h"
 
-#include <string>
+#include "support/LibraryTesting.h"
 
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
-#include "support/Raised.h"
-
-namespace zent {
+namespace zent::test {
 namespace {
 
 ByteBuffer bytes(const std::string& content) { return {content.data(), content.size()}; }
@@ -38,15 +33,15 @@ TEST(ByteBuffer, TakesPartsOfItself) {
 // What the values look like in bytes is tested by the registry, which stores them.
 TEST(ByteBuffer, SaysHowManyBytesAreTooFew) {
     using TooFew = NotEnoughBytesForDesiredDataTypeException;
-    EXPECT_EQ(test::raised<TooFew>([] { bytes("abc").getAsLongValue(); }),
+    EXPECT_EQ(raised<TooFew>([] { bytes("abc").getAsLongValue(); }),
               "ByteBuffer::getAsLongValue(): Cannot convert to the desired data type because the "
               "size of the source buffer is too small (3 bytes)! It needs to be at least 4 "
               "bytes.\r\n");
-    EXPECT_EQ(test::raised<TooFew>([] { ByteBuffer().getAsBoolValue(); }),
+    EXPECT_EQ(raised<TooFew>([] { ByteBuffer().getAsBoolValue(); }),
               "ByteBuffer::getAsBoolValue(): Cannot convert to the desired data type because the "
               "size of the source buffer is too small (0 bytes)! It needs to be at least 1 "
               "bytes.\r\n");
 }
 
 } // namespace
-} // namespace zent
+} // namespace zent::test

@@ -1,9 +1,6 @@
 #include "ocore/Resources/File.h"
 
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
-#include "support/Raised.h"
+#include "support/LibraryTesting.h"
 #include "support/ScratchFolder.h"
 
 namespace zent::test {

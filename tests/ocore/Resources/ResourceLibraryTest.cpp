@@ -1,13 +1,7 @@
 #include "ocore/Resources/ResourceLibrary.h"
 
-#include <memory>
-
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
-#include "resources/UseResourceLibrary.h"
 #include "resources/ids.h"
-#include "support/Raised.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

@@ -1,10 +1,5 @@
 #include "ocore/Stock/MediaPreferences.h"
 
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
-#include "resources/UseResourceLibrary.h"
-#include "support/ListText.h"
 #include "support/OrdoDocument.h"
 #include "support/ScratchFolder.h"
 #include "support/TestFile.h"

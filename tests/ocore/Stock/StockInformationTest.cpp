@@ -1,16 +1,10 @@
 #include "ocore/Stock/StockInformation.h"
 
-#include <array>
 #include <thread>
 
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
 #include "ocore/Attributes/IppList.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
-#include "resources/UseResourceLibrary.h"
-#include "support/ListText.h"
-#include "support/Raised.h"
+#include "support/LibraryTesting.h"
 #include "support/ScratchFolder.h"
 
 namespace zent::test {

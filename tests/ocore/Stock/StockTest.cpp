@@ -1,16 +1,11 @@
 #include "ocore/Stock/StockList.h"
 
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
 #include "plugin_ui/Reports/BoxCapture.h"
 #include "plugin_ui/Reports/CurrentWindowSystem.h"
 #include "plugin_ui/Reports/SettingsProblemReporter.h"
-#include "resources/UseResourceLibrary.h"
 #include "resources/ids.h"
-#include "support/ListText.h"
-#include "support/Raised.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

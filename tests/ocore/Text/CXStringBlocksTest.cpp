@@ -1,17 +1,12 @@
-#include <algorithm>
-#include <cstdint>
 #include <cstring>
 #include <set>
 #include <thread>
-#include <vector>
 
-#include <gtest/gtest.h>
-
-#include "ocore/Text/CXString.h"
 #include "ocore/Text/StringBlock.h"
 #include "ocore/Text/StringBlockPool.h"
+#include "support/LibraryTesting.h"
 
-namespace zent {
+namespace zent::test {
 namespace {
 
 TEST(StringBlock, HasTheSmallestCapacityOfItsClasses) {
@@ -79,4 +74,4 @@ TEST(CXStringBlocks, AreSharedAndChangedFromSeveralThreads) {
 }
 
 } // namespace
-} // namespace zent
+} // namespace zent::test

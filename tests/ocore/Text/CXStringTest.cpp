@@ -1,17 +1,10 @@
 #include "ocore/Text/CXString.h"
 
-#include <string>
-
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
 #include "ocore/Text/FormatFakeModule.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 
-namespace zent {
+namespace zent::test {
 namespace {
-
-using test::Rows;
 
 const CXString madeBeforeMain(u"made while statics initialise");
 const CXString empty;
@@ -190,4 +183,4 @@ TEST(CXString, ReplacesAll) {
 }
 
 } // namespace
-} // namespace zent
+} // namespace zent::test

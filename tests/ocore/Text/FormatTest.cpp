@@ -3,19 +3,14 @@
 #include <cmath>
 #include <cstdio>
 #include <limits>
-#include <string>
-#include <vector>
 
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
 #include "ocore/Text/FormatFakeModule.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 
-namespace zent {
+namespace zent::test {
 namespace {
 
-void check(const test::Rows<CXString, const char16_t*>& rows) {
+void check(const Rows<CXString, const char16_t*>& rows) {
     for (const auto& [formatted, expected] : rows) {
         EXPECT_EQ(formatted, expected);
     }
@@ -217,4 +212,4 @@ TEST(FormatMessage, ThrowsALiteralOnFailure) {
 }
 
 } // namespace
-} // namespace zent
+} // namespace zent::test

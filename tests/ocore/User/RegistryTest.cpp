@@ -1,13 +1,7 @@
 #include "ocore/User/Registry.h"
 
-#include <string>
-
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
-#include "ocore/Faults/Exceptions.h"
-#include "support/Rows.h"
-#include "support/ScratchPreferences.h"
+#include "support/LibraryTesting.h"
+#include "support/ScratchUser.h"
 
 namespace zent::test {
 namespace {
@@ -17,7 +11,7 @@ constexpr const char16_t* name = u"name";
 
 class RegistryTest : public testing::Test {
 protected:
-    const ScratchPreferences m_scratch;
+    const ScratchUser m_scratch;
     const Registry m_registry{};
 
     std::string stored() const {

@@ -1,14 +1,8 @@
 #include "ocore/User/UserPreferences.h"
 
-#include <string>
-
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
 #include "ocore/User/User.h"
-#include "support/Raised.h"
-#include "support/Rows.h"
-#include "support/ScratchPreferences.h"
+#include "support/LibraryTesting.h"
+#include "support/ScratchUser.h"
 
 namespace zent::test {
 namespace {
@@ -33,7 +27,7 @@ protected:
                std::to_string(p.getToolBarPreference());
     }
 
-    const ScratchPreferences m_scratch;
+    const ScratchUser m_scratch;
     const UserPreferences m_preferences{u"A printer"};
     const Registry m_registry{};
     const CXString m_key = CXString(rootKey) + u"A printer";

@@ -1,11 +1,7 @@
 #include "ocore/User/User.h"
 
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
 #include "platform/UserIdentity.h"
-#include "support/Raised.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 #include "support/TraceCapture.h"
 
 namespace zent::test {

@@ -1,11 +1,8 @@
 #pragma once
 
-#include <cerrno>
 #include <cstdlib>
-#include <filesystem>
 #include <optional>
 #include <string>
-#include <system_error>
 
 namespace zent::test {
 
@@ -33,26 +30,6 @@ private:
 
     const char* m_name;
     std::optional<std::string> m_before;
-};
-
-/// A new folder in that of temporary files; gone, with all that is in it, with the object.
-class TemporaryFolder {
-public:
-    TemporaryFolder() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "zentXXXXXX").string();
-        if (mkdtemp(pattern.data()) == nullptr) {
-            throw std::system_error(errno, std::generic_category(), pattern);
-        }
-        m_path = pattern;
-    }
-    ~TemporaryFolder() { std::filesystem::remove_all(m_path); }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    const std::filesystem::path& path() const { return m_path; }
-
-private:
-    std::filesystem::path m_path;
 };
 
 } // namespace zent::test

@@ -2,15 +2,14 @@
 // the XML system starts. Each allocation fails in a process of its own.
 
 #include <cstdlib>
-#include <string>
 
-#include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include "support/AllocationFailure.h"
-#include "support/ScratchPreferences.h"
+#include "support/ScratchUser.h"
 #include "support/TestFile.h"
+#include "support/Testing.h"
 #include "zent27.h"
 
 namespace zent::test {
@@ -54,7 +53,7 @@ End failOnce(const std::string& ticket, std::uint32_t allocationsBefore) {
 
 /// ZENT_TEST_ALLOCATIONS is how many there are from one that fails to the next; 1 takes a while.
 TEST(FirstAllocationsTest, EachMayFailAndTheNextCallWorks) {
-    const ScratchPreferences scratch;
+    const ScratchUser scratch;
     const std::string ticket = readTestFile("../examples/exception-pages-with-inserts.xml");
     const char* const wanted = std::getenv("ZENT_TEST_ALLOCATIONS");
     const int step = wanted == nullptr ? 97 : std::atoi(wanted);

@@ -1,16 +1,13 @@
 #include "platform/Locale.h"
 
 #include <clocale>
-#include <cstdint>
 #include <filesystem>
 #include <fstream>
-#include <string>
 
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
 #include "ocore/User/User.h"
 #include "platform/posix/Environment.h"
+#include "support/LibraryTesting.h"
+#include "support/TemporaryFolder.h"
 
 // The leak checker asks. With LOCPATH set, the C library never frees its copy of the path; other
 // leaks of opening a locale count.
@@ -19,10 +16,11 @@ extern "C" [[gnu::visibility("default")]] const char* __lsan_default_suppression
 extern "C" const char* __lsan_default_suppressions() { return "leak:__argz_add_sep\n"; }
 // NOLINTEND(bugprone-reserved-identifier)
 
-namespace zent::platform {
+namespace zent::test {
 namespace {
 
-using test::Environment;
+using namespace platform;
+
 namespace fs = std::filesystem;
 
 /// A category of a compiled locale, as the C library maps it: a magic number, the number of values,
@@ -48,7 +46,7 @@ std::string asBytes(std::uint32_t number) {
 
 class LocaleTest : public testing::Test {
 protected:
-    const test::TemporaryFolder m_folder;
+    const TemporaryFolder m_folder;
     const Environment m_path{"LOCPATH", m_folder.path().string()};
     const Environment m_all{"LC_ALL", std::nullopt};
 
@@ -109,4 +107,4 @@ TEST_F(LocaleTest, KnowsNothingOfLocalesThatAreNotInstalled) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

@@ -2,11 +2,9 @@
 
 #include <cerrno>
 
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include "ocore/Stock/MediaPreferences.h"
-#include "resources/UseResourceLibrary.h"
 #include "support/OrdoDocument.h"
 #include "support/ScratchFolder.h"
 
@@ -28,11 +26,12 @@ int __wrap_stat(const char* path, struct stat* status) { // NOLINT
 }
 }
 
-namespace zent::platform {
+namespace zent::test {
 namespace {
 
+using namespace platform;
+
 namespace fs = std::filesystem;
-using test::ScratchFolder;
 
 bool replace(const CXString& path, std::string_view content) {
     const auto file = LockedFile::lock(path);
@@ -86,7 +85,7 @@ TEST(PosixLockedFile, WritesThroughNoPlantedLink) {
 }
 
 TEST(PosixLockedFile, WhatCantBeToldIsntTakenForMissing) {
-    test::useResourceLibrary();
+    useResourceLibrary();
     const ScratchFolder folder;
     folder.write("omedpref.omp", "<omediapref/>");
     const CXString name(folder.path().c_str());
@@ -97,8 +96,7 @@ TEST(PosixLockedFile, WhatCantBeToldIsntTakenForMissing) {
         EXPECT_EQ(getFileKind(folder.file("omedpref.omp")), FileKind::unknown);
         EXPECT_FALSE(file->replace({}));
         EXPECT_EQ(errno, error);
-        EXPECT_EQ(test::ordoFailure([&] { MediaPreferences preferences(name); }).substr(0, 3),
-                  "15:");
+        EXPECT_EQ(ordoFailure([&] { MediaPreferences preferences(name); }).substr(0, 3), "15:");
         injectedError = 0;
         EXPECT_EQ(folder.read("omedpref.omp"), "<omediapref/>");
     }
@@ -108,4 +106,4 @@ TEST(PosixLockedFile, WhatCantBeToldIsntTakenForMissing) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

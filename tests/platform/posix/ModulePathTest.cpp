@@ -1,20 +1,22 @@
 #include <filesystem>
-#include <string>
 
 #include <dlfcn.h>
-#include <gtest/gtest.h>
 
 #include "platform/Files.h"
 #include "platform/posix/Environment.h"
+#include "support/TemporaryFolder.h"
+#include "support/Testing.h"
 #include "zent27.h"
 
-namespace zent::platform {
+namespace zent::test {
 namespace {
+
+using namespace platform;
 
 namespace fs = std::filesystem;
 
 TEST(PosixModulePath, IsAsLongAsItIs) {
-    const test::TemporaryFolder scratch;
+    const TemporaryFolder scratch;
     const fs::path folder = scratch.path() / std::string(200, 'a') / std::string(200, 'b');
     fs::create_directories(folder);
     const fs::path companions = getDriverDirectory();
@@ -35,4 +37,4 @@ TEST(PosixModulePath, IsAsLongAsItIs) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

@@ -1,6 +1,3 @@
-#include <string>
-
-#include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -8,7 +5,7 @@
 #include "ocore/Compress/CompressedBuffer.h"
 #include "ocore/Compress/StateData.h"
 #include "ocore/Resources/ByteBuffer.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 #include "zent27.h"
 
 namespace zent::test {

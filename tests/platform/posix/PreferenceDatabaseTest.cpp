@@ -1,35 +1,32 @@
 // The preference store where it is a database: where it lies, who may read it, what happens when it
 // can't be used, and that processes don't get into each other's way.
 
-#include <array>
 #include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <string>
 #include <thread>
 
-#include <gtest/gtest.h>
 #include <sqlite3.h>
 #include <sys/stat.h>
 #include <sys/time.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "PrintText.h"
-#include "ocore/Faults/Exceptions.h"
 #include "ocore/User/Registry.h"
 #include "platform/PreferenceStore.h"
 #include "platform/posix/Environment.h"
 #include "plugin_ui/Reports/BoxCapture.h"
-#include "support/Raised.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
+#include "support/TemporaryFolder.h"
 #include "support/TraceCapture.h"
 #include "zent27.h"
 
-namespace zent::platform {
+namespace zent::test {
 namespace {
+
+using namespace platform;
 
 namespace fs = std::filesystem;
 
@@ -77,11 +74,11 @@ int read(std::u16string_view name, std::size_t size) {
 
 class PreferenceDatabaseTest : public testing::Test {
 protected:
-    const test::TemporaryFolder m_scratch;
+    const TemporaryFolder m_scratch;
     const fs::path m_configuration = m_scratch.path() / "not" / "there yet";
     const fs::path m_folder = m_configuration / "zent27";
     const fs::path m_file = m_folder / "preferences.sqlite";
-    const test::Environment m_variable{"XDG_CONFIG_HOME", m_configuration.string()};
+    const Environment m_variable{"XDG_CONFIG_HOME", m_configuration.string()};
 
     void writeFile(const std::string& content) const {
         fs::create_directories(m_folder);
@@ -144,15 +141,14 @@ void expectUnusable(const fs::path& file, const std::string& error, const std::s
     const Registry registry{};
     const std::string why = file.string() + ": " + reason + "\r\n";
     {
-        const test::TraceCapture trace;
+        const TraceCapture trace;
         EXPECT_EQ(registry.getLongValue(key, u"name", 5), 5);
-        EXPECT_TRUE(test::TraceCapture::text().find(file.string() + ": ") != std::string::npos)
-            << test::TraceCapture::text();
+        EXPECT_TRUE(TraceCapture::text().find(file.string() + ": ") != std::string::npos)
+            << TraceCapture::text();
     }
-    EXPECT_EQ(
-        test::raised<RegistryRequestException>([&] { registry.setLongValue(key, u"name", 5); }),
-        "Registry::setValue(): Call to RegCreateKeyEx(a\\key) failed with result of " + error +
-            ".\r\n" + why);
+    EXPECT_EQ(raised<RegistryRequestException>([&] { registry.setLongValue(key, u"name", 5); }),
+              "Registry::setValue(): Call to RegCreateKeyEx(a\\key) failed with result of " +
+                  error + ".\r\n" + why);
 }
 
 TEST_F(PreferenceDatabaseTest, IsLikeNoneToReadersWhenBroken) {
@@ -164,7 +160,7 @@ TEST_F(PreferenceDatabaseTest, IsLikeNoneToReadersWhenBroken) {
     laterFormat[47] = 9;
     const char* const noDatabase = "file is not a database";
     const char* const malformed = "database disk image is malformed";
-    for (const auto& [content, error, reason] : test::Rows<std::string, const char*, const char*>{
+    for (const auto& [content, error, reason] : Rows<std::string, const char*, const char*>{
              {std::string(5000, 'x'), "26 (0x1a)", noDatabase},
              {"short", "26 (0x1a)", noDatabase},
              {std::string(sound).replace(0, 6, "sqlite"), "26 (0x1a)", noDatabase},
@@ -192,7 +188,7 @@ TEST_F(PreferenceDatabaseTest, FailsWriterWhereItCannotBe) {
     ASSERT_EQ(fnOpenSession(ZENT_INTERFACE_VERSION, 6, ZENT_PDL_MONOCHROME_PCL,
                             ZENT_INSTRUCTIONS_BY_MODEL, 0, nullptr, 1, &session),
               ZENT_OK);
-    const test::BoxCapture boxes;
+    const BoxCapture boxes;
     EXPECT_EQ(fnSetPreferenceBoolValue(session, u"MINE", 1), ZENT_ERR_REGISTRY);
     ASSERT_EQ(boxes.shown().size(), 1U);
     EXPECT_GT(boxes.shown()[0].body.find(CXString(m_file.c_str()) + u": unable to open"), 0);
@@ -355,4 +351,4 @@ TEST_F(PreferenceDatabaseTest, WaitsForOtherProcesses) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

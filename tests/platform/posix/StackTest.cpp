@@ -2,14 +2,14 @@
 
 #include <cstring>
 
-#include <gtest/gtest.h>
 #include <pthread.h>
 #include <sys/mman.h>
 
 #include "plugin_ui/Reports/CurrentWindowSystem.h"
 #include "plugin_ui/Reports/UserMessage.h"
 #include "support/EveryCall.h"
-#include "support/ScratchPreferences.h"
+#include "support/LibraryTesting.h"
+#include "support/ScratchUser.h"
 
 namespace zent::test {
 namespace {
@@ -56,7 +56,7 @@ TEST(StackTest, NoCallTakesMoreThanTheHeaderSays) {
     GTEST_SKIP() << "a sanitizer needs a stack of its own size";
 #endif
     const WindowSystemReplacement none(nullptr); // dialogs have the stack that their system needs
-    const ScratchPreferences scratch;
+    const ScratchUser scratch;
     UserMessage::setPresenter([](platform::WindowHandle, std::u16string_view, std::u16string_view,
                                  std::uint32_t) { return messageAnswer::ok; });
     std::unique_ptr<Job> job;

@@ -1,12 +1,10 @@
 // A host that loads the library, uses it and unloads it, again and again.
 
-#include <string>
-
 #include <dlfcn.h>
-#include <gtest/gtest.h>
 
 #include "support/MemoryInUse.h"
 #include "support/TestFile.h"
+#include "support/Testing.h"
 #include "zent27.h"
 
 namespace zent::test {

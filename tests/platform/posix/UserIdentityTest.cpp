@@ -2,19 +2,18 @@
 
 #include <filesystem>
 
-#include <gtest/gtest.h>
 #include <pwd.h>
 #include <unistd.h>
 
-#include "PrintText.h"
 #include "ocore/User/User.h"
 #include "platform/posix/Environment.h"
 #include "platform/posix/UserFolders.h"
+#include "support/LibraryTesting.h"
 
-namespace zent::platform {
+namespace zent::test {
 namespace {
 
-using test::Environment;
+using namespace platform;
 
 TEST(PosixUserIdentity, ComesFromTheUserDatabase) {
     const passwd* entry = getpwuid(getuid());
@@ -53,4 +52,4 @@ TEST(PosixUserIdentity, FindsFoldersByTheConventions) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

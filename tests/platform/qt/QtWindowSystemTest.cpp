@@ -1,4 +1,3 @@
-#include <string>
 #include <thread>
 
 #include <QApplication>
@@ -13,22 +12,23 @@
 #include <QMimeData>
 #include <QTest>
 #include <QTextBrowser>
-#include <gtest/gtest.h>
 
 #include "platform/SampleDialog.h"
 #include "platform/WindowSystem.h"
 #include "support/DialogUser.h"
+#include "support/LibraryTesting.h"
 #include "support/OpenDialog.h"
 #include "support/ScratchFolder.h"
 #include "support/TemplateBuilder.h"
 
 // What the Windows dialog manager does by itself, and how the adapter lives in its host.
 
-namespace zent::platform {
+namespace zent::test {
 namespace {
 
-using namespace test;
-using test::user::Key;
+using namespace platform;
+
+using user::Key;
 
 constexpr std::uint32_t shown = TemplateBuilder::visible;
 constexpr std::uint32_t stop = shown | TemplateBuilder::tabStop;
@@ -227,4 +227,4 @@ TEST_F(QtWindowSystemTest, AsksForFiles) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

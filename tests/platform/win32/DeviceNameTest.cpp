@@ -1,14 +1,13 @@
 #include "platform/win32/DeviceName.h"
 
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
-#include "platform/Files.h"
 #include "platform/LockedFile.h"
+#include "support/LibraryTesting.h"
 #include "support/ScratchFolder.h"
 
-namespace zent::platform {
+namespace zent::test {
 namespace {
+
+using namespace platform;
 
 TEST(DeviceName, IsKnownInEachSpelling) {
     for (const char16_t* const path : {
@@ -73,7 +72,7 @@ TEST(DeviceName, IsKnownInEachSpelling) {
 }
 
 TEST(DeviceName, IsNeverOpened) {
-    const test::ScratchFolder folder;
+    const ScratchFolder folder;
     for (const CXString& path : {CXString(u"NUL"), CXString(u"nul.xml"), CXString(u"CONOUT$"),
                                  CXString(u"\\\\.\\NUL"), folder.file("NUL")}) {
         EXPECT_FALSE(OpenFile::openForReading(path)) << path.toNarrow();
@@ -86,4 +85,4 @@ TEST(DeviceName, IsNeverOpened) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

@@ -1,27 +1,24 @@
 // What the library loads comes from its own folder or the system's, and from nowhere else.
 
-#include <string>
-
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
-#include "platform/Files.h"
 #include "platform/win32/SystemLibrary.h"
 #include "platform/win32/WideText.h"
+#include "support/LibraryTesting.h"
 #include "zent27.h"
 
-namespace zent::platform {
+namespace zent::test {
 namespace {
 
+using namespace platform;
+
 /// The test program's own, with a separator.
-std::wstring programFolder() {
+std::wstring ownFolder() {
     const std::u16string path = getModulePath();
     return terminated(path.substr(0, path.rfind(pathSeparator) + 1));
 }
 
 void putCompanionsInto(const std::wstring& folder) {
     for (const wchar_t* const name : {L"ZENT27.dll", L"zenres27.dll", L"ordo-v02025.dtd"}) {
-        EXPECT_TRUE(CopyFileW((programFolder() + name).c_str(), (folder + name).c_str(), FALSE));
+        EXPECT_TRUE(CopyFileW((ownFolder() + name).c_str(), (folder + name).c_str(), FALSE));
     }
 }
 
@@ -29,8 +26,8 @@ TEST(WindowsSystemLibrary, IsTakenFromTheSystemsFolderAlone) {
     EXPECT_TRUE(SystemLibrary(L"userenv.dll").isLoaded());
     EXPECT_NE(SystemLibrary(L"netapi32.dll").find<FARPROC>("NetApiBufferFree"), nullptr);
     // The application's folder comes first for a bare name.
-    const std::wstring planted = programFolder() + L"zentplanted.dll";
-    ASSERT_TRUE(CopyFileW((programFolder() + L"zenres27.dll").c_str(), planted.c_str(), FALSE));
+    const std::wstring planted = ownFolder() + L"zentplanted.dll";
+    ASSERT_TRUE(CopyFileW((ownFolder() + L"zenres27.dll").c_str(), planted.c_str(), FALSE));
     EXPECT_FALSE(SystemLibrary(L"zentplanted.dll").isLoaded());
     EXPECT_TRUE(DeleteFileW(planted.c_str()));
 }
@@ -60,7 +57,7 @@ ZentResult openSessionOf(const std::wstring& folder) {
 TEST(WindowsResources, AreTakenFromTheLibrarysFolderOrNotAtAll) {
     // A path of more than 260 units, each of whose folders has a library with resources. It stays
     // there: what was loaded can't be deleted before the process ends.
-    std::wstring folder = L"\\\\?\\" + programFolder() + L"OwnFolderTest\\";
+    std::wstring folder = L"\\\\?\\" + ownFolder() + L"OwnFolderTest\\";
     std::vector<std::wstring> folders;
     for (const wchar_t* const name : {L"", L"a\\", L"b\\"}) {
         folder += *name == L'\0' ? std::wstring() : std::wstring(150, *name) + L"\\";
@@ -74,4 +71,4 @@ TEST(WindowsResources, AreTakenFromTheLibrarysFolderOrNotAtAll) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

@@ -1,22 +1,17 @@
 // The preference store where it is the Windows registry.
 
-#include <string>
-
-#include <gtest/gtest.h>
 #include <windows.h>
 
-#include "PrintText.h"
-#include "ocore/Faults/Exceptions.h"
 #include "ocore/User/Registry.h"
-#include "support/Raised.h"
-#include "support/ScratchPreferences.h"
+#include "support/LibraryTesting.h"
+#include "support/ScratchUser.h"
 
-namespace zent {
+namespace zent::test {
 namespace {
 
 class WindowsRegistryTest : public testing::Test {
 protected:
-    const test::ScratchPreferences m_scratch;
+    const ScratchUser m_scratch;
     const Registry m_registry{};
 
     static HKEY openKey() {
@@ -70,11 +65,11 @@ TEST_F(WindowsRegistryTest, SaysWhatItCannotStore) {
     const CXString key(tooLong);
     EXPECT_EQ(m_registry.getLongValue(key, u"name", 5), 5) << "a key out of reach isn't there";
     const std::string message =
-        test::raised<RegistryRequestException>([&] { m_registry.setLongValue(key, u"name", 5); });
+        raised<RegistryRequestException>([&] { m_registry.setLongValue(key, u"name", 5); });
     EXPECT_EQ(message.find("Registry::setValue(): Call to RegCreateKeyEx(kkk"), 0U) << message;
     EXPECT_NE(message.find(") failed with result of "), std::string::npos) << message;
     EXPECT_EQ(message.find("result of 0 "), std::string::npos) << message;
 }
 
 } // namespace
-} // namespace zent
+} // namespace zent::test

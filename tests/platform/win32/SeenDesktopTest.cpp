@@ -1,12 +1,13 @@
 #include "platform/win32/SeenDesktop.h"
 
-#include <gtest/gtest.h>
-
 #include "platform/System.h"
 #include "platform/WindowSystem.h"
+#include "support/Testing.h"
 
-namespace zent::platform {
+namespace zent::test {
 namespace {
+
+using namespace platform;
 
 TEST(WindowsSeenDesktop, NobodyIsAskedWhereNobodySeesIt) {
     const HWINSTA before = GetProcessWindowStation();
@@ -27,4 +28,4 @@ TEST(WindowsSeenDesktop, NobodyIsAskedWhereNobodySeesIt) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

@@ -2,17 +2,16 @@
 
 #include "ocore/User/User.h"
 
-#include <gtest/gtest.h>
 #include <windows.h>
 
-#include "PrintText.h"
-#include "ocore/Faults/Exceptions.h"
 #include "platform/win32/WideText.h"
 #include "platform/win32/WindowsProcessToken.h"
-#include "support/Raised.h"
+#include "support/LibraryTesting.h"
 
-namespace zent::platform {
+namespace zent::test {
 namespace {
+
+using namespace platform;
 
 /// Sets a text of the user's locale as long as the object lives.
 class LocaleText {
@@ -63,4 +62,4 @@ TEST(WindowsUser, HasLocale) {
 TEST(WindowsUser, HasProcessToken) { EXPECT_TRUE(WindowsProcessToken(TOKEN_QUERY).isOpen()); }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

@@ -1,8 +1,5 @@
 #include <filesystem>
 #include <map>
-#include <memory>
-
-#include <gtest/gtest.h>
 
 #include "platform/PeImage.h"
 #include "platform/ResourceType.h"
@@ -10,21 +7,17 @@
 #include "platform/win32/EditFilter.h"
 #include "platform/win32/ResourceImages.h"
 #include "support/DialogUser.h"
+#include "support/LibraryTesting.h"
 #include "support/OpenDialog.h"
-#include "support/Rows.h"
 #include "support/ScratchFolder.h"
 #include "support/TemplateBuilder.h"
 
 // What is to be seen of a dialog from outside the port, where it is made of real windows.
 
-namespace zent::platform {
+namespace zent::test {
 namespace {
 
-using test::at;
-using test::dialogOf;
-using test::Rows;
-using test::TemplateBuilder;
-namespace user = test::user;
+using namespace platform;
 
 constexpr std::uint16_t number = 10;
 constexpr std::uint16_t duplex = 11;
@@ -42,24 +35,24 @@ Image makeImage(std::uint32_t width, std::uint32_t height) {
     constexpr std::uint32_t headerSize = 40;
     constexpr std::uint32_t colours = 2 * 4;
     Image bytes(headerSize + colours + std::size_t{(width + 31) / 32 * 4} * height);
-    test::put32(bytes, 0, headerSize);
-    test::put32(bytes, 4, width);
-    test::put32(bytes, 8, height);
-    test::put16(bytes, 12, 1); // planes
-    test::put16(bytes, 14, 1); // bits
+    put32(bytes, 0, headerSize);
+    put32(bytes, 4, width);
+    put32(bytes, 8, height);
+    put16(bytes, 12, 1); // planes
+    put16(bytes, 14, 1); // bits
     return bytes;
 }
 
 /// A group of one icon of 16 by 16 pixels, or one that says it has more.
 Image makeIconGroup(std::uint16_t count) {
     Image bytes(6 + 14);
-    test::put16(bytes, 2, 1);
-    test::put16(bytes, 4, count);
+    put16(bytes, 2, 1);
+    put16(bytes, 4, count);
     bytes[6] = bytes[7] = 16;
-    test::put16(bytes, 10, 1);
-    test::put16(bytes, 12, 1);
-    test::put32(bytes, 14, static_cast<std::uint32_t>(makeImage(16, 32).size()));
-    test::put16(bytes, 18, iconImage);
+    put16(bytes, 10, 1);
+    put16(bytes, 12, 1);
+    put32(bytes, 14, static_cast<std::uint32_t>(makeImage(16, 32).size()));
+    put16(bytes, 18, iconImage);
     return bytes;
 }
 
@@ -187,7 +180,7 @@ TEST_F(Win32WindowSystemTest, PicturesOfTheTemplateAreOfItsResources) {
 }
 
 TEST_F(Win32WindowSystemTest, AsksForFiles) {
-    const test::ScratchFolder folder;
+    const ScratchFolder folder;
     folder.write("there.xml", "");
     // With its drive, as the answers are.
     const auto path = [&](const char* name) {
@@ -216,7 +209,7 @@ TEST_F(Win32WindowSystemTest, AsksForFiles) {
 
 TEST_F(Win32WindowSystemTest, BrokenPicturesAreNone) {
     const auto change = [](Image bytes, std::size_t place, std::uint32_t value) {
-        test::put32(bytes, place, value);
+        put32(bytes, place, value);
         return bytes;
     };
     const Image whole = makeImage(8, 8);
@@ -241,4 +234,4 @@ TEST_F(Win32WindowSystemTest, BrokenPicturesAreNone) {
 }
 
 } // namespace
-} // namespace zent::platform
+} // namespace zent::test

@@ -1,17 +1,25 @@
+#ifdef _WIN32
 // RegDeleteTree is of later systems than the oldest that the library serves.
 #undef WINVER
 #undef _WIN32_WINNT
 #define WINVER 0x0600
 #define _WIN32_WINNT 0x0600
+#include <windows.h>
+#endif
 
-#include "support/ScratchPreferences.h"
+#include "support/ScratchUser.h"
 
 #include <stdexcept>
 #include <string>
 
-#include <windows.h>
+#ifndef _WIN32
+#include "platform/posix/Environment.h"
+#include "support/TemporaryFolder.h"
+#endif
 
 namespace zent::test {
+
+#ifdef _WIN32
 
 namespace {
 
@@ -24,7 +32,7 @@ void require(LSTATUS status) {
 } // namespace
 
 /// For this process, an empty key of its own is the root of the user's registry.
-struct ScratchPreferences::Native {
+struct ScratchUser::Native {
     std::wstring path = L"SOFTWARE\\ZentTests\\" + std::to_wstring(GetCurrentProcessId());
     HKEY root = nullptr;
 
@@ -41,11 +49,25 @@ struct ScratchPreferences::Native {
     }
     Native(const Native&) = delete;
     Native& operator=(const Native&) = delete;
+
+    void clear() const { require(RegDeleteTreeW(root, nullptr)); }
 };
 
-ScratchPreferences::ScratchPreferences() : m_native(std::make_unique<Native>()) {}
-ScratchPreferences::~ScratchPreferences() = default;
+#else
 
-void ScratchPreferences::clear() { require(RegDeleteTreeW(m_native->root, nullptr)); }
+/// The user's home and configuration folder are an empty folder.
+struct ScratchUser::Native {
+    TemporaryFolder folder;
+    Environment home{"HOME", folder.path().string()};
+    Environment configuration{"XDG_CONFIG_HOME", folder.path().string()};
+
+    void clear() const { std::filesystem::remove_all(folder.path() / "zent27"); }
+};
+
+#endif
+
+ScratchUser::ScratchUser() : m_native(std::make_unique<Native>()) {}
+ScratchUser::~ScratchUser() = default;
+void ScratchUser::clear() { m_native->clear(); }
 
 } // namespace zent::test
