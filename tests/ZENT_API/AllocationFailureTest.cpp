@@ -6,7 +6,6 @@
 #include "plugin_ui/Reports/UserMessage.h"
 #include "support/EveryCall.h"
 #include "support/LibraryTesting.h"
-#include "support/ScratchUser.h"
 
 namespace zent::test {
 namespace {

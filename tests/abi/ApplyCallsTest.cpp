@@ -8,23 +8,20 @@ namespace zent::test {
 namespace {
 
 struct Applied {
-    ZentResult result;
+    ZentResult result = 0;
     ZentBool problems = 7;
     ZentBool usable = 7;
 };
 
 Applied apply(const Session& session, std::uint32_t mode, const ZentChar* title = ZT("")) {
-    Applied applied{};
+    Applied applied;
     applied.result = fnApplyPrinterCapabilitiesToSettings(session.handle(), mode, nullptr, title,
                                                           &applied.problems, &applied.usable);
     return applied;
 }
 
-/// The user, where there is one; elsewhere it is the same without.
-constexpr bool refuses = true;
-
-std::string colorOf(const Session& session) {
-    return stringOf(session, session.ticket(), "media-color");
+std::string mediaTypeOf(const Session& session) {
+    return stringOf(session, session.ticket(), "media-type");
 }
 
 /// The printer has red sheets, but takes neither own names of media types nor such a long name.
@@ -35,42 +32,48 @@ void askTooMuch(const Session& session) {
 }
 
 TEST(ApplyCallsTest, TheModeDecidesWhatBecomesOfATicket) {
-    struct Row {
-        std::uint32_t mode;
-        ZentResult result;
-        ZentBool usable;
-        bool isRepaired;
-        std::size_t boxes;
-    };
-    const Row rows[] = {
-        {0, ZENT_ERR_APPLY_MODE, 7, false, 0},
-        {1, ZENT_OK, 1, true, 0},
-        {2, ZENT_OK, 1, false, 0}, // nobody refused
-        {3, ZENT_OK, 0, false, 1}, // who can't be asked, or refuses
-        {4, ZENT_OK, 0, false, 1}, // the policy's answer
-        {5, ZENT_OK, 0, false, 1},
-        {6, ZENT_ERR_APPLY_MODE, 7, false, 0},
-    };
-    MessageBoxes boxes(refuses);
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.mode);
+    const Session source;
+    askTooMuch(source);
+    const std::string tickets[] = {source.exported(ZENT_FORMAT_XML),
+                                   source.exported(ZENT_FORMAT_STATE)};
+    MessageBoxes boxes;
+    for (const auto& [mode, result, usable, mediaType, shown] :
+         Rows<std::uint32_t, ZentResult, ZentBool, const char*, std::size_t>{
+             {0, ZENT_ERR_APPLY_MODE, 7, "handmade", 0},
+             {1, ZENT_OK, 1, "stationery", 0},
+             {2, ZENT_OK, 1, "handmade", 0}, // nobody refused
+             {3, ZENT_OK, 0, "handmade", 1}, // who can't be asked refuses
+             {4, ZENT_OK, 0, "handmade", 1}, // the policy's answer
+             {5, ZENT_OK, 0, "handmade", 1},
+             {6, ZENT_ERR_APPLY_MODE, 7, "handmade", 0},
+         }) {
+        SCOPED_TRACE(mode);
         const Session session;
         askTooMuch(session);
         const std::uint32_t waiting = session.exportSize();
-        const Applied applied = apply(session, row.mode, ZT("My printer"));
-        EXPECT_EQ(applied.result, row.result);
-        EXPECT_EQ(applied.problems, row.result == ZENT_OK ? 1 : 7);
-        EXPECT_EQ(applied.usable, row.usable);
-        EXPECT_EQ(stringOf(session, session.ticket(), "media-type"),
-                  row.isRepaired ? "stationery" : "handmade");
-        EXPECT_EQ(colorOf(session), "red");
-        EXPECT_EQ(session.exportSize() == waiting, !row.isRepaired);
-        const std::vector<MessageBox> shown = boxes.take();
-        EXPECT_EQ(shown.size(), row.boxes);
-        for (const MessageBox& box : shown) {
+        const Applied applied = apply(session, mode, ZT("My printer"));
+        EXPECT_EQ(applied.result, result);
+        EXPECT_EQ(applied.problems, result == ZENT_OK ? 1 : 7);
+        EXPECT_EQ(applied.usable, usable);
+        EXPECT_EQ(mediaTypeOf(session), mediaType);
+        EXPECT_EQ(stringOf(session, session.ticket(), "media-color"), "red");
+        EXPECT_EQ(session.exportSize() == waiting, mode != 1);
+        const std::vector<MessageBox> seen = boxes.take();
+        EXPECT_EQ(seen.size(), shown);
+        for (const MessageBox& box : seen) {
             EXPECT_EQ(box.title, "My printer");
             EXPECT_THAT(box.text, testing::HasSubstr("Media type"));
         }
+        // An import of such a ticket is repaired, kept or refused.
+        for (const std::uint32_t format : {ZENT_FORMAT_XML, ZENT_FORMAT_STATE}) {
+            const Session other;
+            const Imported imported = other.tryImport(tickets[format - 1], format, mode);
+            EXPECT_EQ(imported.result, result);
+            EXPECT_EQ(imported.problems, applied.problems);
+            EXPECT_EQ(imported.applied, result == ZENT_OK ? usable : 0);
+            EXPECT_EQ(mediaTypeOf(other), imported.applied != 0 ? mediaType : "none");
+        }
+        boxes.take();
     }
 }
 
@@ -89,36 +92,6 @@ TEST(ApplyCallsTest, ATicketWithoutProblemsStaysAsItIs) {
     // A title is looked at where one is needed.
     EXPECT_EQ(apply(session, 1, nullptr).result, ZENT_OK);
     EXPECT_EQ(apply(session, 3, nullptr).result, ZENT_ERR_UNKNOWN);
-}
-
-TEST(ApplyCallsTest, AnImportIsRepairedKeptOrRefused) {
-    const Session source;
-    askTooMuch(source);
-    const std::string tickets[] = {source.exported(ZENT_FORMAT_XML),
-                                   source.exported(ZENT_FORMAT_STATE)};
-    const MessageBoxes boxes(refuses);
-    for (const auto& [mode, isApplied, mediaType] : Rows<std::uint32_t, ZentBool, const char*>{
-             {1, 1, "stationery"},
-             {2, 1, "handmade"},
-             {3, 0, "none"},
-             {4, 0, "none"},
-             {5, 0, "none"},
-         }) {
-        for (const std::uint32_t format : {ZENT_FORMAT_XML, ZENT_FORMAT_STATE}) {
-            SCOPED_TRACE(std::to_string(mode) + " " + std::to_string(format));
-            const std::string& data = tickets[format - 1];
-            const Session session;
-            ZentBool problems = 7;
-            ZentBool applied = 7;
-            EXPECT_EQ(fnImportJobTicket(session.handle(), data.data(),
-                                        static_cast<std::uint32_t>(data.size()), format, mode,
-                                        nullptr, ZT(""), &problems, &applied),
-                      ZENT_OK);
-            EXPECT_EQ(problems, 1);
-            EXPECT_EQ(applied, isApplied);
-            EXPECT_EQ(stringOf(session, session.ticket(), "media-type"), mediaType);
-        }
-    }
 }
 
 } // namespace

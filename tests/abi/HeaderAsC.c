@@ -1,4 +1,3 @@
-#include "HeaderAsC.h"
 
 #include "ZentLiteral.h"
 #include "zent27.h"

@@ -3,7 +3,6 @@
 #include "abi/MessageBoxes.h"
 #include "abi/Session.h"
 #include "abi/ZentLiteral.h"
-#include "support/ScratchUser.h"
 
 namespace zent::test {
 namespace {
@@ -43,20 +42,18 @@ protected:
 };
 
 TEST_F(InstructionCallsTest, TheFormDecidesWhatComes) {
-    struct Row {
-        std::uint32_t model;
-        std::uint32_t form;
-        bool isXml;
-    };
-    const Row rows[] = {{1, 1, true}, {1, 2, false}, {1, 3, false}, // family 7 takes no XML
-                        {6, 3, true}, {6, 2, false}, {6, 9, false}};
-    for (const Row& row : rows) {
-        SCOPED_TRACE(std::to_string(row.model) + " " + std::to_string(row.form));
-        open(row.model, row.form);
+    for (const auto& [model, form, isXml] :
+         Rows<std::uint32_t, std::uint32_t, bool>{{1, 1, true},
+                                                  {1, 2, false},
+                                                  {1, 3, false}, // family 7 takes no XML
+                                                  {6, 3, true},
+                                                  {6, 9, false}}) {
+        SCOPED_TRACE(std::to_string(model) + " " + std::to_string(form));
+        open(model, form);
         const std::string instructions = instructionsFor("");
-        EXPECT_EQ(instructions.starts_with("<?xml"), row.isXml);
-        EXPECT_EQ(instructions.starts_with("%TRVbegin: 001.0300\n"), !row.isXml);
-        EXPECT_EQ(instructions.ends_with("%TRVend\n"), !row.isXml);
+        EXPECT_EQ(instructions.starts_with("<?xml"), isXml);
+        EXPECT_EQ(instructions.starts_with("%TRVbegin: 001.0300\n"), !isXml);
+        EXPECT_EQ(instructions.ends_with("%TRVend\n"), !isXml);
         EXPECT_EQ(fnCloseSession(&s), ZENT_OK);
     }
 }

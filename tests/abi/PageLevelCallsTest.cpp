@@ -63,25 +63,6 @@ TEST_F(PageLevelCallsTest, PagesAreStoredCopiedAndRemoved) {
     session.release(page);
 }
 
-TEST_F(PageLevelCallsTest, PageOverridesGetTheirShapeAtTheSource) {
-    const TarvoJtSettingsType page = settingsOfCopies(1);
-    fnSetRangeValues(s, page, ZT("pages"), 3, 4, 0);
-    EXPECT_EQ(setPage(t, "insert-sheet", 0, page), ZENT_OK);
-    EXPECT_EQ(rangeOf(session, page, "input-documents"), "none");
-    EXPECT_EQ(setPage(t, "page-overrides", 0, page), ZENT_OK);
-    EXPECT_EQ(rangeOf(session, page, "input-documents"), "1..1");
-    session.release(page);
-}
-
-TEST_F(PageLevelCallsTest, EmptyPagesAreNotKept) {
-    const TarvoJtSettingsType nothing = session.newSettings();
-    EXPECT_EQ(setPage(t, "cover-front", 0, nothing), ZENT_OK);
-    ZentBool specified = 7;
-    EXPECT_EQ(fnIsSpecified(s, t, ZT("cover-front"), &specified), ZENT_OK);
-    EXPECT_EQ(specified, 0);
-    session.release(nothing);
-}
-
 TEST_F(PageLevelCallsTest, ATicketMayBecomeAPageOfItself) {
     session.setNumber("copies", 3);
     EXPECT_EQ(setPage(t, "cover-front", 0, t), ZENT_OK);

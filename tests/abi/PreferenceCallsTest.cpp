@@ -1,6 +1,5 @@
 #include "abi/Session.h"
 #include "abi/ZentLiteral.h"
-#include "support/ScratchUser.h"
 
 namespace zent::test {
 namespace {
@@ -11,11 +10,6 @@ protected:
         ZentBool value = 7;
         EXPECT_EQ(fnGetPreferenceBoolValue(s, wide(name).c_str(), &value, otherwise), ZENT_OK);
         return value == 1;
-    }
-    std::int32_t number(const char* name, std::int32_t otherwise) const {
-        std::int32_t value = 0;
-        EXPECT_EQ(fnGetPreferenceNumberValue(s, wide(name).c_str(), &value, otherwise), ZENT_OK);
-        return value;
     }
     std::string text(const char* name, const ZentChar* otherwise) const {
         ZentChar buffer[16] = {};
@@ -44,7 +38,9 @@ TEST_F(PreferenceCallsTest, WhatIsStoredWinsOverDefaults) {
     for (const bool isStored : {false, true}) {
         EXPECT_EQ(flag("MINE", true), !isStored);
         EXPECT_EQ(flag("JOB_NAME_PREFERENCE", false), isStored); // the caller's, not the table's
-        EXPECT_EQ(number("COUNT", -5), isStored ? 70000 : -5);
+        std::int32_t count = 0;
+        EXPECT_EQ(fnGetPreferenceNumberValue(s, ZT("COUNT"), &count, -5), ZENT_OK);
+        EXPECT_EQ(count, isStored ? 70000 : -5);
         EXPECT_EQ(text("WORDS", ZT("none yet")), isStored ? "some" : "none yet");
         EXPECT_EQ(text("PREFERRED_JOB_TICKET", nullptr), "");
         EXPECT_EQ(data("BYTES", "abc"), isStored ? std::string("\0\1", 2) : "abc");
@@ -62,15 +58,11 @@ TEST_F(PreferenceCallsTest, SizesFollowTheBufferProtocol) {
     fnSetPreferenceDataValue(s, ZT("BYTES"), "abc", 3);
     ZentChar units[5] = {ZT('?')};
     char bytes[3] = {'?'};
-    std::uint32_t size = 0;
-    EXPECT_EQ(fnGetPreferenceStringValue(s, ZT("WORDS"), nullptr, &size, nullptr), ZENT_OK);
-    EXPECT_EQ(size, 5U);
-    size = 4;
+    std::uint32_t size = 4;
     EXPECT_EQ(fnGetPreferenceStringValue(s, ZT("WORDS"), units, &size, nullptr),
               ZENT_ERR_BUFFER_TOO_SMALL);
     EXPECT_EQ(units[0], ZT('?'));
     EXPECT_EQ(size, 5U);
-    size = 0;
     EXPECT_EQ(fnGetPreferenceDataValue(s, ZT("BYTES"), nullptr, &size, nullptr, 0), ZENT_OK);
     EXPECT_EQ(size, 3U);
     size = 2;
@@ -91,39 +83,26 @@ TEST_F(PreferenceCallsTest, WellKnownPreferencesKeepTheirType) {
 }
 
 TEST_F(PreferenceCallsTest, PrintersShareASetByName) {
-    struct Row {
-        const char* name;
-        std::uint32_t model;
-        const ZentChar* set;
-        ZentBool generic;
-        std::int32_t expected;
+    // A session's model and set, what it stores, if anything, and what it then reads.
+    const Rows<std::uint32_t, const ZentChar*, ZentBool, std::int32_t, std::int32_t> rows{
+        {1, nullptr, 0, 1, 1},      {2, nullptr, 0, 0, 0}, // another printer has its own
+        {1, ZT(""), 1, 2, 2},       {2, ZT(""), 1, 0, 2},  // the generic one is of all printers
+        {2, ZT("office"), 1, 3, 3}, {1, ZT("office"), 0, 0, 3}, // so is one with a name
+        {1, ZT("home"), 0, 0, 0},
     };
-    const Row rows[] = {
-        {"the printer's own", 1, nullptr, 0, 1},
-        {"another printer's own", 2, nullptr, 0, 0},
-        {"generic", 1, ZT(""), 1, 2},
-        {"generic, of another printer", 2, ZT(""), 1, 2},
-        {"by name", 2, ZT("office"), 1, 3},
-        {"by name, of another printer", 1, ZT("office"), 0, 3},
-        {"by another name", 1, ZT("home"), 0, 0},
-    };
-    const auto inSet = [](const Row& row, auto work) {
-        ZentSessionType opened = nullptr;
-        ASSERT_EQ(fnOpenSession(27, row.model, 2, 1, 1, row.set, row.generic, &opened), ZENT_OK);
-        work(opened);
-        EXPECT_EQ(fnCloseSession(&opened), ZENT_OK);
-    };
-    for (const std::size_t i : {0U, 2U, 4U}) {
-        inSet(rows[i], [&](ZentSessionType opened) {
-            EXPECT_EQ(fnSetPreferenceNumberValue(opened, ZT("N"), rows[i].expected), ZENT_OK);
-        });
-    }
-    for (const Row& row : rows) {
-        inSet(row, [&](ZentSessionType opened) {
-            std::int32_t value = 9;
-            EXPECT_EQ(fnGetPreferenceNumberValue(opened, ZT("N"), &value, 0), ZENT_OK);
-            EXPECT_EQ(value, row.expected) << row.name;
-        });
+    for (const bool reads : {false, true}) {
+        for (const auto& [model, set, generic, stored, expected] : rows) {
+            ZentSessionType opened = nullptr;
+            ASSERT_EQ(fnOpenSession(27, model, 2, 1, 1, set, generic, &opened), ZENT_OK);
+            std::int32_t value = expected;
+            if (reads) {
+                EXPECT_EQ(fnGetPreferenceNumberValue(opened, ZT("N"), &value, 0), ZENT_OK);
+            } else if (stored != 0) {
+                EXPECT_EQ(fnSetPreferenceNumberValue(opened, ZT("N"), stored), ZENT_OK);
+            }
+            EXPECT_EQ(value, expected);
+            EXPECT_EQ(fnCloseSession(&opened), ZENT_OK);
+        }
     }
 }
 

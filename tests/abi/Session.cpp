@@ -44,15 +44,19 @@ void Session::release(TarvoJtSettingsType settings) const {
     EXPECT_EQ(settings, nullptr);
 }
 
+Imported Session::tryImport(std::string_view data, std::uint32_t format, std::uint32_t mode) const {
+    Imported imported;
+    const Text title;
+    imported.result =
+        fnImportJobTicket(m_handle, data.data(), static_cast<std::uint32_t>(data.size()), format,
+                          mode, nullptr, title.c_str(), &imported.problems, &imported.applied);
+    return imported;
+}
+
 void Session::import(std::string_view data, std::uint32_t format) const {
-    ZentBool problems = 2;
-    ZentBool applied = 2;
-    EXPECT_EQ(fnImportJobTicket(m_handle, data.data(), static_cast<std::uint32_t>(data.size()),
-                                format, ZENT_APPLY_SILENT_KEEP, nullptr, nullptr, &problems,
-                                &applied),
-              ZENT_OK);
-    EXPECT_LE(problems, 1);
-    EXPECT_EQ(applied, 1);
+    const Imported imported = tryImport(data, format, ZENT_APPLY_SILENT_KEEP);
+    EXPECT_EQ(imported.result, ZENT_OK);
+    EXPECT_EQ(imported.applied, 1);
 }
 
 std::uint32_t Session::exportSize(std::uint32_t format) const {

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <string>
-#include <string_view>
-
+#include "support/Testing.h"
 #include "zent27.h"
 
 namespace zent::test {
@@ -11,6 +9,12 @@ namespace zent::test {
 using Text = std::basic_string<ZentChar>;
 inline Text wide(std::string_view ascii) { return {ascii.begin(), ascii.end()}; }
 std::string narrow(const Text& text);
+
+struct Imported {
+    ZentResult result = 0;
+    ZentBool problems = 7; // that number if it isn't written
+    ZentBool applied = 7;
+};
 
 /// An open session and its own ticket, used as any application would use them. The ticket is empty
 /// at first: what a new session holds has tests of its own.
@@ -29,6 +33,8 @@ public:
     void release(TarvoJtSettingsType settings) const;
     /// What the printer lacks is kept.
     void import(std::string_view data, std::uint32_t format = ZENT_FORMAT_XML) const;
+    Imported tryImport(std::string_view data, std::uint32_t format = ZENT_FORMAT_XML,
+                       std::uint32_t mode = ZENT_APPLY_SILENT_REPAIR) const;
     std::uint32_t exportSize(std::uint32_t format = ZENT_FORMAT_XML) const;
     std::string exported(std::uint32_t format = ZENT_FORMAT_XML) const;
 

@@ -8,8 +8,6 @@
 
 #include "abi/ZentLiteral.h"
 #include "support/MemoryInUse.h"
-#include "support/ScratchUser.h"
-#include "support/TestFile.h"
 #include "support/Testing.h"
 #include "zent27.h"
 

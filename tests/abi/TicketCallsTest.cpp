@@ -22,21 +22,6 @@ std::string copiesDocument(int copies) {
     return document("<copies syntax=\"integer\">" + std::to_string(copies) + "</copies>");
 }
 
-struct Imported {
-    ZentResult result;
-    ZentBool problems = 7;
-    ZentBool applied = 7;
-};
-
-Imported import(const Session& session, const std::string& data, std::uint32_t format = 1,
-                std::uint32_t mode = 1) {
-    Imported imported{};
-    imported.result =
-        fnImportJobTicket(session.handle(), data.data(), static_cast<std::uint32_t>(data.size()),
-                          format, mode, nullptr, ZT(""), &imported.problems, &imported.applied);
-    return imported;
-}
-
 std::string copiesIn(const Session& session) {
     return numberOf(session, session.ticket(), "copies");
 }
@@ -48,36 +33,12 @@ TEST(TicketCallsTest, ATicketIsWrittenAsPrintersExpectIt) {
     session.setNumber("copies", 2);
     fnSetRangeValues(s, session.ticket(), ZT("page-ranges"), 1, 5, 0);
     fnSetStockSizeValues(s, session.ticket(), 29700, 21000);
-    const std::string expected =
-        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n"
-        "<!DOCTYPE ordo SYSTEM \"ordo-v02025.dtd\">\r\n"
-        "<ordo krss-version=\"2.01\" version=\"1.0\" xml:lang=\"en-US\">\r\n"
-        "\t<ordo-operation-attributes>\r\n"
-        "\t\t<job-name syntax=\"name\" xml:space=\"preserve\">Report</job-name>\r\n"
-        "\t</ordo-operation-attributes>\r\n"
-        "\t<job-template-attributes>\r\n"
-        "\t\t<copies syntax=\"integer\">2</copies>\r\n"
-        "\t\t<page-ranges syntax=\"1setOf\">\r\n"
-        "\t\t\t<value syntax=\"rangeOfInteger\">\r\n"
-        "\t\t\t\t<lower-bound syntax=\"integer\">1</lower-bound>\r\n"
-        "\t\t\t\t<upper-bound syntax=\"integer\">5</upper-bound>\r\n"
-        "\t\t\t</value>\r\n"
-        "\t\t</page-ranges>\r\n"
-        "\t\t<media-col syntax=\"collection\">\r\n"
-        "\t\t\t<media-size syntax=\"collection\">\r\n"
-        "\t\t\t\t<x-dimension syntax=\"integer\">21000</x-dimension>\r\n"
-        "\t\t\t\t<y-dimension syntax=\"integer\">29700</y-dimension>\r\n"
-        "\t\t\t</media-size>\r\n"
-        "\t\t</media-col>\r\n"
-        "\t</job-template-attributes>\r\n"
-        "</ordo>";
+    const std::string expected = readTestFile("golden/ordo/report.xml");
     EXPECT_EQ(session.exported(), expected);
 
     const Session other;
     other.import(expected);
     EXPECT_EQ(other.exported(), expected);
-    EXPECT_EQ(stringOf(other, other.ticket(), "job-name"), "Report");
-    EXPECT_EQ(rangeOf(other, other.ticket(), "page-ranges"), "1..5");
     EXPECT_EQ(sizeOf(other, other.ticket()), "21000x29700");
 }
 
@@ -105,44 +66,33 @@ TEST(TicketCallsTest, AnImportReplacesTheTicketAndNormalizesIt) {
 
 TEST(TicketCallsTest, AFailedImportLeavesTheSessionAlone) {
     const std::string good = copiesDocument(9);
-    struct Row {
-        const char* name;
-        std::string data;
-        std::uint32_t format;
-        std::uint32_t mode;
-        ZentResult result;
-        ZentBool applied; // 7 if it isn't written
-    };
-    const Row rows[] = {
-        {"format 0", good, 0, 1, ZENT_ERR_TICKET_FORMAT, 7},
-        {"format 3", good, 3, 1, ZENT_ERR_TICKET_FORMAT, 7},
-        {"format and mode", good, 3, 6, ZENT_ERR_TICKET_FORMAT, 7},
-        {"mode 0", good, 1, 0, ZENT_ERR_APPLY_MODE, 0},
-        {"mode 6", good, 1, 6, ZENT_ERR_APPLY_MODE, 0},
-        {"nothing", "", 1, 1, ZENT_ERR_XML_OTHER, 7},
-        {"no XML", "copies=2", 1, 1, ZENT_ERR_XML_PARSE, 7},
-        {"cut short", good.substr(0, good.size() - 1), 1, 1, ZENT_ERR_XML_PARSE, 7},
-        {"no document type", "<ordo><job-template-attributes/></ordo>", 1, 1, ZENT_ERR_XML_PARSE,
-         7},
-        {"unknown element", document("<no-such syntax=\"integer\">1</no-such>"), 1, 1,
-         ZENT_ERR_XML_PARSE, 7},
-        {"another file", "<!DOCTYPE ordo [<!ENTITY e SYSTEM \"/etc/passwd\">]><ordo>&e;</ordo>", 1,
-         1, ZENT_ERR_XML_PARSE, 7},
-    };
     const Session session;
     session.setNumber("copies", 4);
     MessageBoxes boxes;
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        const Imported imported = import(session, row.data, row.format, row.mode);
-        EXPECT_EQ(imported.result, row.result);
+    for (const auto& [name, data, format, mode, result] :
+         Rows<const char*, std::string, std::uint32_t, std::uint32_t, ZentResult>{
+             {"format 0", good, 0, 1, ZENT_ERR_TICKET_FORMAT},
+             {"format and mode", good, 3, 6, ZENT_ERR_TICKET_FORMAT},
+             {"nothing", "", 1, 1, ZENT_ERR_XML_OTHER},
+             {"no XML", "copies=2", 1, 1, ZENT_ERR_XML_PARSE},
+             {"cut short", good.substr(0, good.size() - 1), 1, 1, ZENT_ERR_XML_PARSE},
+             {"no document type", "<ordo/>", 1, 1, ZENT_ERR_XML_PARSE},
+             {"unknown element", document("<no-such syntax=\"integer\">1</no-such>"), 1, 1,
+              ZENT_ERR_XML_PARSE},
+             {"another file",
+              "<!DOCTYPE ordo [<!ENTITY e SYSTEM \"/etc/passwd\">]><ordo>&e;</ordo>", 1, 1,
+              ZENT_ERR_XML_PARSE},
+         }) {
+        SCOPED_TRACE(name);
+        const Imported imported = session.tryImport(data, format, mode);
+        EXPECT_EQ(imported.result, result);
         EXPECT_EQ(imported.problems, 7);
-        EXPECT_EQ(imported.applied, row.applied);
+        EXPECT_EQ(imported.applied, 7);
         EXPECT_EQ(copiesIn(session), "4");
     }
     EXPECT_TRUE(boxes.take().empty());
     const Session loud(false);
-    import(loud, "copies=2");
+    loud.tryImport("copies=2");
     const std::vector<MessageBox> shown = boxes.take();
     ASSERT_EQ(shown.size(), 1U);
     EXPECT_THAT(shown[0].text, testing::StartsWith("A job ticket document could not be read"));
@@ -178,43 +128,6 @@ TEST(TicketCallsTest, AnExportBeyondWhatIsReadFailsAndHandsNothingOut) {
         fnExportJobTicket(session.handle(), nullptr, &size, format);
         EXPECT_EQ(size, 0U);
     }
-}
-
-TEST(TicketCallsTest, WhatIsExportedCanBeImported) {
-    const Session session;
-    const ZentSessionType s = session.handle();
-    const TarvoJtSettingsType t = session.ticket();
-    const Session other;
-    for (const char* feature : {"copies", "job-name", "sides", "x-image-shift", "page-overrides",
-                                "finishings", "media-color", "cover-front"}) {
-        const Text name = wide(feature);
-        const std::function<ZentResult()> sets[] = {
-            [&] { return fnSetStringValue(s, t, name.c_str(), ZT("folded"), 0); },
-            [&] { return fnSetRangeValues(s, t, name.c_str(), 1, 5, 0); },
-            [&] { return fnSetResolutionValue(s, t, name.c_str(), 600, 600, 3, 0); },
-        };
-        for (const auto& set : sets) {
-            fnUnspecifyAllFeatures(s, t);
-            if (set() == ZENT_OK) {
-                other.import(session.exported()); // brings shifts and overrides into their form
-                const std::string written = other.exported();
-                other.import(written);
-                EXPECT_EQ(other.exported(), written);
-            }
-        }
-    }
-}
-
-TEST(TicketCallsTest, ExportChecksItsFormatFirst) {
-    const Session session;
-    std::uint32_t size = 7;
-    for (const std::uint32_t format : {0U, 3U}) {
-        EXPECT_EQ(fnExportJobTicket(session.handle(), nullptr, &size, format),
-                  ZENT_ERR_TICKET_FORMAT);
-        EXPECT_EQ(fnExportJobTicket(session.handle(), nullptr, nullptr, format),
-                  ZENT_ERR_TICKET_FORMAT);
-    }
-    EXPECT_EQ(size, 7U);
 }
 
 TEST(TicketCallsTest, AResultWaitsUntilItIsFetched) {
