@@ -2,7 +2,6 @@
 
 #include "ocore/User/User.h"
 #include "support/LibraryTesting.h"
-#include "support/ScratchUser.h"
 
 namespace zent::test {
 namespace {
@@ -55,63 +54,55 @@ TEST_F(UserPreferencesTest, WellKnownOnesHaveDefaultsUntilTheyAreStored) {
     EXPECT_EQ(wellKnown(), "011000a.ord789");
 }
 
-TEST_F(UserPreferencesTest, LeavesOtherNamesFree) {
-    // Names compare exactly: this one isn't well-known.
-    for (const char16_t* name : {u"tool_bar_preference", u"TOOL_BAR_PREFERENCE ", u""}) {
-        EXPECT_FALSE(m_preferences.getBooleanPreference(name));
-        EXPECT_EQ(m_preferences.getStringPreference(name), u"");
-        EXPECT_TRUE(m_preferences.getDataPreference(name).isEmpty());
+TEST_F(UserPreferencesTest, WellKnownOnesRefuseOtherTypesAndOthersTakeAny) {
+    EXPECT_EQ(raised<PreferenceDataTypeMismatchException>(
+                  [&] { m_preferences.setStringPreference(u"TOOL_BAR_PREFERENCE", u"1"); }),
+              "UserPreferences::setStringPreference(TOOL_BAR_PREFERENCE): Called for a well-known "
+              "preference that is of a different type (<long>). Call the appropriate method.\r\n");
+    EXPECT_THROW(m_preferences.getLongPreference(u"GENERIC_JT_PREFERENCE"),
+                 PreferenceDataTypeMismatchException);
+    EXPECT_THROW(m_preferences.getDataPreference(u"IMAGE_SHIFT_UNIT_PREFERENCE"),
+                 PreferenceDataTypeMismatchException);
+    for (const char16_t* name : {u"tool_bar_preference", u""}) { // names compare exactly
         m_preferences.setLongPreference(name, -1);
-        EXPECT_EQ(m_preferences.getLongPreference(name), -1);
         EXPECT_FALSE(m_preferences.getBooleanPreference(name)) << "isn't above 0";
         m_preferences.setStringPreference(name, u"gr\u00FC\u00DF");
         EXPECT_EQ(m_preferences.getStringPreference(name), u"gr\u00FC\u00DF");
-        m_preferences.setDataPreference(name, ByteBuffer());
     }
-}
-
-TEST_F(UserPreferencesTest, RefusesOtherTypes) {
-    using P = const UserPreferences&;
-    using N = const CXString&;
-    const Rows<const char*, void (*)(P, N), std::string> methods{
-        // The last is the types that fit.
-        {"getBooleanPreference", [](P p, N n) { p.getBooleanPreference(n); }, "b"},
-        {"getLongPreference", [](P p, N n) { p.getLongPreference(n); }, "lu"},
-        {"getStringPreference", [](P p, N n) { p.getStringPreference(n); }, "s"},
-        {"getDataPreference", [](P p, N n) { p.getDataPreference(n); }, ""},
-        {"setBooleanPreference", [](P p, N n) { p.setBooleanPreference(n, true); }, "b"},
-        {"setLongPreference", [](P p, N n) { p.setLongPreference(n, 1); }, "lu"},
-        {"setStringPreference", [](P p, N n) { p.setStringPreference(n, u"1"); }, "s"},
-        {"setDataPreference", [](P p, N n) { p.setDataPreference(n, {}); }, ""},
-    };
-    const Rows<const char*, const char*> names{
-        {"<bool>", "GENERIC_JT_PREFERENCE"},
-        {"<long>", "TOOL_BAR_PREFERENCE"},
-        {"<string>", "PREFERRED_JOB_TICKET"},
-        {"<unit of measure>", "IMAGE_SHIFT_UNIT_PREFERENCE"},
-    };
-    for (const auto& method : methods) {
-        for (const auto& [type, name] : names) {
-            const std::string message = raised<PreferenceDataTypeMismatchException>(
-                [&, key = CXString(name)] { std::get<1>(method)(m_preferences, key); });
-            const bool fits = std::get<2>(method).find(type[1]) != std::string::npos;
-            EXPECT_EQ(message, fits ? "nothing was raised"
-                                    : std::string("UserPreferences::") + std::get<0>(method) + '(' +
-                                          name +
-                                          "): Called for a well-known preference that is of a "
-                                          "different type (" +
-                                          type + "). Call the appropriate method.\r\n");
-        }
-    }
-}
-
-TEST_F(UserPreferencesTest, KeepsSetsApart) {
-    const UserPreferences all{CXString()};
-    m_preferences.setLongPreference(u"free", 1);
-    all.setLongPreference(u"free", 3);
-    EXPECT_EQ(UserPreferences(m_preferences).getLongPreference(u"free"), 1);
+    UserPreferences(CXString()).setLongPreference(u"free", 3); // the set of all printers
+    EXPECT_EQ(m_preferences.getLongPreference(u"free"), 0);
     EXPECT_EQ(m_registry.getLongValue(rootKey, u"free", 0), 3);
-    EXPECT_EQ(m_registry.getLongValue(m_key, u"free", 0), 1);
+}
+
+TEST_F(UserPreferencesTest, BytesAreReadAsWhatIsAskedFor) {
+    constexpr std::int32_t tooShort = -1;
+    for (const auto& [content, asBool, asLong, asString] :
+         Rows<std::string, bool, std::int32_t, CXString>{
+             {std::string("\0", 1), false, tooShort, u""},
+             {std::string("x\0\0", 3), true, tooShort, u"x"},
+             {std::string("\0\x01\0\0", 4), false, 256, u"\u0100"},
+             {"abcde", true, 0x64636261, u"\u6261\u6463"},
+             {std::string("o\0k\0\0\0\0\0", 8), true, 0x6B006F, u"ok"}, // with terminators
+             {std::string("o\0\0\0k\0", 6), true, 0x6F, std::u16string_view(u"o\0k", 3)},
+         }) {
+        m_registry.setDataValue(m_key, u"n", ByteBuffer(content.data(), content.size()));
+        EXPECT_EQ(m_registry.getBoolValue(m_key, u"n", !asBool), asBool);
+        EXPECT_EQ(m_registry.getStringValue(m_key, u"n", u"default"), asString);
+        if (asLong != tooShort) {
+            EXPECT_EQ(m_registry.getLongValue(m_key, u"n", 0), asLong);
+            continue;
+        }
+        EXPECT_EQ(raised<NotEnoughBytesForDesiredDataTypeException>(
+                      [&] { m_registry.getLongValue(m_key, u"n", 0); }),
+                  "ByteBuffer::getAsLongValue(): Cannot convert to the desired data type because "
+                  "the size of the source buffer is too small (" +
+                      std::to_string(content.size()) +
+                      " bytes)! It needs to be at least 4 bytes.\r\n");
+    }
+    m_registry.setDataValue(m_key, u"n", {}); // neither truth nor number
+    EXPECT_TRUE(m_registry.getBoolValue(m_key, u"n", true));
+    EXPECT_EQ(m_registry.getLongValue(m_key, u"n", -5), -5);
+    EXPECT_EQ(m_registry.getStringValue(m_key, u"n", u"default"), u"");
 }
 
 } // namespace
