@@ -9,21 +9,6 @@ const AttrID a(u"a");
 const AttrID b(u"b");
 const AttrID missing(u"missing");
 
-TEST(AttrNodeListTest, NodesAreFoundByNameAndInstance) {
-    const AttrNodeList list = listOf("a=1 b=2 a=3 !a=1 a=1");
-    EXPECT_EQ(list.findNode(a, 1), &list.getNodeAt(2));
-    EXPECT_EQ(list.findNode(a, 4), nullptr);
-    EXPECT_EQ(list.findNode(missing), nullptr);
-    EXPECT_EQ(list.countNodes(a), 4U);
-    const AttrNode wanted(a, IppInteger(1), false);
-    EXPECT_EQ(list.findEqualNode(wanted, 1), &list.getNodeAt(4)); // not the private one
-    EXPECT_EQ(list.findEqualNode(wanted, 2), nullptr);
-    EXPECT_TRUE(list.isNodeAt(b, 1));
-    EXPECT_FALSE(list.isNodeAt(b, 2) || list.isNodeAt(b, 5));
-    EXPECT_TRUE(list.isNodeAt(a, AttrNodeList::lastPosition));
-    EXPECT_FALSE(AttrNodeList().isNodeAt(a, AttrNodeList::lastPosition));
-}
-
 TEST(AttrNodeListTest, SetNodeReplacesOrAppends) {
     AttrNodeList list = listOf("a=1 !b=2 a=3");
     const AttrNode* const second = list.findNode(a, 1);
@@ -51,25 +36,6 @@ TEST(AttrNodeListTest, RemovingWhatTheCursorPassedKeepsThePlace) {
     EXPECT_EQ(list.removeNode(a, 1), 1U); // none: the end
     EXPECT_EQ(list.removeNode(nullptr), 1U);
     EXPECT_EQ(list.removeNode(a), 0U);
-}
-
-TEST(AttrNodeListTest, PrivateNodesAreSkippedOnTheWayOut) {
-    AttrNodeList list = listOf("!a=1 b=2 !a=3");
-    EXPECT_EQ(list.getNextNonPrivateNode()->getName(), u"b");
-    EXPECT_FALSE(list.hasMoreNonPrivateNodes());
-    EXPECT_EQ(raised<NodeAccessOutOfBoundsException>([&] { list.getNextNonPrivateNode(); }),
-              "AttrNodeList::getNextNonPrivateNode(): No more non-private nodes to get. Caller "
-              "failed to test with hasMoreNonPrivateNodes() first!\r\n");
-    EXPECT_EQ(list.getNextNode()->getName(), u"a");
-    EXPECT_EQ(raised<NodeAccessOutOfBoundsException>([&] { list.getNextNode(); }),
-              "AttrNodeList::getNextNode(): No more nodes to get. Caller failed to test with "
-              "hasMoreNodes() first!\r\n");
-    EXPECT_TRUE(AttrNodeList(list).hasMoreNonPrivateNodes()); // from the beginning
-    list.resetCursor();
-    EXPECT_TRUE(list.hasMoreNonPrivateNodes());
-    list.getNextNode();
-    list.removeAllNodes();
-    EXPECT_FALSE(list.hasMoreNodes());
 }
 
 TEST(AttrNodeListTest, Merge) {
@@ -119,32 +85,6 @@ TEST(AttrNodeListTest, EqualNodesAreRemovedEverywhere) {
     AttrNodeList list = listOf("a=1 c{a=1 b=2} a=1");
     list.removeNodeEverywhere(list.getNodeAt(2)); // which goes with the first round
     EXPECT_EQ(textOfList(list), "c{b=2}");
-}
-
-TEST(AttrNodeListTest, ReadingIsTyped) {
-    const AttrNodeList list = listOf("enum=enum:4 uri=uri:z list{a=1} half(upper-bound=9)");
-    std::int32_t number = 0;
-    std::int32_t upper = 0;
-    CXString text;
-    bool truth = false;
-    const AttrNodeList* nested = nullptr;
-    EXPECT_FALSE(list.OrdoAttrToRange(&number, &upper, AttrID(u"half")));
-    EXPECT_EQ(upper, 9);
-    EXPECT_FALSE(list.OrdoAttrToLong(&number, AttrID(u"enum"), 1)); // no failure, and no change
-    EXPECT_EQ(number, 0);
-    using Mismatch = AttributeTypeMismatchException;
-    EXPECT_EQ(raised<Mismatch>([&] { list.OrdoAttrToLong(&number, AttrID(u"uri")); }),
-              "AttrNodeList::OrdoAttrToLong(): Specified attribute 'uri' is not derived from "
-              "PrimitiveInteger or IppEnum!\r\n");
-    EXPECT_EQ(raised<Mismatch>([&] { list.OrdoAttrToString(&text, AttrID(u"enum")); }),
-              "AttrNodeList::OrdoAttrToString(): Specified attribute 'enum' is not derived from "
-              "PrimitiveString!\r\n");
-    EXPECT_EQ(raised<Mismatch>([&] { list.OrdoAttrToBool(&truth, AttrID(u"list")); }),
-              "AttrNodeList::OrdoAttrToBool(): Specified attribute 'list' is not IppBoolean!\r\n");
-    EXPECT_EQ(raised<Mismatch>([&] { list.OrdoAttrToList(&nested, AttrID(u"uri")); }),
-              "AttrNodeList::OrdoAttrToList(): Specified attribute 'uri' is not derived from "
-              "IppList!\r\n");
-    EXPECT_THROW(list.OrdoAttrToRange(&number, &upper, AttrID(u"enum")), Mismatch);
 }
 
 TEST(AttrNodeListTest, CopiesAreDeepAndOnlyCountsCompare) {

@@ -26,12 +26,6 @@ TEST(FeatureSettingsTest, NestedSettingsAreAViewOrFree) {
     EXPECT_EQ(textOf(copy), "");
     ticket.getNestedSettingsCopy(&ticket, overrides, 0);
     EXPECT_EQ(textOf(ticket), "copies=1");
-    EXPECT_THROW(ticketOf("cover-front=1").getNestedSettings(coverFront),
-                 AttributeTypeMismatchException);
-    EXPECT_THROW(ticketOf("copies=1").getNestedSettingsCopy(&copy, copies),
-                 AttributeTypeMismatchException);
-    EXPECT_THROW(ticketOf("media-col{media-size{x-dimension=x}}").getStockSize(),
-                 AttributeTypeMismatchException);
 }
 
 // What is stored may be the ticket itself, or lie in it.
@@ -56,13 +50,8 @@ TEST(FeatureSettingsTest, PageOverridesBeginWithTheirRanges) {
         {"page-overrides[]", false, "page-overrides[]"},
         {shaped, false, shaped},
         {"page-overrides[value{copies=5 pages[value(lower-bound=2 upper-bound=3)]}]", true, shaped},
-        {"page-overrides[value{pages[value(lower-bound=2 upper-bound=3)] copies=5 "
-         "input-documents[value(lower-bound=1 upper-bound=1)]}]",
-         true, shaped},
         // Without pages there is nothing to put in the second place, and each run counts as a
         // change.
-        {"page-overrides[value{copies=5}]", true,
-         "page-overrides[value{input-documents[value(lower-bound=1 upper-bound=1)] copies=5}]"},
         {"page-overrides[value{input-documents[value(lower-bound=1 upper-bound=1)] copies=5}]",
          true,
          "page-overrides[value{input-documents[value(lower-bound=1 upper-bound=1)] copies=5}]"},
@@ -93,8 +82,6 @@ TEST(FeatureSettingsTest, ImageShiftsGoToTheSidesThatArePrinted) {
          "y-side2-image-shift=-8"},
         {"sides=one-sided y-image-shift=8 y-side2-image-shift=1", true,
          "sides=one-sided y-side2-image-shift=1 y-side1-image-shift=8"},
-        {"y-image-shift=8 y-side1-image-shift=1", true,
-         "y-side1-image-shift=8 y-side2-image-shift=8"},
         // An override prints on the sides of its own, or else of the ticket.
         {"sides=one-sided page-overrides[value{x-image-shift=1} "
          "value{sides=two-sided-short-edge x-image-shift=2}]",
@@ -112,8 +99,6 @@ TEST(FeatureSettingsTest, ImageShiftsGoToTheSidesThatArePrinted) {
         EXPECT_EQ(ticket.normalizeImageShift(), changed) << before;
         EXPECT_EQ(textOf(ticket), after);
     }
-    EXPECT_THROW(ticketOf("sides=folded").normalizeImageShift(), UnknownFeatureRequestException);
-    EXPECT_THROW(ticketOf("x-image-shift=x").normalizeImageShift(), AttributeTypeMismatchException);
     for (const char* senseless : {"sides=folded", "x-image-shift=x", "page-overrides[value=1]"}) {
         FeatureSettings ticket = ticketOf(senseless);
         EXPECT_TRUE(ticket.normalize());

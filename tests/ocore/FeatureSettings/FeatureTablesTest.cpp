@@ -122,29 +122,40 @@ TEST(FeatureTablesTest, CapabilitiesStandOnceInTheOrderOfTheirTypes) {
     EXPECT_EQ(count, getCapabilityRows().size()); // each belongs to a feature or to the printer
 }
 
-TEST(FeatureTablesTest, CapabilitiesAreEqualByFeatureAndType) {
-    const _CI account(feature::jobAccountID, CAPTYPE_CHAR_RESTRICTION);
-    const _CI data(feature::jobAccountingData, CAPTYPE_CHAR_RESTRICTION);
-    EXPECT_EQ(account.getName(), data.getName()); // one attribute serves three features
-    EXPECT_FALSE(account.isEqual(data));
-    EXPECT_FALSE(account.isEqual(_CI(feature::jobAccountID, CAPTYPE_INT_RANGE)));
-    // A feature and a capability are never the same.
-    EXPECT_FALSE(account.isEqual(_FI(feature::jobAccountID)));
-    EXPECT_FALSE(_FI(feature::jobAccountID).isEqual(account));
+TEST(StockSizeTest, SizesAreTurnedIfOnlyThatFits) {
+    const Rows<SizeLimits, bool> rows{
+        {{21000, 21000, 29700, 29700}, false}, // bounds are inclusive
+        {{29700, 29700, 21000, 21000}, true},
+        {{10000, 50000, 10000, 50000}, false}, // both ways fit
+        {{1, 2, 1, 2}, false},                 // neither does
+        {{29701, 50000, 10000, 50000}, false},
+        {{25000, 50000, 10000, 20999}, false},
+    };
+    for (const auto& [limits, turned] : rows) {
+        std::int32_t width = 0;
+        std::int32_t height = 0;
+        StockSize(21000, 29700).getOrientedDimensions(limits, &width, &height);
+        EXPECT_EQ(width, turned ? 29700 : 21000);
+        EXPECT_EQ(height, turned ? 21000 : 29700);
+    }
 }
 
-TEST(FeatureTablesTest, CapabilitiesThatAreNotThereAreNamed) {
-    for (const auto& [feature, type, ending] : Rows<FeatureEnum, std::uint32_t, const char*>{
-             {feature::copies, 4, "'4' for feature '2' (copies).\r\n"},
-             {afterLast, 1, "'1' for feature '138' (<unknown>!).\r\n"},
-             {TJTF_ANY, 1, "'1' for feature '1' (<unknown>!).\r\n"}}) {
-        const _CI capability(feature, type);
-        EXPECT_EQ(raised<UnknownFeatureRequestException>([&] { capability.getName(); }),
-                  std::string("CapabilityDataBase::getCapabilityInfo( Feature, Capability type ) "
-                              "could not find requested capability type ") +
-                      ending);
+TEST(StockSizeTest, SizesWithinLimits) {
+    const Rows<SizeLimits, std::vector<std::uint32_t>> rows{
+        // 17 x 11 inches and A3 stand in landscape order in the table.
+        {{27000, 30000, 40000, 43200}, {4, 9}},
+        {{21000, 21600, 27900, 29700}, {2, 8}},
+        {{27900, 29700, 21000, 21600}, {2, 8}},
+    };
+    for (const auto& [limits, expected] : rows) {
+        std::vector<std::uint32_t> codes;
+        for (const StockSize& size : StockSize::getSizesWithin(limits)) {
+            codes.push_back(size.getSize());
+        }
+        EXPECT_EQ(codes, expected);
     }
-    EXPECT_EQ(getCapabilityTypeText(lastType + 1), u"[UNKNOWN!]");
+    // All but the unspecified and the other.
+    EXPECT_EQ(StockSize::getSizesWithin({0, 100000, 0, 100000}).size(), 13U);
 }
 
 } // namespace

@@ -20,15 +20,9 @@ TEST(PrinterTablesTest, EachFamilyModelAndDriverStandsOnceAndRefersToOthers) {
         SCOPED_TRACE(testing::Message() << "model " << info.model);
         EXPECT_EQ(info.model, i + 1);
         EXPECT_EQ(PrinterModel::getModelInfoIndex(info.model), i);
-        const FamilyInfo& family = getFamilyTable()[PrinterModel::getFamilyInfoIndex(info.family)];
         const PrinterModel model(info.model, pageLanguage::monochromePcl);
         EXPECT_EQ(model.getDisplayName(), ResourceLibrary().getString(info.displayNameStringID));
         EXPECT_FALSE(model.getDisplayName().isEmpty());
-        // Only the second form has a resource of its own.
-        for (const std::uint32_t form : {0U, 1U, 2U, 3U, 4U}) {
-            EXPECT_EQ(model.getCapabilityResource(form),
-                      form == 2 ? family.capabilityResource2 : family.capabilityResource1);
-        }
     }
     for (std::uint32_t i = 0; i < getDriverTable().size(); ++i) {
         const DriverInfo& driver = getDriverTable()[i];
@@ -49,12 +43,6 @@ TEST(PrinterTablesTest, LookupsThatFailSayWhatWasLookedFor) {
     EXPECT_EQ(raised<E>([] { PrinterModel(52, 2); }),
               "PrinterModel::getModelInfoIndex(): Could not find the model enumeration value (52) "
               "in the table of printer model information.\r\n");
-    EXPECT_EQ(raised<E>([] { PrinterModel::getFamilyInfoIndex(0); }),
-              "PrinterModel::getFamilyInfoIndex(): Could not find the family enumeration value (0) "
-              "in the table of printer family information.\r\n");
-    EXPECT_EQ(raised<E>([] { PrinterModel::fromDriverName(u"tarvo lumaset 510 pcl5e"); }),
-              "PrinterModel::getDriverInfoIndex(): Could not find the printer driver name 'tarvo "
-              "lumaset 510 pcl5e' in the table of printer driver information.\r\n");
     // A language that a model doesn't have goes unnoticed until its driver's name is wanted.
     const PrinterModel model(32, pageLanguage::postScript);
     EXPECT_EQ(raised<E>([&] { model.getDriverName(); }),

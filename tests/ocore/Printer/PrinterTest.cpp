@@ -4,7 +4,6 @@
 #include "ocore/Resources/Stream.h"
 #include "ocore/User/User.h"
 #include "support/LibraryTesting.h"
-#include "support/ScratchUser.h"
 #include "zent27.h"
 
 namespace zent::test {

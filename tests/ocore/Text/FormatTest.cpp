@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <limits>
 
-#include "ocore/Text/FormatFakeModule.h"
+#include "resources/ids.h"
 #include "support/LibraryTesting.h"
 
 namespace zent::test {
@@ -32,15 +32,12 @@ TEST(Format, TakesTextsOfEveryKind) {
         {format(u"%S|%s", u"wide", "narrow"), u"wide|narrow"},
         {format(u"%s|%ls|%hs|%Fs|%Ns", text, text, text, text, text),
          u"staple|staple|staple|staple|staple"},
-        {format(u"%s", std::u16string_view(u"view")), u"view"},
-        {format(u"%s", std::string("string")), u"string"},
         {format(u"%s|%S|%s", noWide, noNarrow, nullptr), u"(null)|(null)|(null)"},
         {format(u"%.3s|%8s|%-8s|%8.2s|%.0s|%.*s", noWide, text, text, text, text, 4, text),
          u"(nu|  staple|staple  |      st||stap"},
         {format(u"%c%C%hc%lc|%3c|%-3c|", u'\u20AC', 'b', 'c', u'd', u'e', u'f'),
          u"\u20ACbcd|  e|f  |"},
         {formatText("%s of %S is %d%%\r\n", text, "narrow", 5), u"staple of narrow is 5%\r\n"},
-        {format(u"\U0001F5A8 %s", u"\u4E2D"), u"\U0001F5A8 \u4E2D"},
         {format(u"%.2s|%.1s|%.3s|%.1s", u"a\U0001F5A8", u"\U0001F5A8", u"a\U0001F5A8b", u"\xD83Dx"),
          u"a||a\U0001F5A8|\xD83D"}, // a pair isn't cut in half
     });
@@ -57,9 +54,7 @@ TEST(Format, CutsNumbersToTheirSize) {
          u"4294967295|4294967295|65535|18446744073709551615"},
         {format(u"%d|%I64d", INT32_MIN, INT64_MIN), u"-2147483648|-9223372036854775808"},
         {format(u"%d %u %d", true, Colour::red, u'A'), u"1 7 65"},
-        {format(u"0x%lx", pointer), u"0xbeef"},
         {format(u"%p", pointer), sizeof(void*) == 8 ? u"000000000000BEEF" : u"0000BEEF"},
-        {format(u"%f", 3), u"3.000000"},
     });
 }
 
@@ -85,11 +80,8 @@ TEST(Format, LeavesWhatItCannotFormat) {
         {format(u"%d|%c|%f|%p|%e", 2.5, u"t", u"t", 2.5, "t"), u"%d|%c|%f|%p|%e"},
         {format(u"%*d|%d", u"text", 5), u"%*d|5"},
         {format(u"100% sure, %y, %5"), u"100% sure, %y, %5"},
-        {format(u"%"), u"%"},
         {format(u"%I32d%F", 5), u"%I32d%F"},
-        {format(u"100%% %-5%"), u"100% %"},
         {format(u"[%n]%d", 1, 2), u"[]2"},
-        {format(u""), u""},
     });
 }
 
@@ -162,53 +154,11 @@ TEST(Format, AgreesWithTheCLibraryOnFloats) {
 }
 
 TEST(FormatResource, TakesItsFormatFromAStringTable) {
-    const FakeResourceModule module({{1, u"%s: %ld"}, {2, u"%2 of %1"}});
-    EXPECT_EQ(CXString::FormatResource(module, 1, u"copies", 5), u"copies: 5");
-    EXPECT_EQ(CXString::FormatResource(module, 9, u"copies", 5), u"");
-    EXPECT_EQ(CXString::FormatMessage(module, 2, u"ten", u"one"), u"one of ten");
-}
-
-template <typename... Args>
-CXString message(const char16_t* text, const Args&... args) {
-    return CXString::FormatMessage(text, args...);
-}
-
-TEST(FormatMessage, InsertsByNumber) {
-    check({
-        {message(u"%2 %1 %2", u"one", "two"), u"two one two"},
-        {message(u"%1!08lx!|%2!-5d!|%3!s!", 0xABC, 7, u"t"), u"00000abc|7    |t"},
-        {message(u"%1!*.*s! %4 %5!*s!", 4, 2, u"Bill", u"Bob", 6, u"Bill"), u"  Bi Bob   Bill"},
-        {message(u"%10%11%101", 1, 2, 3, 4, 5, 6, 7, 8, 9, u"ten", u"eleven"), u"teneleventen1"},
-        {message(u"a%nb%tc%rd%be%%f%.g%!h% i%qj%0k"), u"a\r\nb\tc\rd e%f.g!h iqj"},
-        {message(u"a\nb\rc\r\nd\n\r"), u"a\r\nb\r\nc\r\nd\r\n\r\n"},
-        {message(u"%1!zz!|%1!!|%1|%1!d!x!", 5), u"%1!zz!|%1!!|%1|5x!"},
-        {message(u"%1!s!!", u"q"), u"q!"},
-        {message(u"%1", u"%2 100%"), u"%2 100%"},
-        {message(u""), u""},
-    });
-}
-
-template <typename Call>
-std::string thrownBy(const Call& call) {
-    try {
-        call();
-    } catch (const char* text) {
-        return text;
-    }
-    return "nothing";
-}
-
-TEST(FormatMessage, ThrowsALiteralOnFailure) {
-    const std::string ofText =
-        "CXString::FormatMessage(LPCTSTR...): Failed call to FormatMessage() API!\r\n";
-    const std::string ofResource =
-        "CXString::FormatMessage(HINSTANCE,UINT,...): Failed call to FormatMessage() API!\r\n";
-    for (const char16_t* text : {u"%1 %2", u"%99", u"%1!*d!", u"%1!d", u"at the end %"}) {
-        EXPECT_EQ(thrownBy([&] { message(text, 1); }), ofText) << CXString(text).toNarrow();
-    }
-    const FakeResourceModule module({{1, u"%1"}});
-    EXPECT_EQ(thrownBy([&] { CXString::FormatMessage(module, 1); }), ofResource);
-    EXPECT_EQ(thrownBy([&] { CXString::FormatMessage(module, 2); }), ofResource);
+    useResourceLibrary();
+    const ResourceLibrary library;
+    EXPECT_EQ(CXString::FormatResource(library.getModule(), IDS_CUSTOM_VALUE, u"red"),
+              u"red (custom)");
+    EXPECT_EQ(CXString::FormatResource(library.getModule(), 1, u"red"), u"");
 }
 
 } // namespace
