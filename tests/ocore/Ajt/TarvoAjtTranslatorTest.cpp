@@ -5,7 +5,6 @@
 #include "ocore/FeatureSettings/FeatureValueTable.h"
 #include "ocore/Printer/CreateStreamTranslator.h"
 #include "support/OrdoDocument.h"
-#include "support/TestFile.h"
 
 namespace zent::test {
 namespace {
@@ -156,28 +155,20 @@ std::string omissionsOf(const AttrNodeList& ticket, const AjtPrinterTraits& trai
 
 TEST_F(TarvoAjtTranslatorTest, OmissionsAreWhatNoLineSpeaksOf) {
     const Rows<const char*, const char*> rows{
-        {"copies=2 media-col{media-color=red media-type=stationery media-hole-count=0}", ""},
         {"output-bin=stacker !media-key=a job-offset[value=none]", "output-bin job-offset"},
         {"page-ranges[value(lower-bound=3 upper-bound=9) value(lower-bound=12 upper-bound=14)]",
          "page-ranges[2]"},
         {"page-ranges[value(lower-bound=3)]", "page-ranges"},
-        {"finishings[value=enum:3]", ""},
         {"finishings[value=enum:20 value=enum:22 value=enum:110]", "finishings[2] finishings[3]"},
         {"separator-sheets{separator-sheets-type=slip-sheets} finishings[value=enum:20]",
          "finishings"},
-        {"imposition-template=name:two-up highlight-colorant=use-ready",
-         "imposition-template highlight-colorant"},
-        {"sides=one-sided x-side2-image-shift=100 y-side2-image-shift=100", ""},
         {"job-save-disposition{save-disposition=none save-info[value{save-name=name:a}]}",
          "job-save-disposition/save-info"},
         {"media-col{media-size{x-dimension=100} media-hole-count=2}", "media-col"},
         {"media-col{media-type=stationery media-hole-count=2 media-order-count=4}",
          "media-col/media-hole-count media-col/media-order-count"},
-        {"media-col{media-type=labels media-hole-count=3 media-order-count=4}", ""},
-        {"cover-front{copies=1} cover-back{}", "cover-front/copies"},
         {"insert-sheet[value{insert-count=2} value{insert-after-page-number=4}]",
          "insert-sheet[1]"},
-        {"page-overrides[value{sides=one-sided}]", "page-overrides"},
         {"page-overrides[value{input-documents[value(lower-bound=1 upper-bound=1)]"
          " pages[value(lower-bound=1 upper-bound=2) value(lower-bound=4 upper-bound=4)]"
          " x-side2-image-shift=0 y-side2-image-shift=1 toner-saver=none}]",

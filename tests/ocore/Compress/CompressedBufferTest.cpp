@@ -47,14 +47,6 @@ TEST(CompressedBufferTest, StoresAndExpands) {
     EXPECT_EQ(textOf(buffer.getImage()), std::string("\0\0\0\x09\0\0\0\0COM4", 12));
 }
 
-TEST(CompressedBufferTest, AnOldFooterIsReplaced) {
-    const std::string image = deflated("ticket") + std::string("\0\0\0\x06", 4) + "COMP";
-    const CompressedBuffer buffer(bytesOf(image));
-    EXPECT_EQ(buffer.getLevel(), -1);
-    EXPECT_EQ(buffer.getImage().size(), image.size() + 4);
-    EXPECT_EQ(expanded(textOf(buffer.getImage())), "ticket");
-}
-
 TEST(CompressedBufferTest, DamageIsFound) {
     const std::string stream = deflated("ticket");
     const auto image = [&](const std::string& size) { return stream + size + "COMP"; };

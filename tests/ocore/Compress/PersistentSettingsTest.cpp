@@ -1,12 +1,11 @@
 #include "ocore/Compress/PersistentSettings.h"
 
+#include "ocore/Attributes/AttrValueFactory.h"
 #include "ocore/Compress/CompressedBuffer.h"
 #include "ocore/FeatureSettings/FeatureIdentifier.h"
 #include "ocore/FeatureSettings/FeatureValueDataBase.h"
 #include "ocore/User/User.h"
 #include "support/OrdoDocument.h"
-#include "support/ScratchUser.h"
-#include "support/TestFile.h"
 
 namespace zent::test {
 namespace {
@@ -53,18 +52,6 @@ private:
     ScratchUser m_preferences;
 };
 
-void addValue(AttrNodeList& list, const FeatureValueInfo& row, const AttrID& name) {
-    if (row.m_type == AVTE_ENUM) {
-        list.addEnum(std::stoi(row.m_text.toNarrow()), name);
-    } else if (row.m_type == AVTE_INTEGER) {
-        list.addInteger(std::stoi(row.m_text.toNarrow()), name);
-    } else if (row.m_type == AVTE_MIMEMEDIA) {
-        list.addMimeMediaType(row.m_text, name);
-    } else {
-        list.addKeyword(row.m_text, name);
-    }
-}
-
 /// Each feature once for each value that it can have, within one collection.
 AttrNodeList everything() {
     const FeatureValueDataBase values;
@@ -76,7 +63,8 @@ AttrNodeList everything() {
         for (std::int32_t number = 1; number < value::firstRunTimeValue; ++number) {
             const auto row = values.findFeatureValueInfo(number);
             if (row && std::ranges::count(row->m_features, feature) > 0) {
-                addValue(all, *row, name);
+                all.addNode(AttrNode(
+                    name, *AttrValueFactory::createAttrValue(row->m_syntax, row->m_text), false));
                 hasValue = true;
             }
         }

@@ -8,7 +8,6 @@
 #include "ocore/OrdoParse/XmlLimits.h"
 #include "ocore/OrdoParse/ZNXMLInterface.h"
 #include "support/OrdoDocument.h"
-#include "support/ScratchFolder.h"
 
 namespace zent::test {
 namespace {

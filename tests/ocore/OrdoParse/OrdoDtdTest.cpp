@@ -3,7 +3,6 @@
 #include "ocore/FeatureSettings/FeatureSettings.h"
 #include "ocore/OrdoParse/OrdoCategories.h"
 #include "support/OrdoDocument.h"
-#include "support/TestFile.h"
 
 namespace zent::test {
 namespace {
@@ -106,23 +105,6 @@ TEST(OrdoDtdTest, WhatIsWrittenInAnySyntaxAtAnyPlaceIsReadAsItWas) {
         const AttrNodeList list = listOf(ticket);
         EXPECT_EQ(textOfList(readOrdo(writeOrdo(list))), textOfList(list));
     }
-}
-
-TEST(OrdoDtdTest, AcceptsEachListedAttributeInEitherCategory) {
-    useOrdoDtd();
-    std::string operation;
-    std::string jobTemplate;
-    for (const std::string& name : declared("<!ELEMENT ")) {
-        if (isOfTicket(name)) {
-            const std::string attribute = "<" + name + " syntax=\"keyword\"/>";
-            operation += attribute;
-            jobTemplate.insert(0, attribute); // any order
-        }
-    }
-    EXPECT_EQ(textOfList(readOrdo(ordoDocument(
-                  "<ordo-operation-attributes>" + operation + "</ordo-operation-attributes>" +
-                  "<job-template-attributes>" + jobTemplate + "</job-template-attributes>"))),
-              "");
 }
 
 } // namespace

@@ -67,17 +67,6 @@ TEST_F(OrdoReadTest, ElementsBecomeNodes) {
     EXPECT_EQ(list.getNodeAt(0).getAttrValue().getIppSyntax(), u"integer");
 }
 
-TEST_F(OrdoReadTest, CategoriesAddNoLevel) {
-    const std::string both = "<job-template-attributes><job-name syntax='name'>a</job-name>"
-                             "</job-template-attributes>\n"
-                             "<ordo-operation-attributes><copies syntax='integer'>1</copies>"
-                             "</ordo-operation-attributes>";
-    EXPECT_EQ(read(ordoDocument(both)), "job-name=name:a copies=1");
-    for (const char* nothing : {"", "\r\n\t", "<ordo-operation-attributes/>"}) {
-        EXPECT_EQ(read(ordoDocument(nothing)), "");
-    }
-}
-
 /// The text of the first node.
 std::u16string textIn(const std::string& document) {
     const AttrNodeList list = readOrdo(document);

@@ -6,17 +6,12 @@
 #include "ocore/Attributes/PrimitiveString.h"
 #include "ocore/OrdoParse/OrdoCategories.h"
 #include "support/OrdoDocument.h"
-#include "support/TestFile.h"
 
 namespace zent::test {
 namespace {
 
 using testing::HasSubstr;
 using testing::Not;
-
-const std::string emptyTicket = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n"
-                                "<!DOCTYPE ordo SYSTEM \"ordo-v02025.dtd\">\r\n"
-                                "<ordo krss-version=\"2.01\" version=\"1.0\" xml:lang=\"en-US\"/>";
 
 class OrdoWriteTest : public testing::Test {
 protected:
@@ -33,28 +28,12 @@ TEST_F(OrdoWriteTest, ATicketIsLaidOutLineByLine) {
     EXPECT_EQ(textOfList(readOrdo(golden)), textOfList(list));
 }
 
-TEST_F(OrdoWriteTest, NothingToWriteIsARootAlone) {
-    EXPECT_EQ(writeOrdo({}), emptyTicket);
-    EXPECT_EQ(writeOrdo(listOf("!copies=2 !nobody-knows=3")), emptyTicket);
-    EXPECT_EQ(textOfList(readOrdo(emptyTicket)), "");
-}
-
 /// What stands in the root, without the line breaks and tabs.
 std::string contentOf(const AttrNodeList& list) {
     std::string text = writeOrdo(list);
     text = text.substr(text.find("\"en-US\">") + 8);
     std::erase_if(text, [](char c) { return c == '\r' || c == '\n' || c == '\t'; });
     return text.substr(0, text.size() - std::string("</ordo>").size());
-}
-
-TEST_F(OrdoWriteTest, CategoriesStandInOrderOfTheirFirstAttributes) {
-    // Private nodes stay inside at every depth.
-    EXPECT_EQ(contentOf(listOf("media-col{!media-color=red media-size{!x-dimension=1}} "
-                               "job-name=keyword:a sides=b !copies=1")),
-              "<job-template-attributes><media-col syntax=\"collection\">"
-              "<media-size syntax=\"collection\"/></media-col><sides syntax=\"keyword\">b</sides>"
-              "</job-template-attributes><ordo-operation-attributes>"
-              "<job-name syntax=\"keyword\">a</job-name></ordo-operation-attributes>");
 }
 
 /// The element of one attribute.
@@ -64,14 +43,6 @@ std::string elementOf(const AttrValue& value) {
     std::string text = writeOrdo(list);
     text = text.substr(text.find("<copies"));
     return text.substr(0, text.find("\r\n\t</job-template-attributes>"));
-}
-
-TEST_F(OrdoWriteTest, OnlyListsWithoutMembersHaveNoEndTag) {
-    EXPECT_EQ(elementOf(IppName()), "<copies syntax=\"name\" xml:space=\"preserve\"></copies>");
-    EXPECT_EQ(elementOf(IppNull(u"dateTime")), "<copies syntax=\"dateTime\"></copies>");
-    EXPECT_EQ(contentOf(listOf("finishings[]")),
-              "<job-template-attributes><finishings syntax=\"1setOf\"/>"
-              "</job-template-attributes>");
 }
 
 TEST_F(OrdoWriteTest, TextsAreEscapedAndWhatXmlCannotHoldIsReplaced) {
@@ -112,20 +83,6 @@ TEST_F(OrdoWriteTest, NamesComeBackAsTheyWere) {
     }
 }
 
-// Some texts straddle the pieces that the formatter is given.
-TEST_F(OrdoWriteTest, LongTicketsComeBackAsTheyWere) {
-    AttrNodeList list;
-    AttrNodeList* const set = list.addSetOf(AttrID(u"document-format"));
-    for (int i = 0; i < 5'000; ++i) {
-        const std::u16string text(static_cast<std::size_t>(i % 97), u'\u00E4');
-        set->addKeyword(CXString(u"a" + text + u"\U0001D11E"), AttrID(u"value"));
-    }
-    const std::string written = writeOrdo(list);
-    const AttrNodeList read = readOrdo(written);
-    EXPECT_TRUE(textOfList(read) == textOfList(list));
-    EXPECT_TRUE(writeOrdo(read) == written);
-}
-
 TEST_F(OrdoWriteTest, AttributesWithoutACategoryFail) {
     EXPECT_EQ(ordoFailure([] { writeOrdo(listOf("copies=1 nobody-knows=2")); }),
               "7: OrdoDomDoc::getParentNode(): No ORDO category for nobody-knows!\r\n");
@@ -140,14 +97,6 @@ TEST_F(OrdoWriteTest, NamesThatXmlDoesNotAllowFail) {
         EXPECT_EQ(ordoFailure([&] { writeOrdo(list); }),
                   "6: TarvoDomDoc::addAttrNodeToDOMTree(): DOM_DOMException exception during DOM "
                   "node creation. Exception code is INVALID_CHARACTER_ERR.\r\n");
-    }
-}
-
-TEST(OrdoCategoriesTest, AttributesOfTheOperationAreNoneOfTheJob) {
-    EXPECT_EQ(findOrdoCategory(u"requesting-user-name"), OrdoCategory::operation);
-    EXPECT_EQ(findOrdoCategory(u"job-account-id"), OrdoCategory::jobTemplate);
-    for (const char16_t* name : {u"", u"copie", u"copies ", u"x-dimension", u"zzz"}) {
-        EXPECT_EQ(findOrdoCategory(name), OrdoCategory::none);
     }
 }
 
