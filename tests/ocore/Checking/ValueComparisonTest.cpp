@@ -7,12 +7,7 @@ namespace zent::test {
 namespace {
 
 TEST(ValueComparisonTest, ValuesAreRefusedOnPositiveEvidenceOnly) {
-    const struct {
-        const char* value;
-        const char* supported;
-        bool userDefined;
-        bool fits;
-    } rows[] = {
+    const Rows<const char*, const char*, bool, bool> rows{
         // texts, keywords and names alike
         {"a=white", "a[value=red value=white]", false, true},
         {"a=white", "a[value=red value=name:white]", false, true},
@@ -47,15 +42,14 @@ TEST(ValueComparisonTest, ValuesAreRefusedOnPositiveEvidenceOnly) {
         // what can't be read passes
         {"a(lower-bound=x upper-bound=6)", "a[value(lower-bound=1 upper-bound=5)]", false, true},
     };
-    for (const auto& row : rows) {
-        const AttrNodeList value = listOf(row.value);
-        const AttrNodeList supported = listOf(row.supported);
-        const AttrValue& given = value.getNodeAt(0).getAttrValue();
+    for (const auto& [given, offered, userDefined, fits] : rows) {
+        const AttrNodeList value = listOf(given);
+        const AttrNodeList supported = listOf(offered);
+        const AttrValue& read = value.getNodeAt(0).getAttrValue();
         const AttrValue& allowed = supported.getNodeAt(0).getAttrValue();
-        SCOPED_TRACE(testing::Message() << row.value << " among " << row.supported);
-        EXPECT_EQ(compareAttrValues(u"a", given, allowed, row.userDefined), row.fits);
-        EXPECT_EQ(compareAttrValues(u"a", given, SupportedValues(allowed), row.userDefined),
-                  row.fits);
+        SCOPED_TRACE(testing::Message() << given << " among " << offered);
+        EXPECT_EQ(compareAttrValues(u"a", read, allowed, userDefined), fits);
+        EXPECT_EQ(compareAttrValues(u"a", read, SupportedValues(allowed), userDefined), fits);
     }
 }
 

@@ -131,30 +131,5 @@ TEST_F(SettingsProblemFixerTest, ProblemsInWhatHasGoneArePassedOver) {
     EXPECT_EQ(textOfList(ticket), "copies=3");
 }
 
-TEST_F(SettingsProblemFixerTest, ProblemsAreEqualByKindPlaceAndLimits) {
-    AttrNodeList ticket = listOf("job-name=name:a job-name=name:a");
-    const CXString name(u"job-name");
-    const auto at = [&](std::uint32_t position) {
-        return SettingsContext(ticket, {{&ticket, &ticket.getNodeAt(position), position, false}},
-                               AttrID(name), name);
-    };
-    const _CI limit(feature::jobName, CAPTYPE_INT_UPPER_LIMIT);
-    const FailedRangeCapability problem(at(0), limit, 0, 9);
-    EXPECT_TRUE(problem.isEqual(*problem.clone()));
-    EXPECT_FALSE(problem.isEqual(FailedRangeCapability(at(0), limit, 0, 8)));
-    EXPECT_FALSE(problem.isEqual(FailedRangeCapability(at(1), limit, 0, 9)));
-    EXPECT_FALSE(problem.isEqual(FailedEmbeddedSpacesCapability(at(0), limit)));
-    EXPECT_FALSE(UnsupportedValue(at(0)).isEqual(UnsupportedAttribute(at(0))));
-    EXPECT_TRUE(UnsupportedValue(at(0)).isEqual(UnsupportedValue(at(0))));
-}
-
-TEST_F(SettingsProblemFixerTest, AListEndsWithAnException) {
-    SettingsProblemList problems;
-    EXPECT_FALSE(problems.hasMoreSettingsProblems());
-    EXPECT_EQ(raised<NodeAccessOutOfBoundsException>([&] { problems.getNextSettingsProblem(); }),
-              "SettingsProblemList::getNextSettingsProblem(): No more SettingsProblems to get. "
-              "Caller failed to test with hasMoreSettingsProblems() first!\r\n");
-}
-
 } // namespace
 } // namespace zent::test

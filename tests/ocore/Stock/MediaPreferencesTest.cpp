@@ -1,8 +1,6 @@
 #include "ocore/Stock/MediaPreferences.h"
 
 #include "support/OrdoDocument.h"
-#include "support/ScratchFolder.h"
-#include "support/TestFile.h"
 
 namespace zent::test {
 namespace {
@@ -103,23 +101,6 @@ TEST_F(MediaPreferencesTest, OlderFilesAreTakenOver) {
     EXPECT_EQ(m_folder.read(older), before);
     EXPECT_EQ(keysOf(*this->preferences().getUserStocks()), "plain* bond");
     EXPECT_FALSE(this->preferences().isOldFile());
-}
-
-TEST_F(MediaPreferencesTest, FavoritesThatAreNoKeysArePassedOver) {
-    m_folder.write(current,
-                   libraryOf("<media-favorites-printer syntax='1setOf'>"
-                             "<value syntax='collection'><a syntax='keyword'>b</a></value>"
-                             "<value syntax='strange'>c</value><other syntax='keyword'>d</other>"
-                             "<value syntax='keyword'>e</value></media-favorites-printer>"));
-    MediaPreferences preferences = this->preferences();
-    StockList none;
-    preferences.applyPrinterFavorites(none);
-    save(preferences, none);
-    const std::string saved = m_folder.read(current);
-    EXPECT_NE(saved.find("<media-favorites-printer syntax=\"1setOf\">\r\n\t<value "
-                         "syntax=\"keyword\">e</value>\r\n</media-favorites-printer>"),
-              std::string::npos)
-        << saved;
 }
 
 TEST_F(MediaPreferencesTest, FailuresLoseNothing) {

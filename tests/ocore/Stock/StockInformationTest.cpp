@@ -5,7 +5,6 @@
 #include "ocore/Attributes/IppList.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
 #include "support/LibraryTesting.h"
-#include "support/ScratchFolder.h"
 
 namespace zent::test {
 namespace {
@@ -47,28 +46,6 @@ protected:
     NonDriverBasedPrinter m_printer{6, 2, 1, u"", true};
     StockInformation m_stocks{m_printer, MediaPreferences(folderName())};
 };
-
-TEST_F(StockInformationTest, NumbersNameStocksAndFillGaps) {
-    EXPECT_EQ(keysOf(StockType::user), "1 2 3 4 5 6 7 8 9 10");
-    EXPECT_NE(keysOf(StockType::printer), "");
-    EXPECT_EQ(keysOf(StockType::transient), "");
-    const FeatureValue three(feature::media, u"3");
-    EXPECT_TRUE(m_stocks.hasKey(three, false, StockType::user));
-    EXPECT_FALSE(m_stocks.hasKey(three, false, StockType::printer));
-    EXPECT_TRUE(m_stocks.hasKey(three, true, StockType::printer));
-
-    m_stocks.resetStocksByType(StockType::user);
-    m_stocks.getNextStockByType();
-    m_stocks.removeStock(*m_stocks.getNextStockByType());
-    EXPECT_EQ(m_stocks.getNextStockByType()->getKey(), three) << "the walk goes on";
-    m_stocks.addStock(*stockOf("media=name:11"));
-    m_stocks.addStock(*stockOf("media-col{media-color=red}"));
-    m_stocks.addStock(*stockOf("media-col{media-color=blue}"));
-    EXPECT_EQ(keysOf(StockType::user), "1 3 4 5 6 7 8 9 10 11 2 12");
-    EXPECT_EQ(raised<NodeAccessOutOfBoundsException>([&] { m_stocks.getNextStockByType(); }),
-              "StockInformation::getNextStockByType(): No more Stocks to get. Caller failed to "
-              "test with hasMoreStocksByType() first!\r\n");
-}
 
 TEST_F(StockInformationTest, TicketsAndStocksAreKeptInStep) {
     const Stock* const ours =
@@ -113,41 +90,6 @@ TEST_F(StockInformationTest, TicketsAndStocksAreKeptInStep) {
     EXPECT_EQ(keysOf(StockType::transient), "");
 }
 
-TEST_F(StockInformationTest, FindsTheBestMatchAsAComparisonWithEachWould) {
-    for (const char* added : {"media-col{media-color=red media-key=name:A}", "media=name:A",
-                              "media-col{media-color=red media-key=name:B}", "media=name:B",
-                              "media-col{media-color=red media-key=name:B}"}) {
-        m_stocks.addStock(*stockOf(added));
-    }
-    // One that is known by its description alone.
-    Stock nameless(*m_stocks.addStock(*stockOf("media-col{media-color=blue}")));
-    nameless.setKey(FeatureValue());
-    m_stocks.replaceStock(nameless);
-    m_stocks.resetStocksByType();
-    std::vector<const Stock*> all;
-    while (m_stocks.hasMoreStocksByType()) {
-        all.push_back(m_stocks.getNextStockByType());
-    }
-    std::vector<Stock> asked{*all.back(), *all.front()};
-    for (const char* ticket :
-         {"media-col{media-color=red}", "media-col{media-color=red media-key=name:B}",
-          "media-col{media-color=red media-key=name:C}", "media=name:B", "media=name:C",
-          "media-col{media-color=blue media-key=name:A}", "media-col{media-color=blue}",
-          "media-col{unknown=1}", "media=name:A !private-stock-logical-id=-1"}) {
-        asked.push_back(*stockOf(ticket));
-    }
-    for (const Stock& stock : asked) {
-        const Stock* best = nullptr;
-        for (const Stock* const candidate : all) {
-            const StockMatch least = best == nullptr ? StockMatch::none : best->match(stock);
-            best = candidate->match(stock) > least ? candidate : best;
-        }
-        EXPECT_EQ(m_stocks.findBestMatch(stock), best)
-            << textOfList(*stock.getSettings().getAttrNodeList());
-        EXPECT_EQ(m_stocks.findStock(stock), best == nullptr ? &stock : best);
-    }
-}
-
 TEST_F(StockInformationTest, AnIdOfAnotherSessionIsNoStock) {
     FeatureSettings ticket(listOf("media-col{media-color=red}"));
     m_stocks.addStock(*stockOf("media-col{media-color=red}"));
@@ -157,19 +99,6 @@ TEST_F(StockInformationTest, AnIdOfAnotherSessionIsNoStock) {
     next.setSettings(&ticket);
     next.resetStocksByType(StockType::transient);
     EXPECT_FALSE(next.hasMoreStocksByType()) << "found by its description";
-}
-
-TEST_F(StockInformationTest, FavoritesOfThePrinterAreSaved) {
-    m_stocks.resetStocksByType(StockType::printer);
-    const Stock* const stock = m_stocks.getNextStockByType();
-    EXPECT_FALSE(stock->isFavorite());
-    m_stocks.setFavorite(*stock, true);
-    m_stocks.removeStock(*stock); // stays
-    m_stocks.save();
-    StockInformation next(m_printer, MediaPreferences(folderName()));
-    next.resetStocksByType(StockType::printer);
-    EXPECT_TRUE(next.getNextStockByType()->isFavorite());
-    EXPECT_FALSE(next.getNextStockByType()->isFavorite());
 }
 
 TEST_F(StockInformationTest, WhatOthersSavedMeanwhileStays) {

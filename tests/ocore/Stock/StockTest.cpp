@@ -21,13 +21,7 @@ std::string keyOf(const Stock& stock) { return stock.getKey().getText().toNarrow
 const char* const red = "media-col{media-color=red}";
 
 TEST(StockTest, ReadsWhatOneLevelOfATicketAsksFor) {
-    const struct {
-        const char* ticket;
-        StockSource source;
-        const char* key;
-        const char* settings;
-        const char* stored;
-    } rows[] = {
+    const Rows<const char*, StockSource, const char*, const char*, const char*> rows{
         {"copies=2 media=plain sides=x", StockSource::name, "plain", "media=plain",
          "media-key=plain"},
         {"media=name:Ours", StockSource::name, "Ours", "media=name:Ours", "media-key=name:Ours"},
@@ -44,14 +38,14 @@ TEST(StockTest, ReadsWhatOneLevelOfATicketAsksFor) {
         {"media=plain private-stock-logical-id=7", StockSource::name, "plain", "media=plain",
          "media-key=plain"}, // a document's own attribute
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.ticket);
-        const auto stock = stockOf(row.ticket);
+    for (const auto& [ticket, source, key, settings, stored] : rows) {
+        SCOPED_TRACE(ticket);
+        const auto stock = stockOf(ticket);
         ASSERT_TRUE(stock);
-        EXPECT_EQ(stock->getSource(), row.source);
-        EXPECT_EQ(keyOf(*stock), row.key);
-        EXPECT_EQ(settingsOf(*stock), row.settings);
-        EXPECT_EQ(textOfList(stock->getAttrNodeList()), row.stored);
+        EXPECT_EQ(stock->getSource(), source);
+        EXPECT_EQ(keyOf(*stock), key);
+        EXPECT_EQ(settingsOf(*stock), settings);
+        EXPECT_EQ(textOfList(stock->getAttrNodeList()), stored);
         EXPECT_EQ(stock->compare(Stock(*stock)), StockDifference::none);
     }
     for (const char* none : {"", "copies=2 media-col{}", "!private-stock-logical-id=7"}) {
@@ -61,41 +55,13 @@ TEST(StockTest, ReadsWhatOneLevelOfATicketAsksFor) {
     EXPECT_THROW(stockOf("media-col=1"), AttributeTypeMismatchException);
 }
 
-TEST(StockTest, ReplacesTheMediaOfATicket) {
-    auto stock = stockOf(red);
-    stock->setKeyFromText(u"Ours");
-    FeatureSettings ticket(
-        listOf("media=plain copies=2 media-col{media-color=blue} !private-stock-logical-id=3"));
-    stock->applyTo(ticket);
-    EXPECT_EQ(textOfList(*ticket.getAttrNodeList()), "copies=2 media-col{media-color=red}");
-    stock->assignNewLogicalID();
-    stock->applyTo(ticket);
-    EXPECT_EQ(Stock::getLogicalIDFromSettings(ticket), stock->getLogicalID());
-    EXPECT_EQ(stockOf(textOfList(*ticket.getAttrNodeList()))->match(*stock), StockMatch::best);
-    Stock::removeLogicalIDFromSettings(ticket);
-
-    stock->copyLogicalID(*stockOf(red));
-    stock->setSource(StockSource::name);
-    EXPECT_EQ(settingsOf(*stock), "media=name:Ours");
-    stock->setKeyFromText(u"Theirs");
-    stock->applyTo(ticket);
-    EXPECT_EQ(textOfList(*ticket.getAttrNodeList()), "copies=2 media=name:Theirs");
-    stock->setKeyFromText(u"");
-    EXPECT_FALSE(stock->hasKey());
-}
-
 TEST(StockTest, MatchesByIdThenKeyAndDescription) {
     using enum StockMatch;
     const std::string id1 = "!private-stock-logical-id=1";
     const std::string id2 = "!private-stock-logical-id=2";
     const std::string ours = "media-col{media-key=name:Ours media-color=red}";
     const std::string theirs = "media-col{media-key=name:Theirs media-color=red}";
-    const struct {
-        std::string one;
-        std::string other;
-        StockMatch match;
-        StockDifference difference;
-    } rows[] = {
+    const Rows<std::string, std::string, StockMatch, StockDifference> rows{
         {red + id1, "media=plain " + id1, best, StockDifference::source},
         {"media=plain " + id1, "media=plain " + id2, none, StockDifference::logicalID},
         {red, "media=plain", none, StockDifference::source},
@@ -114,13 +80,13 @@ TEST(StockTest, MatchesByIdThenKeyAndDescription) {
          StockDifference::description},
         {red, "media-col{media-color=red unknown=1}", basic, StockDifference::none},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.one + " | " + row.other);
-        const auto one = stockOf(row.one);
-        const auto other = stockOf(row.other);
-        EXPECT_EQ(one->match(*other), row.match);
-        EXPECT_EQ(other->match(*one), row.match);
-        EXPECT_EQ(one->compare(*other), row.difference);
+    for (const auto& [first, second, match, difference] : rows) {
+        SCOPED_TRACE(first + " | " + second);
+        const auto one = stockOf(first);
+        const auto other = stockOf(second);
+        EXPECT_EQ(one->match(*other), match);
+        EXPECT_EQ(other->match(*one), match);
+        EXPECT_EQ(one->compare(*other), difference);
         EXPECT_EQ(one->getDescriptionText() == other->getDescriptionText(),
                   one->isSameDescription(*other));
     }
@@ -128,110 +94,33 @@ TEST(StockTest, MatchesByIdThenKeyAndDescription) {
     EXPECT_EQ(user->compare(*stockOf(red)), StockDifference::type);
 }
 
-TEST(StockTest, TellsUsersWhoseItIs) {
-    useResourceLibrary();
-    auto stock = stockOf("media=name:Ours", StockType::transient);
-    EXPECT_EQ(stock->getDisplayString(), u"Ours");
-    stock->setKind(StockType::user);
-    EXPECT_EQ(stock->getDisplayString(), u"Ours (library)");
-    stock->setKind(StockType::printer);
-    EXPECT_EQ(stock->getDisplayString(), u"Ours (printer)");
-    stock->setKind(static_cast<StockType>(4));
-    EXPECT_EQ(raised<UnknownCaseException>([&] { stock->getDisplayString(); }),
-              "Stock::getDisplayString(): Unexpected stock type enumeration value of (4)!\r\n");
-}
-
 TEST(StockTest, IsRepairedUnlessTheUserDeclines) {
     useResourceLibrary();
     NonDriverBasedPrinter printer(6, 2, 1, u"", true);
     const char* const heavy = "media-col{media-color=white media-weight-metric=5000}";
     const char* const repaired = "media-col{media-color=white}"; // the defaults have no weight
-    const struct {
-        const char* ticket;
-        bool mayDecline;
-        std::int32_t button;
-        std::size_t boxes;
-        bool isValid;
-        StockType kind;
-        const char* settings;
-    } rows[] = {
+    const Rows<const char*, bool, std::int32_t, std::size_t, bool, StockType, const char*> rows{
         {"media-col{media-color=white}", true, messageAnswer::cancel, 0, true, StockType::user,
          "media-col{media-color=white}"},
         {heavy, true, messageAnswer::ok, 1, true, StockType::transient, repaired},
         {heavy, true, messageAnswer::cancel, 1, false, StockType::user, heavy},
         {heavy, false, messageAnswer::ok, 1, true, StockType::transient, repaired},
     };
-    for (const auto& row : rows) {
+    for (const auto& [ticket, mayDecline, button, shown, isValid, kind, settings] : rows) {
         const WindowSystemReplacement noWindows(nullptr);
-        const BoxCapture boxes(row.button);
-        const auto stock = stockOf(row.ticket, StockType::user);
+        const BoxCapture boxes(button);
+        const auto stock = stockOf(ticket, StockType::user);
         EXPECT_EQ(stock->validate(printer.getCapabilities(), printer.getDefaults().getSettings(),
-                                  SettingsProblemReporter::forStock(nullptr, row.mayDecline)),
-                  row.isValid);
-        EXPECT_EQ(stock->getKind(), row.kind);
-        EXPECT_EQ(settingsOf(*stock), row.settings);
-        ASSERT_EQ(boxes.shown().size(), row.boxes);
+                                  SettingsProblemReporter::forStock(nullptr, mayDecline)),
+                  isValid);
+        EXPECT_EQ(stock->getKind(), kind);
+        EXPECT_EQ(settingsOf(*stock), settings);
+        ASSERT_EQ(boxes.shown().size(), shown);
         for (const ShownBox& box : boxes.shown()) {
             EXPECT_EQ(box.title, resourceText(IDS_STOCK_PROBLEM_TITLE));
-            EXPECT_EQ((box.flags & messageStyle::okCancel) != 0, row.mayDecline);
+            EXPECT_EQ((box.flags & messageStyle::okCancel) != 0, mayDecline);
         }
     }
-}
-
-TEST(StockListTest, KeepsOrderAndItsCursor) {
-    StockList list;
-    for (const char* name : {"media=a", "media=b", "media=c"}) {
-        list.addStock(*stockOf(name));
-    }
-    StockList copy(list);
-    EXPECT_FALSE(copy.contains(&list.getStockAt(0)));
-    copy.addAll(copy);
-    EXPECT_EQ(copy.getCount(), 6U);
-
-    std::string walked;
-    for (list.resetStocks(); list.hasMoreStocks();) {
-        const Stock* const stock = list.getNextStock();
-        walked += keyOf(*stock);
-        StockList::Cursor cursor = 0;
-        for (StockList::resetStocks(cursor); list.hasMoreStocks(cursor);) {
-            walked += keyOf(*list.getNextStock(cursor));
-        }
-        if (walked.size() == 4) {
-            list.removeStock(stock);
-        }
-    }
-    EXPECT_EQ(walked, "aabc"
-                      "bbc"
-                      "cbc");
-    EXPECT_EQ(raised<NodeAccessOutOfBoundsException>([&] { list.getNextStock(); }),
-              "StockList::getNextStock(): No more Stocks to get. Caller failed to test with "
-              "hasMoreStocks() first!\r\n");
-}
-
-TEST(StockListTest, MakesStocksOfCollections) {
-    const auto stocks = StockList::createFromList(
-        listOf("value{media-key=plain} other{media-key=bond} value{} value{media-color=red}"),
-        StockType::printer);
-    ASSERT_EQ(stocks->getCount(), 2U);
-    EXPECT_EQ(settingsOf(stocks->getStockAt(0)), "media=plain");
-    EXPECT_EQ(settingsOf(stocks->getStockAt(1)), red);
-    EXPECT_EQ(stocks->getStockAt(1).getKind(), StockType::printer);
-    EXPECT_THROW(StockList::createFromList(listOf("value{} value=plain"), StockType::user),
-                 AttributeTypeMismatchException);
-}
-
-TEST(StockListTest, UsersBeginWithPlainPaper) {
-    useResourceLibrary();
-    const auto stocks = StockList::createDefaultLibrary();
-    ASSERT_EQ(stocks->getCount(), 10U);
-    for (std::uint32_t i = 0; i < 10; ++i) {
-        const Stock& stock = stocks->getStockAt(i);
-        EXPECT_TRUE(stock.isFavorite() && !stock.hasKey() && stock.getKind() == StockType::user);
-        EXPECT_EQ(stock.getSettings().getStockSize().getSize(), i + 2);
-    }
-    EXPECT_EQ(settingsOf(stocks->getStockAt(2)),
-              "media-col{media-color=white media-type=stationery media-hole-count=0 "
-              "media-size{x-dimension=27900 y-dimension=43200}}");
 }
 
 } // namespace
