@@ -14,7 +14,6 @@
 #include "resources/ResourceIds.h"
 #include "resources/ids.h"
 #include "support/LibraryTesting.h"
-#include "support/TestFile.h"
 
 namespace zent::test {
 namespace {
@@ -26,11 +25,6 @@ constexpr FeatureEnum formCycleType =
     feature::formCycleType; // its set of values stands where others name members
 
 using Names = std::set<std::string>;
-
-Names namesIn(const std::string& text) {
-    const std::vector<std::string> words = split(text);
-    return {words.begin(), words.end()};
-}
 
 std::string textOf(const AttrNode& node) {
     AttrNodeList list;
@@ -269,59 +263,6 @@ TEST(CapabilityDocumentsTest, FamiliesHaveTheDocumentsThatTheirSourceNames) {
         const bool hasOne = names.size() == 3;
         EXPECT_EQ(family.capabilityResource1, idsByName().at(names[1]));
         EXPECT_EQ(family.capabilityResource2, idsByName().at(names[hasOne ? 1 : 3]));
-    }
-}
-
-TEST(CapabilityDocumentsTest, TextsThatUsersInventHaveALimit) {
-    useResourceLibrary();
-    constexpr std::uint32_t postScript = 2;
-    for (std::uint32_t model = 1; model <= 51; ++model) {
-        for (const std::uint32_t form : {1U, 2U}) {
-            const Capabilities capabilities(PrinterModel(model, postScript), form);
-            for (FeatureEnum number = feature::first; number <= feature::last; ++number) {
-                const _FI feature(number);
-                if (capabilities.isUserDefinable(feature)) {
-                    SCOPED_TRACE(testing::Message() << "model " << model << ", " << number);
-                    EXPECT_GT(capabilities.getUpperLimit(feature), 0U);
-                }
-            }
-        }
-    }
-}
-
-TEST(CapabilityDocumentsTest, StreamFormOffersOnlyWhatTheStreamCanSay) {
-    // What the stream of comment lines has a line for. Of media it tells no name, but the printer's
-    // stocks need one, and no documents of an exception, which an import gives it nevertheless.
-    const Names sayable = namesIn(
-        "copies sheet-collate sides imposition-template page-ranges job-save-disposition "
-        "save-disposition save-info save-name job-name job-account-id requesting-user-name "
-        "job-recipient-name job-sheet-message job-message-to-operator job-phone-number "
-        "page-rotation x-side1-image-shift y-side1-image-shift x-side2-image-shift "
-        "y-side2-image-shift highlight-colorant highlight-map-color highlight-map "
-        "highlight-colorant-mismatch finishings separator-sheets separator-sheets-type "
-        "finishings-col finishing-template force-front-side media-col media-size media-color "
-        "media-type media-order-count media-hole-count media-weight-metric media-key cover-front "
-        "cover-back cover-type page-overrides input-documents pages insert-sheet "
-        "insert-after-page-number insert-count");
-    const Names finishings = namesIn("3 13 20 21 22 23 28 29 30 31 50 52");
-    for (const FamilyInfo& family : getFamilyTable()) {
-        if (family.capabilityResource1 == family.capabilityResource2) {
-            continue; // one document for both
-        }
-        SCOPED_TRACE(testing::Message() << "family " << family.family);
-        const Document& full = documents().at(family.capabilityResource1);
-        const Document& stream = documents().at(family.capabilityResource2);
-        Names left;
-        std::ranges::set_intersection(full.features(), sayable, std::inserter(left, left.end()));
-        EXPECT_EQ(stream.features(), left); // no less, too
-        for (std::uint32_t i = 0; i < stream.list.getNumberOfNodes(); ++i) {
-            const std::string name = stream.list.getNodeAt(i).getName().toNarrow();
-            EXPECT_TRUE(std::ranges::includes(full.texts(name), stream.texts(name))) << name;
-        }
-        EXPECT_TRUE(std::ranges::includes(finishings, stream.texts("finishings-supported")));
-        EXPECT_FALSE(stream.texts("separator-sheets-type-supported").contains("none"));
-        EXPECT_FALSE(stream.texts("highlight-colorant-supported").contains("use-ready"));
-        EXPECT_FALSE(stream.texts("highlight-colorant-mismatch-supported").contains("stop"));
     }
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <map>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -11,16 +10,14 @@
 
 namespace zent::test {
 
-/// The numbers of all ids by their names; a number has one name.
+/// The numbers of all ids by their names; tools/check-ids finds doubles.
 inline const std::map<std::string, std::int32_t>& idsByName() {
     static const std::map<std::string, std::int32_t> ids = [] {
         std::map<std::string, std::int32_t> read;
-        std::set<std::int32_t> numbers;
         for (const std::string& line : split(readTestFile("../resources/ids.h"), '\n')) {
             const std::vector<std::string> words = split(line);
             if (words.size() == 3 && words[0] == "#define") {
                 read[words[1]] = std::stoi(words[2]);
-                EXPECT_TRUE(numbers.insert(read[words[1]]).second) << line;
             }
         }
         return read;
