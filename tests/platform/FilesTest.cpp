@@ -69,21 +69,5 @@ TEST(Files, StampTellsOneStateFromAnother) {
     EXPECT_FALSE(getFileStamp(path).exists);
 }
 
-TEST(Files, ModulePathNamesTheFileOfThisCode) {
-    const CXString path(getModulePath());
-    EXPECT_TRUE(getFileStamp(path).exists) << path.toNarrow();
-    const std::int32_t separator = path.findLast(pathSeparator);
-    ASSERT_GT(separator, 0);
-    EXPECT_EQ(path.mid(separator + 1).left(10), u"zent_tests");
-}
-
-TEST(Files, DriverDirectoryEndsInASeparator) {
-    for (const char16_t* printer : {u"", u"no such printer"}) {
-        const std::u16string folder = getDriverDirectory(printer);
-        EXPECT_TRUE(folder.ends_with(pathSeparator));
-        EXPECT_FALSE(folder.ends_with(std::u16string(2, pathSeparator)));
-    }
-}
-
 } // namespace
 } // namespace zent::test

@@ -3,7 +3,6 @@
 #include <thread>
 
 #include "support/LibraryTesting.h"
-#include "support/ScratchFolder.h"
 
 namespace zent::test {
 namespace {

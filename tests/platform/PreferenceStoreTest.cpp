@@ -1,7 +1,6 @@
 #include "platform/PreferenceStore.h"
 
 #include "platform/CodePage.h"
-#include "support/ScratchUser.h"
 #include "support/Testing.h"
 
 namespace zent::test {
@@ -70,10 +69,7 @@ TEST_F(PreferenceStoreTest, RefusesWhatIsTooLarge) {
 TEST_F(PreferenceStoreTest, KeepsKeysAndNamesApart) {
     const std::u16string longName(250, u'n');
     const char16_t loneSurrogates[][3] = {{0xD800, u'x', 0}, {0xD801, u'x', 0}, {u'x', 0xDC00, 0}};
-    const struct {
-        const char16_t* key;
-        const char16_t* name;
-    } rows[] = {
+    const Rows<const char16_t*, const char16_t*> rows{
         {u"a\\b", u"name"},           {u"a", u"name"},
         {u"a\\b", u"name2"},          {u"a\\b", u""}, // has a value too
         {u"a\\c\\d", u"name"},        {u"a\\gr\u00FC\u00DF \u65E5", u"\U0001F5A8 name"},
@@ -83,14 +79,14 @@ TEST_F(PreferenceStoreTest, KeepsKeysAndNamesApart) {
         {u"a\\b\\end\\", u"name"}, // a path that ends in a separator can be used all the same
     };
     int number = 0;
-    for (const auto& row : rows) {
-        EXPECT_EQ(read(row.key, row.name), "absent") << number;
-        EXPECT_EQ(write(row.key, row.name, std::to_string(number)), PreferenceStatus::done);
+    for (const auto& [key, name] : rows) {
+        EXPECT_EQ(read(key, name), "absent") << number;
+        EXPECT_EQ(write(key, name, std::to_string(number)), PreferenceStatus::done);
         ++number;
     }
     number = 0;
-    for (const auto& row : rows) {
-        EXPECT_EQ(read(row.key, row.name), "3:" + std::to_string(number)) << number;
+    for (const auto& [key, name] : rows) {
+        EXPECT_EQ(read(key, name), "3:" + std::to_string(number)) << number;
         ++number;
     }
     EXPECT_EQ(read(u"a\\b", u"name3"), "absent");

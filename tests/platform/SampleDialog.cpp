@@ -76,18 +76,18 @@ SampleResources::SampleResources() {
     Image icon = bitmap;
     icon.resize(bitmap.size() + std::size_t{side} * 4); // a mask that lets all through
     put32(icon, 8, side * 2);
-    m_images[{redPicture * 10, resourceType::icon}] = icon;
-    m_images[{redPicture, resourceType::bitmap}] = bitmap;
+    images[{redPicture * 10, resourceType::icon}] = icon;
+    images[{redPicture, resourceType::bitmap}] = bitmap;
     addIcon(twoSizes, {{16, smallColour}, {32, largeColour}});
 }
 
-void SampleResources::addIcon(
-    std::uint32_t group, std::initializer_list<std::pair<std::uint8_t, std::uint32_t>> images) {
+void SampleResources::addIcon(std::uint32_t group,
+                              std::initializer_list<std::pair<std::uint8_t, std::uint32_t>> sizes) {
     Image directory(6);
     put16(directory, 2, 1);
-    put16(directory, 4, static_cast<std::uint16_t>(images.size()));
+    put16(directory, 4, static_cast<std::uint16_t>(sizes.size()));
     std::uint32_t id = group * 10;
-    for (const auto& [size, colour] : images) {
+    for (const auto& [size, colour] : sizes) {
         Image image = makeImage(size, colour);
         image.resize(image.size() + std::size_t{size} * 4);
         put32(image, 8, size * 2U);
@@ -98,17 +98,17 @@ void SampleResources::addIcon(
         put16(directory, entry + 6, 24);
         put32(directory, entry + 8, static_cast<std::uint32_t>(image.size()));
         put16(directory, entry + 12, static_cast<std::uint16_t>(id));
-        m_images[{id++, platform::resourceType::icon}] = std::move(image);
+        images[{id++, platform::resourceType::icon}] = std::move(image);
     }
-    m_images[{group, platform::resourceType::iconGroup}] = std::move(directory);
+    images[{group, platform::resourceType::iconGroup}] = std::move(directory);
 }
 
 std::span<const std::byte> SampleResources::findResource(std::uint32_t id, std::uint32_t type,
                                                          Failure& failure) const {
-    const auto found = m_images.find({id, type});
-    failure = found == m_images.end() ? Failure::find : Failure::none;
-    return found == m_images.end() ? std::span<const std::byte>()
-                                   : std::as_bytes(std::span(found->second));
+    const auto found = images.find({id, type});
+    failure = found == images.end() ? Failure::find : Failure::none;
+    return found == images.end() ? std::span<const std::byte>()
+                                 : std::as_bytes(std::span(found->second));
 }
 
 bool Recorder::processEvent(platform::Dialog& opened, std::uint32_t message, std::uintptr_t wParam,
@@ -122,6 +122,7 @@ bool Recorder::processEvent(platform::Dialog& opened, std::uint32_t message, std
         onInit(dialog);
     } else if (message == platform::event::destroy) {
         note("destroy", {});
+        onDestroy(dialog);
     } else if (message == platform::event::command &&
                (code != platform::notification::editLeft || notesFocus)) {
         note("command", {item, code});

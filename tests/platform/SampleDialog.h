@@ -41,15 +41,14 @@ public:
                                             Failure& failure) const override;
     const void* loadIcon(std::uint32_t) const override { return nullptr; }
 
-private:
     using Image = std::vector<std::uint8_t>;
+    std::map<std::pair<std::uint32_t, std::uint32_t>, Image> images; // by number and type
 
+private:
     /// Of images of the sizes given, each with its colour; their resources are numbered on from the
     /// group.
     void addIcon(std::uint32_t group,
-                 std::initializer_list<std::pair<std::uint8_t, std::uint32_t>> images);
-
-    std::map<std::pair<std::uint32_t, std::uint32_t>, Image> m_images; // by number and type
+                 std::initializer_list<std::pair<std::uint8_t, std::uint32_t>> sizes);
 };
 
 /// Writes down what it is told, and does what the test wants at some of it. Which edit item lost
@@ -57,6 +56,7 @@ private:
 class Recorder final : public platform::DialogProcedure {
 public:
     std::function<void(platform::WindowHandle)> onInit = [](platform::WindowHandle) {};
+    std::function<void(platform::WindowHandle)> onDestroy = onInit;
     /// By item: what a command of it does.
     std::map<std::uint16_t, std::function<void(platform::WindowHandle)>> onCommand;
     std::function<void(platform::WindowHandle, const platform::DrawRequest&)> onDraw =

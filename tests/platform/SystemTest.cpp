@@ -1,7 +1,5 @@
 #include "platform/System.h"
 
-#include <filesystem>
-#include <fstream>
 #include <thread>
 
 #include "support/LibraryTesting.h"

@@ -9,7 +9,6 @@
 #include "support/DialogUser.h"
 #include "support/LibraryTesting.h"
 #include "support/OpenDialog.h"
-#include "support/ScratchFolder.h"
 #include "support/Screenshots.h"
 #include "support/TemplateBuilder.h"
 
@@ -109,17 +108,18 @@ TEST_F(WindowSystemTest, ItemsThatAreNotThereDoNothing) {
 
 TEST_F(WindowSystemTest, TakesWhatTheFilterPasses) {
     m_recorder.onInit = [&](WindowHandle dialog) {
-        at<TextItem>(dialog, number).setLimit(5);
-        at<TextItem>(dialog, number)
-            .setFilter([](std::u16string_view text, std::int32_t start, std::int32_t,
-                          char16_t character) {
+        auto& edit = at<TextItem>(dialog, number);
+        edit.setLimit(5);
+        edit.setFilter(
+            [](std::u16string_view text, std::int32_t start, std::int32_t, char16_t character) {
                 const bool isFirstMinus =
                     character == u'-' && start == 0 && text.find(u'-') == std::u16string_view::npos;
                 return isFirstMinus || (character >= u'0' && character <= u'9');
             });
     };
     run([&](WindowHandle dialog) {
-        const auto text = [&] { return at(dialog, number).getText(); };
+        auto& edit = at<TextItem>(dialog, number);
+        const auto text = [&] { return edit.getText(); };
         for (const std::u16string_view refused : {u"x", u"\u20ac", u"\t"}) {
             EXPECT_EQ(told([&] { user::type(dialog, number, refused); }), "");
             EXPECT_EQ(told([&] { user::paste(dialog, number, refused); }), "");
@@ -127,7 +127,7 @@ TEST_F(WindowSystemTest, TakesWhatTheFilterPasses) {
         }
         user::paste(dialog, number, std::u16string(5000, u'7'));
         EXPECT_EQ(text(), u"77777");
-        at<TextItem>(dialog, number).selectText(0, -1);
+        edit.selectText(0, -1);
         user::press(dialog, Key::remove);
         m_recorder.log.clear();
         EXPECT_EQ(told([&] { user::type(dialog, number, u"1a2-"); }),
@@ -136,14 +136,14 @@ TEST_F(WindowSystemTest, TakesWhatTheFilterPasses) {
         user::paste(dialog, number, u"x3-4y5678");
         EXPECT_EQ(text(), u"12345"); // as many as there is room for
         user::press(dialog, Key::backspace);
-        at<TextItem>(dialog, number).selectText(0, 3);
+        edit.selectText(0, 3);
         user::type(dialog, number, u"x");
         EXPECT_EQ(text(), u"1234");
         user::type(dialog, number, u"-");
         EXPECT_EQ(text(), u"-4");
         // The program isn't asked, nor bound.
-        EXPECT_EQ(told([&] { at(dialog, number).setText(u"free text"); }), "command 10 768");
-        EXPECT_EQ(told([&] { at(dialog, number).setText(u"free text"); }), "");
+        EXPECT_EQ(told([&] { edit.setText(u"free text"); }), "command 10 768");
+        EXPECT_EQ(told([&] { edit.setText(u"free text"); }), "");
         EXPECT_EQ(text(), u"free text");
     });
 }
@@ -237,37 +237,39 @@ TEST_F(WindowSystemTest, ChecksAndRadios) {
 TEST_F(WindowSystemTest, Lists) {
     m_recorder.onInit = [&](WindowHandle dialog) {
         for (const std::uint16_t item : {choice, ownChoice, openChoice, list}) {
-            EXPECT_EQ(at<ChoiceItem>(dialog, item).add(u"cherry", 3, -1), 0);
-            EXPECT_EQ(at<ChoiceItem>(dialog, item).add(u"apple", 1, 0), 0);
-            EXPECT_EQ(at<ChoiceItem>(dialog, item).add(u"banana", 0xFFFFFFFF, 1), 1);
-            EXPECT_EQ(at<ChoiceItem>(dialog, item).getSelected(), -1);
+            auto& box = at<ChoiceItem>(dialog, item);
+            EXPECT_EQ(box.add(u"cherry", 3, -1), 0);
+            EXPECT_EQ(box.add(u"apple", 1, 0), 0);
+            EXPECT_EQ(box.add(u"banana", 0xFFFFFFFF, 1), 1);
+            EXPECT_EQ(box.getSelected(), -1);
         }
         EXPECT_EQ(at<ChoiceItem>(dialog, list).add(u"blueberry", 4, -1), 2); // it is sorted
     };
     run([&](WindowHandle dialog) {
         for (const std::uint16_t item : {choice, ownChoice, openChoice, list}) {
+            auto& box = at<ChoiceItem>(dialog, item);
             const std::string event = "command " + std::to_string(item);
             EXPECT_THAT(told([&] { user::choose(dialog, item, 1); }), EndsWith(event + " 1"));
-            EXPECT_EQ(at<ChoiceItem>(dialog, item).getSelected(), 1);
-            EXPECT_EQ(at<ChoiceItem>(dialog, item).getEntryText(1), u"banana");
-            EXPECT_EQ(at<ChoiceItem>(dialog, item).getEntryValue(1), 0xFFFFFFFFU);
+            EXPECT_EQ(box.getSelected(), 1);
+            EXPECT_EQ(box.getEntryText(1), u"banana");
+            EXPECT_EQ(box.getEntryValue(1), 0xFFFFFFFFU);
             EXPECT_EQ(told([&] {
-                          at<ChoiceItem>(dialog, item).select(0);
-                          at<ChoiceItem>(dialog, item).setEntryText(2, u"date");
-                          at<ChoiceItem>(dialog, item).removeEntry(0);
+                          box.select(0);
+                          box.setEntryText(2, u"date");
+                          box.removeEntry(0);
                       }),
                       "");
-            EXPECT_EQ(at<ChoiceItem>(dialog, item).getSelected(), -1);
-            EXPECT_EQ(at<ChoiceItem>(dialog, item).getEntryText(1), u"date");
-            EXPECT_EQ(at<ChoiceItem>(dialog, item).getCount(), item == list ? 3 : 2);
+            EXPECT_EQ(box.getSelected(), -1);
+            EXPECT_EQ(box.getEntryText(1), u"date");
+            EXPECT_EQ(box.getCount(), item == list ? 3 : 2);
             if (item == ownChoice || item == openChoice) {
-                at<ChoiceItem>(dialog, item).select(0);
+                box.select(0);
                 EXPECT_EQ(told([&] { user::type(dialog, item, u"s"); }), event + " 5");
                 EXPECT_EQ(at(dialog, item).getText(), u"bananas");
-                EXPECT_EQ(at<ChoiceItem>(dialog, item).getSelected(), -1);
+                EXPECT_EQ(box.getSelected(), -1);
             }
-            at<ChoiceItem>(dialog, item).clear();
-            EXPECT_EQ(at<ChoiceItem>(dialog, item).getCount(), 0);
+            box.clear();
+            EXPECT_EQ(box.getCount(), 0);
         }
     });
 }
@@ -275,32 +277,34 @@ TEST_F(WindowSystemTest, Lists) {
 TEST_F(WindowSystemTest, ListViews) {
     using RowNumbers = std::vector<std::int32_t>;
     m_recorder.onInit = [&](WindowHandle dialog) {
-        at<RowsItem>(dialog, table).setStyle(RowsItem::Style::checkedDetails);
-        at<RowsItem>(dialog, table).addColumn(u"Name", 80);
-        at<RowsItem>(dialog, table).addColumn(u"Size", 60);
+        auto& rows = at<RowsItem>(dialog, table);
+        rows.setStyle(RowsItem::Style::checkedDetails);
+        rows.addColumn(u"Name", 80);
+        rows.addColumn(u"Size", 60);
         for (const std::uintptr_t value : {7U, 8U, 9U}) {
-            const std::int32_t row = at<RowsItem>(dialog, table).addRow(u"row", 0, value);
-            at<RowsItem>(dialog, table).setCell(row, 1, u"A4");
+            const std::int32_t row = rows.addRow(u"row", 0, value);
+            rows.setCell(row, 1, u"A4");
         }
-        at<RowsItem>(dialog, table).setRowChecked(0, true);
-        at<RowsItem>(dialog, table).selectRow(0);
+        rows.setRowChecked(0, true);
+        rows.selectRow(0);
         EXPECT_EQ(m_recorder.log, "init");
     };
     run([&](WindowHandle dialog) {
-        EXPECT_EQ(at<RowsItem>(dialog, table).getSelectedRows(), RowNumbers{0});
-        EXPECT_EQ(at<RowsItem>(dialog, table).getCell(2, 1), u"A4");
+        auto& rows = at<RowsItem>(dialog, table);
+        EXPECT_EQ(rows.getSelectedRows(), RowNumbers{0});
+        EXPECT_EQ(rows.getCell(2, 1), u"A4");
         EXPECT_THAT(told([&] { user::clickRow(dialog, table, 2); }), HasSubstr("notify 20 -101 2"));
-        EXPECT_EQ(at<RowsItem>(dialog, table).getSelectedRows(), RowNumbers{2});
-        EXPECT_FALSE(at<RowsItem>(dialog, table).isRowChecked(2));
+        EXPECT_EQ(rows.getSelectedRows(), RowNumbers{2});
+        EXPECT_FALSE(rows.isRowChecked(2));
         EXPECT_THAT(told([&] { user::checkRow(dialog, table, 1); }), HasSubstr("notify 20 -101 1"));
-        EXPECT_TRUE(at<RowsItem>(dialog, table).isRowChecked(1));
+        EXPECT_TRUE(rows.isRowChecked(1));
 
-        EXPECT_EQ(told([&] { at<RowsItem>(dialog, table).removeRow(0); }), "");
-        EXPECT_EQ(at<RowsItem>(dialog, table).getRowCount(), 2);
-        EXPECT_EQ(at<RowsItem>(dialog, table).getRowValue(0), 8U);
-        EXPECT_TRUE(at<RowsItem>(dialog, table).isRowChecked(0));
-        at<RowsItem>(dialog, table).clearRows();
-        EXPECT_EQ(at<RowsItem>(dialog, table).getSelectedRows(), RowNumbers());
+        EXPECT_EQ(told([&] { rows.removeRow(0); }), "");
+        EXPECT_EQ(rows.getRowCount(), 2);
+        EXPECT_EQ(rows.getRowValue(0), 8U);
+        EXPECT_TRUE(rows.isRowChecked(0));
+        rows.clearRows();
+        EXPECT_EQ(rows.getSelectedRows(), RowNumbers());
     });
 }
 
@@ -453,10 +457,11 @@ TEST_F(WindowSystemTest, DialogsOpenDialogs) {
 
 TEST_F(WindowSystemTest, MeasuresAndMoves) {
     run([&](WindowHandle dialog) {
-        const Rectangle inside = dialogOf(dialog).mapDialogUnits({0, 0, 300, 200});
+        Dialog& opened = dialogOf(dialog);
+        const Rectangle inside = opened.mapDialogUnits({0, 0, 300, 200});
         EXPECT_GT(inside.right, 300);
-        EXPECT_EQ(dialogOf(dialog).getClientRectangle(), inside);
-        const auto items = dialogOf(dialog).getItems();
+        EXPECT_EQ(opened.getClientRectangle(), inside);
+        const auto items = opened.getItems();
         ASSERT_EQ(items.size(), 20U);
         std::vector<std::uint16_t> marked;
         for (const DialogItem* const item : items) {
@@ -465,7 +470,7 @@ TEST_F(WindowSystemTest, MeasuresAndMoves) {
         EXPECT_THAT(marked, testing::ElementsAre(frame, duplex, firstRadio, secondRadio, otherRadio,
                                                  drawn, ok));
         EXPECT_EQ(items[1]->getId(), label);
-        EXPECT_EQ(items[1]->getPlace(), dialogOf(dialog).mapDialogUnits({5, 12, 45, 20}));
+        EXPECT_EQ(items[1]->getPlace(), opened.mapDialogUnits({5, 12, 45, 20}));
         items[1]->moveTo({30, 40, 90, 55});
         EXPECT_EQ(items[1]->getPlace(), (Rectangle{30, 40, 90, 55}));
 
@@ -475,21 +480,21 @@ TEST_F(WindowSystemTest, MeasuresAndMoves) {
         EXPECT_EQ(inScreen.width(), at(dialog, duplex).getPlace().width());
         EXPECT_EQ(other.left - inScreen.left,
                   at(dialog, ok).getPlace().left - at(dialog, duplex).getPlace().left);
-        EXPECT_GT(inScreen.left, dialogOf(dialog).getWindowRectangle().left);
-        EXPECT_LT(other.bottom, dialogOf(dialog).getWindowRectangle().bottom);
+        EXPECT_GT(inScreen.left, opened.getWindowRectangle().left);
+        EXPECT_LT(other.bottom, opened.getWindowRectangle().bottom);
 
         const std::int32_t width = at(dialog, table).getTextWidth(u"Stock");
         EXPECT_GT(width, 10);
         EXPECT_GT(at(dialog, table).getTextWidth(u"Stock name"), width);
         EXPECT_EQ(at(dialog, label).getTextWidth(u""), 0);
 
-        Rectangle place = dialogOf(dialog).getWindowRectangle();
+        Rectangle place = opened.getWindowRectangle();
         place = {place.left + 7, place.top + 5, place.right - 13, place.bottom + 12};
-        dialogOf(dialog).moveTo(place);
-        EXPECT_EQ(dialogOf(dialog).getWindowRectangle(), place);
-        EXPECT_EQ(dialogOf(dialog).getClientRectangle(),
+        opened.moveTo(place);
+        EXPECT_EQ(opened.getWindowRectangle(), place);
+        EXPECT_EQ(opened.getClientRectangle(),
                   (Rectangle{0, 0, inside.right - 20, inside.bottom + 7}));
-        EXPECT_GT(dialogOf(dialog).getWorkArea().width(), 100);
+        EXPECT_GT(opened.getWorkArea().width(), 100);
     });
 }
 

@@ -6,7 +6,6 @@
 
 #include "ocore/Stock/MediaPreferences.h"
 #include "support/OrdoDocument.h"
-#include "support/ScratchFolder.h"
 
 namespace {
 

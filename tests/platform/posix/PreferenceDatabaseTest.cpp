@@ -3,8 +3,6 @@
 
 #include <chrono>
 #include <csignal>
-#include <filesystem>
-#include <fstream>
 #include <iterator>
 #include <thread>
 
@@ -19,7 +17,6 @@
 #include "platform/posix/Environment.h"
 #include "plugin_ui/Reports/BoxCapture.h"
 #include "support/LibraryTesting.h"
-#include "support/TemporaryFolder.h"
 #include "support/TraceCapture.h"
 #include "zent27.h"
 
@@ -98,14 +95,6 @@ TEST_F(PreferenceDatabaseTest, IsCreatedByWritingForItsOwnerAlone) {
     EXPECT_EQ(modeOf(m_file), 0600U);
     EXPECT_EQ(std::distance(fs::directory_iterator(m_folder), {}), 1) << "nothing is left beside";
     EXPECT_EQ(read(u"name", 0), 0);
-}
-
-TEST_F(PreferenceDatabaseTest, TakesAnEmptyFileForNewStore) {
-    writeFile("");
-    EXPECT_EQ(read(u"name", 1), -1);
-    EXPECT_EQ(contentOf(m_file), "");
-    EXPECT_EQ(write(u"name", ByteBuffer::fromBool(true)), PreferenceStatus::done);
-    EXPECT_EQ(read(u"name", 1), 1);
 }
 
 TEST_F(PreferenceDatabaseTest, ReadsAnewWhatAnotherProcessHasChanged) {
@@ -272,18 +261,6 @@ TEST_F(PreferenceDatabaseTest, JudgesSizesBeforeBytesAreRead) {
     EXPECT_EQ(result.status, PreferenceStatus::valueFailed);
     EXPECT_EQ(result.error, std::uint32_t{SQLITE_TOOBIG});
     EXPECT_LT(countBytesRead() - before, 100'000U);
-}
-
-TEST_F(PreferenceDatabaseTest, RemembersWhatHasRoom) {
-    ASSERT_EQ(write(u"0", ByteBuffer::fromBool(true)), PreferenceStatus::done);
-    runSql(m_file, "WITH RECURSIVE n(i) AS (SELECT 1 UNION SELECT i + 1 FROM n WHERE i < 5000) "
-                   "INSERT INTO preference SELECT key, i, 3, x'02' FROM n, preference");
-    fs::last_write_time(m_file, fs::file_time_type::clock::now() - std::chrono::seconds(10));
-    for (int round = 0; round < 2; ++round) {
-        EXPECT_EQ(read(u"0", 1), 1);
-        EXPECT_EQ(read(u"5000", 1), 2);
-        EXPECT_EQ(read(u"5001", 1), -1);
-    }
 }
 
 TEST_F(PreferenceDatabaseTest, WaitsThroughSignals) {

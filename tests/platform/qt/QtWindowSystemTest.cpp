@@ -18,7 +18,6 @@
 #include "support/DialogUser.h"
 #include "support/LibraryTesting.h"
 #include "support/OpenDialog.h"
-#include "support/ScratchFolder.h"
 #include "support/TemplateBuilder.h"
 
 // What the Windows dialog manager does by itself, and how the adapter lives in its host.

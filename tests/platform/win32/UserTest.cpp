@@ -41,21 +41,16 @@ TEST(WindowsUser, IsWhoIsLoggedOn) {
 }
 
 TEST(WindowsUser, HasLocale) {
-    const struct {
-        const wchar_t* measurement;
-        const wchar_t* paper;
-        bool usesInches;
-        std::uint32_t stockSize;
-    } rows[] = {
+    const Rows<const wchar_t*, const wchar_t*, bool, std::uint32_t> rows{
         {L"0", L"9", false, 8}, {L"1", L"1", true, 2},  {L"1", L"5", true, 3},
         {L"0", L"8", false, 9}, {L"0", L"1", false, 2}, {L"1", L"9", true, 8},
         {L"0", L"3", false, 8}, {L"1", L"3", true, 2},
     };
-    for (const auto& row : rows) {
-        const LocaleText measurement(LOCALE_IMEASURE, row.measurement);
-        const LocaleText paper(LOCALE_IPAPERSIZE, row.paper);
-        EXPECT_EQ(User::usesInches(), row.usesInches);
-        EXPECT_EQ(User::getDefaultStockSize(), row.stockSize);
+    for (const auto& [system, sheet, inches, stockSize] : rows) {
+        const LocaleText measurement(LOCALE_IMEASURE, system);
+        const LocaleText paper(LOCALE_IPAPERSIZE, sheet);
+        EXPECT_EQ(User::usesInches(), inches);
+        EXPECT_EQ(User::getDefaultStockSize(), stockSize);
     }
 }
 

@@ -1,15 +1,13 @@
-#include <filesystem>
 #include <map>
 
 #include "platform/PeImage.h"
 #include "platform/ResourceType.h"
-#include "platform/WindowSystem.h"
+#include "platform/SampleDialog.h"
 #include "platform/win32/EditFilter.h"
 #include "platform/win32/ResourceImages.h"
 #include "support/DialogUser.h"
 #include "support/LibraryTesting.h"
 #include "support/OpenDialog.h"
-#include "support/ScratchFolder.h"
 #include "support/TemplateBuilder.h"
 
 // What is to be seen of a dialog from outside the port, where it is made of real windows.
@@ -24,73 +22,6 @@ constexpr std::uint16_t duplex = 11;
 constexpr std::uint16_t photo = 12;
 constexpr std::uint16_t mark = 13;
 constexpr std::uint16_t drawing = 14;
-constexpr std::uint16_t bitmap = 500;
-constexpr std::uint16_t icon = 501;
-constexpr std::uint16_t iconImage = 1;
-
-using Image = std::vector<std::uint8_t>;
-
-/// A picture of one bit a pixel, and of zeroes.
-Image makeImage(std::uint32_t width, std::uint32_t height) {
-    constexpr std::uint32_t headerSize = 40;
-    constexpr std::uint32_t colours = 2 * 4;
-    Image bytes(headerSize + colours + std::size_t{(width + 31) / 32 * 4} * height);
-    put32(bytes, 0, headerSize);
-    put32(bytes, 4, width);
-    put32(bytes, 8, height);
-    put16(bytes, 12, 1); // planes
-    put16(bytes, 14, 1); // bits
-    return bytes;
-}
-
-/// A group of one icon of 16 by 16 pixels, or one that says it has more.
-Image makeIconGroup(std::uint16_t count) {
-    Image bytes(6 + 14);
-    put16(bytes, 2, 1);
-    put16(bytes, 4, count);
-    bytes[6] = bytes[7] = 16;
-    put16(bytes, 10, 1);
-    put16(bytes, 12, 1);
-    put32(bytes, 14, static_cast<std::uint32_t>(makeImage(16, 32).size()));
-    put16(bytes, 18, iconImage);
-    return bytes;
-}
-
-class Resources final : public ResourceModule {
-public:
-    std::int32_t loadString(std::uint32_t, char16_t*, std::int32_t) const override { return 0; }
-    std::span<const std::byte> findResource(std::uint32_t id, std::uint32_t type,
-                                            Failure& failure) const override {
-        const auto found = images.find({id, type});
-        failure = found != images.end() ? Failure::none : Failure::find;
-        return found != images.end() ? std::as_bytes(std::span(found->second))
-                                     : std::span<const std::byte>();
-    }
-    const void* loadIcon(std::uint32_t) const override { return nullptr; }
-
-    std::map<std::pair<std::uint32_t, std::uint32_t>, Image> images = {
-        {{bitmap, resourceType::bitmap}, makeImage(8, 8)},
-        {{icon, resourceType::iconGroup}, makeIconGroup(1)},
-        {{iconImage, resourceType::icon}, makeImage(16, 32)},
-    };
-};
-
-class Procedure final : public DialogProcedure {
-public:
-    std::function<void(WindowHandle)> onInit = [](WindowHandle) {};
-    std::function<void(WindowHandle)> onDestroy = [](WindowHandle) {};
-
-    bool processEvent(Dialog& dialog, std::uint32_t message, std::uintptr_t /*wParam*/,
-                      std::intptr_t /*lParam*/, std::intptr_t& result) override {
-        if (message == event::initDialog) {
-            onInit(dialog.getHandle());
-        } else if (message == event::destroy) {
-            onDestroy(dialog.getHandle());
-        }
-        result = 5;
-        return true;
-    }
-};
 
 class Win32WindowSystemTest : public testing::Test {
 protected:
@@ -106,14 +37,15 @@ protected:
         return T(u"Sample")
             .add(number, T::edit, stop, {0, 0, 40, 12})
             .add(duplex, T::button, stop | BS_AUTOCHECKBOX, {0, 20, 40, 12}, u"Duplex")
-            .add(photo, T::label, T::visible | SS_BITMAP, {50, 0, 20, 20}, bitmap)
-            .add(mark, T::label, T::visible | SS_ICON, {80, 0, 20, 20}, icon)
+            .add(photo, T::label, T::visible | SS_BITMAP, {50, 0, 20, 20},
+                 std::uint16_t{redPicture})
+            .add(mark, T::label, T::visible | SS_ICON, {80, 0, 20, 20}, std::uint16_t{twoSizes})
             .add(drawing, T::label, T::visible, {110, 0, 20, 20})
             .build();
     }
 
-    Resources m_resources;
-    Procedure m_procedure;
+    SampleResources m_resources;
+    Recorder m_procedure;
 };
 
 TEST_F(Win32WindowSystemTest, WindowsKeepWhatStandsBehindThem) {
@@ -123,7 +55,7 @@ TEST_F(Win32WindowSystemTest, WindowsKeepWhatStandsBehindThem) {
         EXPECT_NE(GetWindowLongPtrW(static_cast<HWND>(dialog), GWLP_USERDATA), 0);
         own = GetWindowLongPtrW(itemOf(dialog, number), GWLP_WNDPROC);
         at<TextItem>(dialog, number).setFilter([filtered](auto, auto, auto, auto) { return true; });
-        at<PictureItem>(dialog, drawing).setBitmap(bitmap, true);
+        at<PictureItem>(dialog, drawing).setBitmap(redPicture, true);
         at(dialog, number).setProperty(u"SC_TYPE", 2);
         at<TextItem>(dialog, number).setLimit(7);
     };
@@ -135,8 +67,9 @@ TEST_F(Win32WindowSystemTest, WindowsKeepWhatStandsBehindThem) {
         EXPECT_EQ(reinterpret_cast<std::uintptr_t>(GetPropW(edit, L"SC_TYPE")), 2U);
         EXPECT_EQ(reinterpret_cast<std::uintptr_t>(GetPropW(edit, L"SC_MAX")), 7U);
         EXPECT_EQ(reinterpret_cast<std::uintptr_t>(GetPropW(itemOf(dialog, drawing), L"SC_ID")),
-                  bitmap);
+                  redPicture);
     };
+    m_procedure.answer = 5;
     user::onceOpen([&](WindowHandle dialog) {
         EXPECT_EQ(dialogOf(dialog).send(32774, 0, 0), 5);
         EXPECT_EQ(GetWindowLongPtrW(static_cast<HWND>(dialog), DWLP_MSGRESULT), 5);
@@ -208,11 +141,12 @@ TEST_F(Win32WindowSystemTest, AsksForFiles) {
 }
 
 TEST_F(Win32WindowSystemTest, BrokenPicturesAreNone) {
+    using Image = std::vector<std::uint8_t>;
     const auto change = [](Image bytes, std::size_t place, std::uint32_t value) {
         put32(bytes, place, value);
         return bytes;
     };
-    const Image whole = makeImage(8, 8);
+    const Image whole = m_resources.images.at({redPicture, resourceType::bitmap});
     for (const auto& [fault, bytes] : Rows<const char*, Image>{
              {"empty", {}},
              {"cut in the header", {whole.begin(), whole.begin() + 20}},
@@ -225,12 +159,12 @@ TEST_F(Win32WindowSystemTest, BrokenPicturesAreNone) {
              {"compressed", change(whole, 16, 1)},
              {"too many colours", change(whole, 32, 0x7FFFFFFF)},
          }) {
-        m_resources.images[{bitmap, resourceType::bitmap}] = bytes;
-        EXPECT_EQ(win32::createBitmap(m_resources, bitmap), nullptr) << fault;
+        m_resources.images[{redPicture, resourceType::bitmap}] = bytes;
+        EXPECT_EQ(win32::createBitmap(m_resources, redPicture), nullptr) << fault;
     }
-    m_resources.images[{icon, resourceType::iconGroup}] = makeIconGroup(2);
-    EXPECT_EQ(win32::createIcon(m_resources, icon, 16, 16), nullptr);
-    EXPECT_EQ(win32::createIcon(m_resources, bitmap, 16, 16), nullptr);
+    put16(m_resources.images[{twoSizes, resourceType::iconGroup}], 4, 3); // more than there are
+    EXPECT_EQ(win32::createIcon(m_resources, twoSizes, 16, 16), nullptr);
+    EXPECT_EQ(win32::createIcon(m_resources, 999, 16, 16), nullptr);
 }
 
 } // namespace
