@@ -1,16 +1,11 @@
 #pragma once
 
-#include <string>
-
-#include <gtest/gtest.h>
-
 #include "ZENT_API/ZENTSession.h"
 #include "plugin_ui/Reports/BoxCapture.h"
 #include "plugin_ui/Reports/CurrentWindowSystem.h"
 #include "support/DialogUser.h"
-#include "support/ListText.h"
+#include "support/LibraryTesting.h"
 #include "support/OpenDialog.h"
-#include "support/ScratchUser.h"
 #include "support/Screenshots.h"
 
 namespace zent::test {

@@ -1,14 +1,10 @@
-#include <algorithm>
-
-#include <gtest/gtest.h>
-
 #include "dialogs/DialogSession.h"
 #include "ocore/Stock/StockInformation.h"
 #include "ocore/Stock/StockList.h"
 #include "ocore/User/User.h"
 #include "plugin_ui/UIConfiguration.h"
 #include "resources/ids.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

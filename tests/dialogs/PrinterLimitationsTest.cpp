@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "dialogs/DialogSession.h"
 #include "ocore/Checking/SettingsValidator.h"
 #include "plugin_ui/Reports/SettingsProblemReporter.h"

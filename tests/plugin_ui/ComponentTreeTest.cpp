@@ -1,11 +1,7 @@
-#include <string>
-
-#include <gtest/gtest.h>
-
 #include "ocore/FeatureSettings/FeatureSettings.h"
 #include "plugin_ui/MessageProcessorWithChildren.h"
 #include "plugin_ui/TestDialog.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

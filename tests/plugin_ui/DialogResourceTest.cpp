@@ -1,10 +1,7 @@
 #include "plugin_ui/DialogResource.h"
 
-#include <gtest/gtest.h>
-
 #include "platform/DialogTemplate.h"
-#include "support/Raised.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 #include "support/TemplateBuilder.h"
 
 namespace zent::test {

@@ -1,8 +1,3 @@
-#include <algorithm>
-
-#include <gtest/gtest.h>
-
-#include "ocore/Faults/Exceptions.h"
 #include "platform/DialogTemplate.h"
 #include "plugin_ui/Controls/NumberBoxUIControl.h"
 #include "plugin_ui/Controls/PushButtonUIControl.h"
@@ -12,7 +7,7 @@
 #include "plugin_ui/Features/TextEntryUIFeature.h"
 #include "plugin_ui/Reports/BoxCapture.h"
 #include "plugin_ui/TestDialog.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

@@ -1,6 +1,3 @@
-#include <gtest/gtest.h>
-
-#include "ocore/Faults/Exceptions.h"
 #include "plugin_ui/Controls/OwndrwPushButtonUIControl.h"
 #include "plugin_ui/Controls/RadioButtonUIControl.h"
 #include "plugin_ui/Controls/SliderUIControl.h"
@@ -8,7 +5,7 @@
 #include "plugin_ui/Reports/BoxCapture.h"
 #include "plugin_ui/TestDialog.h"
 #include "resources/ids.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include "plugin_ui/Features/UIFeature.h"
 #include "plugin_ui/UIDialog.h"
-#include "resources/UseResourceLibrary.h"
 #include "support/FakeWindowSystem.h"
+#include "support/LibraryTesting.h"
 #include "support/ListCapabilities.h"
 #include "support/TemplateBuilder.h"
 

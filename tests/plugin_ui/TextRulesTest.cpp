@@ -1,10 +1,7 @@
-#include <gtest/gtest.h>
-
-#include "ocore/Faults/Exceptions.h"
 #include "plugin_ui/Controls/CharacterFilter.h"
 #include "plugin_ui/Features/JobTextRules.h"
 #include "resources/ids.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/TestFile.h"
+#include "support/Testing.h"
 
 namespace zent::test {
 

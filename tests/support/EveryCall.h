@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "abi/ZentLiteral.h"
-#include "support/TestFile.h"
+#include "support/Testing.h"
 #include "zent27.h"
 
 namespace zent::test {

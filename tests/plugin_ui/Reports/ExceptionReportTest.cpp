@@ -3,15 +3,10 @@
 #include <new>
 #include <stdexcept>
 
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
-#include "ocore/Faults/Exceptions.h"
 #include "ocore/OrdoParse/OrdoParseException.h"
 #include "plugin_ui/Reports/BoxCapture.h"
-#include "resources/UseResourceLibrary.h"
 #include "resources/ids.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {

@@ -1,10 +1,6 @@
 #include "plugin_ui/Reports/UserMessage.h"
 
-#include <gtest/gtest.h>
-
-#include "PrintText.h"
-#include "ocore/Faults/Exceptions.h"
-#include "support/Rows.h"
+#include "support/LibraryTesting.h"
 
 namespace zent::test {
 namespace {
