@@ -164,20 +164,5 @@ TEST_F(FeatureCallsTest, TextGoesOutByTheBufferProtocol) {
     }
 }
 
-TEST_F(FeatureCallsTest, SizesAreKeptInPortraitOrder) {
-    for (const auto& [width, height, kept, size] :
-         Rows<std::int32_t, std::int32_t, const char*, const char*>{
-             {21000, 29700, "21000 29700", "21000x29700"},
-             {29700, 21000, "21000 29700", "21000x29700"},
-             {29700, 42000, "29700 42000", "42000x29700"},
-             {0, 0, "none none", "none"},
-             {0, 10, "0 10", "0x10"},
-         }) {
-        EXPECT_EQ(fnSetStockSizeValues(s, t, width, height), ZENT_OK);
-        EXPECT_EQ(number("x-dimension") + " " + number("y-dimension"), kept);
-        EXPECT_EQ(sizeOf(session, t), size);
-    }
-}
-
 } // namespace
 } // namespace zent::test

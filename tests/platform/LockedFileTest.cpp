@@ -66,13 +66,5 @@ TEST(LockedFile, FailuresLeaveEverythingAsItWas) {
     EXPECT_EQ(folder.read(".a.zent-lock"), "somebody's own");
 }
 
-TEST(LockedFile, KindsOfFiles) {
-    const ScratchFolder folder;
-    folder.write("a", "");
-    EXPECT_EQ(getFileKind(folder.file("a")), FileKind::regular);
-    EXPECT_EQ(getFileKind(folder.file("b")), FileKind::missing);
-    EXPECT_EQ(getFileKind(CXString(folder.path().string().c_str())), FileKind::folder);
-}
-
 } // namespace
 } // namespace zent::test

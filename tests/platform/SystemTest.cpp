@@ -1,7 +1,5 @@
 #include "platform/System.h"
 
-#include <thread>
-
 #include "support/LibraryTesting.h"
 
 namespace zent::test {
@@ -44,17 +42,6 @@ TEST(System, ReadsIntegersFromProfileFiles) {
     }
     std::filesystem::remove(path);
     EXPECT_EQ(getProfileInteger(u"debug", u"Errors", 77, file), 77);
-}
-
-TEST(System, NamesErrorsThreadsAndTypes) {
-    constexpr std::uint32_t noSuchFile = 2; // on both kinds of system
-    EXPECT_FALSE(getSystemErrorText(noSuchFile).empty());
-    EXPECT_TRUE(getSystemErrorText(0x2FFFFFFF).empty());
-    EXPECT_EQ(getTypeName(typeid(CXString)), "zent::CXString");
-    EXPECT_TRUE(getWindowCaption(nullptr).empty());
-    const std::uint32_t here = getCurrentThreadId();
-    EXPECT_EQ(getCurrentThreadId(), here);
-    std::thread([here] { EXPECT_NE(getCurrentThreadId(), here); }).join();
 }
 
 } // namespace

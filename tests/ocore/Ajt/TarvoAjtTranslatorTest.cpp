@@ -55,25 +55,6 @@ protected:
     AjtPrinterTraits full;
 };
 
-TEST_F(TarvoAjtTranslatorTest, AnEmptyTicketGivesACompleteStream) {
-    EXPECT_EQ(streamOf("", plain), "%TRVbegin: 001.0300\n"
-                                   "%TRVtitle: Untitled job\n"
-                                   "%TRVsenderName: Unknown user\n"
-                                   "%TRVdisposition: PRINT\n"
-                                   "%TRVdeleteSource: False\n"
-                                   "%TRVend\n");
-    EXPECT_EQ(streamOf("", full), "%TRVbegin: 001.0300\n"
-                                  "%TRVtitle: Untitled job\n"
-                                  "%TRVsenderName: Unknown user\n"
-                                  "%TRVsignature: False\n"
-                                  "%TRVbinding: None\n"
-                                  "%TRVedgeStitching: None\n"
-                                  "%TRVbookletMaker: False\n"
-                                  "%TRVdisposition: PRINT\n"
-                                  "%TRVdeleteSource: False\n"
-                                  "%TRVend\n");
-}
-
 TEST_F(TarvoAjtTranslatorTest, EachFeatureGivesItsLines) {
     const Rows<const char*, const char*> rows{
         // A blank for each line end; CR LF is looked for before LF CR.

@@ -53,30 +53,5 @@ TEST(ValueComparisonTest, ValuesAreRefusedOnPositiveEvidenceOnly) {
     }
 }
 
-TEST(ValueComparisonTest, MediaSizesFitEitherWayRound) {
-    const char* const range = "value{x-dimension(lower-bound=100 upper-bound=300) "
-                              "y-dimension(lower-bound=200 upper-bound=400)}";
-    for (const auto& [size, supported, userDefined, fits] :
-         Rows<const char*, const char*, bool, bool>{
-             {"x-dimension=210 y-dimension=297", "value{x-dimension=297 y-dimension=210}", false,
-              true},
-             {"x-dimension=210 y-dimension=298", "value{x-dimension=297 y-dimension=210}", false,
-              false},
-             {"x-dimension=400 y-dimension=150", range, false, true},
-             {"x-dimension=401 y-dimension=150", range, false, false},
-             {"x-dimension=401 y-dimension=150", range, true, false},
-             {"x-dimension=150", range, false, true},
-             {"x-dimension=401", range, true, false},
-             {"color=red", range, false, true},
-             {"x-dimension=210 y-dimension=297", "", false, true},
-             // of sizes for users to invent only ranges count, and without one all are good
-             {"x-dimension=210 y-dimension=298", "value{x-dimension=297 y-dimension=210}", true,
-              true},
-         }) {
-        SCOPED_TRACE(testing::Message() << size << " among " << supported);
-        EXPECT_EQ(compareMediaSizes(listOf(size), listOf(supported), userDefined), fits);
-    }
-}
-
 } // namespace
 } // namespace zent::test

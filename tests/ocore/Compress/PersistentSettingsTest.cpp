@@ -136,37 +136,6 @@ TEST_F(PersistentSettingsTest, OlderFormsAreUpgraded) {
     EXPECT_EQ(PersistentSettings(full, false).getUserContext().logonName, u"me");
 }
 
-TEST_F(PersistentSettingsTest, WhatWasExpandedOrNotYetComposedIsKeptInStep) {
-    const auto document = [](const std::string& copies) {
-        return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<sordo xml:lang=\"en-US\"> "
-               "<A s=\"i\">" +
-               copies + "</A></sordo>";
-    };
-    const ByteBuffer first = blobOf(recentHeader, structureOf() + document("3"));
-    const ByteBuffer second = blobOf(recentHeader, structureOf() + document("4"));
-    PersistentSettings settings(first, false);
-    const PersistentSettings copy = settings;
-    AttrNodeList list = listOf("sides=a");
-    settings.toAttrNodeList(&list);
-    EXPECT_EQ(textOfList(list), "sides=a copies=3") << "what the target holds stays";
-    EXPECT_EQ(textOfList(*settings.toNewAttrNodeList()), "copies=3");
-    EXPECT_EQ(textOfList(*settings.toNewAttrNodeList()), "copies=3") << "asked for again";
-
-    settings.setFromAttrNodeList(listOf("copies=4"));
-    EXPECT_EQ(textOfList(*settings.toNewAttrNodeList()), "copies=4");
-    EXPECT_EQ(settings.getUserContext().logonName, u"me");
-    const PersistentSettings uncomposed = settings;
-    EXPECT_EQ(settings.getBuffer(), second);
-    EXPECT_EQ(uncomposed.size(), second.size());
-    EXPECT_TRUE(uncomposed.isEqual(settings));
-    EXPECT_EQ(copy.getBuffer(), first);
-
-    settings.setStateTag(7);
-    settings.setBuffer(first);
-    EXPECT_EQ(settings.getStateTag(), 1);
-    EXPECT_EQ(textOfList(*settings.toNewAttrNodeList()), "copies=3");
-}
-
 TEST_F(PersistentSettingsTest, FaultsAreRefusedAndNothingIsTaken) {
     const auto declaring = [](const std::string& root) {
         return "<!DOCTYPE " + root + " SYSTEM 'ordo-v02025.dtd' [<!ENTITY e 'x'>]><" + root + "/>";

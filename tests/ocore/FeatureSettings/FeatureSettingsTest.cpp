@@ -10,23 +10,7 @@ const _FI coverFront(feature::coverFront);
 const _FI overrides(feature::pageOverrides);
 
 FeatureSettings ticketOf(const char* text) { return FeatureSettings(listOf(text)); }
-std::string textOf(const FeatureSettings& ticket) { return textOfList(*ticket.getAttrNodeList()); }
-
-TEST(FeatureSettingsTest, NestedSettingsAreAViewOrFree) {
-    FeatureSettings ticket = ticketOf("page-overrides[value{copies=1} value{copies=2}]");
-    ticket.getNestedSettings(overrides, 1).setLong(copies, 5);
-    ticket.getNestedSettings(overrides, 2).setLong(copies, 9); // there is none
-    ticket.getNestedSettings(coverFront).setLong(copies, 9);
-    FeatureSettings copy = ticketOf("sides=x");
-    ticket.getNestedSettingsCopy(&copy, overrides, 1);
-    copy.setLong(copies, 7);
-    EXPECT_EQ(textOf(ticket), "page-overrides[value{copies=1} value{copies=5}]");
-    EXPECT_EQ(textOf(copy), "copies=7");
-    ticket.getNestedSettingsCopy(&copy, coverFront);
-    EXPECT_EQ(textOf(copy), "");
-    ticket.getNestedSettingsCopy(&ticket, overrides, 0);
-    EXPECT_EQ(textOf(ticket), "copies=1");
-}
+std::string textOf(const Settings& ticket) { return textOfList(*ticket.getAttrNodeList()); }
 
 // What is stored may be the ticket itself, or lie in it.
 TEST(FeatureSettingsTest, NestedSettingsAreStoredAsACopy) {
@@ -104,6 +88,36 @@ TEST(FeatureSettingsTest, ImageShiftsGoToTheSidesThatArePrinted) {
         EXPECT_TRUE(ticket.normalize());
         EXPECT_EQ(textOf(ticket), senseless);
     }
+}
+
+TEST(SettingsTest, OwnersAreCopiedAndViewsShared) {
+    AttrNodeList list = listOf("copies=1");
+    Settings view(&list);
+    const Settings sharing = view;
+    Settings owner(list);
+    const auto copy = owner.clone();
+    view.setLong(copies, 2);
+    owner.setLong(copies, 3);
+    EXPECT_EQ(textOfList(list), "copies=2");
+    EXPECT_EQ(textOf(sharing), "copies=2");
+    EXPECT_EQ(textOf(*copy), "copies=1");
+
+    const Settings moved = std::move(owner);
+    owner = view;                // a view now
+    owner.setAttrNodeList(list); // the list in use
+    owner.setLong(copies, 5);
+    EXPECT_EQ(textOfList(list), "copies=5");
+    EXPECT_EQ(textOf(moved), "copies=3");
+    owner.setAttrNodeList(listOf("copies=6"));
+    EXPECT_EQ(textOf(owner), "copies=6");
+    EXPECT_EQ(textOfList(list), "copies=5");
+
+    // A list inside the one that is replaced.
+    Settings outer(listOf("cover-front{copies=7}"));
+    AttrNodeList* inner = nullptr;
+    outer.getAttrNodeList()->OrdoAttrToList(&inner, AttrID(u"cover-front"));
+    outer.setAttrNodeList(*inner);
+    EXPECT_EQ(textOf(outer), "copies=7");
 }
 
 } // namespace

@@ -1,7 +1,4 @@
 #include "ocore/FeatureSettings/FeatureValue.h"
-#include "ocore/Attributes/IppBoolean.h"
-#include "ocore/Attributes/PrimitiveInteger.h"
-#include "ocore/Attributes/PrimitiveString.h"
 #include "ocore/FeatureSettings/FeatureValueDataBase.h"
 #include "support/LibraryTesting.h"
 
@@ -33,21 +30,6 @@ TEST(FeatureValueTest, NewValuesAreSharedByRelatedFeatures) {
     EXPECT_THROW(create(feature::halftoneGraphics, u"only-images"), Duplicate);
     EXPECT_FALSE(FeatureValue::isKnownValue(feature::halftoneGraphics, u"only-images"));
     EXPECT_THROW(create(TJTF_ANY, u"foo"), Unknown);
-}
-
-TEST(FeatureValueTest, AttributesBringNewValuesIfTheFeatureAllowsIt) {
-    const _FI media(feature::media);
-    const FeatureValue known = FeatureValue::fromAttrValue(media, IppKeyword(u"default"));
-    EXPECT_EQ(known.getValue(), 200);
-    EXPECT_EQ(FeatureValue::fromAttrValue(media, IppName(u"default")), known);
-    const FeatureValue made = FeatureValue::fromAttrValue(media, IppName(u"my stock"));
-    EXPECT_TRUE(made.isRunTimeValue());
-    EXPECT_EQ(made.getSyntax(), u"name");
-    EXPECT_EQ(FeatureValue::fromAttrValue(media, IppName(u"my stock")), made);
-
-    EXPECT_THROW(FeatureValue::fromAttrValue(media, IppKeyword(u"no such")), Unknown);
-    EXPECT_THROW(FeatureValue::fromAttrValue(_FI(feature::sides), IppName(u"x")), Unknown);
-    EXPECT_THROW(FeatureValue::fromAttrValue(_FI(feature::copies), IppInteger(1)), Unknown);
 }
 
 TEST(FeatureValueTest, NewValuesAreOfBoundedLength) {

@@ -38,17 +38,5 @@ TEST(PrinterTablesTest, EachFamilyModelAndDriverStandsOnceAndRefersToOthers) {
     }
 }
 
-TEST(PrinterTablesTest, LookupsThatFailSayWhatWasLookedFor) {
-    using E = IndexOutOfBoundsException;
-    EXPECT_EQ(raised<E>([] { PrinterModel(52, 2); }),
-              "PrinterModel::getModelInfoIndex(): Could not find the model enumeration value (52) "
-              "in the table of printer model information.\r\n");
-    // A language that a model doesn't have goes unnoticed until its driver's name is wanted.
-    const PrinterModel model(32, pageLanguage::postScript);
-    EXPECT_EQ(raised<E>([&] { model.getDriverName(); }),
-              "PrinterModel::getDriverInfoIndex(): Could not find the printer driver by model 32 "
-              "and PDL 1 in the table of printer driver information.\r\n");
-}
-
 } // namespace
 } // namespace zent::test

@@ -2,28 +2,11 @@
 
 #include "ocore/Compress/PersistentSettings.h"
 #include "ocore/Resources/Stream.h"
-#include "ocore/User/User.h"
 #include "support/LibraryTesting.h"
 #include "zent27.h"
 
 namespace zent::test {
 namespace {
-
-TEST(PrinterTest, TheUserGoesIntoAStateBlob) {
-    useResourceLibrary();
-    const ScratchUser preferences;
-    const NonDriverBasedPrinter made(1, 2, 1, CXString(u"of my own"), false);
-    made.getUserPreferences()->setBooleanPreference(u"JOB_NAME_PREFERENCE", false);
-    PersistentSettings state;
-    state.setUserContext({CXString(u"somebody"), true, false, false});
-    const bool isKnown = made.updateUserContext(state);
-    EXPECT_EQ(isKnown, !User::getLogonName().isEmpty());
-    if (isKnown) {
-        EXPECT_EQ(state.getUserContext().logonName, User::getLogonName());
-        EXPECT_FALSE(state.getUserContext().useDocumentName);
-        EXPECT_TRUE(state.getUserContext().useLogonName);
-    }
-}
 
 TEST(PrinterTest, TheDocumentsNameIsCutBetweenCharacters) {
     useResourceLibrary();

@@ -42,22 +42,6 @@ protected:
     ScratchFolder m_folder;
 };
 
-TEST_F(MediaPreferencesTest, WithoutAFileTheDefaultLibraryServes) {
-    MediaPreferences first = preferences();
-    EXPECT_EQ(first.getPath(), u"");
-    const auto stocks = first.getUserStocks();
-    EXPECT_EQ(stocks->getCount(), 10U);
-    save(first, *stocks);
-    EXPECT_EQ(first.getPath(), m_folder.file(current));
-
-    MediaPreferences second = preferences();
-    EXPECT_EQ(second.getUserStocks()->getCount(), 10U);
-    save(second, StockList());
-    EXPECT_NE(m_folder.read(current).find("<media-user-defined syntax=\"1setOf\"/>"),
-              std::string::npos);
-    EXPECT_EQ(preferences().getUserStocks()->getCount(), 0U) << "an empty library is one";
-}
-
 TEST_F(MediaPreferencesTest, LibrariesAreWrittenAsTheyWereRead) {
     const std::string golden = readTestFile("golden/media/library.omp");
     m_folder.write(current, golden);

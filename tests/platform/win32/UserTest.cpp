@@ -5,7 +5,6 @@
 #include <windows.h>
 
 #include "platform/win32/WideText.h"
-#include "platform/win32/WindowsProcessToken.h"
 #include "support/LibraryTesting.h"
 
 namespace zent::test {
@@ -53,8 +52,6 @@ TEST(WindowsUser, HasLocale) {
         EXPECT_EQ(User::getDefaultStockSize(), stockSize);
     }
 }
-
-TEST(WindowsUser, HasProcessToken) { EXPECT_TRUE(WindowsProcessToken(TOKEN_QUERY).isOpen()); }
 
 } // namespace
 } // namespace zent::test
