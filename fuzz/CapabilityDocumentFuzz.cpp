@@ -10,6 +10,7 @@
 #include "ocore/Capabilities/Capabilities.h"
 #include "ocore/Capabilities/CapabilitySource.h"
 #include "ocore/Faults/Exceptions.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/Printer/PrinterDefaults.h"
 #include "ocore/Repair/TicketRepair.h"
 #include "ocore/Stock/StockList.h"

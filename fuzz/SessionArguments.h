@@ -10,6 +10,7 @@
 #include "FuzzInput.h"
 #include "SameList.h"
 #include "ocore/FeatureSettings/FeatureDataBase.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/FeatureSettings/FeatureValueDataBase.h"
 #include "platform/System.h"
 #include "zent27.h"
