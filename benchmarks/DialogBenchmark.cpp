@@ -5,6 +5,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "platform/DialogTemplate.h"
 #include "plugin_ui/Features/DialogTable.h"
 #include "plugin_ui/Features/JobNotesUIFeature.h"

@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/FeatureSettings/FeatureIdentifier.h"
 #include "ocore/FeatureSettings/FeatureTable.h"
 #include "ocore/FeatureSettings/FeatureValueTable.h"

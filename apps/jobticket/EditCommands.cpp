@@ -12,6 +12,7 @@
 #include "Text.h"
 #include "TicketDocument.h"
 #include "TicketFile.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "platform/LockedFile.h"
 
 namespace jobticket {

@@ -7,6 +7,7 @@
 #include "Text.h"
 #include "TicketDocument.h"
 #include "ocore/Faults/TarvoException.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/User/User.h"
 #include "platform/System.h"
 

@@ -5,6 +5,7 @@
 
 #include "Printers.h"
 #include "Text.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
 
 namespace jobticket {

@@ -12,6 +12,7 @@
 #include "ocore/Ajt/TarvoAjtTranslator.h"
 #include "ocore/Checking/SettingsValidator.h"
 #include "ocore/Faults/TarvoException.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
 #include "ocore/Repair/RepairReport.h"
 #include "ocore/Repair/SettingsProblemFixer.h"

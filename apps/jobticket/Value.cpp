@@ -9,6 +9,7 @@
 #include "ExitStatus.h"
 #include "Spelling.h"
 #include "Text.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 namespace jobticket {
 

@@ -1,5 +1,6 @@
 #include "ZENT_API/Arguments.h"
 #include "ZENT_API/CallFrame.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 using namespace zent;
 

@@ -11,7 +11,7 @@ namespace zent {
 class ConfigurableUIComponent : public MessageProcessorWithChildren {
 public:
     /// The level of the job itself.
-    static constexpr FeatureEnum jobLevel = feature::none;
+    static constexpr FeatureEnum jobLevel{};
 
     explicit ConfigurableUIComponent(UIConfiguration& configuration,
                                      FeatureEnum parentFeature = jobLevel)

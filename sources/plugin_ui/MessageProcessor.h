@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ocore/FeatureSettings/FeatureEnum.h"
+#include "ocore/FeatureSettings/FeatureNumber.h"
 #include "plugin_ui/DialogMessage.h"
 #include "plugin_ui/UIComponent.h"
 

@@ -1,4 +1,5 @@
 #include "dialogs/DialogSession.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/Stock/StockInformation.h"
 #include "ocore/Stock/StockList.h"
 #include "ocore/User/User.h"

@@ -1,3 +1,4 @@
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/FeatureSettings/FeatureSettings.h"
 #include "plugin_ui/MessageProcessorWithChildren.h"
 #include "plugin_ui/TestDialog.h"

@@ -1,3 +1,4 @@
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "platform/DialogTemplate.h"
 #include "plugin_ui/Controls/NumberBoxUIControl.h"
 #include "plugin_ui/Controls/PushButtonUIControl.h"

@@ -1,3 +1,4 @@
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "plugin_ui/Controls/OwndrwPushButtonUIControl.h"
 #include "plugin_ui/Controls/RadioButtonUIControl.h"
 #include "plugin_ui/Controls/SliderUIControl.h"

@@ -7,6 +7,7 @@
 #include "ocore/Capabilities/ResourceCapabilities.h"
 #include "ocore/FeatureSettings/CapabilityDataBase.h"
 #include "ocore/FeatureSettings/CapabilityIdentifier.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/FeatureSettings/FeatureIdentifier.h"
 #include "ocore/FeatureSettings/FeatureValueDataBase.h"
 #include "ocore/Models/PrinterTables.h"

@@ -4,6 +4,7 @@
 
 #include "ocore/Capabilities/Capabilities.h"
 #include "ocore/Checking/SettingsValidator.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/Printer/PrinterDefaults.h"
 #include "ocore/Repair/TicketRepair.h"
 #include "support/OrdoDocument.h"

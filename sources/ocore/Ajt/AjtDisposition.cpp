@@ -1,6 +1,7 @@
 // Whether a job is printed or saved, and where to.
 
 #include "ocore/Ajt/AjtGroups.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 namespace zent::ajt {
 

@@ -1,6 +1,7 @@
 // The second colour of a printer that has black and one more.
 
 #include "ocore/Ajt/AjtGroups.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 namespace zent::ajt {
 

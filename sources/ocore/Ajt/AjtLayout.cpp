@@ -2,6 +2,7 @@
 
 #include "ocore/Ajt/AjtGroups.h"
 #include "ocore/Ajt/AjtWords.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 namespace zent::ajt {
 

@@ -1,6 +1,7 @@
 // Pages that are printed in another manner than the job.
 
 #include "ocore/Ajt/AjtGroups.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 namespace zent::ajt {
 

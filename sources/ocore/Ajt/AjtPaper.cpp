@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "ocore/Ajt/AjtGroups.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 namespace zent::ajt {
 

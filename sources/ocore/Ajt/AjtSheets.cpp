@@ -1,6 +1,7 @@
 // The sheets that a job has besides its pages, and those that begin a chapter.
 
 #include "ocore/Ajt/AjtGroups.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 namespace zent::ajt {
 

@@ -1,6 +1,7 @@
 #include "ocore/Ajt/AjtTicketReader.h"
 
 #include "ocore/Faults/Exceptions.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 namespace zent::ajt {
 

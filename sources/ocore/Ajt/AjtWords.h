@@ -3,7 +3,7 @@
 #include <span>
 #include <string_view>
 
-#include "ocore/FeatureSettings/FeatureEnum.h"
+#include "ocore/FeatureSettings/FeatureNumber.h"
 #include "ocore/FeatureSettings/FeatureValue.h"
 
 namespace zent::ajt {

@@ -4,6 +4,7 @@
 #include "ocore/Attributes/AVTE.h"
 #include "ocore/Attributes/IppList.h"
 #include "ocore/FeatureSettings/FeatureDataBase.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/FeatureSettings/FeatureValueDataBase.h"
 #include "platform/KeepForever.h"
 

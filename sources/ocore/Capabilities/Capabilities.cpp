@@ -5,6 +5,7 @@
 #include "ocore/Attributes/AttrNames.h"
 #include "ocore/Attributes/PrimitiveString.h"
 #include "ocore/Faults/Exceptions.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 namespace zent {
 

@@ -1,6 +1,7 @@
 #include "ocore/Capabilities/CapabilityIndex.h"
 
 #include "ocore/FeatureSettings/CapabilityDataBase.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/FeatureSettings/FeatureIdentifier.h"
 #include "platform/KeepForever.h"
 

@@ -4,6 +4,7 @@
 
 #include "ocore/Capabilities/Capabilities.h"
 #include "ocore/Faults/Trace.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 namespace zent {
 

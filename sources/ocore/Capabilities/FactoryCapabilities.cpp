@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "ocore/FeatureSettings/CapabilityIdentifier.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 namespace zent {
 

@@ -1,5 +1,7 @@
 #include "ocore/Checking/RequiredMembers.h"
 
+#include "ocore/FeatureSettings/FeatureEnum.h"
+
 namespace zent {
 
 namespace {

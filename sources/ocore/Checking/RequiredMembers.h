@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ocore/FeatureSettings/FeatureEnum.h"
+#include "ocore/FeatureSettings/FeatureNumber.h"
 
 namespace zent {
 

@@ -12,6 +12,7 @@
 #include "ocore/Checking/ValueComparison.h"
 #include "ocore/Faults/Exceptions.h"
 #include "ocore/Faults/Trace.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 namespace zent {
 

@@ -7,6 +7,7 @@
 #include "ocore/Attributes/PrimitiveInteger.h"
 #include "ocore/Attributes/PrimitiveString.h"
 #include "ocore/Faults/Trace.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/FeatureSettings/FeatureIdentifier.h"
 
 namespace zent {

@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "ocore/Attributes/NestedAttrID.h"
-#include "ocore/FeatureSettings/FeatureEnum.h"
+#include "ocore/FeatureSettings/FeatureNumber.h"
 #include "ocore/FeatureSettings/SyntaxList.h"
 
 namespace zent {

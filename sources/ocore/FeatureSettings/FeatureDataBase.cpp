@@ -3,6 +3,7 @@
 #include <map>
 
 #include "ocore/Faults/Exceptions.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/FeatureSettings/FeatureTable.h"
 #include "ocore/FeatureSettings/NestedIDText.h"
 #include "platform/KeepForever.h"

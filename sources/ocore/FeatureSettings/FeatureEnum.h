@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "ocore/FeatureSettings/FeatureNumber.h"
+
 namespace zent {
 
 /// The features by number: 2 to 137 are the rows of the feature table. The numbers never change.
@@ -154,8 +156,7 @@ constexpr Number last = colorDeviceCmykCol;
 constexpr Number& operator++(Number& feature) { return feature = static_cast<Number>(feature + 1); }
 } // namespace feature
 
-using FeatureEnum = feature::Number;
-constexpr FeatureEnum TJTF_ANY = feature::any;
+static_assert(TJTF_ANY == feature::any);
 
 /// The values by number, but for the media names, which have the numbers from 200 to 535 in the
 /// order of their list, and those of run time, which follow the last. The numbers never change.
@@ -380,8 +381,8 @@ enum Number : std::int32_t {
     paperSource4 = 550,
     paperSource5 = 551,
     paperSource6 = 552,
-    firstRunTimeValue = 553,
 };
+static_assert(firstRunTimeValue == paperSource6 + 1);
 } // namespace value
 
 } // namespace zent

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "ocore/Attributes/NestedAttrID.h"
-#include "ocore/FeatureSettings/FeatureEnum.h"
+#include "ocore/FeatureSettings/FeatureNumber.h"
 #include "ocore/FeatureSettings/SyntaxList.h"
 
 namespace zent {

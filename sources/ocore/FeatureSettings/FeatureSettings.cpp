@@ -4,6 +4,7 @@
 
 #include "ocore/Attributes/IppList.h"
 #include "ocore/Faults/Exceptions.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 namespace zent {
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <span>
 
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/FeatureSettings/FeatureInfo.h"
 
 namespace zent {

@@ -5,6 +5,7 @@
 
 #include "ocore/Faults/Exceptions.h"
 #include "ocore/FeatureSettings/FeatureDataBase.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/FeatureSettings/FeatureValueTable.h"
 #include "platform/KeepForever.h"
 

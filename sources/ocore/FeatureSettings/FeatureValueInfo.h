@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "ocore/Attributes/AVTE.h"
-#include "ocore/FeatureSettings/FeatureEnum.h"
+#include "ocore/FeatureSettings/FeatureNumber.h"
 
 namespace zent {
 

@@ -1,5 +1,6 @@
 #include "ocore/FeatureSettings/FeatureValueTable.h"
 
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "resources/ids.h"
 
 namespace zent {

@@ -1,5 +1,6 @@
 #include <string>
 
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/FeatureSettings/FeatureValueTable.h"
 #include "resources/ids.h"
 

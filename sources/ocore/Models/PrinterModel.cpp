@@ -7,6 +7,7 @@
 
 #include "ocore/Faults/Exceptions.h"
 #include "ocore/FeatureSettings/CapabilityIdentifier.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/Resources/ResourceLibrary.h"
 
 namespace zent {

@@ -1,6 +1,7 @@
 #include "ocore/Printer/Printer.h"
 
 #include "ocore/Compress/PersistentSettings.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/Printer/CreateStreamTranslator.h"
 #include "ocore/User/User.h"
 #include "platform/Surrogates.h"

@@ -1,5 +1,6 @@
 #include "ocore/Printer/PrinterDefaults.h"
 
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/User/User.h"
 #include "resources/ids.h"
 

@@ -3,6 +3,7 @@
 #include "ocore/Attributes/EmbeddedList.h"
 #include "ocore/Attributes/PrimitiveInteger.h"
 #include "ocore/Faults/Exceptions.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/FeatureSettings/FeatureIdentifier.h"
 #include "ocore/FeatureSettings/Settings.h"
 #include "ocore/Resources/ResourceLibrary.h"

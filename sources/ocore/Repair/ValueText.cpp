@@ -2,6 +2,7 @@
 
 #include "ocore/Attributes/EmbeddedList.h"
 #include "ocore/Attributes/PrimitiveInteger.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/FeatureSettings/FeatureValue.h"
 
 namespace zent {

@@ -8,6 +8,7 @@
 #include "ocore/Attributes/PrimitiveInteger.h"
 #include "ocore/Checking/SettingsValidator.h"
 #include "ocore/Faults/Exceptions.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/Repair/ProblemReporter.h"
 #include "ocore/Repair/SettingsProblemFixer.h"
 #include "ocore/Resources/ResourceLibrary.h"

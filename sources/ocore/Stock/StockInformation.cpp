@@ -7,6 +7,7 @@
 #include "ocore/Attributes/IppList.h"
 #include "ocore/Faults/Exceptions.h"
 #include "ocore/Faults/Trace.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 namespace zent {
 

@@ -6,6 +6,7 @@
 #include "ocore/Attributes/IppList.h"
 #include "ocore/Capabilities/Capabilities.h"
 #include "ocore/Faults/Exceptions.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 namespace zent {
 

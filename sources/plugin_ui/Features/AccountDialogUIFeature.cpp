@@ -1,5 +1,6 @@
 #include "plugin_ui/Features/AccountDialogUIFeature.h"
 
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "resources/ids.h"
 
 namespace zent {

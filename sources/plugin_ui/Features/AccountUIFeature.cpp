@@ -1,5 +1,6 @@
 #include "plugin_ui/Features/AccountUIFeature.h"
 
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "plugin_ui/Features/JobTextRules.h"
 #include "plugin_ui/Reports/UserMessage.h"
 #include "resources/ids.h"

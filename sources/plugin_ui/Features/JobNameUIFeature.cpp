@@ -1,5 +1,6 @@
 #include "plugin_ui/Features/JobNameUIFeature.h"
 
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/Resources/ResourceLibrary.h"
 #include "plugin_ui/Features/JobTextRules.h"
 #include "plugin_ui/Reports/UserMessage.h"

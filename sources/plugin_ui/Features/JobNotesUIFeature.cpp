@@ -1,5 +1,6 @@
 #include "plugin_ui/Features/JobNotesUIFeature.h"
 
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "plugin_ui/Features/AccountDialogUIFeature.h"
 #include "plugin_ui/Features/DialogTable.h"
 #include "plugin_ui/Features/FeatureRow.h"

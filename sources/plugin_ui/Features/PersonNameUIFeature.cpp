@@ -1,5 +1,6 @@
 #include "plugin_ui/Features/PersonNameUIFeature.h"
 
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/User/User.h"
 #include "platform/Surrogates.h"
 

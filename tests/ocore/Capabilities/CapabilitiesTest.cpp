@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "support/LibraryTesting.h"
 #include "support/ListCapabilities.h"
 #include "support/TraceCapture.h"

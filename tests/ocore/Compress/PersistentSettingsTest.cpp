@@ -2,6 +2,7 @@
 
 #include "ocore/Attributes/AttrValueFactory.h"
 #include "ocore/Compress/CompressedBuffer.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/FeatureSettings/FeatureIdentifier.h"
 #include "ocore/FeatureSettings/FeatureValueDataBase.h"
 #include "ocore/User/User.h"

@@ -1,4 +1,5 @@
 #include "ocore/FeatureSettings/FeatureSettings.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 #include "support/LibraryTesting.h"
 

@@ -2,6 +2,7 @@
 #include "ocore/FeatureSettings/CapabilityIdentifier.h"
 #include "ocore/FeatureSettings/CapabilityTable.h"
 #include "ocore/FeatureSettings/FeatureDataBase.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/FeatureSettings/FeatureIdentifier.h"
 #include "ocore/FeatureSettings/FeatureTable.h"
 #include "ocore/FeatureSettings/FeatureValueDataBase.h"

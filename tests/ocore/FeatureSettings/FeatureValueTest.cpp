@@ -1,4 +1,5 @@
 #include "ocore/FeatureSettings/FeatureValue.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/FeatureSettings/FeatureValueDataBase.h"
 #include "support/LibraryTesting.h"
 

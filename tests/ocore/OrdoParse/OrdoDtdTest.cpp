@@ -1,5 +1,6 @@
 #include <set>
 
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/FeatureSettings/FeatureSettings.h"
 #include "ocore/OrdoParse/OrdoCategories.h"
 #include "support/OrdoDocument.h"

@@ -1,4 +1,5 @@
 #include "ocore/Repair/RepairReport.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 #include "ocore/Checking/SettingsValidator.h"
 #include "ocore/Repair/TicketRepair.h"

@@ -1,4 +1,5 @@
 #include "ocore/Repair/SettingsProblemFixer.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 #include "ocore/Attributes/EmbeddedList.h"
 #include "ocore/Checking/FailedEmbeddedSpacesCapability.h"

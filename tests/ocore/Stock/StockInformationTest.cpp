@@ -1,4 +1,5 @@
 #include "ocore/Stock/StockInformation.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 
 #include <thread>
 
