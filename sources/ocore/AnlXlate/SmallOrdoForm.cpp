@@ -61,28 +61,46 @@ const auto& memberCodes = keepForever<std::vector<MemberCode>>(std::initializer_
 });
 
 /// Goes through a list and all lists within it, the embedded ones first. The feature that the last
-/// node stood for is carried along, since a value is abbreviated by its feature's table: what
-/// encodes and what decodes come to the same features in the same order.
+/// node stood for is carried along, since a value is abbreviated by its feature's table.
 template <typename Coder>
-void walk(AttrNodeList& list, FeatureEnum& current, const Coder& coder) {
+void walk(AttrNodeList& list, FeatureEnum& current, Coder& coder, bool isWritten = true) {
     for (std::uint32_t i = 0; i < list.getNumberOfNodes(); ++i) {
         AttrNode& node = list.getNodeAt(i);
         AttrValue& value = node.getAttrValue();
+        const bool isNodeWritten = isWritten && !node.isPrivate();
         if (value.isList()) {
-            walk(static_cast<IppList&>(value).getAttrNodeList(), current, coder);
+            walk(static_cast<IppList&>(value).getAttrNodeList(), current, coder, isNodeWritten);
         }
-        coder.renameNode(node, current);
+        coder.renameNode(node, current, isNodeWritten);
         if (!value.isList()) {
             coder.changeValue(value, current);
         }
     }
 }
 
+/// An element without content isn't read back.
+bool isReadBack(const AttrValue& value) {
+    if (!value.isList()) {
+        return !value.getIppValue().isEmpty();
+    }
+    const AttrNodeList& members = static_cast<const IppList&>(value).getAttrNodeList();
+    for (std::uint32_t i = 0; i < members.getNumberOfNodes(); ++i) {
+        if (!members.getNodeAt(i).isPrivate()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// The reader comes to fewer nodes, since private and empty ones don't reach it, and restores no
+/// value before it has come to a feature. Until then values keep their texts.
 class Encoder {
 public:
-    void renameNode(AttrNode& node, FeatureEnum& current) const {
+    void renameNode(AttrNode& node, FeatureEnum& current, bool isWritten) {
+        const bool reachesReader = isWritten && isReadBack(node.getAttrValue());
         if (const FeatureInfo* const feature = m_features.findFeatureInfo(node.getName())) {
             current = feature->m_feature;
+            m_readerHasFeature = m_readerHasFeature || reachesReader;
             node.setAttrID(AttrID(feature->m_abbreviation));
             return;
         }
@@ -93,13 +111,14 @@ public:
             }
         }
         current = feature::none;
+        m_readerHasFeature = m_readerHasFeature && !reachesReader;
     }
 
     void changeValue(AttrValue& value, FeatureEnum current) const {
         const CXString text = value.getIppValue();
         if (text.view().starts_with(mark) || m_values.hasAbbreviation(text)) {
             value.setIppValue(mark + text);
-        } else if (current != feature::none) {
+        } else if (current != feature::none && m_readerHasFeature) {
             const FeatureValueReference known = m_values.findFeatureValueInfo(current, text);
             if (known && !known->m_abbreviation.isEmpty()) {
                 value.setIppValue(known->m_abbreviation);
@@ -110,11 +129,12 @@ public:
 private:
     FeatureDataBase m_features;
     FeatureValueDataBase m_values;
+    bool m_readerHasFeature = false;
 };
 
 class Decoder {
 public:
-    void renameNode(AttrNode& node, FeatureEnum& current) const {
+    void renameNode(AttrNode& node, FeatureEnum& current, bool /*isWritten*/) const {
         if (const FeatureInfo* const feature =
                 m_features.findFeatureInfoByAbbreviation(node.getName())) {
             current = feature->m_feature;
@@ -160,7 +180,8 @@ private:
 template <typename Coder>
 void change(AttrNodeList& list) {
     FeatureEnum current = feature::none;
-    walk(list, current, Coder());
+    Coder coder;
+    walk(list, current, coder);
 }
 
 } // namespace

@@ -54,6 +54,19 @@ TEST(SmallOrdoTranslatorTest, NamesAndValuesAreAbbreviated) {
     }
 }
 
+// A reader never comes to the first attribute, so it couldn't tell a code from a text.
+TEST(SmallOrdoTranslatorTest, ValuesAfterWhatIsNotReadBackKeepTheirTexts) {
+    for (const std::string first :
+         {"!anti-aliasing=none", "anti-aliasing=keyword:", "anti-aliasing[]",
+          "anti-aliasing[!value=none]", "!anti-aliasing[value=none]",
+          "job-priority=50 !anti-aliasing=none"}) {
+        std::string ticket = first;
+        ticket += " job-offset[value=none]";
+        const std::string rest = first.starts_with("job") ? "job-priority=50 " : "";
+        EXPECT_EQ(read(written(listOf(ticket))), rest + "job-offset[value=none]") << first;
+    }
+}
+
 TEST(SmallOrdoTranslatorTest, UnknownCodesStayAsTheyAre) {
     EXPECT_EQ(read(around(R"(<zz s="k">c</zz><a s="q">c</a><A s="i">7</A>)")),
               "zz=c sides=q: copies=7");
