@@ -205,7 +205,9 @@ void runOn(const char* name, const std::uint8_t* data, std::size_t size) {
             useAsTicket(data, size);
         }
     } catch (const UnknownFeatureRequestException&) {
-        // No more values can be taken: they last as long as the process.
+        // No more values can be taken while so many are held.
+    } catch (const AttributeTypeMismatchException&) {
+        // A stock has another shape than stocks have, such as a number for its size.
     }
     setting().remove("omedpref.omp");
     setting().remove("omedpr35.omp");
