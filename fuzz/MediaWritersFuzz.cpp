@@ -11,6 +11,7 @@
 #include <map>
 #include <memory>
 #include <random>
+#include <set>
 #include <string>
 
 #include "FuzzInput.h"
@@ -85,11 +86,13 @@ public:
             Stock stock(0, FeatureValue(), StockType::user, StockSource::name, FeatureSettings());
             stock.setKeyFromText(CXString(name.c_str()));
             m_library.addStock(stock);
+            m_added.insert(name);
         }
     }
     void remove(const std::string& name) {
         if (const Stock* const stock = find(name)) {
             m_library.removeStock(*stock);
+            m_added.erase(name);
         }
     }
     void toggleFavorite(const std::string& name) {
@@ -107,12 +110,13 @@ public:
         }
         for (const auto& [name, isFavorite] : own) {
             const auto before = m_saved.find(name);
-            if (before == m_saved.end() || before->second != isFavorite) {
+            if (m_added.contains(name) || before == m_saved.end() || before->second != isFavorite) {
                 file[name] = isFavorite;
             }
         }
         m_library.save();
         m_saved = own;
+        m_added.clear();
         return file;
     }
 
@@ -138,7 +142,8 @@ private:
     }
 
     StockInformation m_library;
-    Stocks m_saved; // as the writer has read or written them
+    Stocks m_saved;                // as the writer has read or written them
+    std::set<std::string> m_added; // since then; one that was removed before is another one now
 };
 
 Stocks readFile() {
