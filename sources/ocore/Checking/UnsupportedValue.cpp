@@ -47,8 +47,11 @@ const AttrNode* UnsupportedValue::findDefault(const Settings& defaults) const {
 
 SettingsRepair UnsupportedValue::findRepair(const Settings& defaults) const {
     const AttrNode* const replacement = findDefault(defaults);
-    return replacement == nullptr ? makeRemoval()
-                                  : makeReplacement(replacement->getAttrValue().clone());
+    // The value may be the default, and unsupported because of where it stands. Lists are the same
+    // if they have as many nodes, which says nothing.
+    const bool isOther = replacement != nullptr && (replacement->getAttrValue().isList() ||
+                                                    !(*replacement == *getContext().getNode()));
+    return isOther ? makeReplacement(replacement->getAttrValue().clone()) : makeRemoval();
 }
 
 std::unique_ptr<SettingsProblem> UnsupportedValue::clone() const {

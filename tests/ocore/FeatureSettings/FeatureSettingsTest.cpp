@@ -1,6 +1,6 @@
 #include "ocore/FeatureSettings/FeatureSettings.h"
-#include "ocore/FeatureSettings/FeatureEnum.h"
 
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "support/LibraryTesting.h"
 
 namespace zent::test {

@@ -1,7 +1,7 @@
 #include "ocore/Repair/RepairReport.h"
-#include "ocore/FeatureSettings/FeatureEnum.h"
 
 #include "ocore/Checking/SettingsValidator.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/Repair/TicketRepair.h"
 #include "plugin_ui/Reports/BoxCapture.h"
 #include "plugin_ui/Reports/CurrentWindowSystem.h"

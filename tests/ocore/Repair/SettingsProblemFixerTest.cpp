@@ -1,5 +1,4 @@
 #include "ocore/Repair/SettingsProblemFixer.h"
-#include "ocore/FeatureSettings/FeatureEnum.h"
 
 #include "ocore/Attributes/EmbeddedList.h"
 #include "ocore/Checking/FailedEmbeddedSpacesCapability.h"
@@ -8,6 +7,7 @@
 #include "ocore/Checking/SettingsValidator.h"
 #include "ocore/Checking/UnsupportedAttribute.h"
 #include "ocore/Checking/UnsupportedValue.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "support/LibraryTesting.h"
 #include "support/ListCapabilities.h"
 #include "support/ProblemText.h"
@@ -58,6 +58,7 @@ TEST_F(SettingsProblemFixerTest, RepairsByDefaultByLimitOrByRemoval) {
     const std::string longName(300, 'n');
     const std::pair<std::string, std::string> rows[] = {
         {"unknown=1 copies=2", "copies=2"},
+        {"copies=2 media-col[media-color=white media-type=stationery]", "copies=2"},
         {"copies=10 sides=both", "copies=1 sides=one-sided"},
         {"media-col{media-color=blue media-type=stationery}",
          "media-col{media-color=white media-type=stationery}"},

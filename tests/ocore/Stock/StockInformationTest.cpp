@@ -1,9 +1,9 @@
 #include "ocore/Stock/StockInformation.h"
-#include "ocore/FeatureSettings/FeatureEnum.h"
 
 #include <thread>
 
 #include "ocore/Attributes/IppList.h"
+#include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
 #include "support/LibraryTesting.h"
 
