@@ -75,4 +75,17 @@ inline void requireSameList(const AttrNodeList& written, const AttrNodeList& rea
     require(place == read.getNumberOfNodes());
 }
 
+/// For what never left the memory: all is the same, private nodes as well.
+inline void requireUnchanged(const AttrNodeList& before, const AttrNodeList& after) {
+    require(before.getNumberOfNodes() == after.getNumberOfNodes());
+    for (std::uint32_t i = 0; i < before.getNumberOfNodes(); ++i) {
+        const AttrNode& node = before.getNodeAt(i);
+        require(node == after.getNodeAt(i));
+        if (node.getAttrValue().isList()) {
+            requireUnchanged(listOf(node.getAttrValue()),
+                             listOf(after.getNodeAt(i).getAttrValue()));
+        }
+    }
+}
+
 } // namespace zent::fuzz
