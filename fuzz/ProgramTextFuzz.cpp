@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "Assignment.h"
-#include "ExitStatus.h"
+#include "Errors.h"
 #include "FuzzInput.h"
-#include "Json.h"
+#include "Listing.h"
 #include "SameList.h"
 #include "Session.h"
 #include "Text.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "ExitStatus.h"
+#include "Errors.h"
 #include "MediaLibrary.h"
 #include "Offers.h"
 #include "Outline.h"

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "ExitStatus.h"
-#include "Json.h"
+#include "Errors.h"
+#include "Listing.h"
 
 namespace jobticket {
 

@@ -7,7 +7,7 @@
 #include <variant>
 #include <vector>
 
-#include "ExitStatus.h"
+#include "Errors.h"
 
 namespace jobticket {
 

@@ -9,7 +9,6 @@
 
 #include "Command.h"
 #include "Help.h"
-#include "Spelling.h"
 #include "Text.h"
 #include "TicketFile.h"
 #include "zent_version.h"

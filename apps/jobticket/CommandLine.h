@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "ExitStatus.h"
+#include "Errors.h"
 
 namespace jobticket {
 

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "Command.h"
-#include "ExitStatus.h"
+#include "Errors.h"
 #include "FeaturePath.h"
 #include "MediaLibrary.h"
 #include "Preferences.h"

@@ -4,8 +4,7 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "ExitStatus.h"
-#include "Spelling.h"
+#include "Errors.h"
 #include "Text.h"
 #include "ocore/FeatureSettings/FeatureDataBase.h"
 #include "ocore/FeatureSettings/FeatureTable.h"

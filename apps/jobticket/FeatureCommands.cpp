@@ -3,7 +3,6 @@
 
 #include "CommonOptions.h"
 #include "Feature.h"
-#include "Json.h"
 #include "Listing.h"
 #include "Text.h"
 #include "TicketFile.h"

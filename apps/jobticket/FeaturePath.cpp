@@ -4,7 +4,7 @@
 #include <charconv>
 #include <optional>
 
-#include "ExitStatus.h"
+#include "Errors.h"
 #include "Feature.h"
 #include "Text.h"
 #include "TicketDocument.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "Assignment.h"
-#include "ExitStatus.h"
+#include "Errors.h"
 #include "Text.h"
 #include "TicketDocument.h"
 #include "ocore/Faults/TarvoException.h"

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "Feature.h"
-#include "Json.h"
+#include "Listing.h"
 #include "Session.h"
 #include "Value.h"
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "Feature.h"
-#include "Json.h"
+#include "Listing.h"
 #include "ocore/Attributes/AttrNodeList.h"
 #include "ocore/Attributes/AttrValue.h"
 

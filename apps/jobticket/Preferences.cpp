@@ -5,7 +5,7 @@
 #include <string_view>
 #include <utility>
 
-#include "LibraryError.h"
+#include "Errors.h"
 #include "Text.h"
 #include "ZENT_API/ZENTSession.h"
 #include "ocore/Faults/Exceptions.h"

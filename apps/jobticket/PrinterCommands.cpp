@@ -2,7 +2,6 @@
 #include <array>
 
 #include "CommonOptions.h"
-#include "Json.h"
 #include "Listing.h"
 #include "Offers.h"
 #include "PrinterOptions.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "ExitStatus.h"
+#include "Errors.h"
 #include "Platform.h"
 #include "Preferences.h"
 #include "Printers.h"

@@ -3,7 +3,7 @@
 #include <limits>
 #include <utility>
 
-#include "LibraryError.h"
+#include "Errors.h"
 #include "Text.h"
 #include "platform/CodePage.h"
 

@@ -1,6 +1,6 @@
 #include "StateBlob.h"
 
-#include "LibraryError.h"
+#include "Errors.h"
 #include "ocore/Compress/CompressedBuffer.h"
 #include "ocore/Compress/PersistentSettings.h"
 #include "ocore/Faults/TarvoException.h"

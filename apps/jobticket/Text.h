@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/Utf8.h"
 #include "zent27.h"
@@ -39,5 +40,9 @@ std::string inQuotes(std::string_view argument);
 bool equalsIgnoringCase(std::string_view a, std::string_view b);
 /// Whether the text holds another, ASCII letters compared without regard to case.
 bool containsIgnoringCase(std::string_view text, std::string_view part);
+
+/// The name of the list that a text is meant for, maybe: one that begins with it, else one that it
+/// is a part of, else the one that comes closest. Empty if none does; none does to a number.
+std::string findNearest(std::string_view text, const std::vector<std::string>& names);
 
 } // namespace jobticket

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "Json.h"
+#include "Listing.h"
 #include "Offers.h"
 #include "Outline.h"
 #include "ocore/Attributes/AttrNodeList.h"

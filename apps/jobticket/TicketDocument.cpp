@@ -2,8 +2,7 @@
 
 #include <vector>
 
-#include "ExitStatus.h"
-#include "LibraryError.h"
+#include "Errors.h"
 #include "Session.h"
 #include "Text.h"
 #include "TicketFile.h"

@@ -9,7 +9,7 @@
 #include <span>
 #include <system_error>
 
-#include "ExitStatus.h"
+#include "Errors.h"
 #include "Platform.h"
 #include "Text.h"
 #include "platform/LockedFile.h"

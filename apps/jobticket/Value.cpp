@@ -6,8 +6,7 @@
 #include <cmath>
 #include <optional>
 
-#include "ExitStatus.h"
-#include "Spelling.h"
+#include "Errors.h"
 #include "Text.h"
 #include "ocore/FeatureSettings/FeatureEnum.h"
 

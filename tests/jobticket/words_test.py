@@ -169,7 +169,7 @@ class Documents(InFolder):
         guide = (ROOT / "docs" / "guide.md").read_text(encoding="utf-8")
         self.assertEqual(re.findall(r"\| (\d+) \| `(\w+)` \|", guide),
                          [(number, name) for name, number in results])
-        messages = (ROOT / "apps" / "jobticket" / "LibraryError.cpp").read_text(encoding="utf-8")
+        messages = (ROOT / "apps" / "jobticket" / "Errors.cpp").read_text(encoding="utf-8")
         self.assertEqual(re.findall(r'\{"(ZENT_\w+)"', messages), [name for name, _ in results])
 
 

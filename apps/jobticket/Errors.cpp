@@ -1,4 +1,4 @@
-#include "LibraryError.h"
+#include "Errors.h"
 
 #include <array>
 
