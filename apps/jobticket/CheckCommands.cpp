@@ -3,7 +3,7 @@
 #include <set>
 
 #include "Batch.h"
-#include "CommonOptions.h"
+#include "Command.h"
 #include "Listing.h"
 #include "Offers.h"
 #include "PrinterOptions.h"

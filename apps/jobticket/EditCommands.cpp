@@ -5,7 +5,7 @@
 
 #include "Assignment.h"
 #include "Batch.h"
-#include "CommonOptions.h"
+#include "Command.h"
 #include "FeaturePath.h"
 #include "PrinterOptions.h"
 #include "Session.h"

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <array>
 
-#include "CommonOptions.h"
+#include "Command.h"
 #include "Feature.h"
 #include "Listing.h"
 #include "Text.h"

@@ -1,9 +1,8 @@
-#include "Help.h"
+#include "Command.h"
 
 #include <array>
 #include <iterator>
 
-#include "Command.h"
 #include "Text.h"
 #include "TicketFile.h"
 #include "zent_version.h"

@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include "Batch.h"
-#include "CommonOptions.h"
+#include "Command.h"
 #include "Offers.h"
 #include "Outline.h"
 #include "PrinterOptions.h"

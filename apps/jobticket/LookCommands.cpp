@@ -3,7 +3,7 @@
 #include <map>
 
 #include "Batch.h"
-#include "CommonOptions.h"
+#include "Command.h"
 #include "FeaturePath.h"
 #include "Listing.h"
 #include "Outline.h"

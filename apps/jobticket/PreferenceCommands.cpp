@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <array>
 
-#include "CommonOptions.h"
+#include "Command.h"
 #include "Listing.h"
 #include "Preferences.h"
 #include "PrinterOptions.h"

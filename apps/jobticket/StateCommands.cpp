@@ -1,6 +1,6 @@
 #include <array>
 
-#include "CommonOptions.h"
+#include "Command.h"
 #include "Listing.h"
 #include "PrinterOptions.h"
 #include "StateBlob.h"

@@ -2,7 +2,7 @@
 #include <array>
 #include <iostream>
 
-#include "CommonOptions.h"
+#include "Command.h"
 #include "Listing.h"
 #include "MediaLibrary.h"
 #include "Outline.h"

@@ -2,7 +2,7 @@
 
 #include <iostream>
 
-#include "CommandLine.h"
+#include "Command.h"
 #include "Platform.h"
 #include "Text.h"
 #include "ZENT_API/ModuleDirectory.h"
