@@ -6,11 +6,9 @@
 #include "Command.h"
 #include "Listing.h"
 #include "Offers.h"
-#include "PrinterOptions.h"
 #include "Printers.h"
 #include "Text.h"
 #include "TicketCheck.h"
-#include "TicketDocument.h"
 #include "TicketFile.h"
 
 namespace jobticket {

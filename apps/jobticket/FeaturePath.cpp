@@ -7,7 +7,7 @@
 #include "Errors.h"
 #include "Feature.h"
 #include "Text.h"
-#include "TicketDocument.h"
+#include "TicketFile.h"
 #include "ocore/AnlXlate/AnlTranslatorForXml.h"
 #include "ocore/Attributes/IppList.h"
 #include "ocore/OrdoParse/OrdoCategories.h"

@@ -6,11 +6,10 @@
 #include "Command.h"
 #include "Offers.h"
 #include "Outline.h"
-#include "PrinterOptions.h"
+#include "Printers.h"
 #include "StateBlob.h"
 #include "Text.h"
 #include "TicketCheck.h"
-#include "TicketDocument.h"
 #include "TicketFile.h"
 
 namespace jobticket {

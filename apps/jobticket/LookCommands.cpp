@@ -8,7 +8,6 @@
 #include "Listing.h"
 #include "Outline.h"
 #include "Text.h"
-#include "TicketDocument.h"
 #include "TicketFile.h"
 
 namespace jobticket {

@@ -5,7 +5,7 @@
 #include "Assignment.h"
 #include "Errors.h"
 #include "Text.h"
-#include "TicketDocument.h"
+#include "TicketFile.h"
 #include "ocore/Faults/TarvoException.h"
 #include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/User/User.h"

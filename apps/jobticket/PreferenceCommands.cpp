@@ -4,7 +4,7 @@
 #include "Command.h"
 #include "Listing.h"
 #include "Preferences.h"
-#include "PrinterOptions.h"
+#include "Printers.h"
 #include "Text.h"
 #include "TicketFile.h"
 

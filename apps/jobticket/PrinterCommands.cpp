@@ -4,7 +4,6 @@
 #include "Command.h"
 #include "Listing.h"
 #include "Offers.h"
-#include "PrinterOptions.h"
 #include "Printers.h"
 #include "Text.h"
 #include "TicketFile.h"

@@ -2,10 +2,9 @@
 
 #include "Command.h"
 #include "Listing.h"
-#include "PrinterOptions.h"
+#include "Printers.h"
 #include "StateBlob.h"
 #include "Text.h"
-#include "TicketDocument.h"
 #include "TicketFile.h"
 
 namespace jobticket {

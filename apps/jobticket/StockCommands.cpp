@@ -6,7 +6,7 @@
 #include "Listing.h"
 #include "MediaLibrary.h"
 #include "Outline.h"
-#include "PrinterOptions.h"
+#include "Printers.h"
 #include "Text.h"
 #include "TicketFile.h"
 
