@@ -1,15 +1,49 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "FeaturePath.h"
+#include "Feature.h"
 #include "Session.h"
 #include "Value.h"
 
 namespace jobticket {
+
+/// One name of a path, with the index that picks one value of a set.
+struct PathStep {
+    Feature feature;
+    std::optional<std::uint32_t> index;
+};
+
+/// Where a value lies: a feature, and before it the collections that it lies in, as in
+/// "page-overrides[0].sides". Features of the ticket itself need no collection before them:
+/// "media-color" says enough.
+using FeaturePath = std::vector<PathStep>;
+
+/// Raises ProgramError (badValue) for a name that isn't known, an index on what holds no set, and a
+/// collection that doesn't hold what is named behind it.
+FeaturePath parsePath(std::string_view text);
+
+std::string toText(const PathStep& step);
+
+/// The way to an attribute of a ticket, as reports of repairs tell it
+/// ("page-overrides[2]/media-col/media-color"), in the form above
+/// ("page-overrides[1].media-color").
+std::string toPathText(std::string_view way);
+
+/// Whether a path names an attribute that isn't a feature, whether anything knows it or not.
+bool namesAttribute(std::string_view path);
+
+/// Raises ProgramError (badValue) for a path whose last name no ticket has.
+void checkIsKnown(std::string_view path);
+
+/// A ticket's document without attributes, each named as "jobticket show --raw" lists it. What
+/// isn't there is left so. Raises ProgramError (badValue) for a name that no ticket has.
+std::string withoutAttributes(const std::string& document, const std::vector<std::string>& paths);
 
 /// What an argument FEATURE=VALUE says. Without values it says that there are to be none.
 struct Assignment {

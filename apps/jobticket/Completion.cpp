@@ -4,9 +4,9 @@
 #include <array>
 #include <optional>
 
+#include "Assignment.h"
 #include "Command.h"
 #include "Errors.h"
-#include "FeaturePath.h"
 #include "MediaLibrary.h"
 #include "Preferences.h"
 #include "Printers.h"

@@ -6,7 +6,6 @@
 #include "Assignment.h"
 #include "Batch.h"
 #include "Command.h"
-#include "FeaturePath.h"
 #include "Printers.h"
 #include "Session.h"
 #include "Text.h"

@@ -2,9 +2,9 @@
 #include <array>
 #include <map>
 
+#include "Assignment.h"
 #include "Batch.h"
 #include "Command.h"
-#include "FeaturePath.h"
 #include "Listing.h"
 #include "Outline.h"
 #include "Text.h"

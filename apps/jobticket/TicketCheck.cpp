@@ -4,7 +4,7 @@
 #include <iterator>
 #include <map>
 
-#include "FeaturePath.h"
+#include "Assignment.h"
 #include "Listing.h"
 #include "Offers.h"
 #include "Outline.h"
