@@ -93,7 +93,7 @@ std::vector<PrinterResult> checkWithAll(const zent::AttrNodeList& ticket, const 
 }
 
 std::string listForPeople(const std::vector<PrinterResult>& results) {
-    std::vector<std::vector<std::string>> rows;
+    std::vector<Row> rows;
     rows.reserve(results.size());
     for (const PrinterResult& result : results) {
         rows.push_back({std::to_string(result.model.number), result.model.name,

@@ -208,6 +208,11 @@ constexpr Option outputOption = {.names = "-o,--output",
 constexpr Option jsonOption = {.names = "--json",
                                .target = in<&Options::listsJson>,
                                .help = "The same as JSON, for other programs"};
+constexpr Option tableOption = {
+    .names = "--table",
+    .target = in<&Options::listsTable>,
+    .help = "One line a feature with tabs between the columns, for other programs",
+    .excludes = "--json"};
 constexpr Option quietOption = {
     .names = "-q,--quiet", .target = in<&Options::isQuiet>, .help = "No notes on standard error"};
 

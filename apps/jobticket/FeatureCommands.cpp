@@ -12,8 +12,6 @@ namespace jobticket {
 
 namespace {
 
-using Row = std::vector<std::string>;
-
 /// Whether a value has the text in one of its names.
 bool hasValue(const Feature& feature, const std::string& pattern) {
     const std::vector<NamedValue> values = getNamedValues(feature);
@@ -77,20 +75,22 @@ std::string describe(const Feature& feature) {
     return text + (rows.empty() ? "" : "Values\n" + layOut(rows));
 }
 
-/// One line a feature, tabs between the columns: number, name, type, set or single, location, name
-/// for people, and the values with their names.
-std::string makeTable(const std::vector<Feature>& features) {
-    std::string text;
+/// Number, name, type, set or single, location, name for people, and the values with their names.
+std::vector<Row> makeTable(const std::vector<Feature>& features) {
+    std::vector<Row> rows;
     for (const Feature& feature : features) {
-        text += std::to_string(feature.getNumber()) + '\t' + feature.getName() + '\t' +
-                feature.describeKind() + '\t' + (feature.takesSeveral() ? "set" : "single") + '\t' +
-                locationOf(feature) + '\t' + feature.getDisplayName();
+        Row row = {std::to_string(feature.getNumber()),
+                   feature.getName(),
+                   feature.describeKind(),
+                   feature.takesSeveral() ? "set" : "single",
+                   locationOf(feature),
+                   feature.getDisplayName()};
         for (const NamedValue& value : getNamedValues(feature)) {
-            text += '\t' + value.name + '=' + value.displayName;
+            row.push_back(value.name + '=' + value.displayName);
         }
-        text += '\n';
+        rows.push_back(std::move(row));
     }
-    return text;
+    return rows;
 }
 
 Json toJson(const Feature& feature) {
@@ -108,12 +108,12 @@ Json toJson(const Feature& feature) {
         .add("values", values);
 }
 
-std::string makeJson(const std::vector<Feature>& features) {
+Json makeJson(const std::vector<Feature>& features) {
     Json list = Json::array();
     for (const Feature& feature : features) {
         list.add(toJson(feature));
     }
-    return Json::object().add("features", list).toText();
+    return Json::object().add("features", list);
 }
 
 ExitStatus listOrDescribe(const Options& options) {
@@ -121,15 +121,14 @@ ExitStatus listOrDescribe(const Options& options) {
     if (features.empty()) {
         Feature::named(options.pattern); // raises the error that suggests a name
     }
-    std::string text;
-    if (options.listsJson) {
-        text = makeJson(features);
-    } else if (options.listsTable) {
-        text = makeTable(features);
-    } else {
-        text = features.size() == 1 ? describe(features.front()) : listFeatures(features);
-    }
-    writeStandardOutput(text);
+    printListing({.asJson = [&] { return makeJson(features); },
+                  .asTable = [&] { return makeTable(features); },
+                  .asText =
+                      [&] {
+                          return features.size() == 1 ? describe(features.front())
+                                                      : listFeatures(features);
+                      }},
+                 options);
     return ExitStatus::success;
 }
 
@@ -139,11 +138,7 @@ constexpr std::array options = {
            .target = in<&Options::pattern>,
            .help = "A feature, to see all about it and its values; or a part of the names of those "
                    "to list, or of their values"},
-    Option{.names = "--table",
-           .target = in<&Options::listsTable>,
-           .help = "One line a feature with tabs between the columns, for other programs",
-           .excludes = "--json"},
-    jsonOption};
+    tableOption, jsonOption};
 
 } // namespace
 

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "Command.h"
 #include "Text.h"
+#include "TicketFile.h"
 
 namespace jobticket {
 
@@ -19,13 +21,13 @@ std::size_t widthOf(const std::string& text) {
 
 } // namespace
 
-std::string layOut(std::vector<std::vector<std::string>> rows) {
+std::string layOut(std::vector<Row> rows) {
     std::vector<std::size_t> widths;
-    for (std::vector<std::string>& row : rows) {
+    for (Row& row : rows) {
         std::ranges::transform(row, row.begin(),
                                [](const std::string& cell) { return toPrintable(cell); });
     }
-    for (const std::vector<std::string>& row : rows) {
+    for (const Row& row : rows) {
         widths.resize(std::max(widths.size(), row.size()));
         for (std::size_t column = 0; column + 1 < row.size(); ++column) {
             const std::size_t width = std::min(widthOf(row[column]), widestColumn);
@@ -33,7 +35,7 @@ std::string layOut(std::vector<std::vector<std::string>> rows) {
         }
     }
     std::string text;
-    for (const std::vector<std::string>& row : rows) {
+    for (const Row& row : rows) {
         std::string line;
         for (std::size_t column = 0; column < row.size(); ++column) {
             const std::size_t width = widthOf(row[column]);
@@ -142,6 +144,27 @@ void Json::write(std::string& text, std::size_t depth) const {
         addLineEnd(text, depth);
     }
     text += isObject ? '}' : ']';
+}
+
+namespace {
+
+std::string joinByTabs(const std::vector<Row>& rows) {
+    std::string text;
+    for (const Row& row : rows) {
+        for (std::size_t column = 0; column < row.size(); ++column) {
+            text += (column == 0 ? "" : "\t") + row[column];
+        }
+        text += '\n';
+    }
+    return text;
+}
+
+} // namespace
+
+void printListing(const Listing& listing, const Options& options) {
+    writeStandardOutput(options.listsJson    ? listing.asJson().toText()
+                        : options.listsTable ? joinByTabs(listing.asTable())
+                                             : listing.asText());
 }
 
 } // namespace jobticket

@@ -1,16 +1,21 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace jobticket {
 
+struct Options;
+
+using Row = std::vector<std::string>;
+
 /// Lays rows out in columns that are as wide as they have to be, one line a row. A cell that is
 /// wider than most pushes the rest of its line to the right instead of widening the column. Texts
 /// are made printable.
-std::string layOut(std::vector<std::vector<std::string>> rows);
+std::string layOut(std::vector<Row> rows);
 
 /// A JSON value (RFC 8259) to be written for other programs. Text is UTF-8; the members of an
 /// object stay in the order in which they were added.
@@ -46,5 +51,14 @@ private:
     std::vector<std::string> m_names;
     std::vector<Json> m_values;
 };
+
+/// What a command lists, in three forms, of which only the one that its options ask for is made.
+struct Listing {
+    std::function<Json()> asJson;
+    std::function<std::vector<Row>()> asTable; // a line a row, with tabs between the cells
+    std::function<std::string()> asText;       // for people
+};
+
+void printListing(const Listing& listing, const Options& options);
 
 } // namespace jobticket

@@ -177,7 +177,7 @@ std::vector<OutlineLine> describe(const Stock& stock) {
     return outline;
 }
 
-std::vector<std::string> toRow(const Stock& stock) {
+Row toRow(const Stock& stock) {
     std::string description;
     for (const OutlineLine& line : describe(stock)) {
         description += (description.empty() ? "" : ", ") + joinTexts(line.values);
@@ -209,7 +209,7 @@ ExitStatus list(const Options& options) {
         }
         text = Json::object().add("file", library.getFile()).add("stocks", all).toText();
     } else {
-        std::vector<std::vector<std::string>> rows;
+        std::vector<Row> rows;
         rows.reserve(stocks.size());
         for (const Stock* stock : stocks) {
             rows.push_back(toRow(*stock));

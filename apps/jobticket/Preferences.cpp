@@ -247,7 +247,7 @@ std::string printable(const std::string& text) { return toPrintable(fromUtf8(tex
 
 ExitStatus list(const Options& options) {
     const Session session = openSession(options);
-    std::vector<std::vector<std::string>> rows;
+    std::vector<Row> rows;
     for (const WellKnownPreference& preference : getWellKnownPreferences()) {
         const auto stored = Preferences(session).find(preference.name, preference.type);
         rows.push_back({preference.name, toText(preference.type),

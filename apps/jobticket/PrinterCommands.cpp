@@ -12,8 +12,6 @@ namespace jobticket {
 
 namespace {
 
-using Row = std::vector<std::string>;
-
 std::string formOf(const Model& model) { return model.takesXml ? "xml" : "stream"; }
 
 std::string listModels(const std::vector<Model>& models) {
@@ -40,19 +38,18 @@ std::string describe(const Model& model) {
     return text + layOut(rows);
 }
 
-/// One line a model, tabs between the columns: number, name, family, form, and the drivers by
-/// language.
-std::string makeTable(const std::vector<Model>& models) {
-    std::string text;
+/// Number, name, family, form, and the drivers by language.
+std::vector<Row> makeTable(const std::vector<Model>& models) {
+    std::vector<Row> rows;
     for (const Model& model : models) {
-        text += std::to_string(model.number) + '\t' + model.name + '\t' +
-                std::to_string(model.family) + '\t' + formOf(model);
+        Row row = {std::to_string(model.number), model.name, std::to_string(model.family),
+                   formOf(model)};
         for (const Driver& driver : model.drivers) {
-            text.append("\t").append(driver.language.name).append("=").append(driver.name);
+            row.push_back(std::string(driver.language.name) + '=' + driver.name);
         }
-        text += '\n';
+        rows.push_back(std::move(row));
     }
-    return text;
+    return rows;
 }
 
 Json toJson(const Model& model) {
@@ -68,12 +65,12 @@ Json toJson(const Model& model) {
         .add("drivers", drivers);
 }
 
-std::string makeJson(const std::vector<Model>& models) {
+Json makeJson(const std::vector<Model>& models) {
     Json list = Json::array();
     for (const Model& model : models) {
         list.add(toJson(model));
     }
-    return Json::object().add("models", list).toText();
+    return Json::object().add("models", list);
 }
 
 ExitStatus listPrinters(const Options& options) {
@@ -83,15 +80,12 @@ ExitStatus listPrinters(const Options& options) {
                                                      inQuotes(options.pattern) +
                                                      R"(; "jobticket models" lists all)");
     }
-    std::string text;
-    if (options.listsJson) {
-        text = makeJson(models);
-    } else if (options.listsTable) {
-        text = makeTable(models);
-    } else {
-        text = models.size() == 1 ? describe(models.front()) : listModels(models);
-    }
-    writeStandardOutput(text);
+    printListing(
+        {.asJson = [&] { return makeJson(models); },
+         .asTable = [&] { return makeTable(models); },
+         .asText =
+             [&] { return models.size() == 1 ? describe(models.front()) : listModels(models); }},
+        options);
     return ExitStatus::success;
 }
 
@@ -101,10 +95,7 @@ constexpr std::array modelsOptions = {
            .target = in<&Options::pattern>,
            .help = "A printer's number or name, to see all about it; or a part of the names of "
                    "those to list"},
-    Option{.names = "--table",
-           .target = in<&Options::listsTable>,
-           .help = "One line a printer with tabs between the columns, for other programs",
-           .excludes = "--json"},
+    withHelp(tableOption, "One line a printer with tabs between the columns, for other programs"),
     jsonOption};
 
 } // namespace
@@ -204,44 +195,46 @@ std::string listFeatures(const std::vector<Offer>& features) {
     return layOut(rows);
 }
 
-/// One line a feature with tabs between the columns: name, name for people, and what there is to
-/// say as key=value.
-std::string makeTable(const std::vector<Offer>& features) {
-    std::string text;
-    for (const Offer& offer : features) {
-        text += offer.feature.getName() + '\t' + offer.feature.getDisplayName();
-        const auto add = [&text](const char* key, const std::string& value) {
-            text.append("\t").append(key).append("=").append(value);
-        };
-        const auto textOf = [](const Range& range) {
-            return std::to_string(range.lower) + '-' + std::to_string(range.upper);
-        };
-        add("unset", yesOrNo(offer.mayBeUnset));
-        add("own", yesOrNo(offer.takesOwnValues));
-        for (const Range& range : offer.ranges) {
-            add("range", textOf(range));
-        }
-        if (offer.step) {
-            add("step", std::to_string(*offer.step));
-        }
-        if (offer.length) {
-            add("length", textOf(*offer.length));
-        }
-        if (!offer.characters.empty()) {
-            add("characters", offer.characters);
-        }
-        for (const NamedValue& value : offer.values) {
-            add("value", value.name);
-        }
-        for (const Feature& member : offer.members) {
-            add("member", member.getName());
-        }
-        text += '\n';
-    }
-    return text;
+std::string joinByHyphen(const Range& range) {
+    return std::to_string(range.lower) + '-' + std::to_string(range.upper);
 }
 
-std::string makeJson(const Offers& offers) {
+/// Name, name for people, and what there is to say as key=value.
+Row makeRow(const Offer& offer) {
+    Row row = {offer.feature.getName(), offer.feature.getDisplayName()};
+    const auto add = [&row](std::string key, const std::string& value) {
+        row.push_back(std::move(key.append("=").append(value)));
+    };
+    add("unset", yesOrNo(offer.mayBeUnset));
+    add("own", yesOrNo(offer.takesOwnValues));
+    for (const Range& range : offer.ranges) {
+        add("range", joinByHyphen(range));
+    }
+    if (offer.step) {
+        add("step", std::to_string(*offer.step));
+    }
+    if (offer.length) {
+        add("length", joinByHyphen(*offer.length));
+    }
+    if (!offer.characters.empty()) {
+        add("characters", offer.characters);
+    }
+    for (const NamedValue& value : offer.values) {
+        add("value", value.name);
+    }
+    for (const Feature& member : offer.members) {
+        add("member", member.getName());
+    }
+    return row;
+}
+
+std::vector<Row> makeTable(const std::vector<Offer>& features) {
+    std::vector<Row> rows(features.size());
+    std::ranges::transform(features, rows.begin(), makeRow);
+    return rows;
+}
+
+Json makeJson(const Offers& offers) {
     Json features = Json::array();
     for (const Offer& offer : offers.features) {
         features.add(toJson(offer));
@@ -251,8 +244,7 @@ std::string makeJson(const Offers& offers) {
                             .add("separateCovers", offers.hasSeparateCovers)
                             .add("severalMediaInInsert", offers.insertsMultipleMedia)
                             .add("tiffWhenPrintingAndSaving", offers.savesTiffWhenPrinting))
-        .add("features", features)
-        .toText();
+        .add("features", features);
 }
 
 /// Leaves only the feature of that name, or those with the text in a name.
@@ -273,16 +265,14 @@ ExitStatus listCapabilities(const Options& options) {
         throw ProgramError(ExitStatus::badValue,
                            offers.printer + " has no feature " + inQuotes(options.pattern));
     }
-    std::string text;
-    if (options.listsJson) {
-        text = makeJson(offers);
-    } else if (options.listsTable) {
-        text = makeTable(offers.features);
-    } else {
-        text = (options.pattern.empty() ? listPrinter(offers) + "\n" : "") +
-               listFeatures(offers.features);
-    }
-    writeStandardOutput(text);
+    printListing({.asJson = [&] { return makeJson(offers); },
+                  .asTable = [&] { return makeTable(offers.features); },
+                  .asText =
+                      [&] {
+                          return (options.pattern.empty() ? listPrinter(offers) + "\n" : "") +
+                                 listFeatures(offers.features);
+                      }},
+                 options);
     return ExitStatus::success;
 }
 
@@ -294,10 +284,7 @@ constexpr std::array capabilitiesOptions = {
     modelOption,
     languageOption,
     formOption,
-    Option{.names = "--table",
-           .target = in<&Options::listsTable>,
-           .help = "One line a feature with tabs between the columns, for other programs",
-           .excludes = "--json"},
+    tableOption,
     jsonOption};
 
 } // namespace

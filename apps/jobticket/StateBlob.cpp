@@ -105,7 +105,7 @@ std::string yesOrNo(bool flag) { return flag ? "yes" : "no"; }
 
 ExitStatus show(const Options& options) {
     const StateBlob state = inspectState(readFile(options.ticket), nameForMessages(options.ticket));
-    std::vector<std::vector<std::string>> rows = {
+    std::vector<Row> rows = {
         {"Size", std::to_string(state.size) + " bytes"},
         {"Version", toUtf8(zent::CXString::Format(u"0x%.8lx", state.version))},
         {"Ticket in it", std::to_string(state.documentSize) + " bytes"},

@@ -358,7 +358,7 @@ Json toJsonArray(const std::vector<Entry>& entries) {
 } // namespace
 
 std::string listProblems(const std::vector<Problem>& problems) {
-    std::vector<std::vector<std::string>> rows;
+    std::vector<Row> rows;
     rows.reserve(problems.size());
     for (const Problem& problem : problems) {
         rows.push_back({problem.path, describeRepair(problem), describeAllowed(problem)});
@@ -372,7 +372,7 @@ std::string listOmissions(const std::vector<Omission>& omissions) {
     if (omissions.empty()) {
         return "";
     }
-    std::vector<std::vector<std::string>> rows;
+    std::vector<Row> rows;
     rows.reserve(omissions.size());
     for (const Omission& omission : omissions) {
         rows.push_back({"  " + omission.path, describeValue(omission.value)});

@@ -24,7 +24,7 @@ std::string listForPeople(const std::vector<OutlineLine>& outline) {
     if (outline.empty()) {
         return "The ticket is empty.\n";
     }
-    std::vector<std::vector<std::string>> rows;
+    std::vector<Row> rows;
     for (const OutlineLine& line : outline) {
         const std::string indent(std::size_t(2) * line.depth, ' ');
         rows.push_back({indent + line.label, joinTexts(line.values)});
@@ -172,7 +172,7 @@ std::vector<Difference> compare(const std::vector<OutlineLine>& first,
 }
 
 std::string listForPeople(const std::vector<Difference>& differences) {
-    std::vector<std::vector<std::string>> rows;
+    std::vector<Row> rows;
     rows.reserve(differences.size());
     for (const auto& [path, sides] : differences) {
         rows.push_back({path, valueOf(sides.first) + " -> " + valueOf(sides.second)});
