@@ -76,12 +76,8 @@ CXString::CXString(const char* narrow, std::size_t length) : CXString() {
 }
 
 CXString& CXString::operator=(const CXString& other) {
-    if (isLocked()) {
-        assign(other.view());
-    } else {
-        CXString shared(other);
-        std::swap(m_text, shared.m_text);
-    }
+    CXString shared(other);
+    std::swap(m_text, shared.m_text);
     return *this;
 }
 
@@ -101,12 +97,8 @@ CXString& CXString::operator=(const char* narrow) {
 }
 
 void CXString::clear() noexcept {
-    if (isLocked()) {
-        block()->setLength(0);
-    } else {
-        release();
-        m_text = emptyStringBlock.head.text();
-    }
+    release();
+    m_text = emptyStringBlock.head.text();
 }
 
 void CXString::assign(std::u16string_view text) {
@@ -140,20 +132,12 @@ void CXString::assignNarrow(std::string_view narrow) {
 
 /// Whether `units` units can be written into the present block.
 bool CXString::isWritable(std::size_t units) const noexcept {
-    const std::int32_t sharers = block()->count.load(std::memory_order_acquire);
-    return (sharers == 1 || sharers == StringBlock::locked) &&
+    return block()->count.load(std::memory_order_acquire) == 1 &&
            units <= static_cast<std::size_t>(block()->capacity);
 }
 
-char16_t* CXString::copy() const {
-    return isEmpty() ? emptyStringBlock.head.text() : newBlock(view(), view().size())->text();
-}
-
-/// Puts a fresh block in the place of the present one; a lock stays.
+/// Puts a fresh block in the place of the present one.
 void CXString::adopt(StringBlock* fresh) noexcept {
-    if (isLocked()) {
-        fresh->count.store(StringBlock::locked, std::memory_order_relaxed);
-    }
     release();
     m_text = fresh->text();
 }
@@ -180,21 +164,6 @@ void CXString::releaseBuffer(std::int32_t newLength) {
         clear();
     } else {
         block()->setLength(length);
-    }
-}
-
-char16_t* CXString::lockBuffer() {
-    makePrivate(0);
-    block()->count.store(StringBlock::locked, std::memory_order_relaxed);
-    return m_text;
-}
-
-void CXString::unlockBuffer() noexcept {
-    if (isLocked()) {
-        block()->count.store(1, std::memory_order_relaxed);
-        if (isEmpty()) {
-            clear();
-        }
     }
 }
 

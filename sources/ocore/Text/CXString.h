@@ -97,10 +97,6 @@ public:
     char16_t* getBuffer(std::int32_t minimum);
     /// Ends direct writing; -1 measures the terminated text. A length is cut to the buffer's.
     void releaseBuffer(std::int32_t newLength = -1);
-    /// As getBuffer(), and keeps the block from being shared: a copy of a locked string copies the
-    /// text, until unlockBuffer(). Moving moves the lock as well.
-    char16_t* lockBuffer();
-    void unlockBuffer() noexcept;
 
     /// Formats in the manner of printf, on wide text. The arguments carry their types, so that a
     /// specifier that doesn't fit its argument can't read what isn't there: it is converted where
@@ -115,27 +111,14 @@ public:
     template <typename... Args>
     static CXString FormatResource(const platform::ResourceModule& module, std::uint32_t id,
                                    const Args&... args);
-    /// Positional formatting: "%1" to "%99", with an optional printf form as in "%1!08lx!"; "%%",
-    /// "%n", "%t", "%b", "%r", "%0" as in message tables; a line end of any kind becomes CR LF.
-    /// Throws a narrow string literal when the format asks for an argument that isn't there, or
-    /// ends within a specifier, or isn't in the string table.
-    template <typename... Args>
-    static CXString FormatMessage(const char16_t* format, const Args&... args);
-    template <typename... Args>
-    static CXString FormatMessage(const platform::ResourceModule& module, std::uint32_t id,
-                                  const Args&... args);
 
     /// Takes the text of a string table entry, whatever its length. True if it isn't empty.
     bool LoadString(const platform::ResourceModule& module, std::uint32_t id);
 
 private:
     StringBlock* block() const noexcept { return StringBlock::of(m_text); }
-    bool isLocked() const noexcept {
-        return block()->count.load(std::memory_order_relaxed) == StringBlock::locked;
-    }
     bool isWritable(std::size_t units) const noexcept;
-    char16_t* share() const;
-    char16_t* copy() const;
+    char16_t* share() const noexcept;
     void release() noexcept;
     void adopt(StringBlock* fresh) noexcept;
     void makePrivate(std::size_t capacity);
@@ -145,22 +128,17 @@ private:
     static CXString formatWide(std::u16string_view format, FormatArguments arguments);
     static CXString formatResource(const platform::ResourceModule& module, std::uint32_t id,
                                    FormatArguments arguments);
-    static CXString formatMessage(std::u16string_view format, FormatArguments arguments);
-    static CXString formatMessage(const platform::ResourceModule& module, std::uint32_t id,
-                                  FormatArguments arguments);
 
     char16_t* m_text;
 };
 
-/// Takes a reference to the block, or a copy of the text if the block can't be shared.
-inline char16_t* CXString::share() const {
+/// Takes a reference to the block. Those to the empty block aren't counted.
+inline char16_t* CXString::share() const noexcept {
     std::atomic<std::int32_t>& count = block()->count;
-    const std::int32_t sharers = count.load(std::memory_order_relaxed);
-    if (sharers > 0) [[likely]] {
+    if (count.load(std::memory_order_relaxed) > 0) [[likely]] {
         count.fetch_add(1, std::memory_order_relaxed);
-        return m_text;
     }
-    return sharers == StringBlock::locked ? copy() : m_text;
+    return m_text;
 }
 
 inline void CXString::release() noexcept {
@@ -170,7 +148,7 @@ inline void CXString::release() noexcept {
         return;
     }
     // A sole owner needn't count down: nobody else can reach the block any more.
-    if (sharers <= 1 || count.fetch_sub(1, std::memory_order_acq_rel) == 1) {
+    if (sharers == 1 || count.fetch_sub(1, std::memory_order_acq_rel) == 1) {
         StringBlock::giveBack(block());
     }
 }
@@ -219,17 +197,6 @@ CXString CXString::FormatResource(const platform::ResourceModule& module, std::u
                                   const Args&... args) {
     const FormatArgumentList<sizeof...(Args)> list{FormatArgument(args)...};
     return formatResource(module, id, list);
-}
-template <typename... Args>
-CXString CXString::FormatMessage(const char16_t* format, const Args&... args) {
-    const FormatArgumentList<sizeof...(Args)> list{FormatArgument(args)...};
-    return formatMessage(std::u16string_view(format), list);
-}
-template <typename... Args>
-CXString CXString::FormatMessage(const platform::ResourceModule& module, std::uint32_t id,
-                                 const Args&... args) {
-    const FormatArgumentList<sizeof...(Args)> list{FormatArgument(args)...};
-    return formatMessage(module, id, list);
 }
 template <typename... Args>
 CXString formatText(const char* format, const Args&... args) {

@@ -2,7 +2,6 @@
 
 #include "ocore/Text/CXString.h"
 #include "ocore/Text/FormatOutput.h"
-#include "ocore/Text/PositionalFormat.h"
 #include "ocore/Text/PrintfFormat.h"
 #include "platform/CodePage.h"
 #include "platform/ResourceModule.h"
@@ -26,28 +25,6 @@ CXString CXString::formatResource(const platform::ResourceModule& module, std::u
     CXString format;
     format.LoadString(module, id);
     return formatWide(format, arguments);
-}
-
-// Callers know these two failures by their texts; nothing but the call frame's catch-all takes
-// them.
-
-CXString CXString::formatMessage(std::u16string_view format, FormatArguments arguments) {
-    FormatOutput output;
-    if (!formatPositional(format, arguments, output)) {
-        throw "CXString::FormatMessage(LPCTSTR...): Failed call to FormatMessage() API!\r\n";
-    }
-    return CXString(output.text());
-}
-
-CXString CXString::formatMessage(const platform::ResourceModule& module, std::uint32_t id,
-                                 FormatArguments arguments) {
-    CXString format;
-    FormatOutput output;
-    if (!format.LoadString(module, id) || !formatPositional(format, arguments, output)) {
-        throw "CXString::FormatMessage(HINSTANCE,UINT,...): Failed call to FormatMessage() "
-              "API!\r\n";
-    }
-    return CXString(output.text());
 }
 
 bool CXString::LoadString(const platform::ResourceModule& module, std::uint32_t id) {

@@ -18,18 +18,14 @@ public:
     /// The next argument, or null if there is none left.
     const FormatArgument* take() {
         if (m_next == m_arguments.size()) {
-            m_ranOut = true;
             return nullptr;
         }
         return &m_arguments[m_next++];
     }
-    /// Whether one was asked for that isn't there.
-    bool ranOut() const { return m_ranOut; }
 
 private:
     FormatArguments m_arguments;
     std::size_t m_next = 0;
-    bool m_ranOut = false;
 };
 
 /// One specifier of a printf format: flags, width, precision, size prefix and conversion.

@@ -9,7 +9,6 @@ namespace zent {
 /// What stands before the units of a CXString's text: the head of a block that strings share.
 /// The units, and one terminating zero unit, follow it in memory.
 struct StringBlock {
-    static constexpr std::int32_t locked = -1;
     /// False in builds that a sanitizer watches: there every block comes from the heap.
     static const bool usesPools;
     /// The most units of a block that comes from a pool; longer ones come from the heap.
@@ -17,8 +16,7 @@ struct StringBlock {
     /// The most units a block can hold, so that sizes in bytes fit 32 bits.
     static constexpr std::size_t maximumCapacity = 0x3FFF'FFF0;
 
-    /// How many strings share the block; 0 in the empty block alone, which is never counted;
-    /// `locked` while one string writes to it directly.
+    /// How many strings share the block; 0 in the empty block alone, which is never counted.
     std::atomic<std::int32_t> count;
     std::int32_t length;   // units, without the terminator
     std::int32_t capacity; // units, without the terminator
