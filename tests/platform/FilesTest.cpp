@@ -2,7 +2,7 @@
 
 #include <span>
 
-#include "ocore/Resources/File.h"
+#include "ocore/Resources/ByteBuffer.h"
 #include "support/LibraryTesting.h"
 
 namespace zent::test {

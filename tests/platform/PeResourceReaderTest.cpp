@@ -1,6 +1,6 @@
 #include "platform/PeResourceReader.h"
 
-#include "ocore/Resources/File.h"
+#include "ocore/Resources/ByteBuffer.h"
 #include "platform/PeImage.h"
 #include "platform/ResourceModule.h"
 #include "support/LibraryTesting.h"

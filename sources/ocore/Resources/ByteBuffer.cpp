@@ -55,13 +55,6 @@ void ByteBuffer::append(const CXString& text) {
     append(text.c_str(), text.view().size() * sizeof(char16_t));
 }
 
-void ByteBuffer::appendNarrow(const CXString& text) {
-    const std::string narrow = text.toNarrow();
-    append(narrow.data(), narrow.size());
-}
-
-void ByteBuffer::appendWideTerminator() { m_bytes.resize(size() + sizeof(char16_t)); }
-
 void ByteBuffer::clear() {
     ByteBuffer empty;
     swap(empty);

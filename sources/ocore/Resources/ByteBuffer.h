@@ -36,10 +36,6 @@ public:
     void append(const ByteBuffer& other) { append(other.data(), other.size()); }
     /// Appends the 16-bit units.
     void append(const CXString& text);
-    /// Appends the text in the ANSI code page.
-    void appendNarrow(const CXString& text);
-    /// Appends two zero bytes.
-    void appendWideTerminator();
     /// Sets the size; new bytes are zero.
     void resize(std::size_t size) { m_bytes.resize(size); }
     /// Frees the bytes.

@@ -44,12 +44,6 @@ public:
     ResourceData loadDialog(std::uint32_t id) const {
         return loadResData(id, resourceType::dialog);
     }
-    ResourceData loadBitmap(std::uint32_t id) const {
-        return loadResData(id, resourceType::bitmap);
-    }
-    ResourceData loadCursor(std::uint32_t id) const {
-        return loadResData(id, resourceType::cursor);
-    }
     ResourceData loadIcon(std::uint32_t id) const { return loadResData(id, resourceType::icon); }
 };
 
