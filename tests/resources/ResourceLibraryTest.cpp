@@ -58,7 +58,7 @@ TEST(PicturesTest, EachIdThatTheTableOfValuesNamesHasItsOwnPicture) {
         std::map<std::vector<std::byte>, std::uint32_t> pictures;
         for (const std::uint32_t id : ids) {
             SCOPED_TRACE(id);
-            const ResourceData bitmap = library.loadBitmap(id);
+            const ResourceData bitmap = library.loadResData(id, resourceType::bitmap);
             const platform::Bytes bytes = bitmap.getBytes().bytes();
             EXPECT_EQ(platform::read32(bytes, 4), side);
             EXPECT_EQ(platform::read32(bytes, 8), side);

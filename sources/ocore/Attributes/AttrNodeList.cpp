@@ -244,20 +244,8 @@ AttrNode* AttrNodeList::addInteger(std::int32_t value, const AttrID& id) {
     return addValue(syntax::integer, CXString::Format(u"%ld", value), id);
 }
 
-AttrNode* AttrNodeList::addEnum(std::int32_t value, const AttrID& id) {
-    return addValue(syntax::enumeration, CXString::Format(u"%ld", value), id);
-}
-
 AttrNode* AttrNodeList::addKeyword(const CXString& value, const AttrID& id) {
     return addValue(syntax::keyword, value, id);
-}
-
-AttrNode* AttrNodeList::addMimeMediaType(const CXString& value, const AttrID& id) {
-    return addValue(syntax::mimeMediaType, value, id);
-}
-
-AttrNode* AttrNodeList::addName(const CXString& value, const AttrID& id) {
-    return addValue(syntax::name, value, id);
 }
 
 AttrNodeList* AttrNodeList::addList(const AttrID& id, const CXString& syntax) {
@@ -268,18 +256,6 @@ AttrNodeList* AttrNodeList::addSetOf(const AttrID& id) { return addList(id, synt
 
 AttrNodeList* AttrNodeList::addCollection(const AttrID& id) {
     return addList(id, syntax::collection);
-}
-
-AttrNodeList* AttrNodeList::addResolution(const AttrID& id) {
-    return addList(id, syntax::resolution);
-}
-
-AttrNodeList* AttrNodeList::addRangeOfInteger(std::int32_t lower, std::int32_t upper,
-                                              const AttrID& id) {
-    AttrNodeList* const range = addList(id, syntax::rangeOfInteger);
-    range->addInteger(lower, attrNames::lowerBound());
-    range->addInteger(upper, attrNames::upperBound());
-    return range;
 }
 
 bool AttrNodeList::OrdoAttrToLong(std::int32_t* target, const AttrID& id,

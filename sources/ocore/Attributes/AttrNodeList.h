@@ -75,17 +75,14 @@ public:
     /// Removes all equal nodes at all depths, and the lists below that this leaves empty.
     void removeNodeEverywhere(const AttrNode& node);
 
+    /// Appends a value of a syntax, made from text.
+    AttrNode* addValue(const CXString& syntax, const CXString& value, const AttrID& id);
     AttrNode* addInteger(std::int32_t value, const AttrID& id);
-    AttrNode* addEnum(std::int32_t value, const AttrID& id);
     AttrNode* addKeyword(const CXString& value, const AttrID& id);
-    AttrNode* addMimeMediaType(const CXString& value, const AttrID& id);
-    AttrNode* addName(const CXString& value, const AttrID& id);
     /// These append an IppList and give its embedded list.
     AttrNodeList* addList(const AttrID& id, const CXString& syntax);
     AttrNodeList* addSetOf(const AttrID& id);
     AttrNodeList* addCollection(const AttrID& id);
-    AttrNodeList* addResolution(const AttrID& id);
-    AttrNodeList* addRangeOfInteger(std::int32_t lower, std::int32_t upper, const AttrID& id);
 
     /// Typed reading. False, and the target untouched, if the instance doesn't exist; a node of
     /// another kind raises AttributeTypeMismatchException. OrdoAttrToLong takes integers and enums,
@@ -107,7 +104,6 @@ private:
     std::uint32_t findPosition(const AttrID& id, std::uint32_t instance) const;
     std::uint32_t removeAt(std::uint32_t position);
     void removeEqualNodes(const AttrNode& node);
-    AttrNode* addValue(const CXString& syntax, const CXString& value, const AttrID& id);
     void mergeList(const AttrNode& node, bool asSet, bool bothSingle);
 
     std::vector<std::unique_ptr<AttrNode>> m_nodes;

@@ -25,14 +25,12 @@ public:
     virtual CXString getIppValue() const = 0;
     virtual void setIppValue(const CXString& text) = 0;
     virtual std::unique_ptr<AttrValue> clone() const = 0;
-    /// Same kind, same activity, same content; of two lists only the number of nodes counts.
+    /// Same kind, same content; of two lists only the number of nodes counts.
     virtual bool isEqual(const AttrValue& other) const = 0;
     /// A hook for diagnosis; the factory calls it on each value that it makes.
     virtual void dump() const {}
 
     AVTE getAttrValueType() const { return m_type; }
-    bool isActive() const { return m_active; }
-    void setActive(bool active) { m_active = active; }
 
     bool isList() const { return m_type == AVTE_LIST; }
     bool is1setOf() const { return hasListSyntax(syntax::setOf); }
@@ -55,22 +53,15 @@ public:
 protected:
     explicit AttrValue(AVTE type) : m_type(type) {}
     AttrValue(const AttrValue&) = default;
-    /// Between values of one class only.
-    AttrValue& operator=(const AttrValue& other) {
-        m_active = other.m_active;
-        return *this;
-    }
-    bool isSameKind(const AttrValue& other) const {
-        return m_type == other.m_type && m_active == other.m_active;
-    }
+    /// The kind stays, since it is that of the class.
+    AttrValue& operator=(const AttrValue& /*other*/) { return *this; }
+    bool isSameKind(const AttrValue& other) const { return m_type == other.m_type; }
 
 private:
     bool hasListSyntax(const CXString& keyword) const;
     const IppList& asList() const;
 
     AVTE m_type;
-    // Nothing in the library looks at this but copies and comparisons.
-    bool m_active = true;
 };
 
 } // namespace zent

@@ -20,20 +20,6 @@ bool NestedAttrID::hasParent(const CXString& name) const {
         m_path, [&](const PathElement& element) { return element.name.getText() == name; });
 }
 
-void NestedAttrID::setNamingParent(std::uint32_t index, std::uint32_t role) {
-    resetNaming();
-    PathElement& element = m_path[m_path.size() - 1 - index];
-    element.role = role;
-    m_name = element.name.getText();
-}
-
-void NestedAttrID::resetNaming() {
-    for (PathElement& element : m_path) {
-        element.role = plainParent;
-    }
-    m_name = m_id.getText();
-}
-
 void NestedAttrID::setAttrID(const AttrID& id) {
     if (m_name.isEmpty() || m_name == m_id.getText()) {
         m_name = id.getText();

@@ -43,10 +43,6 @@ public:
     bool isNamingParent(std::uint32_t index) const { return parent(index).role != plainParent; }
     bool hasParent(const CXString& name) const;
 
-    /// Makes one parent the only one with a role, and the attribute's name.
-    void setNamingParent(std::uint32_t index, std::uint32_t role);
-    /// Makes all parents plain and the leaf's name the attribute's name.
-    void resetNaming();
     /// Replaces the leaf. The name follows if it was the old leaf's or none.
     void setAttrID(const AttrID& id);
 

@@ -212,12 +212,6 @@ bool Capabilities::isUserDefinable(const _FI& feature) const {
     return hasKeyword(_CI(TJTF_ANY, CAPTYPE_USER_DEFINABLE), feature.getName());
 }
 
-bool Capabilities::isCollectionFeature(const AttrID& id) const {
-    return std::ranges::any_of(m_collectionFeatures, [&](const _FI& feature) {
-        return feature.getName() == id.getText();
-    });
-}
-
 AjtPrinterTraits Capabilities::getAjtPrinterTraits() const {
     AjtPrinterTraits traits = m_model->getTraits();
     traits.mediaWeightDefault = isFeatureSupported(_FI(feature::mediaWeightMetric));

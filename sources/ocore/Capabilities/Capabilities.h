@@ -63,8 +63,6 @@ public:
     bool isTiffPrintSaveCapable() const;
     /// Whether users may invent values of the feature.
     bool isUserDefinable(const _FI& feature) const;
-    /// Whether an attribute is one of those whose members belong to it in a walk down a ticket.
-    bool isCollectionFeature(const AttrID& id) const;
     const std::vector<_FI>& getCollectionFeatures() const { return m_collectionFeatures; }
 
     AjtPrinterTraits getAjtPrinterTraits() const;

@@ -28,7 +28,6 @@ public:
     void getOriginalData(ByteBuffer& original) const;
 
     std::int32_t getOriginalSize() const { return m_originalSize; }
-    std::int32_t getLevel() const { return m_level; }
     const ByteBuffer& getImage() const { return m_image; }
 
     /// Expands a zlib stream of unknown size, up to 64 MiB; the result is appended.

@@ -50,11 +50,6 @@ std::span<const CapabilityInfo> CapabilityDataBase::getRows(FeatureEnum feature)
             std::ranges::upper_bound(rows, feature, {}, &CapabilityInfo::m_feature)};
 }
 
-std::vector<CapabilityInfo> CapabilityDataBase::getCapabilityInfoList(FeatureEnum feature) const {
-    const std::span<const CapabilityInfo> rows = getRows(feature);
-    return {rows.begin(), rows.end()};
-}
-
 bool CapabilityDataBase::hasCapability(FeatureEnum feature, std::uint32_t type) const {
     return findInfo(feature, type) != nullptr;
 }

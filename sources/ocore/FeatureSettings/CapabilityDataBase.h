@@ -16,9 +16,7 @@ public:
     /// Raises UnknownFeatureRequestException if there is no such pair.
     const CapabilityInfo& getCapabilityInfo(FeatureEnum feature, std::uint32_t type) const;
     bool hasCapability(FeatureEnum feature, std::uint32_t type) const;
-    /// Copies of all rows of a feature, in the order of their types.
-    std::vector<CapabilityInfo> getCapabilityInfoList(FeatureEnum feature) const;
-    /// The rows themselves.
+    /// All rows of a feature, in the order of their types.
     std::span<const CapabilityInfo> getRows(FeatureEnum feature) const;
 };
 

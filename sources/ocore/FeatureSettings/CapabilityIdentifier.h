@@ -22,8 +22,6 @@ public:
     bool isEqual(const _SI& other) const override;
     const SyntaxList& getSyntaxes() const override { return getInfo().m_syntaxes; }
 
-    /// A capabilityClass.
-    std::uint32_t getClass() const { return getInfo().m_class; }
     std::uint32_t getCapabilityType() const { return m_capabilityType; }
 
     static bool hasCapability(FeatureEnum feature, std::uint32_t type);

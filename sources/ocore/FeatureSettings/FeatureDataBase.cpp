@@ -82,10 +82,6 @@ bool FeatureDataBase::hasUniqueID(const CXString& uniqueID) const {
     return findFeatureInfo(uniqueID) != nullptr;
 }
 
-bool FeatureDataBase::hasAbbreviation(const CXString& abbreviation) const {
-    return findFeatureInfoByAbbreviation(abbreviation) != nullptr;
-}
-
 const FeatureInfo& FeatureDataBase::getFeatureInfo(FeatureEnum feature) const {
     if (!hasFeature(feature)) {
         Raise<UnknownFeatureRequestException>()("FeatureDataBase::getFeatureInfo( FeatureEnum ) "
@@ -102,17 +98,6 @@ const FeatureInfo& FeatureDataBase::getFeatureInfo(const CXString& uniqueID) con
         Raise<UnknownFeatureRequestException>()(
             "FeatureDataBase::getFeatureInfo( UniqueID ) could not find requested ID '%s'\r\n",
             uniqueID);
-    }
-    return *info;
-}
-
-const FeatureInfo&
-FeatureDataBase::getFeatureInfoByAbbreviation(const CXString& abbreviation) const {
-    const FeatureInfo* const info = findFeatureInfoByAbbreviation(abbreviation);
-    if (info == nullptr) {
-        Raise<UnknownFeatureRequestException>()("FeatureDataBase::getFeatureInfoByAbbreviation() "
-                                                "could not find requested ID '%s'\r\n",
-                                                abbreviation);
     }
     return *info;
 }

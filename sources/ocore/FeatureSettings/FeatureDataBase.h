@@ -16,7 +16,6 @@ public:
 
     const FeatureInfo& getFeatureInfo(FeatureEnum feature) const;
     const FeatureInfo& getFeatureInfo(const CXString& uniqueID) const;
-    const FeatureInfo& getFeatureInfoByAbbreviation(const CXString& abbreviation) const;
 
     /// These give null if there is none.
     const FeatureInfo* findFeatureInfo(const CXString& uniqueID) const;
@@ -24,7 +23,6 @@ public:
 
     bool hasFeature(FeatureEnum feature) const;
     bool hasUniqueID(const CXString& uniqueID) const;
-    bool hasAbbreviation(const CXString& abbreviation) const;
 };
 
 } // namespace zent

@@ -1,17 +1,11 @@
 #include "ocore/FeatureSettings/FeatureIdentifier.h"
 
-#include <algorithm>
-
 #include "ocore/FeatureSettings/FeatureDataBase.h"
 #include "ocore/Resources/ResourceLibrary.h"
 
 namespace zent {
 
 _FI::_FI(const CXString& uniqueID) : _FI(FeatureDataBase().getFeatureInfo(uniqueID).m_feature) {}
-
-_FI _FI::createFromAbbreviation(const CXString& abbreviation) {
-    return {FeatureDataBase().getFeatureInfoByAbbreviation(abbreviation).m_feature};
-}
 
 const FeatureInfo& _FI::getInfo() const { return FeatureDataBase().getFeatureInfo(getFeature()); }
 
@@ -25,11 +19,6 @@ CXString _FI::getDisplayString() const {
 
 std::uint32_t _FI::getRelatedCount() const {
     return static_cast<std::uint32_t>(getInfo().m_related.size());
-}
-
-bool _FI::isRelated(FeatureEnum feature) const {
-    const auto& related = getInfo().m_related;
-    return std::ranges::find(related, feature) != related.end();
 }
 
 bool _FI::isUserDefinable() const { return hasAVTE(AVTE_NAME) || hasAVTE(AVTE_URI); }
@@ -61,10 +50,6 @@ bool _FI::isFeature(FeatureEnum feature) { return FeatureDataBase().hasFeature(f
 
 bool _FI::isFeatureName(const CXString& uniqueID) {
     return FeatureDataBase().hasUniqueID(uniqueID);
-}
-
-bool _FI::isFeatureAbbreviation(const CXString& abbreviation) {
-    return FeatureDataBase().hasAbbreviation(abbreviation);
 }
 
 } // namespace zent

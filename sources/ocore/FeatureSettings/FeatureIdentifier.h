@@ -14,7 +14,6 @@ public:
     /// empty text.
     explicit _FI(const CXString& uniqueID);
     explicit _FI(const AttrID& uniqueID) : _FI(uniqueID.getText()) {}
-    static _FI createFromAbbreviation(const CXString& abbreviation);
 
     const AttrID& getAttrID() const override { return getNestedAttrID().getAttrID(); }
     const NestedAttrID& getNestedAttrID() const override { return getInfo().m_nestedID; }
@@ -23,7 +22,6 @@ public:
     bool isEqual(const _SI& other) const override;
     const SyntaxList& getSyntaxes() const override { return getInfo().m_syntaxes; }
 
-    const CXString& getAbbreviation() const { return getInfo().m_abbreviation; }
     /// The feature's name for users, from the resource library.
     CXString getDisplayString() const;
     std::uint32_t getSupportClass() const { return getInfo().m_supportClass; }
@@ -31,20 +29,17 @@ public:
 
     std::uint32_t getRelatedCount() const;
     FeatureEnum getRelated(std::uint32_t index) const { return getInfo().m_related[index]; }
-    bool isRelated(FeatureEnum feature) const;
 
     /// Whether a user may invent a value that the value table doesn't hold: names and URIs.
     bool isUserDefinable() const;
     /// The last name or URI syntax if there is one, else the first syntax.
     const CXString& getPreferredSyntax() const;
-    AVTE getPreferredAVTE() const { return syntaxToAVTE(getPreferredSyntax()); }
     /// The innermost parent that is a feature of its own; false if there is none.
     bool getParentFeature(FeatureEnum* parent) const;
 
     static bool isFeature(FeatureEnum feature);
     static bool isFeatureName(const CXString& uniqueID);
     static bool isFeatureName(const AttrID& uniqueID) { return isFeatureName(uniqueID.getText()); }
-    static bool isFeatureAbbreviation(const CXString& abbreviation);
 
 private:
     const FeatureInfo& getInfo() const;

@@ -43,11 +43,6 @@ FeatureValue::FeatureValue(std::int32_t value)
 FeatureValue::FeatureValue(FeatureEnum feature, const CXString& text)
     : FeatureValue(FeatureValueDataBase().getFeatureValueInfo(feature, text)) {}
 
-FeatureValue FeatureValue::createFromAbbreviation(const CXString& abbreviation) {
-    return FeatureValue(FeatureValueReference(
-        FeatureValueDataBase().getFeatureValueInfoByAbbreviation(abbreviation)));
-}
-
 std::optional<FeatureValue> FeatureValue::find(FeatureEnum feature, const CXString& text) {
     FeatureValueReference info = FeatureValueDataBase().findFeatureValueInfo(feature, text);
     return info ? std::optional(FeatureValue(std::move(info))) : std::nullopt;
@@ -86,15 +81,6 @@ bool FeatureValue::operator<(const FeatureValue& other) const {
     return m_value < other.m_value;
 }
 
-bool FeatureValue::isSameInfo(const FeatureValue& other) const {
-    const FeatureValueInfo& mine = getInfo();
-    const FeatureValueInfo& theirs = other.getInfo();
-    return mine.m_text == theirs.m_text && mine.m_abbreviation == theirs.m_abbreviation &&
-           mine.m_displayStringID == theirs.m_displayStringID &&
-           mine.m_imageID == theirs.m_imageID && mine.m_syntax == theirs.m_syntax &&
-           mine.m_type == theirs.m_type;
-}
-
 FeatureValue FeatureValue::convertToFeature(const _FI& feature) const {
     if (belongsToAny()) {
         return *this;
@@ -108,10 +94,6 @@ bool FeatureValue::isKnownValue(FeatureEnum feature, const CXString& text) {
 
 bool FeatureValue::isValidNumber(std::int32_t value) {
     return FeatureValueDataBase().hasValue(value);
-}
-
-bool FeatureValue::isValidAbbreviation(const CXString& abbreviation) {
-    return FeatureValueDataBase().hasAbbreviation(abbreviation);
 }
 
 FeatureValue FeatureValue::createNewValueEnum(FeatureEnum feature, const CXString& text,

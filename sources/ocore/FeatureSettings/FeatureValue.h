@@ -21,16 +21,12 @@ public:
     explicit FeatureValue(std::int32_t value = unspecified);
     /// Raises UnknownFeatureRequestException if the feature has no such value.
     FeatureValue(FeatureEnum feature, const CXString& text);
-    static FeatureValue createFromAbbreviation(const CXString& abbreviation);
     /// Nothing if the feature has no such value.
     static std::optional<FeatureValue> find(FeatureEnum feature, const CXString& text);
 
     std::int32_t getValue() const { return m_value; }
     const CXString& getText() const& { return getInfo().m_text; }
     CXString getText() && { return getInfo().m_text; }
-    const CXString& getAbbreviation() const& { return getInfo().m_abbreviation; }
-    CXString getAbbreviation() && { return getInfo().m_abbreviation; }
-    std::uint32_t getDisplayStringID() const { return getInfo().m_displayStringID; }
     std::uint32_t getImageID() const { return getInfo().m_imageID; }
     const CXString& getSyntax() const& { return getInfo().m_syntax; }
     CXString getSyntax() && { return getInfo().m_syntax; }
@@ -49,16 +45,12 @@ public:
     bool operator==(const FeatureValue& other) const { return m_value == other.m_value; }
     /// Fixed values in table order, then run-time values by the names that users see.
     bool operator<(const FeatureValue& other) const;
-    /// The same content, maybe under another number.
-    bool isSameInfo(const FeatureValue& other) const;
     /// The value of the same text of another feature; unspecified if it has none.
     FeatureValue convertToFeature(const _FI& feature) const;
 
     static bool isKnownValue(FeatureEnum feature, const CXString& text);
     static bool isValidNumber(std::int32_t value);
-    static bool isValidAbbreviation(const CXString& abbreviation);
-    /// Whether users may invent values of this syntax: names and URIs.
-    static bool isUserSyntax(const CXString& syntax) { return isUserType(syntaxToAVTE(syntax)); }
+    /// Whether users may invent values of this type: names and URIs.
     static bool isUserType(AVTE type) { return type == AVTE_NAME || type == AVTE_URI; }
 
     /// Adds a run-time value for a feature and its related ones, and gives it with a new number. A

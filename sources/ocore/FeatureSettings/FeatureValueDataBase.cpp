@@ -144,18 +144,6 @@ FeatureValueReference FeatureValueDataBase::getFeatureValueInfo(FeatureEnum feat
     return info;
 }
 
-const FeatureValueInfo&
-FeatureValueDataBase::getFeatureValueInfoByAbbreviation(const CXString& abbreviation) const {
-    const FeatureValueInfo* const info = findByAbbreviation(abbreviation);
-    if (info == nullptr) {
-        Raise<UnknownFeatureRequestException>()(
-            "FeatureValueDataBase::getFeatureValueInfoByAbbreviation() could not find requested "
-            "value for abbreviation '%s'.\r\n",
-            abbreviation);
-    }
-    return *info;
-}
-
 FeatureValueReference FeatureValueDataBase::findFeatureValueInfo(std::int32_t value) const {
     if (value >= value::firstRunTimeValue) {
         return RunTimeValues::find(value);

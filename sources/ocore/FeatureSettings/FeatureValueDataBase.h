@@ -19,7 +19,6 @@ public:
 
     FeatureValueReference getFeatureValueInfo(std::int32_t value) const;
     FeatureValueReference getFeatureValueInfo(FeatureEnum feature, const CXString& text) const;
-    const FeatureValueInfo& getFeatureValueInfoByAbbreviation(const CXString& abbreviation) const;
 
     /// These give no row if there is none.
     FeatureValueReference findFeatureValueInfo(std::int32_t value) const;

@@ -4,7 +4,7 @@
 
 namespace zent {
 
-/// The typed form of a resolution attribute; unspecified until one of its numbers is set.
+/// The typed form of a resolution attribute; unspecified unless it is made of numbers.
 class Resolution {
 public:
     Resolution() = default;
@@ -17,19 +17,6 @@ public:
     std::int32_t getFeedDirection() const { return m_feedDirection; }
     /// 3 for dots per inch, 4 for dots per centimetre.
     std::int32_t getUnits() const { return m_units; }
-
-    void setCrossFeed(std::int32_t crossFeed) {
-        m_crossFeed = crossFeed;
-        m_unspecified = false;
-    }
-    void setFeedDirection(std::int32_t feedDirection) {
-        m_feedDirection = feedDirection;
-        m_unspecified = false;
-    }
-    void setUnits(std::int32_t units) {
-        m_units = units;
-        m_unspecified = false;
-    }
 
     bool operator==(const Resolution&) const = default;
 

@@ -184,10 +184,6 @@ void Settings::removeInstance(const _SI& setting, std::uint32_t instance) {
     }
 }
 
-void Settings::setValueOfFeature(FeatureValue value, std::uint32_t instance) {
-    setFeatureValue(_FI(value.getFeature(0)), value, instance);
-}
-
 void Settings::setString(const _SI& setting, const CXString& text, std::uint32_t instance) {
     setAttribute(setting, text, setting.getSyntax(0), instance);
 }

@@ -70,8 +70,6 @@ public:
     /// Setting an instance that doesn't exist appends. The unspecified value removes the instance
     /// and each parent that this leaves empty.
     void setFeatureValue(const _SI& setting, FeatureValue value, std::uint32_t instance = 0);
-    /// On the first feature that the value belongs to.
-    void setValueOfFeature(FeatureValue value, std::uint32_t instance = 0);
     /// As text or number in the setting's first syntax, whatever that is.
     void setString(const _SI& setting, const CXString& text, std::uint32_t instance = 0);
     void setLong(const _SI& setting, std::int32_t value, std::uint32_t instance = 0);

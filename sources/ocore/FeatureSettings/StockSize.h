@@ -35,8 +35,6 @@ public:
     /// else "SIZE_OTHER" with the dimensions given.
     StockSize(std::int32_t width, std::int32_t height);
 
-    void setFromCode(std::uint32_t code) { *this = StockSize(code); }
-
     std::uint32_t getSize() const { return m_size; }
     std::int32_t getWidth() const { return m_width; }
     std::int32_t getHeight() const { return m_height; }

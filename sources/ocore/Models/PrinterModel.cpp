@@ -52,24 +52,6 @@ PrinterModel::PrinterModel(std::uint32_t model, std::uint32_t pdl)
     : m_model(model), m_pdl(pdl), m_modelIndex(getModelInfoIndex(model)),
       m_familyIndex(getFamilyInfoIndex(getModelTable()[m_modelIndex].family)) {}
 
-PrinterModel PrinterModel::fromDriverName(const CXString& driverName) {
-    const DriverInfo& driver = getDriverTable()[getDriverInfoIndex(driverName)];
-    return {driver.model, driver.pdl};
-}
-
-std::uint32_t PrinterModel::getDriverInfoIndex(const CXString& driverName) {
-    const auto row = findRow(getDriverTable(), [&](const DriverInfo& driver) {
-        return driverName == driver.driverName;
-    });
-    if (!row) {
-        Raise<IndexOutOfBoundsException>()(
-            "PrinterModel::getDriverInfoIndex(): Could not find the printer driver name '%s' in "
-            "the table of printer driver information.\r\n",
-            driverName);
-    }
-    return *row;
-}
-
 std::uint32_t PrinterModel::getDriverInfoIndex(std::uint32_t model, std::uint32_t pdl) {
     const auto row = findRow(getDriverTable(), [&](const DriverInfo& driver) {
         return driver.model == model && driver.pdl == pdl;

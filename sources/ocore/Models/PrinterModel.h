@@ -16,20 +16,16 @@ namespace zent {
 class PrinterModel {
 public:
     PrinterModel(std::uint32_t model, std::uint32_t pdl);
-    /// By the name under which the printer is known on the system.
-    static PrinterModel fromDriverName(const CXString& driverName);
     virtual ~PrinterModel() = default;
     PrinterModel(const PrinterModel&) = default;
     PrinterModel& operator=(const PrinterModel&) = default;
 
     /// Rows of the tables.
-    static std::uint32_t getDriverInfoIndex(const CXString& driverName);
     static std::uint32_t getDriverInfoIndex(std::uint32_t model, std::uint32_t pdl);
     static std::uint32_t getModelInfoIndex(std::uint32_t model);
     static std::uint32_t getFamilyInfoIndex(std::uint32_t family);
 
     std::uint32_t getModel() const { return m_model; }
-    std::uint32_t getPdl() const { return m_pdl; }
     CXString getDriverName() const;
     /// For users, from the resource library.
     CXString getDisplayName() const;

@@ -8,7 +8,6 @@ namespace zent {
 
 void DOMTreeErrorReporter::warning(const xercesc::SAXParseException& report) {
     add(u"Warning", report);
-    m_warningSeen = true;
 }
 
 void DOMTreeErrorReporter::error(const xercesc::SAXParseException& report) {
@@ -22,7 +21,7 @@ void DOMTreeErrorReporter::fatalError(const xercesc::SAXParseException& report) 
 }
 
 void DOMTreeErrorReporter::resetErrors() {
-    m_warningSeen = m_errorSeen = m_fatalSeen = false;
+    m_errorSeen = m_fatalSeen = false;
     m_messages.clear();
 }
 

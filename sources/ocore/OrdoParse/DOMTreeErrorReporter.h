@@ -8,7 +8,7 @@
 
 namespace zent {
 
-/// Collects what the parser finds wrong with a document, as text and as three flags. It lets the
+/// Collects what the parser finds wrong with a document, as text and as two flags. It lets the
 /// parser go on, so that one message tells all faults.
 class DOMTreeErrorReporter final : public xercesc::ErrorHandler {
 public:
@@ -24,7 +24,6 @@ public:
         m_fatalSeen = true;
     }
 
-    bool isWarningSeen() const { return m_warningSeen; }
     bool isErrorSeen() const { return m_errorSeen; }
     bool isFatalSeen() const { return m_fatalSeen; }
     /// Two lines for each report, in the order of the document.
@@ -33,7 +32,6 @@ public:
 private:
     void add(std::u16string_view kind, const xercesc::SAXParseException& report);
 
-    bool m_warningSeen = false;
     bool m_errorSeen = false;
     bool m_fatalSeen = false;
     CXString m_messages;

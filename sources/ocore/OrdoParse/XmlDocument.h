@@ -48,7 +48,6 @@ public:
     /// Null where there is none.
     XmlNode* getParent() const { return m_parent; }
     XmlNode* getFirstChild() const { return m_firstChild; }
-    XmlNode* getLastChild() const { return m_lastChild; }
     XmlNode* getNextSibling() const { return m_nextSibling; }
 
     /// The attributes in order of their names' code units; null at the end.

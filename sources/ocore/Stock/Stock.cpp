@@ -77,7 +77,6 @@ void appendCounted(std::u16string& text, std::u16string_view part) {
 void appendNode(std::u16string& text, const AttrNode& node) {
     const AttrValue& value = node.getAttrValue();
     text += node.isPrivate() ? u'p' : u' ';
-    text += value.isActive() ? u'a' : u' ';
     text += static_cast<char16_t>(u'0' + value.getAttrValueType());
     appendCounted(text, value.getIppSyntax());
     if (value.isList()) {

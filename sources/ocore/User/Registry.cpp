@@ -52,12 +52,6 @@ void Registry::setValue(const CXString& key, const CXString& name, std::uint32_t
     }
 }
 
-bool Registry::getBoolValue(const CXString& key, const CXString& name, bool defaultValue) const {
-    ByteBuffer value;
-    getValue(key, name, value);
-    return value.isEmpty() ? defaultValue : value.getAsBoolValue();
-}
-
 std::int32_t Registry::getLongValue(const CXString& key, const CXString& name,
                                     std::int32_t defaultValue) const {
     ByteBuffer value;
@@ -81,10 +75,6 @@ ByteBuffer Registry::getDataValue(const CXString& key, const CXString& name,
                                   const ByteBuffer& defaultValue) const {
     ByteBuffer value;
     return getValue(key, name, value) ? value : defaultValue;
-}
-
-void Registry::setBoolValue(const CXString& key, const CXString& name, bool value) const {
-    setValue(key, name, registryType::binary, ByteBuffer::fromBool(value));
 }
 
 void Registry::setLongValue(const CXString& key, const CXString& name, std::int32_t value) const {

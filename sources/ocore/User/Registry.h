@@ -22,10 +22,9 @@ public:
                   const ByteBuffer& value) const;
 
     // Reading with a default for where there is no value. An empty value gives the default for a
-    // Boolean and a long, and the empty text or buffer for a string and data. A value that is
+    // long, and the empty text or buffer for a string and data. A value that is
     // shorter than its type raises NotEnoughBytesForDesiredDataTypeException; its stored type
     // doesn't matter.
-    bool getBoolValue(const CXString& key, const CXString& name, bool defaultValue) const;
     std::int32_t getLongValue(const CXString& key, const CXString& name,
                               std::int32_t defaultValue) const;
     CXString getStringValue(const CXString& key, const CXString& name,
@@ -33,8 +32,6 @@ public:
     ByteBuffer getDataValue(const CXString& key, const CXString& name,
                             const ByteBuffer& defaultValue) const;
 
-    /// As binary data of one byte.
-    void setBoolValue(const CXString& key, const CXString& name, bool value) const;
     void setLongValue(const CXString& key, const CXString& name, std::int32_t value) const;
     void setStringValue(const CXString& key, const CXString& name, const CXString& value) const;
     void setDataValue(const CXString& key, const CXString& name, const ByteBuffer& value) const;

@@ -33,7 +33,7 @@ AttrNodeList setOf(std::uint32_t members, std::uint32_t levels) {
 
 AttrNodeList textOf(char16_t unit, std::size_t length) {
     AttrNodeList list;
-    list.addName(CXString(std::u16string(length, unit)), AttrID(u"job-name"));
+    list.addValue(syntax::name, CXString(std::u16string(length, unit)), AttrID(u"job-name"));
     return list;
 }
 

@@ -1,3 +1,5 @@
+#include <gmock/gmock.h>
+
 #include "ocore/FeatureSettings/CapabilityDataBase.h"
 #include "ocore/FeatureSettings/CapabilityIdentifier.h"
 #include "ocore/FeatureSettings/CapabilityTable.h"
@@ -12,6 +14,8 @@
 
 namespace zent::test {
 namespace {
+
+using testing::Contains;
 
 constexpr auto afterLast = static_cast<FeatureEnum>(feature::last + 1);
 
@@ -29,10 +33,10 @@ TEST(FeatureTablesTest, EachFeatureStandsOnceInOrderWithItsText) {
         ++expected;
         const FeatureInfo& info = features.getFeatureInfo(row.feature);
         EXPECT_EQ(&features.getFeatureInfo(info.m_nestedID.getName()), &info);
-        EXPECT_EQ(&features.getFeatureInfoByAbbreviation(row.abbreviation), &info);
+        EXPECT_EQ(features.findFeatureInfoByAbbreviation(row.abbreviation), &info);
         EXPECT_TRUE(hasText(row.displayStringID));
         for (const FeatureEnum related : info.m_related) {
-            EXPECT_TRUE(_FI(related).isRelated(row.feature)) << related;
+            EXPECT_THAT(features.getFeatureInfo(related).m_related, Contains(row.feature));
         }
     }
     EXPECT_EQ(expected, afterLast);
@@ -42,7 +46,7 @@ TEST(FeatureTablesTest, EachFeatureStandsOnceInOrderWithItsText) {
     // "value" is the leaf of many features and the name of none.
     EXPECT_FALSE(features.hasUniqueID(u"value"));
     EXPECT_FALSE(features.hasUniqueID(u"Copies"));
-    EXPECT_FALSE(features.hasAbbreviation(u"C"));
+    EXPECT_EQ(features.findFeatureInfoByAbbreviation(u"C"), nullptr);
 }
 
 TEST(FeatureTablesTest, EachValueStandsOnceWithItsTextAndSuitsItsFeatures) {
@@ -71,7 +75,7 @@ TEST(FeatureTablesTest, EachValueStandsOnceWithItsTextAndSuitsItsFeatures) {
                 << feature;
         }
         EXPECT_TRUE(info.m_abbreviation.isEmpty() ||
-                    &values.getFeatureValueInfoByAbbreviation(info.m_abbreviation) == &info);
+                    values.findFeatureValueInfoByAbbreviation(info.m_abbreviation) == &info);
     }
     EXPECT_EQ(count, getLowerValueRows().size() + getMediaNames().size() +
                          getUpperValueRows().size()); // no number stands twice

@@ -76,7 +76,7 @@ TEST_F(OrdoWriteTest, NamesComeBackAsTheyWere) {
     for (const std::u16string& text : {std::u16string(u" \r\n\t<&>\"' \U0001D11E\r"), mixed,
                                        longText, longText + u"\U0001D11E&", u"&" + longText}) {
         AttrNodeList list;
-        list.addName(CXString(text), AttrID(u"job-name"));
+        list.addValue(syntax::name, CXString(text), AttrID(u"job-name"));
         const AttrNodeList read = readOrdo(writeOrdo(list));
         ASSERT_EQ(read.getNumberOfNodes(), 1U);
         EXPECT_TRUE(read.getNodeAt(0).getAttrValue().getIppValue() == text);

@@ -98,7 +98,7 @@ TEST_F(SettingsProblemFixerTest, RepairsByDefaultByLimitOrByRemoval) {
 TEST_F(SettingsProblemFixerTest, BlanksBecomeUnderscores) {
     AttrNodeList ticket = listOf("media-col{media-color=red}");
     AttrNodeList& medium = *embeddedList(ticket.getNodeAt(0));
-    medium.addName(u" plain  paper", AttrID(u"media-type"));
+    medium.addValue(syntax::name, u" plain  paper", AttrID(u"media-type"));
     EXPECT_EQ(fix(ticket, 17), "media-col{media-color=red media-type=name:_plain__paper}");
 }
 
@@ -106,7 +106,7 @@ TEST_F(SettingsProblemFixerTest, HalfACharacterIsCutToo) {
     AttrNodeList ticket;
     CXString name(std::u16string(254, u'n'));
     name += u"\U0001D11E"; // two units, of which the limit would leave one
-    ticket.addName(name, AttrID(u"job-name"));
+    ticket.addValue(syntax::name, name, AttrID(u"job-name"));
     EXPECT_EQ(fix(ticket), "job-name=name:" + std::string(254, 'n'));
 }
 

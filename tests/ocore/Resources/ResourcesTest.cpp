@@ -1,5 +1,4 @@
-#include "ocore/Resources/File.h"
-
+#include "ocore/Resources/ByteBuffer.h"
 #include "resources/ids.h"
 #include "support/LibraryTesting.h"
 
@@ -17,25 +16,6 @@ TEST(ByteBufferTest, TakesPartsOfItself) {
     buffer.append(buffer.data() + 95, 1);
     buffer.assign(buffer.data() + 94, 3);
     EXPECT_EQ(buffer, bytes("bcc"));
-}
-
-TEST(FileTest, IsReadWholeOrNotAtAll) {
-    const ScratchFolder folder;
-    for (const std::string& content : {std::string("a\r\n\0\x1A", 5), std::string()}) {
-        folder.write("file", content);
-        ByteBuffer buffer = bytes("before");
-        File::read(folder.file("file"), buffer);
-        EXPECT_EQ(buffer, bytes(content));
-    }
-    ByteBuffer buffer = bytes("before");
-    for (const CXString& name : {folder.file("none"), CXString(), folder.file("")}) {
-        EXPECT_EQ(raised<CreateFileForReadingException>([&] { File::read(name, buffer); }),
-                  "File::read(): CreateFile() failed to open file " + name.toNarrow() + ".\r\n");
-    }
-    folder.write("large", "x");
-    std::filesystem::resize_file(folder.path() / "large", File::largestSize + 1);
-    EXPECT_THROW(File::read(folder.file("large"), buffer), ReadFileException);
-    EXPECT_EQ(buffer, bytes("before"));
 }
 
 constexpr std::uint32_t versionType = 16;

@@ -76,17 +76,15 @@ TEST_F(UserPreferencesTest, WellKnownOnesRefuseOtherTypesAndOthersTakeAny) {
 
 TEST_F(UserPreferencesTest, BytesAreReadAsWhatIsAskedFor) {
     constexpr std::int32_t tooShort = -1;
-    for (const auto& [content, asBool, asLong, asString] :
-         Rows<std::string, bool, std::int32_t, CXString>{
-             {std::string("\0", 1), false, tooShort, u""},
-             {std::string("x\0\0", 3), true, tooShort, u"x"},
-             {std::string("\0\x01\0\0", 4), false, 256, u"\u0100"},
-             {"abcde", true, 0x64636261, u"\u6261\u6463"},
-             {std::string("o\0k\0\0\0\0\0", 8), true, 0x6B006F, u"ok"}, // with terminators
-             {std::string("o\0\0\0k\0", 6), true, 0x6F, std::u16string_view(u"o\0k", 3)},
+    for (const auto& [content, asLong, asString] : Rows<std::string, std::int32_t, CXString>{
+             {std::string("\0", 1), tooShort, u""},
+             {std::string("x\0\0", 3), tooShort, u"x"},
+             {std::string("\0\x01\0\0", 4), 256, u"\u0100"},
+             {"abcde", 0x64636261, u"\u6261\u6463"},
+             {std::string("o\0k\0\0\0\0\0", 8), 0x6B006F, u"ok"}, // with terminators
+             {std::string("o\0\0\0k\0", 6), 0x6F, std::u16string_view(u"o\0k", 3)},
          }) {
         m_registry.setDataValue(m_key, u"n", ByteBuffer(content.data(), content.size()));
-        EXPECT_EQ(m_registry.getBoolValue(m_key, u"n", !asBool), asBool);
         EXPECT_EQ(m_registry.getStringValue(m_key, u"n", u"default"), asString);
         if (asLong != tooShort) {
             EXPECT_EQ(m_registry.getLongValue(m_key, u"n", 0), asLong);
@@ -99,8 +97,7 @@ TEST_F(UserPreferencesTest, BytesAreReadAsWhatIsAskedFor) {
                       std::to_string(content.size()) +
                       " bytes)! It needs to be at least 4 bytes.\r\n");
     }
-    m_registry.setDataValue(m_key, u"n", {}); // neither truth nor number
-    EXPECT_TRUE(m_registry.getBoolValue(m_key, u"n", true));
+    m_registry.setDataValue(m_key, u"n", {}); // no number
     EXPECT_EQ(m_registry.getLongValue(m_key, u"n", -5), -5);
     EXPECT_EQ(m_registry.getStringValue(m_key, u"n", u"default"), u"");
 }
