@@ -24,7 +24,7 @@ std::optional<Finishing> findFinishing(std::int32_t finishing) {
         Finishing finishing;
     };
     static constexpr Row rows[] = {
-        {3, {}}, // none
+        {3, {}}, // no finishing
         {13, {{}, {}, "True"}},
         {20, {{}, "SinglePortrait", {}}},
         {21, {{}, "SingleLandscape", {}}},

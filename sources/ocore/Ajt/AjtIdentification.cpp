@@ -9,10 +9,10 @@ namespace zent::ajt {
 
 namespace {
 
-/// A text on one line: a blank for each line end.
+/// Puts a text on one line, with a space in place of each line end.
 CXString onOneLine(const CXString& text) {
     CXString line = text;
-    // Pairs before single ones, so that a pair gives one blank.
+    // Pairs are replaced before single ones, so that a pair gives one space.
     for (const std::u16string_view lineEnd : {u"\r\n", u"\n\r", u"\r", u"\n"}) {
         line = replaceAll(line, lineEnd, u" ");
     }

@@ -68,7 +68,8 @@ void writeImageShifts(const Job& job, Output& output) {
     writeShift(job, "%TRVxImageShift: ", feature::xSide1ImageShift, output);
     writeShift(job, "%TRVyImageShift: ", feature::ySide1ImageShift, output);
     if (job.ticket.getFeatureValue(feature::sides).getValue() == value::oneSided) {
-        // There is no second side to shift, so that nothing is left out.
+        // The second side isn't printed, so that the stream leaves nothing out: its shifts count as
+        // written.
         job.ticket.take(feature::xSide2ImageShift);
         job.ticket.take(feature::ySide2ImageShift);
         return;

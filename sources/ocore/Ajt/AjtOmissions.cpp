@@ -15,7 +15,8 @@ class OmissionLister {
 public:
     explicit OmissionLister(const SpokenNodes& spoken) : m_spoken(spoken) {}
 
-    /// Whether the stream speaks of anything in a list. `way` leads to what holds the list.
+    /// Whether the stream has a line for anything in a list. `way` is the path to what holds the
+    /// list. What has no line is added to the omissions.
     bool visitList(const AttrNodeList& list, const CXString& way) {
         bool isSpokenOf = false;
         for (std::uint32_t i = 0; i < list.getNumberOfNodes(); ++i) {

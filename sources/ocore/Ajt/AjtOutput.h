@@ -11,17 +11,18 @@ namespace zent::ajt {
 /// A ticket stream as it grows.
 class Output {
 public:
-    /// Bytes as they are: ASCII, which is the same in every code page, or text that was converted.
+    /// Writes bytes as they are: ASCII, which is the same in every code page, or text that was
+    /// converted.
     Output& operator<<(std::string_view bytes) {
         m_bytes.append(bytes);
         return *this;
     }
-    /// Text, converted to the ANSI code page.
+    /// Writes text, which it converts to the ANSI code page.
     Output& operator<<(const CXString& text) {
         m_bytes.append(text.toNarrow());
         return *this;
     }
-    /// Decimal.
+    /// Writes a number in decimal digits.
     Output& operator<<(std::int32_t number);
 
     const std::string& bytes() const { return m_bytes; }

@@ -12,8 +12,8 @@ namespace {
 
 using namespace std::string_literals;
 
-/// A name of a paper, with a backspace for each blank: it must stay one field among
-/// blank-separated ones.
+/// Gives a paper's name with a backspace for each space, so that it stays one of several fields
+/// that spaces separate.
 std::string asField(const CXString& name) { return replaceAll(name, u" ", u"\b").toNarrow(); }
 
 std::string textOfNumber(const TicketReader& ticket, FeatureEnum feature) {

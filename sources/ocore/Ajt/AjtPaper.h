@@ -20,8 +20,9 @@ struct Paper {
     std::string weight; // in grams per square metre
 };
 
-/// Writes the paper of some sheets as one text of blank-separated fields; what isn't said of them
-/// is taken from the job, or else is plain white letter paper.
+/// Writes the paper of some sheets as one text, in which spaces separate the fields. What the
+/// ticket doesn't say of these sheets is taken from the job or, failing that, from plain white
+/// letter paper.
 void writeDescription(const Paper& local, const Paper& job, const AjtPrinterTraits& traits,
                       Output& output);
 

@@ -11,7 +11,8 @@ void writePaperOf(const TicketReader& sheets, const Job& job, Output& output) {
     writeDescription(Paper(sheets, job.traits), job.paper, job.traits, output);
 }
 
-/// Which sides of a cover are printed is said from the document's inside or outside.
+/// `sides` says which side of a cover lies outside: the front of the front cover, but the back of
+/// the back cover.
 void writeCover(const Job& job, std::string_view keyword, FeatureEnum feature,
                 std::span<const Word> sides, Output& output) {
     const TicketReader cover = job.ticket.getNested(feature);

@@ -1,3 +1,6 @@
+// Each function that takes something also notes the node in which it was found. What no line speaks
+// of follows from these notes, without a second list of what the stream can say.
+
 #include "ocore/Ajt/AjtTicketReader.h"
 
 #include "ocore/Faults/Exceptions.h"

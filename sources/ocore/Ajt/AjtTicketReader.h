@@ -8,8 +8,8 @@
 
 namespace zent::ajt {
 
-/// The nodes of a ticket that the stream speaks of. A collection stands here for itself alone, not
-/// for its members.
+/// The nodes of a ticket for which the stream has lines. A collection stands here for itself alone,
+/// not for its members.
 using SpokenNodes = std::unordered_set<const AttrNode*>;
 
 /// A ticket, or a part of one such as a cover, as the groups of lines read it.
@@ -22,30 +22,30 @@ public:
     explicit TicketReader(FeatureSettings settings, SpokenNodes* spoken = nullptr)
         : m_settings(std::move(settings)), m_spoken(spoken) {}
 
-    /// For looking at what may have no line.
+    /// The settings, for a group that looks at what may have no line of its own.
     const FeatureSettings& getSettings() const { return m_settings; }
     FeatureValue getFeatureValue(FeatureEnum feature) const {
         return m_settings.getFeatureValue(_FI(feature));
     }
 
-    /// Counts the first value of a feature as spoken of, if there is one.
+    /// Counts the first value of a feature as written, if there is one.
     void take(FeatureEnum feature) const;
 
-    // False, or no number, if the feature isn't set.
+    // These give false, or no number, if the feature isn't set.
     bool takeString(FeatureEnum feature, CXString* target) const;
     bool takeLong(FeatureEnum feature, std::int32_t* target) const;
     bool takeRange(FeatureEnum feature, std::int32_t* lower, std::int32_t* upper) const;
     std::vector<std::int32_t> takeLongs(FeatureEnum feature) const;
-    /// Both edges of the paper, or none.
+    /// Reads both edges of the paper; false, and nothing taken, unless both are set.
     bool takeDimensions(std::int32_t* width, std::int32_t* height) const;
     /// The word for the value of a feature; empty, and nothing taken, if the table hasn't the
     /// value.
     std::string_view takeWord(FeatureEnum feature, std::span<const Word> words) const;
-    /// Counts a range as spoken of that needs no mention since it says what is always so. Raises
+    /// Counts a range as written that needs no line, since it says what is always so. Raises
     /// nothing, whatever the ticket holds.
     void takeAsUnderstood(FeatureEnum feature, std::int32_t lower, std::int32_t upper) const;
 
-    /// The words of "sides" and "page-rotation".
+    /// These give the words for the values of "sides" and "page-rotation".
     std::string_view takePlexWord() const;
     std::string_view takeRotationWord() const;
 

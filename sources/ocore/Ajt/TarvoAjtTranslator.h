@@ -19,9 +19,9 @@ public:
     /// Hands the whole stream over in one write. Raises what reading settings or the resource
     /// library raises; then nothing has been written.
     void translate(const AttrNodeList& source, Stream& target) override;
-    /// What of a list no line of its stream speaks of: attributes that the stream has no line for,
-    /// values that it has no word for, members behind the first where it takes only one, and what
-    /// another setting keeps from being written. Raises what translate() raises.
+    /// Finds what the stream leaves out of a list: attributes for which it has no line, values for
+    /// which it has no word, members after the first where it takes only one, and what another
+    /// setting keeps from being written. Raises what translate() raises.
     std::vector<AjtOmission> findOmissions(const AttrNodeList& source) const;
 
 private:

@@ -1,3 +1,8 @@
+// Queues and documents keep state blobs in great number, so that the ticket in one is short: names
+// and values travel as the abbreviations of the feature tables. What has none travels as it is.
+// Texts that a decoder would take for an abbreviation are marked, so that every list comes back as
+// it was.
+
 #include <utility>
 
 #include "ocore/AnlXlate/XmlForms.h"

@@ -22,8 +22,8 @@ XmlNode& findCategory(XmlDocument& document, XmlNode& root, const AttrNode& node
     return document.appendElement(root, nameOf(category));
 }
 
-/// Each attribute has a syntax, or the document wouldn't be valid: without one are the root and the
-/// categories alone.
+/// A document is valid only if each attribute has a syntax, so that an element without one is the
+/// root or a category.
 bool isCategory(const XmlNode& element) {
     if (element.getParent()->getParent()->isElement()) {
         raiseOrdoParse(ordoParseCode::errorReportedInParse,

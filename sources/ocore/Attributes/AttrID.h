@@ -16,7 +16,7 @@ public:
     operator CXString() const { return m_text; }
 
     bool operator==(const AttrID& other) const = default;
-    /// By character code.
+    /// Compares the texts by the codes of their characters.
     std::strong_ordering operator<=>(const AttrID& other) const { return m_text <=> other.m_text; }
 
 private:

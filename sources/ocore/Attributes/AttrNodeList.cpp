@@ -1,3 +1,6 @@
+// Nodes are kept by pointer, so that callers may hold one while others are added. All look-ups walk
+// the list, since the order and repeated names of a ticket must survive.
+
 #include "ocore/Attributes/AttrNodeList.h"
 
 #include <algorithm>
@@ -33,7 +36,8 @@ AttrNodeList::AttrNodeList(AttrNodeList&& other) noexcept : m_nodes(std::move(ot
 
 AttrNodeList& AttrNodeList::operator=(AttrNodeList&& other) noexcept {
     if (this != &other) {
-        AttrNodeList taken(std::move(other)); // which may lie in this list, and goes with it
+        // The other list may lie in this one, and would go with it.
+        AttrNodeList taken(std::move(other));
         m_nodes.swap(taken.m_nodes);
         m_cursor = 0;
     }
@@ -325,7 +329,8 @@ bool AttrNodeList::OrdoAttrToList(AttrNodeList** target, const AttrID& id, std::
     if (!std::as_const(*this).OrdoAttrToList(&found, id, instance)) {
         return false;
     }
-    *target = const_cast<AttrNodeList*>(found); // it lies in this list, which isn't const
+    // The list that was found is a part of this one, which isn't const.
+    *target = const_cast<AttrNodeList*>(found);
     return true;
 }
 
@@ -341,7 +346,8 @@ bool AttrNodeList::OrdoAttrToRange(std::int32_t* lower, std::int32_t* upper, con
 }
 
 bool AttrNodeList::operator==(const AttrNodeList& other) const {
-    // Applications rely on this: comparing the nodes would tell lists apart that count as the same.
+    // Applications rely on this: a comparison of the nodes would make lists differ that they take
+    // for equal.
     return m_nodes.size() == other.m_nodes.size();
 }
 

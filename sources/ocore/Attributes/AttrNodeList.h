@@ -51,8 +51,9 @@ public:
     AttrNode* setNode(const AttrID& id, const AttrValue& value, std::uint32_t instance = 0);
     AttrNode* setNode(const AttrID& id, std::unique_ptr<AttrValue> value,
                       std::uint32_t instance = 0);
-    /// Removes a node and gives the position behind it; the end if nothing was removed. If the node
-    /// is the one that the cursor has just passed, the cursor stays in front of what followed it.
+    /// Removes a node and gives the position of what followed it; the end if nothing was removed.
+    /// If the node is the one that the cursor has just passed, the cursor stays before what
+    /// followed it.
     std::uint32_t removeNode(const AttrID& id, std::uint32_t instance = 0);
     std::uint32_t removeNode(const AttrNode* node);
     void removeAllNodes();
@@ -97,7 +98,7 @@ public:
     bool OrdoAttrToRange(std::int32_t* lower, std::int32_t* upper, const AttrID& id,
                          std::uint32_t instance = 0) const;
 
-    /// Lists of equal length are equal: only the count decides, by design.
+    /// Lists of equal length count as equal, whatever they hold: applications rely on it.
     bool operator==(const AttrNodeList& other) const;
 
 private:

@@ -44,7 +44,7 @@ public:
     /// The bounds of a range. A bound that is missing leaves its target as it was, and the result
     /// is false. Raises AttributeTypeMismatchException on anything but a range.
     bool getRangeOfIntegerValues(std::int32_t& lower, std::int32_t& upper) const;
-    /// The three numbers of a resolution, in the same manner.
+    /// Reads the three numbers of a resolution in the same manner.
     bool getResolutionValues(std::int32_t& crossFeed, std::int32_t& feedDirection,
                              std::int32_t& units) const;
     /// Whether both are resolutions of equal numbers; two incomplete ones are the same.

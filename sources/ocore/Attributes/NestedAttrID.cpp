@@ -1,3 +1,6 @@
+// The same path serves both ways: to find the list of an attribute, and to make the lists that are
+// missing on the way.
+
 #include "ocore/Attributes/NestedAttrID.h"
 
 #include <algorithm>

@@ -21,7 +21,8 @@ public:
     static constexpr std::uint32_t plainParent = 3;
     static constexpr std::uint32_t namingParent = 1;
 
-    /// A placeholder that is always overwritten: the leaf "NAID_TEMPORARY", known by no name.
+    /// Makes a placeholder that is always overwritten: its leaf is "NAID_TEMPORARY", and it has no
+    /// name.
     NestedAttrID();
     explicit NestedAttrID(const AttrID& id) : m_id(id), m_name(id.getText()) {}
 
@@ -51,7 +52,7 @@ public:
     /// AttributeTypeMismatchException.
     AttrNodeList* findList(AttrNodeList& list, std::uint32_t instance = 0) const;
     const AttrNodeList* findList(const AttrNodeList& list, std::uint32_t instance = 0) const;
-    /// The same, creating what is missing.
+    /// Finds the list in the same way, and creates what is missing.
     AttrNodeList* findOrCreateList(AttrNodeList& list, std::uint32_t instance = 0) const;
     /// Removes each parent that has become empty, from the innermost outwards.
     void removeEmptyParents(AttrNodeList& list) const;

@@ -7,7 +7,7 @@ namespace zent {
 /// A signed 32-bit number, as "integer" or "enum".
 class PrimitiveInteger : public AttrValue {
 public:
-    /// Decimal.
+    /// The number in decimal digits.
     CXString getIppValue() const override;
     /// Reads a decimal number as parseInteger() does; never fails.
     void setIppValue(const CXString& text) override { m_value = parseInteger(text); }
@@ -16,8 +16,8 @@ public:
     std::int32_t getValue() const { return m_value; }
     void setValue(std::int32_t value) { m_value = value; }
 
-    /// Leading white space, an optional sign, digits up to the first other character; 0 if there
-    /// are none. A number beyond 32 bits gives the nearest bound.
+    /// Reads leading white space, an optional sign, and digits up to the first other character; 0
+    /// if there are none. A number beyond 32 bits gives the nearest bound.
     static std::int32_t parseInteger(const CXString& text);
 
 protected:

@@ -20,9 +20,9 @@ namespace zent {
 /// restriction raise MissingCapabilityDataException; all others have an answer of their own.
 class Capabilities {
 public:
-    /// With the document of the model's family.
+    /// Reads the capability document of the model's family.
     Capabilities(const PrinterModel& model, std::uint32_t form);
-    /// With the document of a source.
+    /// Reads the capability document that a source gives.
     Capabilities(const PrinterModel& model, std::uint32_t form, const CapabilitySource& source);
 
     /// The capability list, read with _CI.
@@ -38,7 +38,8 @@ public:
     /// Whether a feature may stand in a container feature, any number of levels below it.
     bool isMemberOf(const _FI& container, const _FI& member) const;
 
-    /// The hull of all ranges of the feature, gaps included.
+    /// Gives the least and the greatest number of all ranges of the feature, whatever gaps lie
+    /// between these.
     void getFeatureCapabilities(const _FI& feature, std::int32_t& lower, std::int32_t& upper) const;
     std::uint32_t getUpperLimit(const _FI& feature) const;
     std::uint32_t getPrecision(const _FI& feature) const;
@@ -56,7 +57,7 @@ public:
     std::vector<StockSize> getStockSizeValues(bool hasCapability = false) const;
     SizeLimits getStockSizeLimits() const;
 
-    /// These are true unless the list says otherwise.
+    /// The answers are true unless the capability list says otherwise.
     bool allowsEmbeddedSpaces(const _FI& feature) const;
     bool isSeparateCoversCapable() const;
     bool isInsertMultipleMediaCapable() const;
@@ -67,7 +68,7 @@ public:
 
     AjtPrinterTraits getAjtPrinterTraits() const;
 
-    /// The capability list by attributes.
+    /// The index of the capability list by attributes.
     const CapabilityIndex& getIndex() const { return *m_index; }
 
 private:

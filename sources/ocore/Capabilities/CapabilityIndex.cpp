@@ -1,3 +1,7 @@
+// The index joins what three sources say of an attribute: the feature table, the capability table,
+// and the printer's list. To look it up there for each node of a ticket would take a walk over the
+// list each time.
+
 #include "ocore/Capabilities/CapabilityIndex.h"
 
 #include "ocore/FeatureSettings/CapabilityDataBase.h"
@@ -47,7 +51,7 @@ void CapabilityIndex::addSupportedValues(const AttrNodeList& capabilities) {
         }
         name.remove_suffix(supportedSuffix.size());
         AttributeCapabilities& attribute = m_attributes[name];
-        if (!attribute.supported) { // of several the first counts
+        if (!attribute.supported) { // the first of several counts
             attribute.supported.emplace(node.getAttrValue());
         }
     }

@@ -4,7 +4,7 @@
 
 namespace zent {
 
-/// A text with blanks where the printer takes none. Each becomes an underscore.
+/// A text with spaces where the printer takes none. The repair makes an underscore of each.
 class FailedEmbeddedSpacesCapability final : public FailedCapability {
 public:
     FailedEmbeddedSpacesCapability(SettingsContext context, const _CI& capability)

@@ -1,3 +1,6 @@
+// A repair keeps as much of what the user asked for as the limits allow: it moves numbers to the
+// nearest limit and cuts texts. Only where that isn't possible is the value removed.
+
 #include "ocore/Checking/FailedRangeCapability.h"
 
 #include <algorithm>

@@ -47,7 +47,8 @@ void traceNoValue(const char* valueClass, const _CI& capability, const CXString&
                capability.getName(), content);
 }
 
-/// What a feature's values are by the feature table, whatever the ticket makes of them.
+/// The class of a feature's values as the feature table has it. The ticket may hold a value of
+/// another class.
 enum class ValueClass { number, range, text, other };
 
 ValueClass valueClassOf(const _FI& feature) {
@@ -78,14 +79,15 @@ const char* nameOf(ValueClass valueClass) {
     }
 }
 
-/// What is measured of a value: the number, the bounds, the length.
+/// What limits are compared with: a number is its own lower and upper end, a range has two, and a
+/// text has its length.
 struct Extent {
     Extent(std::int32_t a, std::int32_t b) : least(std::min(a, b)), greatest(std::max(a, b)) {}
     std::int32_t least;
     std::int32_t greatest;
 };
 
-/// Nothing if the value isn't of the class.
+/// Measures a value; nothing if it isn't of the class.
 std::optional<Extent> measure(const AttrValue& value, ValueClass valueClass) {
     std::int32_t lower = 0;
     std::int32_t upper = 0;

@@ -8,7 +8,7 @@
 namespace zent {
 
 /// Checks an attribute of a ticket against the capabilities that are this system's own: ranges and
-/// limits of numbers and of lengths, blanks in texts, and features that a printer lacks.
+/// limits of numbers and of lengths, spaces in texts, and features that a printer lacks.
 ///
 /// A bad entry in a capability document may never stop a job: what can't be read passes, with a
 /// trace.
@@ -32,7 +32,8 @@ private:
     bool check(const _CI& capability);
     bool checkRange(const _CI& capability);
     bool checkUpperLimit(const _CI& capability);
-    /// `failing` are the limits that a repair keeps to.
+    /// Adds a problem if the value lies outside `limits`; a repair then keeps to the limits
+    /// `failing`.
     bool checkLimits(const _CI& capability, const Limits& limits, const Limits& failing);
     bool checkIsSupported(const _CI& capability);
     bool checkEmbeddedSpaces(const _CI& capability);

@@ -9,10 +9,10 @@
 
 namespace zent {
 
-/// The nodes that a repair takes out of a ticket. In the place of each an empty list stays behind,
-/// which AttrNodeList::removeEmptyLists() clears away in the end, so that many removals take no
-/// longer than one pass; what was taken out is kept as long as the repair, so that no address is
-/// used again while problems refer to it.
+/// The nodes that a repair takes out of a ticket. An empty list takes the place of each, which
+/// AttrNodeList::removeEmptyLists() clears away in the end, so that many removals take no longer
+/// than one pass; what was taken out is kept as long as the repair, so that no address is used
+/// again while problems refer to it.
 class RemovedNodes {
 public:
     RemovedNodes() = default;

@@ -13,9 +13,9 @@ namespace zent {
 class SettingsContext {
 public:
     struct Step {
-        AttrNodeList* list = nullptr; // that holds the node
+        AttrNodeList* list = nullptr; // the list that holds the node
         AttrNode* node = nullptr;
-        std::uint32_t position = 0; // of the node in the list
+        std::uint32_t position = 0; // the position of the node in the list
         bool inSet = false;         // whether the list is that of a set
     };
 

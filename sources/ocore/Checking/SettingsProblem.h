@@ -20,7 +20,8 @@ enum class RepairAction : std::uint32_t {
 
 struct SettingsRepair {
     RepairAction action = RepairAction::remove;
-    // What goes or changes; null for what is added, and where there is nothing to remove.
+    // The node that is removed or changed; null for what is added, and where there is nothing to
+    // remove.
     AttrNode* node = nullptr;
     std::unique_ptr<AttrValue> value; // the new one; null for a removal
 };

@@ -1,3 +1,6 @@
+// A capability document says what a printer has, and needn't speak of everything. So each test asks
+// for evidence that the printer lacks something, and passes without it.
+
 #include "ocore/Checking/SettingsValidator.h"
 
 #include <algorithm>
@@ -18,8 +21,8 @@ namespace zent {
 
 namespace {
 
-/// Of the attributes on the way to a list the outermost that says what may lie in it, leaving out
-/// those called like the leaf.
+/// Several attributes on the way to a list may say what may lie in it. The outermost of these
+/// decides, apart from those that have the same name as the leaf.
 const SupportedValues* findDecidingList(const WalkLevel& level, const CXString& leaf) {
     if (level.enclosing == nullptr) {
         return nullptr;
@@ -37,7 +40,8 @@ AttrNodeList& rootOf(const WalkLevel& level) {
     return level.enclosing == nullptr ? level.list : rootOf(*level.enclosing);
 }
 
-/// What can't be read counts as there.
+/// Whether a list holds a feature. One that can't be read counts as held, since the check refuses
+/// on positive evidence only.
 bool isSpecified(AttrNodeList& list, const _FI& feature) {
     try {
         return Settings(&list).isSpecified(feature);
@@ -87,13 +91,17 @@ bool SettingsValidator::hasRequiredMember(const WalkLevel& level) {
                       : level.list.findNode(member.getAttrID()) != nullptr;
 }
 
+/// The order of the tests decides which problems a user sees. The private capabilities come first,
+/// since their problems can stand beside others. A collection that the user defines may hold
+/// anything. A set or collection whose attribute the printer lacks is one problem, and isn't looked
+/// into; only then are its members checked.
 bool SettingsValidator::validateNode(const WalkNode& place) {
     const AttrValue& value = place.node.getAttrValue();
     AttrNodeList* const list = embeddedList(place.node);
     const bool isOpenCollection = value.isCollection() && !isMediaSize(place);
     const bool isValid = validateAgainstPrivateCapabilities(place);
     if (isOpenCollection && place.attribute.isUserDefined) {
-        return isValid; // the user's own
+        return isValid; // a value of the user's own
     }
     if (list != nullptr && !place.level.isSet() && !isAttributeSupported(place)) {
         return addProblem<UnsupportedAttribute>(place);
@@ -112,7 +120,7 @@ bool SettingsValidator::validateLeaf(const WalkNode& place) {
     if (!isAttributeSupported(place)) {
         return addProblem<UnsupportedAttribute>(place);
     }
-    // A feature with values to choose from, of which this printer has none.
+    // A feature with a choice of values is refused if this printer has none of the choices.
     return place.attribute.isUserDefined || !place.attribute.hasValueSet ||
            addProblem<UnsupportedValue>(place);
 }
@@ -141,7 +149,7 @@ bool SettingsValidator::validateAgainstPrivateCapabilities(const WalkNode& place
     if (place.attribute.extensions.empty() || place.level.isSet()) {
         return true;
     }
-    // Of a feature that lives in a set the first member is read.
+    // A feature that stands in a set has its value in the set's first member.
     AttrNodeList* const members = embeddedList(place.node);
     if (_FI(place.attribute.feature).isInSetOf() && members != nullptr &&
         members->isNodeAt(attrNames::value(), 0)) {

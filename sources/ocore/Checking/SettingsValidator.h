@@ -27,9 +27,9 @@ private:
     bool validateLeaf(const WalkNode& place);
     bool validateAgainstPrivateCapabilities(const WalkNode& place);
     bool validateAgainstPrivateCapabilities(const WalkNode& place, const WalkNode& value);
-    /// The list that a node holds.
+    /// Goes down to the list that a node holds, and takes along what is known of the node.
     WalkLevel enter(const WalkNode& place, AttrNodeList& list) const;
-    /// False, for the caller to return.
+    /// Adds a problem about a place. Gives false, which the caller returns.
     template <typename Problem>
     bool addProblem(const WalkNode& place);
 

@@ -13,12 +13,13 @@ namespace zent {
 /// SettingsContext.
 struct WalkLevel {
     AttrNodeList& list;
-    const WalkLevel* enclosing = nullptr; // null at the top, as are all that tell of the holder
-    AttrNode* holder = nullptr;           // the node that holds the list
+    // Null at the top, as is all that says something about the holder.
+    const WalkLevel* enclosing = nullptr;
+    AttrNode* holder = nullptr; // the node that holds the list
     std::uint32_t holderPosition = 0;
     const AttributeCapabilities* holderCapabilities = nullptr; // by the holder's own name
-    // What a set is known as, and so its members, which are called just "value"; null for all other
-    // lists.
+    // The name by which a set is known, and its members with it, since these are just called
+    // "value"; null for all other lists.
     const CXString* setName = nullptr;
     const AttributeCapabilities* setAttribute = nullptr;
     FeatureEnum parentFeature = TJTF_ANY;  // the collection feature that the list belongs to
@@ -40,7 +41,7 @@ struct WalkNode {
 };
 
 SettingsContext makeContext(const WalkNode& place);
-/// For a feature that a list should hold.
+/// Makes the context of a feature that a list should hold and lacks.
 SettingsContext makeMissingContext(const WalkLevel& level, const _FI& feature);
 
 } // namespace zent

@@ -1,3 +1,7 @@
+// The comparison goes by pairs of kinds, that of the value and that of the supported one. Pairs
+// that no rule speaks of fit: a document may describe a capability in a way that this library
+// doesn't know, and a job mustn't be stopped for that.
+
 #include "ocore/Checking/ValueComparison.h"
 
 #include <algorithm>
@@ -143,7 +147,7 @@ bool compareMediaSizes(const AttrNodeList& size, const AttrNodeList& supported,
     if (wanted.x == nullptr && wanted.y == nullptr) {
         return true;
     }
-    bool fits = true; // with no size to compare with
+    bool fits = true; // it fits if there is no size to compare with
     bool rangeSeen = false;
     const auto isInside = [&](const AttrNode* dimension, const AttrNode* allowed) {
         return validateMediaSizeDimensionInRange(dimension, allowed, rangeSeen, false);

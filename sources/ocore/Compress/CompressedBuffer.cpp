@@ -18,7 +18,8 @@ constexpr char signature[] = "COM4";
 constexpr char oldSignature[] = "COMP";
 
 constexpr std::size_t maximumOriginalSize = 64u << 20;
-// The longest expansion of deflate is about 1,032 times; a footer that claims more lies.
+// Deflate makes at most about 1,032 bytes of one; a footer that claims more is damaged, or forged
+// to exhaust memory.
 constexpr std::uint64_t maximumExpansion = 1040;
 constexpr std::uint64_t expansionAllowance = 64;
 
@@ -66,7 +67,7 @@ void appendBigEndian(ByteBuffer& buffer, std::uint32_t number) {
     buffer.append(bytes.data(), bytes.size());
 }
 
-/// An expanding zlib stream.
+/// A zlib stream that is expanded piece by piece.
 class Inflater {
 public:
     explicit Inflater(const ByteBuffer& input) {

@@ -16,9 +16,9 @@ class CompressedBuffer {
 public:
     static constexpr std::int32_t defaultLevel = -1;
 
-    /// Empty.
+    /// Makes an empty buffer, of which later content is compressed at a level.
     explicit CompressedBuffer(std::int32_t level);
-    /// Takes an image with its footer.
+    /// Takes a compressed image with its footer.
     explicit CompressedBuffer(const ByteBuffer& image);
 
     /// Compresses bytes, at most 64 MiB, which replace the content.

@@ -133,6 +133,8 @@ PersistentSettings::Parts PersistentSettings::split(const ByteBuffer& content) {
     return {StateData(content.data()), behind(content, StateData::size)};
 }
 
+/// Brings a blob of one of the two older forms to the present one, so that all other code knows
+/// that one alone.
 ByteBuffer PersistentSettings::upgrade(const ByteBuffer& state) {
     if (hasHeader(state, documentHeaderSize, documentVersion)) {
         return upgradeFromDocument(state);
@@ -140,7 +142,7 @@ ByteBuffer PersistentSettings::upgrade(const ByteBuffer& state) {
     if (hasHeader(state, headerSize, fullPayloadVersion)) {
         return upgradeFromFullPayload(state);
     }
-    return state; // for the version check to judge
+    return state; // the check of the version decides about others
 }
 
 ByteBuffer PersistentSettings::upgradeFromDocument(const ByteBuffer& state) {

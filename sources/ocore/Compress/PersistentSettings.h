@@ -23,7 +23,7 @@ class PersistentSettings : public AnlDealer {
 public:
     /// The default blob: no settings, the present user, and the preferences of the common set.
     PersistentSettings();
-    /// From a blob; of a trusted one only the header is checked.
+    /// Takes a blob over. Of a trusted one only the header is checked.
     PersistentSettings(const ByteBuffer& state, bool trusted);
 
     void anlFromBuffer(const ByteBuffer& source, AttrNodeList* target) override;
@@ -70,9 +70,10 @@ private:
     static ByteBuffer upgradeFromFullPayload(const ByteBuffer& state);
     static ByteBuffer validateCompressedData(const ByteBuffer& block);
 
-    mutable std::optional<Parts> m_parts;     // where the bytes were expanded
-    mutable bool m_isComposed = true;         // the bytes are those of the parts
-    std::optional<AttrNodeList> m_parsedList; // of an import, for who asks next
+    mutable std::optional<Parts> m_parts; // nothing until the bytes have been expanded
+    mutable bool m_isComposed = true;     // the bytes are those of the parts
+    // What an import has read, for whoever asks for it next.
+    std::optional<AttrNodeList> m_parsedList;
 };
 
 } // namespace zent

@@ -69,7 +69,7 @@ UserContext StateData::getUserContext() const {
 
 void StateData::setUserContext(const UserContext& context) {
     const std::u16string_view units = platform::cutText(context.logonName, maximumNameLength);
-    // The units behind the terminator are cleared, so that nothing of a longer name stays behind.
+    // The units after the terminator are cleared, so that nothing of a longer name remains.
     for (std::size_t i = 0; i < nameUnits; ++i) {
         write(nameOffset + 2 * i, 2, i < units.size() ? units[i] : 0);
     }

@@ -20,14 +20,14 @@ public:
     static constexpr std::uint32_t size = 522;
     static constexpr std::size_t maximumNameLength = 255;
 
-    /// New: the size, the tag 1, no name, no flag.
+    /// Makes new data: the size, the tag 1, no name and no flag.
     StateData();
-    /// From at least 522 bytes.
+    /// Reads the data from at least 522 bytes.
     explicit StateData(const std::byte* bytes);
 
     const ByteBuffer& getBytes() const { return m_bytes; }
 
-    /// 522, in a structure of the most recent version.
+    /// The size that the structure claims for itself: 522 in the most recent version.
     std::uint32_t getStructureSize() const;
     std::uint16_t getStateTag() const;
     void setStateTag(std::uint16_t tag);

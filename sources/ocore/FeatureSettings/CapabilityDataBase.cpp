@@ -12,7 +12,8 @@ namespace zent {
 
 namespace {
 
-// The role of a parent that names a capability, told apart from one that names a feature.
+// The role of a parent that names a capability. It differs from that of a parent that names a
+// feature.
 constexpr std::uint32_t namingRole = 2;
 
 /// The rows by feature and type, which is how they are authored.

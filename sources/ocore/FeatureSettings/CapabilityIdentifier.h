@@ -11,7 +11,7 @@ namespace zent {
 /// written with it in a Settings by the same calls as features are with _FI.
 class _CI final : public _SI {
 public:
-    /// Not checked: a pair that isn't in the table fails at the first query.
+    /// Takes a pair without checking it: the first query about one that isn't in the table raises.
     _CI(FeatureEnum feature, std::uint32_t type)
         : _SI(feature, Kind::capability), m_capabilityType(type) {}
 

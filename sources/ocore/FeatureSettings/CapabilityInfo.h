@@ -23,7 +23,7 @@ enum CapabilityType : std::uint32_t {
     CAPTYPE_INT_UPPER_LIMIT = 5,        // an integer ceiling, for lengths of text
     CAPTYPE_PRECISION = 6,              // an integer step
     CAPTYPE_USER_DEFINABLE = 7,         // a set of keywords of attributes that take a free value
-    CAPTYPE_EMBEDDED_SPACES = 8,        // a boolean: a text may hold blanks
+    CAPTYPE_EMBEDDED_SPACES = 8,        // a boolean: a text may hold spaces
     CAPTYPE_CHAR_RESTRICTION = 9,       // an enum that chooses a character set restriction
     CAPTYPE_SEPARATE_COVERS = 10,       // a boolean
     CAPTYPE_INSERT_MULTIPLE_MEDIA = 11, // a boolean

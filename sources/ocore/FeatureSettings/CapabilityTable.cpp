@@ -21,7 +21,7 @@ using capabilityClass::standard;
 
 using namespace feature;
 
-// Feature, type, leaf, parents, who defined it, syntaxes.
+// The columns are feature, type, leaf, parents, who defined the capability, and syntaxes.
 // clang-format off
 constexpr CapabilityRow rows[] = {
     {any,                          CAPTYPE_SUPPORTED_FEATURES,    u"value",                                                u"job-creation-attributes-supported:s!",         standard,  {keyword}},

@@ -8,10 +8,10 @@ namespace zent {
 /// Feature identifier: the handle of one feature, a number that is passed and copied freely.
 class _FI final : public _SI {
 public:
-    /// Not checked: a number that is no feature fails at the first query.
+    /// Takes a number without checking it: the first query about one that is no feature raises.
     _FI(FeatureEnum feature) : _SI(feature, Kind::feature) {}
-    /// By unique id; raises UnknownFeatureRequestException, or InvalidAttributeIdException for
-    /// empty text.
+    /// Finds a feature by its unique id; raises UnknownFeatureRequestException, or
+    /// InvalidAttributeIdException for empty text.
     explicit _FI(const CXString& uniqueID);
     explicit _FI(const AttrID& uniqueID) : _FI(uniqueID.getText()) {}
 

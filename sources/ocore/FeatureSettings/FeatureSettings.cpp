@@ -1,3 +1,7 @@
+// Tickets come in shapes that printers don't take: page overrides without their ranges in front,
+// and one image shift for both sides. The changes of shape here are made once, at the import, so
+// that all later code sees one shape.
+
 #include "ocore/FeatureSettings/FeatureSettings.h"
 
 #include <utility>
@@ -61,7 +65,8 @@ void FeatureSettings::visitNestedSettings(const _SI& setting,
                                           const std::function<void(FeatureSettings&)>& visit) {
     AttrNodeList* const members = findContainer(setting);
     std::uint32_t instance = 0;
-    // By position, since looking each one up by instance would walk the members again and again.
+    // The members are taken by position, since a look-up by instance would walk all that come
+    // before it each time.
     for (std::uint32_t i = 0; members != nullptr && i < members->getNumberOfNodes(); ++i) {
         AttrNode& member = members->getNodeAt(i);
         if (member.getAttrID() != setting.getAttrID()) {

@@ -33,8 +33,8 @@ constexpr FeatureUnit holes{"holes", 0};
 
 using namespace feature;
 
-// Feature, leaf, parents, abbreviation, syntaxes, support class, display string, related features,
-// unit.
+// The columns are feature, leaf, parents, abbreviation, syntaxes, support class, display string,
+// related features and unit.
 // clang-format off
 constexpr FeatureRow rows[] = {
     {copies,                       u"copies",                          u"",                                                         u"A",  {integer},       3, IDS_FEATURE_COPIES,                          {},                                                       fromOne},

@@ -17,7 +17,7 @@ public:
     /// No value, or the printer's default.
     static constexpr std::int32_t unspecified = 1;
 
-    /// Not checked.
+    /// Takes a number without checking it: the first query about one that is unknown raises.
     explicit FeatureValue(std::int32_t value = unspecified);
     /// Raises UnknownFeatureRequestException if the feature has no such value.
     FeatureValue(FeatureEnum feature, const CXString& text);
@@ -31,13 +31,14 @@ public:
     const CXString& getSyntax() const& { return getInfo().m_syntax; }
     CXString getSyntax() && { return getInfo().m_syntax; }
     AVTE getType() const { return getInfo().m_type; }
-    /// For users: from the resource library, or the text itself of a run-time value.
+    /// The text for users: from the resource library, or the value's own text if it came at run
+    /// time.
     CXString getDisplayString() const;
 
     std::uint32_t getFeatureCount() const;
     FeatureEnum getFeature(std::uint32_t index) const { return getInfo().m_features[index]; }
     bool belongsTo(FeatureEnum feature) const;
-    /// To every feature.
+    /// Whether the value belongs to every feature.
     bool belongsToAny() const { return belongsTo(TJTF_ANY); }
     bool isShared() const;
     bool isRunTimeValue() const;
@@ -74,7 +75,7 @@ private:
     const FeatureValueInfo& getInfo() const;
 
     std::int32_t m_value;
-    FeatureValueReference m_info; // none of a number that the table doesn't know
+    FeatureValueReference m_info; // none for a number that the table doesn't know
 };
 
 } // namespace zent

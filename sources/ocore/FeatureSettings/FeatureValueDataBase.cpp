@@ -1,3 +1,6 @@
+// The fixed rows never change after they are built, so that they are found without a lock. Only
+// what isn't among them is looked up in the values of run time, under their lock.
+
 #include "ocore/FeatureSettings/FeatureValueDataBase.h"
 
 #include <map>

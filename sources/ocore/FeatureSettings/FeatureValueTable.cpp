@@ -26,7 +26,7 @@ constexpr Sharing cmykSources{undefinedSourceCmykImages, undefinedSourceCmykGrap
 constexpr Sharing profiles{colorDestinationProfileFront, colorDestinationProfileBack};
 constexpr Sharing intents{renderingIntentImages, renderingIntentText, renderingIntentGraphics};
 
-// Value, features, text, abbreviation, display string, picture, syntax.
+// The columns are value, features, text, abbreviation, display string, picture and syntax.
 // clang-format off
 constexpr FeatureValueRow lowerRows[] = {
     {value::printerDefault,               {any},                       u"",                                   u"",   IDS_VALUE_PRINTER_DEFAULT,                  0,                         keyword},

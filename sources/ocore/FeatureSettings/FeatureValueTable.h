@@ -20,7 +20,7 @@ struct FeatureValueRow {
     const char16_t* syntax;
 };
 
-/// The values in front of the media names and behind them, in the order of their numbers.
+/// The values before the media names, and those after them, in the order of their numbers.
 std::span<const FeatureValueRow> getLowerValueRows();
 std::span<const FeatureValueRow> getUpperValueRows();
 

@@ -356,13 +356,14 @@ std::u16string inBase26(std::int32_t number) {
 std::span<const MediaName> getMediaNames() { return mediaNames; }
 
 std::u16string getMediaNameAbbreviation(std::int32_t value) {
-    if (value == value::mediaNameTop) { // an output bin's name as well: no abbreviation
+    // It is the name of an output bin as well, and has no abbreviation.
+    if (value == value::mediaNameTop) {
         return {};
     }
     if (value >= value::mediaNameAnsiA && value <= value::mediaNameAnsiE) {
         return {u't', static_cast<char16_t>(u'f' + (value - value::mediaNameAnsiA))};
     }
-    // "fj" is the first that the values in front leave free.
+    // "fj" is the first abbreviation that the values before the media names leave free.
     return inBase26(139 + value - value::firstMediaName);
 }
 

@@ -1,3 +1,7 @@
+// A value that a ticket brings along must have a number as long as any handle of it lives, and a
+// host may read tickets for years. So values are counted by their handles; those that nothing holds
+// are kept only up to a bound.
+
 #include "ocore/FeatureSettings/RunTimeValues.h"
 
 #include <atomic>

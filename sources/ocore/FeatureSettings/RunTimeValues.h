@@ -13,7 +13,7 @@ namespace zent {
 class FeatureValueReference {
 public:
     FeatureValueReference() = default;
-    /// To a fixed row.
+    /// Refers to a fixed row.
     explicit FeatureValueReference(const FeatureValueInfo& fixed) : m_info(&fixed) {}
     FeatureValueReference(const FeatureValueReference& other) noexcept : m_info(other.m_info) {
         if (isCounted()) {

@@ -1,3 +1,6 @@
+// All access to a setting goes the same way: its NestedAttrID finds the list that holds it, and its
+// syntaxes say what is stored there. No value is kept outside the list.
+
 #include "ocore/FeatureSettings/Settings.h"
 
 #include <utility>
@@ -132,7 +135,8 @@ std::vector<std::int32_t> Settings::getLongs(const _SI& setting) const {
         if (node.getAttrValue().isPrimitiveInteger()) {
             number = static_cast<const PrimitiveInteger&>(node.getAttrValue()).getValue();
         } else {
-            getLong(setting, &number, static_cast<std::uint32_t>(numbers.size())); // raises
+            // Raises, since the node is no number.
+            getLong(setting, &number, static_cast<std::uint32_t>(numbers.size()));
         }
         numbers.push_back(number);
     }
@@ -228,7 +232,7 @@ std::unique_ptr<AttrNode> Settings::getNode(const _SI& setting, std::uint32_t /*
 }
 
 void Settings::setNode(const _SI& setting, const AttrNode& node, std::uint32_t /*instance*/) {
-    auto value = node.getAttrValue().clone(); // the node may lie in this very list
+    auto value = node.getAttrValue().clone(); // copied first, since the node may lie in this list
     findOrCreateContainer(setting).setNode(setting.getAttrID(), std::move(value), 0);
 }
 

@@ -23,13 +23,13 @@ namespace zent {
 /// isn't assigned. Copying an owner copies the list; copying a view gives a view on the same list.
 class Settings {
 public:
-    /// Owning, empty.
+    /// Owns an empty list.
     Settings();
-    /// Owning, a deep copy.
+    /// Owns a deep copy of a list.
     explicit Settings(const AttrNodeList& list);
-    /// Owning, without a copy.
+    /// Owns a list that is moved in.
     explicit Settings(AttrNodeList&& list);
-    /// A view.
+    /// Views a list.
     explicit Settings(AttrNodeList* list) : m_list(list) {}
     Settings(const Settings& other);
     Settings& operator=(const Settings& other);
@@ -37,7 +37,7 @@ public:
     Settings& operator=(Settings&& other) noexcept;
     virtual ~Settings() = default;
 
-    /// A copy by the rule for copies.
+    /// Copies the settings: an owner with its list, a view as another view on the same list.
     virtual std::unique_ptr<Settings> clone() const;
     virtual void dump() const;
 
@@ -63,14 +63,14 @@ public:
                   std::uint32_t instance = 0) const;
     /// A missing or incomplete resolution leaves the target unspecified.
     bool getResolution(const _SI& setting, Resolution* target, std::uint32_t instance = 0) const;
-    /// Unspecified if there is none. May add a run-time value, and raises
-    /// UnknownFeatureRequestException for a value that isn't known and can't be added.
+    /// Gives the unspecified value if there is none. A value that isn't known is added to those of
+    /// run time; where that isn't possible, UnknownFeatureRequestException is raised.
     FeatureValue getFeatureValue(const _SI& setting, std::uint32_t instance = 0) const;
 
     /// Setting an instance that doesn't exist appends. The unspecified value removes the instance
     /// and each parent that this leaves empty.
     void setFeatureValue(const _SI& setting, FeatureValue value, std::uint32_t instance = 0);
-    /// As text or number in the setting's first syntax, whatever that is.
+    /// These store a text or number in the setting's first syntax, whichever that is.
     void setString(const _SI& setting, const CXString& text, std::uint32_t instance = 0);
     void setLong(const _SI& setting, std::int32_t value, std::uint32_t instance = 0);
     void setBool(const _SI& setting, bool value, std::uint32_t instance = 0);

@@ -1,3 +1,6 @@
+// The standard sizes stand in the order in which dialogs offer them, which is also that of their
+// codes.
+
 #include "ocore/FeatureSettings/StockSize.h"
 
 #include <algorithm>

@@ -27,12 +27,12 @@ public:
     static constexpr std::uint32_t codeUnspecified = 1;
     static constexpr std::uint32_t codeOther = 15;
 
-    /// Unspecified.
+    /// Makes the unspecified size.
     StockSize() : StockSize(codeUnspecified) {}
-    /// By code; a code that isn't known gives the unspecified size.
+    /// Finds a size by its code; a code that isn't known gives the unspecified size.
     explicit StockSize(std::uint32_t code);
-    /// The standard size of these dimensions, either way round, in the table's own orientation;
-    /// else "SIZE_OTHER" with the dimensions given.
+    /// Finds the standard size of these dimensions, either way round, in the table's own
+    /// orientation; other dimensions give "SIZE_OTHER", which keeps them.
     StockSize(std::int32_t width, std::int32_t height);
 
     std::uint32_t getSize() const { return m_size; }

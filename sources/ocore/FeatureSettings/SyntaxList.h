@@ -17,7 +17,7 @@ public:
     /// The second is stored only if it has a keyword and a kind other than AVTE_NULL, the third
     /// only if the second was, under the same condition.
     SyntaxList(const Entry& first, const Entry& second, const Entry& third);
-    /// By their keywords, as the tables have them; null where there is none.
+    /// Takes the keywords of a table's row, which are null where there is none.
     explicit SyntaxList(const std::array<const char16_t*, 3>& keywords);
 
     std::uint32_t getSyntaxCount() const { return static_cast<std::uint32_t>(m_entries.size()); }
