@@ -68,8 +68,8 @@ ZENT_EXCEPTION_CLASS(PreferenceDataTypeMismatchException,         TarvoException
 
 #undef ZENT_EXCEPTION_CLASS
 
-// Told apart when a failure is shown to the user. Nothing here raises them; what does derives from
-// them, and says its id and result code.
+// These classes get texts of their own when a failure is shown to the user. The library raises none
+// of them itself: a class that does derives from one, and gives its id and result code.
 class DevModeOverflowException : public TarvoException {
 public:
     using TarvoException::TarvoException;

@@ -1,3 +1,6 @@
+// The record of holds serves diagnosis: where threads wait for each other it shows which resources
+// each of them holds. It is on always, and therefore allocates nothing.
+
 #include "ocore/Faults/OwnedCriticalResource.h"
 
 #include "ocore/Faults/Trace.h"
@@ -29,7 +32,7 @@ struct OwnedCriticalResource::Record {
         trace::output(formatText("0x%lx:", hold.m_threadId) + hold.m_resource.getName());
     }
 
-    /// All holds, then those of the one's thread.
+    /// Traces all holds, and then those of the thread of the one that was added.
     void traceWith(const OwnedCriticalResource& added) const {
         for (const auto* hold = oldest; hold != nullptr; hold = hold->m_newer) {
             trace(*hold);

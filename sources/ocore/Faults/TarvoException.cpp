@@ -1,3 +1,6 @@
+// A raise site can't pass its place to the constructor of every exception class, so that it leaves
+// the place in a record, from which the constructor of the base class takes it.
+
 #include "ocore/Faults/TarvoException.h"
 
 #include <memory>

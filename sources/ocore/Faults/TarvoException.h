@@ -27,7 +27,7 @@ struct ReportTexts {
     std::uint32_t failure; // what failed
     std::uint32_t advice;  // what to do about it
 
-    /// Of a failure that nothing else is known of.
+    /// The texts for a failure that nothing else is known of.
     static ReportTexts ofAny();
 };
 
@@ -44,12 +44,12 @@ public:
 
     /// What the exported call returns for this failure.
     virtual ResultCode getResultCode() const = 0;
-    /// Class number, colon, detail number, such as "026:000".
+    /// The number of the class, a colon and the number of the detail, such as "026:000".
     virtual CXString getErrorId() const = 0;
     virtual ReportTexts getReportTexts() const { return ReportTexts::ofAny(); }
-    /// What only this failure can tell its user; mostly nothing.
+    /// What this failure alone can explain to the user; empty for most.
     virtual CXString getExplanation() const { return {}; }
-    /// What kind of failure it is among those of its class, for the trace; mostly nothing.
+    /// The kind of failure among those of its class, for the trace; empty for most.
     virtual CXString getErrorType() const { return {}; }
 
     const CXString& getLocationFile() const { return m_locationFile; }

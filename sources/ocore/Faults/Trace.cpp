@@ -18,7 +18,8 @@ namespace {
 
 std::atomic<Output> currentOutput = nullptr;
 
-/// For texts that cost something to make. Tracing takes part in no failure.
+/// Makes a text only if there is an output for it. One that can't be made is replaced: to trace a
+/// failure must not cause another.
 template <typename Make>
 void outputIfEnabled(const Make& make) noexcept {
     if (!isOutputEnabled()) {

@@ -19,7 +19,8 @@ void setOutput(Output output) noexcept;
 bool isOutputEnabled() noexcept;
 
 void output(std::u16string_view text) noexcept;
-/// With the level that a raise site gave, or the mask that an exception was built with.
+/// Hands a text to the output, with the level that a raise site gave, or the mask that an exception
+/// was built with.
 void output(std::uint32_t level, std::u16string_view text) noexcept;
 /// The place in the source that the next text is about.
 void location(std::u16string_view file, std::int32_t line) noexcept;

@@ -4,7 +4,7 @@ namespace zent {
 
 namespace {
 
-// Driver name, language, model.
+// The columns are driver name, language and model.
 // clang-format off
 constexpr DriverInfo drivers[] = {
     {u"Tarvo Lumaset 510 PCL5e",            2,  1},

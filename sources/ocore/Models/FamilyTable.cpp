@@ -1,3 +1,6 @@
+// The families of printers. A column is what differs between families and isn't in their capability
+// documents.
+
 #include <array>
 
 #include "ocore/Models/PrinterTables.h"
@@ -27,7 +30,7 @@ constexpr AjtPrinterTraits strict(Limits limits) {
             .mediaSizeLimits = limits};
 }
 
-/// Of controllers that know short texts only.
+/// The limits of those controllers that take short texts only.
 constexpr FamilyTexts narrowTexts{.jobNameLimit = 40,
                                   .accountRangeUpper = 12,
                                   .accountRule = 2,

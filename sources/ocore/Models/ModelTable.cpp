@@ -6,7 +6,7 @@ namespace zent {
 
 namespace {
 
-// Model, display name, family.
+// The columns are model, display name and family.
 // clang-format off
 constexpr ModelInfo models[] = {
     { 1, IDS_MODEL_LUMASET_510,    7},

@@ -1,3 +1,8 @@
+// One capability document serves all models of a family and all their languages. What it doesn't
+// say comes from the tables and is written over the document's capabilities here: limits of texts,
+// pages, shifts and media, and what a language lacks. The features that it lacks are only named:
+// Capabilities knows all the places of a feature in its list.
+
 #include "ocore/Models/PrinterModel.h"
 
 #include <algorithm>

@@ -20,14 +20,14 @@ public:
     PrinterModel(const PrinterModel&) = default;
     PrinterModel& operator=(const PrinterModel&) = default;
 
-    /// Rows of the tables.
+    /// The positions of rows in the tables.
     static std::uint32_t getDriverInfoIndex(std::uint32_t model, std::uint32_t pdl);
     static std::uint32_t getModelInfoIndex(std::uint32_t model);
     static std::uint32_t getFamilyInfoIndex(std::uint32_t family);
 
     std::uint32_t getModel() const { return m_model; }
     CXString getDriverName() const;
-    /// For users, from the resource library.
+    /// The name for users, from the resource library.
     CXString getDisplayName() const;
     const AjtPrinterTraits& getTraits() const { return family().traits; }
 

@@ -53,19 +53,20 @@ struct FamilyInfo {
     bool capability1a = true; // covers of their own kind, front and back
     bool capability1b = true; // inserts of several media
     bool capability1c = true; // TIFF when printing and saving
-    // Whether features offer the printer's default, unless told otherwise.
+    // Whether features offer the printer's default as a choice, apart from those for which the
+    // feature table or a rule of this library says otherwise.
     bool featureDefault = true;
     bool mediaTextCapability = true; // spaces in media types and colours
     std::uint32_t maxPageNumber = 9999999;
     FamilyTexts texts = {};
     std::uint32_t imageShiftRule = 1; // the step of image shifts
     AjtPrinterTraits traits = {};
-    // What a new ticket says.
-    bool rotationDefault = true; // pages aren't turned
+    // What a new ticket says of its own accord.
+    bool rotationDefault = true; // that pages aren't turned
     bool mediaColorDefault = true;
-    bool impositionDefault = false; // none
+    bool impositionDefault = false; // that there is no imposition
     bool side2ShiftDefault = true;
-    bool opiDefault = false; // images are inserted, without pre-scan
+    bool opiDefault = false; // that images are inserted, without pre-scan
 };
 
 /// The tables, in the order of their numbers; the drivers of a model in the order of languages 2, 1

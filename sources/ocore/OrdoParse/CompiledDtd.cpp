@@ -16,7 +16,7 @@ namespace zent {
 
 namespace {
 
-/// The one definition that is kept, and what its file looked like when it was read.
+/// The one definition that is kept, with the stamp that its file had when it was read.
 struct Slot {
     platform::Lock lock;
     CXString path;
@@ -36,7 +36,7 @@ Slot& slot() {
 }
 
 /// The library fills in parts of a declaration when a document first needs them, without a lock.
-/// After this nothing is left to fill in.
+/// This makes it fill in all, so that threads can share the declarations.
 void completeDeclarations(const xercesc::DTDGrammar& grammar) {
     auto declarations = grammar.getElemEnumerator();
     while (declarations.hasMoreElements()) {
@@ -72,7 +72,7 @@ std::shared_ptr<const CompiledDtd> CompiledDtd::find(const CXString& path) {
         return nullptr;
     }
     auto compiled = compile(path);
-    if (platform::getFileStamp(path) != stamp) { // it changed in the meantime
+    if (platform::getFileStamp(path) != stamp) { // the file changed while it was read
         return nullptr;
     }
     kept.path = path;

@@ -23,7 +23,7 @@ public:
     /// is the same, it is given out again. Null if there is no such file, or if it gives the parser
     /// anything to report or needs other files: then the parser tells what is wrong, each time.
     static std::shared_ptr<const CompiledDtd> find(const CXString& path);
-    /// Drops what is kept.
+    /// Drops the definition that is kept.
     static void forget();
 
     ~CompiledDtd();
@@ -32,7 +32,8 @@ public:
 
     const CXString& getPath() const { return m_path; }
     const ByteBuffer& getBytes() const { return *m_bytes; }
-    /// Locked, and holding all that a parser would otherwise add to it while it reads a document.
+    /// The compiled grammars. The pool is locked, and holds all that a parser would otherwise add
+    /// to it while it reads a document.
     xercesc::XMLGrammarPool& getGrammars() const { return *m_grammars; }
 
     bool declaresElement(const CXString& name) const;

@@ -25,7 +25,7 @@ void DOMTreeErrorReporter::resetErrors() {
     m_messages.clear();
 }
 
-/// Put together by hand: a hostile document has a thousand faults.
+/// The text is put together without a format, since a hostile document has a thousand faults.
 void DOMTreeErrorReporter::add(std::u16string_view kind, const xercesc::SAXParseException& report) {
     std::u16string text(kind);
     const auto addNumber = [&](XMLFileLoc number) {

@@ -15,10 +15,10 @@ public:
     void warning(const xercesc::SAXParseException& report) override;
     void error(const xercesc::SAXParseException& report) override;
     void fatalError(const xercesc::SAXParseException& report) override;
-    /// Forgets all.
+    /// Forgets all reports.
     void resetErrors() override;
 
-    /// One that the parser doesn't know of.
+    /// Adds a fault that the parser doesn't report itself.
     void addFatalError(const CXString& message) {
         m_messages += message;
         m_fatalSeen = true;

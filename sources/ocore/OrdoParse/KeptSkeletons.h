@@ -18,7 +18,7 @@ public:
     KeptSkeletons(const KeptSkeletons&) = delete;
     KeptSkeletons& operator=(const KeptSkeletons&) = delete;
 
-    /// What a literal of the program gave when it was parsed; null before.
+    /// The document that a literal of the program gave when it was parsed; null before that.
     std::shared_ptr<const XmlDocument> find(std::string_view skeleton) const;
     /// Keeps a copy of the document.
     void keep(std::string_view skeleton, const XmlDocument& document);

@@ -20,7 +20,8 @@ private:
     bool grow();
     bool addToChain(XMLSize_t hash);
 
-    // As in the library: three names to four chains at most.
+    // The number of chains. It grows as in the parser library, which has at most three names for
+    // four chains.
     XMLSize_t m_modulus = 29;
     std::vector<XMLSize_t> m_hashes;
     std::vector<std::uint16_t> m_lengths;

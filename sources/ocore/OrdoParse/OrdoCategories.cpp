@@ -1,3 +1,6 @@
+// The document format lists for each category the attributes that may stand in it. An attribute
+// that no list has can't be written.
+
 #include "ocore/OrdoParse/OrdoCategories.h"
 
 #include <algorithm>
@@ -14,7 +17,8 @@ struct Row {
     OrdoCategory category;
 };
 
-// In the order of the document format's own lists. "color-effects-type" stands in its list twice.
+// The rows are in the order of the document format's own lists. "color-effects-type" stands in its
+// list twice.
 // clang-format off
 constexpr Row rows[] = {
     {u"job-name",                                 operation},

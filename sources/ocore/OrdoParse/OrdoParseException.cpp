@@ -13,8 +13,9 @@ struct CodeInfo {
     ResultCode resultCode;
 };
 
-// By code. Names and results stand as applications know them, spelling and all: the failures of
-// document conversion count as failures to read, and two names lack a letter.
+// The rows are in the order of their codes. Names and results are as applications know them,
+// misspelt names included: the failures of document conversion count as failures to read, and two
+// names lack a letter.
 // clang-format off
 constexpr std::array<CodeInfo, 24> codes = {{
     {u"ILLEGAL_ORDOPARSE_EXCEPTION_CODE",          ZENT_ERR_INTERNAL_INDEX},

@@ -17,8 +17,8 @@ std::unique_ptr<ByteBuffer> readDtdFile(const CXString& path);
 
 /// Answers the parser's requests for external entities: by the library's own document type
 /// definition, and nothing else. A system identifier means it if it ends in the file name, whatever
-/// stands in front: a ticket may come from another folder, machine or system, where the address was
-/// right. What isn't answered is a fatal error of the document.
+/// comes before that: a ticket may come from another folder, machine or system, where the address
+/// was right. What isn't answered is a fatal error of the document.
 class OwnDtd final : public xercesc::XMLEntityResolver {
 public:
     /// With an empty path nothing resolves. What was compiled before is given out without asking

@@ -12,13 +12,13 @@
 
 namespace zent {
 
-/// Stands before what is handed out.
+/// The head of a block, before the bytes that are handed out.
 struct ParserMemory::Head {
     alignas(alignment) std::size_t sizeClass; // 0 for a large block
-    Head* next;                               // of those to be used again
+    Head* next;                               // the next of the free blocks
 };
 
-/// Stands before the head of a large block, and links all that are out.
+/// Comes before the head of a large block, and links all that are in use.
 struct ParserMemory::Large {
     alignas(alignment) Large* older;
     Large* newer;
@@ -37,7 +37,7 @@ struct ParserMemory::Kept {
     std::array<Large*, mostSpares> spares{};
 };
 
-// What waits for the next document. Whoever uses it has taken it away.
+// The memory that waits for the next document. Who uses it takes it out of here, so that no two do.
 std::atomic<ParserMemory::Kept*> ParserMemory::waiting{nullptr};
 
 std::unique_ptr<ParserMemory::Kept> ParserMemory::takeKept() {

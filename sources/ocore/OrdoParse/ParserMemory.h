@@ -32,18 +32,19 @@ public:
 
     static constexpr std::size_t unbounded = std::numeric_limits<std::size_t>::max();
 
-    /// `bytes` is what may be out at a time, `blocks` how many may be asked for between two events.
+    /// `bytes` is how much may be in use at a time, `blocks` how many blocks may be asked for
+    /// between two events.
     explicit ParserMemory(std::size_t bytes = unbounded, std::size_t blocks = unbounded);
     ~ParserMemory() override;
     ParserMemory(const ParserMemory&) = delete;
     ParserMemory& operator=(const ParserMemory&) = delete;
 
-    /// Counts blocks from here on.
+    /// An event of the parser: the count of blocks begins again.
     void noteEvent() { m_blocks = 0; }
 
     void* allocate(XMLSize_t size) override;
     void deallocate(void* memory) override;
-    /// For exceptions, which may outlive this object.
+    /// The memory for exceptions, which may outlive this object.
     xercesc::MemoryManager* getExceptionMemoryManager() override;
 
 private:
@@ -51,8 +52,8 @@ private:
     struct Large;
     struct Kept;
 
-    /// What heaps give. Not std::max_align_t: with MinGW for x86 that is another one by the order
-    /// of the headers, and so would be this class.
+    /// The alignment that heaps give. It isn't that of std::max_align_t, which with MinGW for x86
+    /// depends on the order of the headers, so that this class would differ from source to source.
     static constexpr std::size_t alignment = 2 * sizeof(void*);
     static constexpr std::size_t step = 64;        // the sizes of small blocks, in bytes
     static constexpr std::size_t sizeClasses = 65; // of up to 4 KiB; class 0 stays empty

@@ -4,7 +4,8 @@ namespace zent {
 
 namespace {
 
-/// The ends and the middle tell apart what differs in one place, as names in pairs do.
+/// The key is made of the length, the ends and the middle, which differ even between names that
+/// differ in one place, such as those of a pair.
 std::size_t keyOf(std::u16string_view text) {
     const std::size_t size = text.size();
     if (size == 0) {

@@ -23,7 +23,7 @@ public:
 
     /// The start is over: from now on threads may allocate at the same time, all from the heap.
     void endStart() noexcept { m_isStarting = false; }
-    /// What the start has left of the reserve.
+    /// How much of the reserve the start has left over.
     std::size_t getRest() const noexcept { return size - m_used; }
 
     void* allocate(XMLSize_t bytes) override;

@@ -1,3 +1,5 @@
+// Both directions follow the form's description (XmlForm) alone: no form has code of its own here.
+
 #include "ocore/OrdoParse/TarvoDomDoc.h"
 
 #include <array>

@@ -21,7 +21,7 @@ public:
     TarvoXmlDataStream(const TarvoXmlDataStream&) = delete;
     TarvoXmlDataStream& operator=(const TarvoXmlDataStream&) = delete;
 
-    /// Documents come as such unless it is set.
+    /// Where documents come from; unless this is set, they come as such, and not in a blob.
     void setOrigin(XmlOrigin origin) { m_origin = origin; }
     /// The bytes must outlive the reading; null or no bytes fail it.
     virtual void setInputBuffer(const void* bytes, std::size_t length);

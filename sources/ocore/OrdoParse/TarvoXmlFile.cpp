@@ -32,7 +32,7 @@ void TarvoXmlFile::read(AttrNodeList* list) {
         raiseOrdoParse(ordoParseCode::fileSizeFailed,
                        "TarvoXmlFile::read(): Failed to get file size.\r\n");
     }
-    // What the parser would refuse in any case isn't read.
+    // A file that the parser would refuse for its size isn't read at all.
     const std::unique_ptr<char[]> block(
         size <= xmlLimits::documentBytes ? new (std::nothrow) char[static_cast<std::size_t>(size)]()
                                          : nullptr);

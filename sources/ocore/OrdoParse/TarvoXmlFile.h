@@ -23,7 +23,7 @@ private:
     bool write(std::string_view bytes) override;
 
     std::optional<CXString> m_fileName;
-    std::unique_ptr<platform::OpenFile> m_file; // while it is being written
+    std::unique_ptr<platform::OpenFile> m_file; // not null while a document is written
 };
 
 } // namespace zent

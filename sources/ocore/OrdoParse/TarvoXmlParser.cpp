@@ -1,3 +1,6 @@
+// The grammar comes compiled, the memory is counted, and the tree is our own. Each of these takes
+// the place of something that the parser library would do more slowly, or without bounds.
+
 #include "ocore/OrdoParse/TarvoXmlParser.h"
 
 #include <algorithm>
@@ -144,7 +147,8 @@ bool TarvoXmlParser::runParser(std::span<const std::byte> bytes,
     parser.setDoNamespaces(false);
     parser.setCreateEntityReferenceNodes(false);
     parser.useCachedGrammarInParse(dtd != nullptr);
-    parser.setIgnoreCachedDTD(true); // by documents that declare something of their own
+    // Documents that declare something of their own would change it.
+    parser.setIgnoreCachedDTD(true);
 
     xercesc::MemBufInputSource source(
         static_cast<const XMLByte*>(static_cast<const void*>(bytes.data())), bytes.size(),
@@ -169,7 +173,7 @@ void TarvoXmlParser::convertToXmlStream(Stream& output, bool formatted) {
     m_written = 0;
     try {
         ParserMemory memory;
-        // Not on the stack, of which it would take a third of what a call may.
+        // The formatter would take a third of the stack that a call may use.
         const std::unique_ptr<xercesc::XMLFormatter> formatter(new (&memory) xercesc::XMLFormatter(
             encoding.c_str(), u"1.0", this, xercesc::XMLFormatter::NoEscapes,
             xercesc::XMLFormatter::UnRep_CharRef, &memory));

@@ -28,14 +28,16 @@ public:
     TarvoXmlParser(const CXString& streamName, bool validate)
         : m_streamName(streamName), m_validate(validate) {}
 
-    /// Documents come as such unless it is set.
+    /// Where documents come from; unless this is set, they come as such, and not in a blob.
     void setOrigin(XmlOrigin origin) { m_origin = origin; }
 
-    // Not those of the parser library, which fail in a way of their own.
+    // These take the place of the operators of the parser library, which fail in a way of their
+    // own.
     static void* operator new(std::size_t size) { return ::operator new(size); }
     static void operator delete(void* memory) { ::operator delete(memory); }
 
-    /// Code 1 if the parser library fails, code 2 if it finds an error, fatal or not.
+    /// Parses a document. Raises code 1 if the parser library fails, code 2 if it finds an error,
+    /// fatal or not.
     void parse(std::span<const std::byte> bytes);
     /// Parses a literal of the program. What it gave is taken from memory from then on, as long as
     /// the document type definition, if there is one, is as it was.
@@ -47,7 +49,7 @@ public:
     /// library fails, code 4 if the output doesn't take the bytes or the document is one that
     /// couldn't be read again.
     void convertToXmlStream(Stream& output, bool formatted);
-    /// For the library's formatter.
+    /// Takes the bytes of the library's formatter.
     void writeChars(const XMLByte* bytes, XMLSize_t count,
                     xercesc::XMLFormatter* formatter) override;
 

@@ -1,3 +1,6 @@
+// All nodes, attributes and stored texts come from one memory resource, which gives everything back
+// at once when the document goes. That is why nodes must not need a destructor.
+
 #include "ocore/OrdoParse/XmlDocument.h"
 
 #include <algorithm>

@@ -45,7 +45,7 @@ public:
     std::u16string_view getName() const { return m_name; }
     std::u16string_view getValue() const { return m_value; }
 
-    /// Null where there is none.
+    /// These are null where there is no such node.
     XmlNode* getParent() const { return m_parent; }
     XmlNode* getFirstChild() const { return m_firstChild; }
     XmlNode* getNextSibling() const { return m_nextSibling; }
@@ -104,7 +104,7 @@ public:
     /// Appends copies of all that `other` holds, texts included.
     void appendCopy(const XmlDocument& other) { copyChildren(other.m_node, m_node); }
 
-    /// A copy of a text that lives as long as the document.
+    /// Copies a text, so that it lives as long as the document.
     std::u16string_view store(std::u16string_view text);
 
 private:

@@ -26,10 +26,10 @@ struct XmlForm {
     XmlNode& (*findParent)(XmlDocument& document, XmlNode& root, const AttrNode& node) = nullptr;
     /// Whether an element without a syntax attribute is walked into, adding no level to the list.
     bool (*isContainer)(const XmlNode& element) = nullptr;
-    /// Change a list on its way out, and back once it is read.
+    /// These change a list before it is written, and back once it is read.
     void (*encode)(AttrNodeList& list) = nullptr;
     void (*decode)(AttrNodeList& list) = nullptr;
-    /// What documents in buffers come as.
+    /// Where documents in buffers come from.
     XmlOrigin origin = XmlOrigin::document;
     /// Whether documents are laid out with line breaks and tabs.
     bool isFormatted = true;

@@ -10,7 +10,7 @@
 namespace zent::xmlLimits {
 
 constexpr std::size_t documentBytes = std::size_t{64} * 1024 * 1024;
-/// Elements inside elements. All that walks a document or a list recurses.
+/// How deep elements may nest, since all that walks a document or a list recurses.
 constexpr std::uint32_t depth = 100;
 /// Elements, attributes, texts, CDATA sections, comments and processing instructions together; and
 /// those among them that stand in the text of entities, since a short document refers to it often.
@@ -37,7 +37,7 @@ constexpr std::size_t expandedUnits = std::size_t{16} * 1024 * 1024;
 constexpr std::size_t blobUnits = std::size_t{8} * 1024 * 1024;
 /// Blocks of memory that the parser asks for between one event and the next.
 constexpr std::uint32_t blocksBetweenEvents = 32 * 1024;
-/// Faults that are told before the parser gives up.
+/// Faults that are reported before the parser gives up.
 constexpr std::uint32_t reports = 1'000;
 /// Bytes of a document that a message quotes.
 constexpr std::size_t quotedBytes = std::size_t{4} * 1024;
@@ -48,7 +48,7 @@ namespace zent {
 
 /// Where a document comes from.
 enum class XmlOrigin : std::uint8_t {
-    document,  // as such: its size says what it may cost
+    document,  // it comes as it is, so that its size says what it may cost
     stateBlob, // compressed, so that a few bytes can be a large document; it declares no entities
 };
 

@@ -107,7 +107,7 @@ void XmlTreeBuilder::notationDecl(const xercesc::XMLNotationDecl& declaration, b
     XercesDOMParser::notationDecl(declaration, isIgnored);
 }
 
-/// The library's tables of these grow slower and slower.
+/// Counts a declaration, since the library takes ever longer to add one to its tables.
 void XmlTreeBuilder::noteDeclaration(std::u16string_view name) {
     if (m_inInternalSubset && ++m_declarations > xmlLimits::declarations) {
         refuse(u"The document declares more than 1000 entities and notations.");
@@ -211,7 +211,7 @@ void XmlTreeBuilder::addNode(XmlNodeKind kind, std::u16string_view name,
     m_document.append(*m_current, kind, name, store(value));
 }
 
-/// Text that comes in pieces, such as that around an entity, is one node.
+/// Makes one node of text that comes in pieces, such as that around an entity.
 void XmlTreeBuilder::flushText() {
     constexpr std::size_t keptCapacity = std::size_t{64} * 1024;
     if (m_text.empty()) {
@@ -265,7 +265,8 @@ std::u16string_view XmlTreeBuilder::store(std::u16string_view text) {
     return m_document.store(text);
 }
 
-/// The value of an attribute: one of few words, in most documents.
+/// Gives the value of an attribute a text that lives as long as the document. Most documents have
+/// few different values, so that equal ones share a text.
 std::u16string_view XmlTreeBuilder::shareValue(std::u16string_view value) {
     if (value.empty()) {
         return {};
@@ -278,7 +279,7 @@ std::u16string_view XmlTreeBuilder::shareValue(std::u16string_view value) {
     return known;
 }
 
-/// A name that isn't one of a declared element.
+/// Gives a name that isn't one of a declared element a text that lives as long as the document.
 std::u16string_view XmlTreeBuilder::share(std::u16string_view name) {
     std::u16string_view& known = m_sharedNames[name.size() % m_sharedNames.size()];
     if (known == name) {
@@ -296,7 +297,8 @@ std::u16string_view XmlTreeBuilder::share(std::u16string_view name) {
     return known = *m_names.insert(m_document.store(name)).first;
 }
 
-/// Few names occur over and over, and all elements of one name share a declaration.
+/// The name of a declared element. All elements of one name share a declaration, by whose address
+/// the text is found.
 std::u16string_view XmlTreeBuilder::nameOf(const xercesc::XMLElementDecl& declaration) {
     const auto place = reinterpret_cast<std::uintptr_t>(&declaration) / alignof(std::max_align_t);
     KnownName& known = m_knownNames[(place ^ (place >> 6)) % m_knownNames.size()];
@@ -310,7 +312,8 @@ std::u16string_view XmlTreeBuilder::nameOf(const xercesc::XMLElementDecl& declar
     return known.name;
 }
 
-/// The library numbers its declarations as they come.
+/// Counts an element that the document type doesn't declare, once for each name: the library
+/// numbers its declarations as they come.
 void XmlTreeBuilder::noteUndeclared(const xercesc::XMLElementDecl& declaration) {
     if (declaration.getId() > m_lastUndeclared) {
         m_lastUndeclared = declaration.getId();

@@ -91,7 +91,7 @@ private:
     XmlNode* m_documentType = nullptr;
     bool m_inInternalSubset = false;
     bool m_boundPassed = false;
-    std::u16string m_text; // of the text node to come
+    std::u16string m_text; // the text of the next text node, as far as it has come
     std::size_t m_units = 0;
     std::size_t m_nodes = 0;
     std::size_t m_entityNodes = 0;
@@ -101,10 +101,11 @@ private:
     std::uint32_t m_declarations = 0;
     std::uint32_t m_openEntities = 0;
     std::size_t m_expandedUnits = 0;
-    std::unordered_set<std::u16string_view> m_names; // but for those of declared elements
+    // All names apart from those of declared elements.
+    std::unordered_set<std::u16string_view> m_names;
     NameChains m_undeclared;
     XMLSize_t m_lastUndeclared = 0;
-    // What came by lately.
+    // The names that came last, by the addresses of their declarations.
     std::array<KnownName, 64> m_knownNames;
     std::array<std::u16string_view, 16> m_sharedNames;
     std::array<std::u16string_view, 32> m_knownValues;

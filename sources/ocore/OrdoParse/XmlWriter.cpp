@@ -18,7 +18,7 @@ using xercesc::XMLFormatter;
 
 constexpr char16_t replacement = u'\xFFFD';
 
-/// Neither to be escaped anywhere nor to be looked at more closely.
+/// Whether a unit can be written as it is, wherever it stands, without a closer look.
 constexpr bool isPlain(char16_t unit) {
     return unit >= u' ' && unit < 0xD800 && unit != u'&' && unit != u'<' && unit != u'>' &&
            unit != u'"';
@@ -53,7 +53,8 @@ std::u16string withAllowedOnly(std::u16string_view text) {
 // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): what is collected is written first
 XmlWriter::XmlWriter(XMLFormatter& formatter, bool formatted, XmlOrigin origin)
     : m_formatter(formatter),
-      // UTF-8 has every character. To have the formatter ask for each costs as much as the rest.
+      // UTF-8 has every character. If the formatter asked that for each, it would cost as much as
+      // all the rest.
       m_unrepresentable(xercesc::XMLString::equals(formatter.getEncodingName(),
                                                    xercesc::XMLUni::fgUTF8EncodingString)
                             ? XMLFormatter::UnRep_Fail
@@ -210,7 +211,7 @@ void XmlWriter::writeQuoted(const XmlNode& node, std::u16string_view attribute,
 }
 
 void XmlWriter::writeLineBreak() {
-    noteNode(); // white space is one as well
+    noteNode(); // white space counts as a node as well
     writeMarkup(u"\r\n");
     writeMarkup(m_indent);
 }

@@ -33,7 +33,8 @@ private:
     void writeXmlDeclaration(const XmlNode& declaration);
     void writeDocumentType(const XmlNode& type);
     void writeEntity(const XmlNode& entity);
-    /// What stands in front of the attribute, then its value in quotes; nothing if there is none.
+    /// Writes `lead` and the value of the attribute in quotes; nothing if there is no such
+    /// attribute.
     void writeQuoted(const XmlNode& node, std::u16string_view attribute, std::u16string_view lead);
     void writeLineBreak();
     void noteNode();
@@ -44,7 +45,7 @@ private:
     xercesc::XMLFormatter::UnRepFlags m_unrepresentable;
     bool m_formatted;
     std::size_t m_mostUnits;
-    // As the reader will count them.
+    // Nodes are counted as the reader will count them.
     std::size_t m_nodes = 0;
     std::size_t m_units = 0;
     std::uint32_t m_depth = 0;

@@ -1,3 +1,7 @@
+// The parser library can be started once in a process, and counts a start that fails as done. So
+// the start keeps account of how far it has come: a lack of memory that it can recover from is
+// tried again by the next call, and any other failure is final.
+
 #include "ocore/OrdoParse/ZNXMLInterface.h"
 
 #include <new>
@@ -27,7 +31,7 @@ void ZNXMLInterface::PanicHandler::panic(PanicReasons reason) {
     if (reason != Panic_AllStaticInitErr) {
         throw std::bad_alloc();
     }
-    isStaticDataMissing = true; // the last of what is started, and it can be made anew
+    isStaticDataMissing = true; // it is started last, and can be made anew
 }
 
 void ZNXMLInterface::start() {
@@ -47,7 +51,7 @@ void ZNXMLInterface::start() {
 }
 
 ZNXMLInterface::~ZNXMLInterface() {
-    CompiledDtd::forget(); // it is made of the parser library's objects
+    CompiledDtd::forget(); // it consists of the parser library's objects
     xercesc::XMLPlatformUtils::Terminate();
     alreadyTerminated = true;
 }

@@ -24,8 +24,8 @@ public:
     ZNXMLInterface& operator=(const ZNXMLInterface&) = delete;
 
 private:
-    /// The parser library calls this where it finds no way on, which is for want of memory. Its own
-    /// handler would end the process.
+    /// The parser library calls this where it can't go on, which happens when memory runs out. Its
+    /// own handler would end the process.
     class PanicHandler final : public xercesc::PanicHandler {
     public:
         void panic(PanicReasons reason) override;
@@ -34,7 +34,7 @@ private:
     };
     enum class Stage : std::uint8_t {
         none,
-        broken, // what there is can't be used, taken back or started again
+        broken, // a failed start, which can't be used, taken back or repeated
         withoutStaticData,
         complete,
     };

@@ -10,9 +10,10 @@ public:
     NonDriverBasedPrinter(std::uint32_t model, std::uint32_t pdl, std::uint32_t instructionForm,
                           const CXString& preferencesName, bool useGenericPreferences);
 
-    /// The set of the given name; without one, the set of the driver, or the generic set.
+    /// The preference set of the given name; without a name, that of the driver, or the generic
+    /// set.
     std::unique_ptr<UserPreferences> getUserPreferences() const override;
-    /// Form 3 is settled by the model at the first question, for good.
+    /// Form 3 leaves the choice to the model, which settles it for good at the first query.
     std::uint32_t getInstructionForm() override;
 
 protected:

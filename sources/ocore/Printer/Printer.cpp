@@ -1,3 +1,6 @@
+// Most sessions never ask for more than a part of what a printer can tell, and capabilities are
+// dear to read. So each part is made when it is first needed.
+
 #include "ocore/Printer/Printer.h"
 
 #include "ocore/Compress/PersistentSettings.h"
@@ -67,7 +70,7 @@ void Printer::applyUserContext(FeatureSettings& settings, const UserContext& con
     }
 }
 
-/// An empty text changes nothing.
+/// Sets a text, cut to what the printer takes. An empty one changes nothing.
 void Printer::setCut(FeatureSettings& settings, const _FI& feature, const CXString& text) {
     if (!text.isEmpty()) {
         const std::uint32_t limit = getCapabilities().getUpperLimit(feature);

@@ -49,7 +49,7 @@ private:
                           const CXString& documentName);
     void setCut(FeatureSettings& settings, const _FI& feature, const CXString& text);
 
-    // Destroyed in the reverse order: the model first.
+    // The members are destroyed in the reverse order: the model first.
     std::unique_ptr<Capabilities> m_capabilities;
     std::unique_ptr<PrinterDefaults> m_defaults;
     std::unique_ptr<PrinterModel> m_model;

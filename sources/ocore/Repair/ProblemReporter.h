@@ -12,15 +12,15 @@ constexpr std::uint32_t repair = 1;
 constexpr std::uint32_t keep = 2;
 } // namespace problemPolicy
 
-/// Whom a repair asks first.
+/// Asks before a repair: shows the problems and decides what becomes of the ticket.
 class ProblemReporter {
 public:
     virtual ~ProblemReporter() = default;
 
-    /// Whether nobody is asked, so that nobody refuses.
+    /// Whether nobody is asked, so that the repair can't be refused.
     virtual bool isSilent() const = 0;
-    /// A problemPolicy. `defaults` are the printer's default settings, from which repairs take
-    /// their values.
+    /// Reports the problems, and gives a problemPolicy. `defaults` are the printer's default
+    /// settings, from which repairs take their values.
     virtual std::uint32_t report(const SettingsProblemList& problems,
                                  const Settings& defaults) const = 0;
 

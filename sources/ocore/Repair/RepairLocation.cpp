@@ -1,3 +1,6 @@
+// Problems point into the ticket. For users and programs the steps to a node become a part of the
+// ticket, its pages, and a path as text.
+
 #include "ocore/Repair/RepairLocation.h"
 
 #include "ocore/Attributes/EmbeddedList.h"
@@ -15,7 +18,8 @@ namespace {
 
 using Step = SettingsContext::Step;
 
-/// The entry of a feature: the member behind the last node of its name. Null if there is none.
+/// Finds the entry of a feature, such as a page override: the step after the last node of its name.
+/// Null if there is none.
 const Step* findEntry(const std::vector<Step>& steps, const CXString& feature) {
     for (std::size_t i = steps.size(); i-- > 1;) {
         if (steps[i].inSet && steps[i - 1].node->getName() == feature) {
@@ -33,7 +37,8 @@ void setPages(RepairLocation& location, bool isFound, std::int32_t first, std::i
     }
 }
 
-/// What is no number, since the ticket may hold anything, counts as none.
+/// Reads the pages of an entry. The ticket may hold anything there: what is no number counts as
+/// missing.
 void readPages(RepairLocation& location, AttrNode& entry) {
     AttrNodeList* const list = embeddedList(entry);
     if (location.feature == feature::forceFrontSide && entry.getAttrValue().isPrimitiveInteger()) {

@@ -1,3 +1,6 @@
+// The report is made before the repair, from the problems themselves, so that it can show the
+// values that the repair is about to replace.
+
 #include "ocore/Repair/RepairReport.h"
 
 #include <algorithm>
@@ -14,7 +17,7 @@ namespace zent {
 
 namespace {
 
-/// The headings of the three groups.
+/// The string ids of the headings of the three groups.
 using Headings = std::array<std::uint32_t, 3>;
 
 const Headings& headingsOf(RepairWording wording) {
@@ -32,7 +35,7 @@ const Headings& headingsOf(RepairWording wording) {
     }
 }
 
-/// The place of a problem's group among the headings.
+/// The position of a problem's group among the headings.
 std::size_t groupOf(const RepairEntry& entry) {
     switch (entry.kind) {
     case SettingsProblem::Kind::unsupportedAttribute:
@@ -124,7 +127,7 @@ RepairEntry makeEntry(const SettingsProblem& problem, const Settings& defaults,
 } // namespace
 
 RepairReport::RepairReport(const SettingsProblemList& problems, const Settings& defaults) {
-    const ResourceLibrary library; // stays loaded until the last text is read
+    const ResourceLibrary library; // keeps the library loaded until the last text is read
     SettingsProblemList shown(problems);
     while (shown.hasMoreSettingsProblems()) {
         SettingsProblem& problem = shown.getNextSettingsProblem();

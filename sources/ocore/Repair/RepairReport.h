@@ -20,7 +20,7 @@ struct RepairValue {
 enum class ProblemRule {
     unsupportedAttribute,
     unsupportedValue,
-    outOfRange, // of a number, or of the length of a text
+    outOfRange, // a number, or the length of a text
     embeddedSpaces,
     missingFeature,
 };
@@ -44,10 +44,10 @@ struct RepairEntry {
     CXString repairText;  // for users: the new value, or what else the repair does
 };
 
-/// What is said to the user of the problems of a ticket and their repairs.
+/// How a report words the problems of a ticket and their repairs.
 enum class RepairWording : std::uint32_t {
     offered, // repairs that the user may refuse
-    made,    // repairs that are a matter of fact
+    made,    // repairs that have been made
     none,    // problems alone
 };
 

@@ -21,7 +21,7 @@ public:
         std::int32_t first = 0;
         std::int32_t second = 0;
         std::int32_t units = 0;
-        // A document may have put anything into a range.
+        // A document may hold anything in a range, so that its members are tested.
         const bool isNumeric = areNumbers(members);
         if (isNumeric && value.isRangeOfInteger() && value.getRangeOfIntegerValues(first, second)) {
             return formatText("(%ld-%ld)", first, second);

@@ -1,3 +1,6 @@
+// Numbers are little-endian on every system, since the bytes go into state blobs and preferences
+// that travel between systems.
+
 #include "ocore/Resources/ByteBuffer.h"
 
 #include <bit>
@@ -28,7 +31,7 @@ ByteBuffer ByteBuffer::fromString(const CXString& text) {
 }
 
 void ByteBuffer::assign(const void* data, std::size_t length) {
-    // Made apart first: the new content may be a part of the old one.
+    // The copy is made first, since the new content may be a part of the old one.
     ByteBuffer content(data, length);
     swap(content);
 }

@@ -17,11 +17,11 @@ public:
     ByteBuffer() = default;
     ByteBuffer(const void* data, std::size_t length);
     explicit ByteBuffer(std::vector<std::byte> bytes) : m_bytes(std::move(bytes)) {}
-    /// One byte, 0 or 1.
+    /// Makes one byte, 0 or 1.
     static ByteBuffer fromBool(bool value);
-    /// Four bytes, little-endian.
+    /// Makes four bytes, little-endian.
     static ByteBuffer fromLong(std::int32_t value);
-    /// The 16-bit units, little-endian, without a terminator.
+    /// Takes the 16-bit units, little-endian, without a terminator.
     static ByteBuffer fromString(const CXString& text);
 
     const std::byte* data() const { return m_bytes.data(); }

@@ -20,7 +20,7 @@ public:
     ResourceData& operator=(const ResourceData&) = default;
     ResourceData& operator=(ResourceData&&) noexcept = default;
 
-    /// In bytes.
+    /// The size in bytes.
     virtual std::size_t getSize() const { return m_bytes.size(); }
     /// Raises ResourceAcquisitionException if there are no bytes.
     virtual const std::byte* getResourceData() const;

@@ -11,7 +11,7 @@ namespace zent {
 
 namespace {
 
-/// What all objects share.
+/// The module that all objects of the class share, and how many of them there are.
 struct LoadedLibrary {
     CriticalResource guard{u"ResourceLibrary"};
     CXString path;
@@ -59,7 +59,8 @@ void ResourceLibrary::setPath(const CXString& path) {
 }
 
 const platform::ResourceModule& ResourceLibrary::getModule() const {
-    // Set before this object was made, and not touched as long as it lives.
+    // No lock is needed: the module was set before this object was made, and stays as long as it
+    // lives.
     return *loadedLibrary().module;
 }
 

@@ -21,8 +21,8 @@ public:
     ResourceLibrary(const ResourceLibrary&) = delete;
     ResourceLibrary& operator=(const ResourceLibrary&) = delete;
 
-    /// Where the library lies, for the next time that it is loaded. Without a path it is looked for
-    /// in the folder of printer drivers.
+    /// Says where the library lies, for the next time that it is loaded. Without a path it is
+    /// looked for in the folder of printer drivers.
     static void setPath(const CXString& path);
 
     const platform::ResourceModule& getModule() const;

@@ -27,8 +27,8 @@ CXString pathOf(const CXString& folder, const char16_t* fileName) {
     return folder + platform::pathSeparator + fileName;
 }
 
-/// Whether there is a file. One that the system can't tell anything of isn't taken for missing,
-/// since the next save() would put the default library in its place.
+/// Whether there is a file. One of which the system can't say whether it exists isn't taken for
+/// missing, since the next save() would put the default library in its place.
 bool isThere(const CXString& path) {
     const platform::FileKind kind = platform::getFileKind(path);
     if (kind == platform::FileKind::unknown) {
@@ -45,11 +45,11 @@ void addFavorite(AttrNodeList& favorites, const CXString& key, AVTE type) {
         AttrNode(attrNames::value(), AttrValueFactory::createSimpleAttrValue(type, key), false));
 }
 
-/// Older files are taken over like this: whatever their favourites describe, it is the first stock
-/// that becomes one.
+/// Takes over the favourites of an older file: whatever they describe, the first stock becomes the
+/// favourite.
 void markFirst(const AttrNodeList& favorites, StockList& stocks, StockType kind) {
-    // Where there is no stock, nothing is kept either: that took a key of the number 0, and the
-    // numbers of values begin at 1.
+    // Without a stock nothing is kept for the next save() either: it would be kept by its key,
+    // which is the number 0 there, and the numbers of values begin at 1.
     const auto described = StockList::createFromList(favorites, kind);
     if (described->getCount() != 0 && stocks.getCount() != 0) {
         stocks.getStockAt(0).setFavorite(true);
@@ -117,16 +117,16 @@ void MediaPreferences::applyFavorites(const char16_t* attribute, StockList& stoc
 }
 
 void MediaPreferences::markNamed(const AttrNodeList& favorites, StockList& stocks) {
-    std::map<std::u16string_view, Stock*> stockOfKey; // the first one of each key
+    std::map<std::u16string_view, Stock*> stockOfKey; // of several with one key the first
     for (std::uint32_t i = 0; i < stocks.getCount(); ++i) {
         Stock& stock = stocks.getStockAt(i);
-        stockOfKey.emplace(stock.getKey().getText().view(), &stock); // a text that the stock holds
+        stockOfKey.emplace(stock.getKey().getText().view(), &stock); // the stock holds the text
     }
     for (std::uint32_t i = 0; i < favorites.getNumberOfNodes(); ++i) {
         const AttrNode& favorite = favorites.getNodeAt(i);
         const AttrValue& value = favorite.getAttrValue();
         if (favorite.getAttrID() != attrNames::value() || !value.isPrimitiveString()) {
-            continue; // no key
+            continue; // it has no key, and so names no stock
         }
         const CXString key = value.getIppValue();
         if (const auto found = stockOfKey.find(key.view()); found != stockOfKey.end()) {

@@ -42,7 +42,7 @@ public:
     void save(const StockList& stocks, platform::LockedFile& lock);
 
 private:
-    /// A favourite that names no stock at hand.
+    /// Keeps a favourite that names none of the stocks for the next save().
     struct ForeignFavorite {
         CXString key;
         AVTE type;

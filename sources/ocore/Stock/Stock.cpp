@@ -23,7 +23,7 @@ const _FI& media = keepForever<_FI>(feature::media);
 const _FI& mediaKey = keepForever<_FI>(feature::mediaKey);
 const _FI& mediaCol = keepForever<_FI>(feature::mediaCol);
 
-/// What makes a description, in the order of comparison.
+/// The features that make a description, in the order in which they are compared.
 constexpr FeatureEnum descriptionFeatures[] = {
     feature::xDimension,      feature::yDimension,        feature::mediaType,
     feature::mediaColor,      feature::mediaDescription,  feature::mediaWeightMetric,
@@ -73,7 +73,7 @@ void appendCounted(std::u16string& text, std::u16string_view part) {
     text += part;
 }
 
-/// Everything that the equality of two nodes of one name looks at.
+/// Appends everything by which two nodes of one name are compared.
 void appendNode(std::u16string& text, const AttrNode& node) {
     const AttrValue& value = node.getAttrValue();
     text += node.isPrivate() ? u'p' : u' ';

@@ -20,12 +20,12 @@ class ProblemReporter;
 /// a stock without a name. The settings hold the stock as a ticket does: a stock by name has
 /// "media", one by description has "media-col", in which its key does not stand.
 ///
-/// The logical id tells a stock from all others for as long as the library is loaded; 0 is none. It
+/// The logical id is different for each stock for as long as the library is loaded; 0 is none. It
 /// stands in the settings as well, as a private node, so that it travels with a ticket but is never
 /// written to a document.
 class Stock {
 public:
-    /// Takes a deep copy of the settings.
+    /// Makes a stock with a deep copy of the settings.
     Stock(std::uint32_t logicalID, FeatureValue key, StockType kind, StockSource source,
           const FeatureSettings& settings);
     Stock(const Stock& other) = default;
@@ -51,7 +51,8 @@ public:
     bool isFavorite() const { return m_favorite; }
     void setFavorite(bool favorite) { m_favorite = favorite; }
     StockSource getSource() const { return m_source; }
-    /// A stock that becomes one by name loses its description.
+    /// Changes whether the stock is known by name or by description. One that becomes known by name
+    /// loses its description.
     void setSource(StockSource source);
     const FeatureSettings& getSettings() const { return m_settings; }
     FeatureSettings& getSettings() { return m_settings; }
@@ -75,7 +76,8 @@ public:
     /// "media-key", for stocks of both sources.
     AttrNodeList getAttrNodeList() const;
 
-    /// Logical ids decide alone where both stocks have one.
+    /// In what grade this stock and another are the same. Where both have a logical id, it alone
+    /// decides.
     StockMatch match(const Stock& other) const;
     StockDifference compare(const Stock& other) const;
     bool isSameDescription(const Stock& other) const;
@@ -89,7 +91,7 @@ public:
     bool validate(const Capabilities& capabilities, const Settings& defaults,
                   const ProblemReporter& reporter);
 
-    /// A hook for diagnosis.
+    /// A hook for diagnosis, which does nothing.
     virtual void dump() const { m_settings.dump(); }
 
 private:

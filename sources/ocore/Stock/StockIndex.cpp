@@ -1,3 +1,8 @@
+// Stocks match by their logical ids or, without one, if they have the same description. So the
+// stocks are grouped by description, and a search looks into one group, by key. All containers are
+// ordered by logical ids, which are drawn in rising order: the first of several matches is the
+// oldest stock.
+
 #include "ocore/Stock/StockIndex.h"
 
 #include <algorithm>
@@ -6,7 +11,8 @@ namespace zent {
 
 namespace {
 
-/// A text of a description is never empty.
+/// The group of a stock: its description. Stocks by name have the empty text, which no description
+/// has.
 std::u16string groupOf(const Stock& stock) {
     return stock.getSource() == StockSource::name ? std::u16string() : stock.getDescriptionText();
 }

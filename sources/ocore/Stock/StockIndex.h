@@ -21,7 +21,7 @@ public:
 
     /// The stock of the highest grade by Stock::match, the first of several; null if none matches.
     Stock* findBestMatch(const Stock& stock) const;
-    /// The first stock behind a logical id, 0 for the very first; null at the end.
+    /// The first stock whose logical id is greater; 0 gives the first of all. Null at the end.
     const Stock* findNext(std::uint32_t logicalID) const;
     bool hasKey(FeatureValue key) const;
     bool hasKey(FeatureValue key, StockType kind) const;
@@ -38,7 +38,7 @@ private:
     Stock* firstOf(const IdsByKey& idsByKey, FeatureValue key) const;
 
     std::map<std::uint32_t, Stock*> m_stocks;
-    std::map<std::u16string, Group> m_groups; // by description; that of the stocks by name is empty
+    std::map<std::u16string, Group> m_groups; // by description; stocks by name have the empty one
     IdsByKey m_idsByKey;
 };
 

@@ -1,3 +1,9 @@
+// A ticket holds its media by value, in each level that asks for some, and other programs change
+// it. So the ticket is walked anew for each refresh. Every level is matched with a known stock and
+// then rewritten to ask for just that one, with its logical id, by which later changes of the stock
+// find the level again. The library may change meanwhile too: saving compares with what was last
+// read or written, and lays only one's own changes over the present file.
+
 #include "ocore/Stock/StockInformation.h"
 
 #include <algorithm>
@@ -13,7 +19,8 @@ namespace zent {
 
 namespace {
 
-/// Rewriting a level that contradicts itself would lose a part of it.
+/// Whether a level names media twice. Such a level contradicts itself, and would lose a part if it
+/// were rewritten.
 bool asksTwice(const AttrNodeList& level) {
     return level.countNodes(_FI(feature::media).getAttrID()) > 1 ||
            level.countNodes(_FI(feature::mediaCol).getAttrID()) > 1;
@@ -29,14 +36,15 @@ StocksById mapById(const StockList& stocks) {
     return map;
 }
 
-/// The one of a logical id that is of the same kind as another; null if there is none.
+/// Finds the stock of a logical id that is of the same kind as another stock; null if there is
+/// none.
 const Stock* findSame(const StocksById& map, const Stock& other) {
     const auto found = map.find(other.getLogicalID());
     return found == map.end() || found->second->getKind() != other.getKind() ? nullptr
                                                                              : found->second;
 }
 
-/// The stocks of a media library that another one has read or written, by kind and key.
+/// The stocks of a media library as another program has left it, by kind and key.
 class Library {
 public:
     explicit Library(StockList& stocks) : m_stocks(stocks) {
@@ -61,7 +69,7 @@ public:
             m_stocks.removeStock(stock);
         }
     }
-    /// The lowest number that is no user's stock's key yet.
+    /// Gives a stock as its key the lowest number that isn't yet that of a user's stock.
     void number(Stock& stock) const {
         for (std::uint32_t number = 1; find(stock) != nullptr; ++number) {
             stock.setKey(
@@ -90,7 +98,7 @@ bool isSame(const AttrNode& a, const AttrNode& b) {
                           : first.getIppValue() == second.getIppValue();
 }
 
-/// Lists themselves compare by their lengths alone.
+/// Compares lists node by node, since their own comparison looks at their lengths alone.
 bool isSame(const AttrNodeList& a, const AttrNodeList& b) {
     bool same = a.getNumberOfNodes() == b.getNumberOfNodes();
     for (std::uint32_t i = 0; same && i < a.getNumberOfNodes(); ++i) {
@@ -123,13 +131,14 @@ void StockInformation::addUserStocks(const StockList& stocks) {
     for (std::uint32_t i = 0; i < stocks.getCount(); ++i) {
         insert(m_stocks, stocks.getStockAt(i));
     }
-    // Only now, so that no stock gets a number that is the name of one behind it.
+    // The numbers are given only when all names are known, so that no stock gets one that is the
+    // name of a later stock.
     for (std::uint32_t i = 0; i < m_stocks.getCount(); ++i) {
         nameStock(m_stocks.getStockAt(i));
     }
 }
 
-/// Ids are drawn in rising order, so that theirs is the order of the walk.
+/// Gives a stock its id. Ids are drawn in rising order, so that their order is that of the walk.
 Stock* StockInformation::insert(StockList& list, const Stock& stock) {
     Stock* const entry = list.addStock(stock);
     entry->assignNewLogicalID();
@@ -137,7 +146,7 @@ Stock* StockInformation::insert(StockList& list, const Stock& stock) {
     return entry;
 }
 
-/// The lowest number that is no stock's key yet.
+/// Gives a stock without a key the lowest number that no stock has as its key yet.
 void StockInformation::nameStock(Stock& stock) {
     if (stock.hasKey()) {
         return;
@@ -154,10 +163,10 @@ void StockInformation::nameStock(Stock& stock) {
 
 void StockInformation::releaseKey(FeatureValue key) {
     m_generatedKeys.erase(key.getValue());
-    m_lowestNumber = 1; // the key may have been a number
+    m_lowestNumber = 1; // the key that is free now may be a number
 }
 
-/// Takes a stock that is about to go out of all that is known of it.
+/// Forgets a stock that is about to be removed: its usage and its place in the index.
 void StockInformation::forget(const Stock& stock) {
     m_usage.erase(&stock);
     m_index.remove(stock);
@@ -208,7 +217,8 @@ void StockInformation::setFavorite(const Stock& stock, bool favorite) {
 }
 
 const Stock* StockInformation::findStock(const Stock& stock) const {
-    const Stock* const entry = findBestMatch(stock); // by its id, of one of these the stock itself
+    // For one of these its id gives the stock itself.
+    const Stock* const entry = findBestMatch(stock);
     return entry == nullptr ? &stock : entry;
 }
 
@@ -233,7 +243,8 @@ void StockInformation::save(platform::LockedFile& lock) {
     m_saved = getAll();
 }
 
-/// A stock is the same one here by its logical id, and in the library by its kind and key.
+/// Lays what was changed here over the library as it is now. A stock is the same one by its logical
+/// id here, and by its kind and key in the library.
 void StockInformation::layChangesOver(StockList& stocks) const {
     Library library(stocks);
     const StockList all = getAll();
@@ -255,7 +266,7 @@ void StockInformation::layChangesOver(StockList& stocks) const {
             library.add(*stock);
         } else if (before != nullptr || !m_generatedKeys.contains(stock->getKey().getValue())) {
             *there = *stock;
-        } else { // another one got the same number meanwhile
+        } else { // another program has given a stock the same number meanwhile
             Stock numbered(*stock);
             library.number(numbered);
             library.add(numbered);
@@ -295,7 +306,7 @@ void StockInformation::refreshUsage(AttrNodeList& level, FeatureEnum feature) {
     }
     for (std::uint32_t i = 0; i < level.getNumberOfNodes(); ++i) {
         AttrNode& node = level.getNodeAt(i);
-        // A description is no level, whatever it holds: it has just been laid there.
+        // A description that was just put there is no level of the ticket, whatever it holds.
         if (node.getAttrValue().isList() && node.getAttrID() != mediaCol.getAttrID()) {
             refreshUsage(static_cast<IppList&>(node.getAttrValue()).getAttrNodeList(),
                          _FI::isFeatureName(node.getName()) ? _FI(node.getName()).getFeature()
@@ -316,8 +327,8 @@ void StockInformation::recordUse(FeatureSettings& level, FeatureEnum feature) {
     const Stock* const stock = findOrAdd(*asked);
     const bool isNamed = level.isSpecified(mediaKey);
     stock->applyTo(level);
-    // A description that came with a name keeps one: it is all that tells papers apart that are
-    // alike otherwise, and what a stock lays over a ticket doesn't hold it.
+    // A description that came with a name keeps one, since papers that are otherwise alike differ
+    // in it alone, and what a stock puts into a ticket doesn't hold it.
     if (isNamed && stock->getSource() == StockSource::description) {
         level.setFeatureValue(mediaKey, stock->hasKey() ? stock->getKey() : asked->getKey());
     }
@@ -332,7 +343,7 @@ void StockInformation::recordUse(FeatureSettings& level, FeatureEnum feature) {
 const Stock* StockInformation::findOrAdd(Stock& asked) {
     const Stock* found = findBestMatch(asked);
     if (found == nullptr && asked.getLogicalID() != 0) {
-        // The id is of another StockInformation, which had this ticket before.
+        // The id was drawn by another StockInformation, which had this ticket before.
         asked.removeLogicalID();
         found = findBestMatch(asked);
     }

@@ -56,9 +56,9 @@ public:
     bool hasKey(FeatureValue key, bool ofAnyKind, StockType kind) const;
 
     bool isInUse(const Stock& stock) const { return getUseCount(stock) != 0; }
-    /// How many levels of the ticket ask for it.
+    /// How many levels of the ticket ask for a stock.
     std::uint32_t getUseCount(const Stock& stock) const;
-    /// The features in which it is used, such as "cover-front"; TJTF_ANY for the job itself.
+    /// The features in which a stock is used, such as "cover-front"; TJTF_ANY for the job itself.
     std::vector<FeatureEnum> getUsingFeatures(const Stock& stock) const;
 
     /// A walk over the stocks, the printer's first, of one kind or of all. Stocks may be added and
@@ -74,7 +74,7 @@ public:
     /// others have changed meanwhile stays, unless it is the same stock: then the last one wins.
     /// Their changes don't show here.
     void save();
-    /// The same for who holds the lock of the library's folder.
+    /// Saves in the same way, for a caller who holds the lock of the library's folder.
     void save(platform::LockedFile& lock);
 
 private:
@@ -103,12 +103,12 @@ private:
     MediaPreferences m_preferences;
     StockList m_printerStocks;
     StockList m_stocks;
-    StockIndex m_index; // of both lists
-    StockList m_saved;  // both, as they were when the library was read or written
+    StockIndex m_index; // the index of both lists
+    StockList m_saved;  // copies of both lists, as they were when the library was read or written
     FeatureSettings* m_settings = nullptr;
     std::map<const Stock*, Usage> m_usage;
     std::set<std::int32_t> m_generatedKeys;
-    std::uint32_t m_lowestNumber = 1; // all below are taken as keys
+    std::uint32_t m_lowestNumber = 1; // all lower numbers are keys already
 };
 
 } // namespace zent

@@ -39,7 +39,8 @@ StockList& StockList::operator=(const StockList& other) {
 std::unique_ptr<StockList> StockList::createFromList(const AttrNodeList& list, StockType kind) {
     auto stocks = std::make_unique<StockList>();
     std::uint32_t instance = 0;
-    // By position, since looking each one up by instance would walk the members again and again.
+    // The members are taken by position, since a look-up by instance would walk all that come
+    // before it each time.
     for (std::uint32_t i = 0; i < list.getNumberOfNodes(); ++i) {
         const AttrNode& member = list.getNodeAt(i);
         if (member.getAttrID() != attrNames::value()) {

@@ -17,7 +17,7 @@ enum class StockMatch : std::int32_t {
 /// "no match", also for any other number, "basic", "next best" or "best".
 CXString matchToString(StockMatch match);
 
-/// The first thing in which two stocks differ, the gravest with the highest number.
+/// The first thing in which two stocks differ. A graver difference has a higher number.
 enum class StockDifference : std::uint32_t {
     none = 0,
     logicalID = 1,

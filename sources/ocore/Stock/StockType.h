@@ -6,7 +6,7 @@
 
 namespace zent {
 
-/// Whose a stock is. The numbers are fixed.
+/// Who owns a stock. The numbers never change.
 enum class StockType : std::uint32_t {
     transient = 1, // exists only in a ticket
     user = 2,      // belongs to the user's library

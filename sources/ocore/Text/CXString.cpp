@@ -35,7 +35,7 @@ StringBlock* newBlock(std::u16string_view text, std::size_t capacity) {
     return block;
 }
 
-/// Zs of Unicode, and the line ends and tabs.
+/// Whether a unit is white space: a space separator of Unicode (Zs), a line end or a tab.
 constexpr std::u16string_view whiteSpace =
     u" \t\n\v\f\r\u0085\u00A0\u1680\u2000\u2001\u2002\u2003\u2004\u2005\u2006\u2007\u2008\u2009"
     u"\u200A\u2028\u2029\u202F\u205F\u3000";
@@ -116,7 +116,7 @@ void CXString::assign(std::u16string_view text) {
 void CXString::assignNarrow(std::string_view narrow) {
     const auto isAscii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
     if (std::all_of(narrow.begin(), narrow.end(), isAscii)) {
-        // The same in every ANSI code page, and what nearly all narrow texts are.
+        // ASCII is the same in every ANSI code page, and nearly all narrow texts are ASCII.
         clear();
         if (!narrow.empty()) {
             makePrivate(narrow.size());
@@ -242,7 +242,7 @@ void CXString::trimLeft(std::u16string_view set) {
 }
 
 void CXString::trimRight(std::u16string_view set) {
-    // One past the last unit that stays; npos + 1 is 0.
+    // The end of what stays; npos + 1 is 0, which is that of nothing.
     const std::size_t end = view().find_last_not_of(set) + 1;
     if (end < view().size()) {
         assign(view().substr(0, end));

@@ -29,13 +29,13 @@ class ResourceModule;
 class CXString {
 public:
     CXString() noexcept : m_text(emptyStringBlock.head.text()) {}
-    /// From a terminated wide text; null gives the empty string.
+    /// Copies a terminated wide text; null gives the empty string.
     CXString(const char16_t* text);
     CXString(std::u16string_view text);
-    /// From a terminated text in the ANSI code page (UTF-8 where the system has none); null gives
-    /// the empty string.
+    /// Converts a terminated text from the ANSI code page (UTF-8 where the system has none); null
+    /// gives the empty string.
     explicit CXString(const char* narrow);
-    /// From `length` bytes in the ANSI code page.
+    /// Converts `length` bytes from the ANSI code page.
     CXString(const char* narrow, std::size_t length);
     CXString(const CXString& other) : m_text(other.share()) {}
     CXString(CXString&& other) noexcept : m_text(other.m_text) {
@@ -78,12 +78,13 @@ public:
     CXString mid(std::int32_t start, std::int32_t count) const;
     CXString mid(std::int32_t start) const;
 
-    /// Positions, or -1. A start beyond the length finds nothing; one below zero counts as zero.
+    /// These give positions, or -1. A start beyond the length finds nothing; one below zero counts
+    /// as zero.
     std::int32_t find(char16_t unit, std::int32_t start = 0) const noexcept;
     std::int32_t find(std::u16string_view text, std::int32_t start = 0) const noexcept;
     std::int32_t findLast(char16_t unit) const noexcept;
 
-    /// Trimming, of white space, of one unit or of any unit in `set`.
+    /// These trim white space, one unit, or any unit in `set`.
     void trimLeft();
     void trimRight();
     void trimLeft(char16_t unit) { trimLeft(std::u16string_view(&unit, 1)); }
@@ -163,7 +164,7 @@ inline bool operator==(const CXString& a, const CXString& b) noexcept {
 inline bool operator==(const CXString& a, const char16_t* b) noexcept {
     return a == (b ? std::u16string_view(b) : std::u16string_view());
 }
-/// The order of code units.
+/// Orders texts by their code units.
 inline std::strong_ordering operator<=>(const CXString& a, const CXString& b) noexcept {
     return a.view() <=> b.view();
 }

@@ -7,7 +7,7 @@ namespace zent {
 
 namespace {
 
-/// More than the digits before the point, the point and the exponent of any number.
+/// Room for the digits before the point, the point and the exponent of any number.
 constexpr std::size_t longestWithoutFraction = 330;
 
 std::string digits(double number, std::chars_format form, std::size_t precision) {
@@ -18,7 +18,8 @@ std::string digits(double number, std::chars_format form, std::size_t precision)
     return text;
 }
 
-/// With 'g' and zeros kept: scientific if the exponent is below -4 or as large as the precision.
+/// Formats as 'g' does, with zeros kept: in scientific form if the exponent is below -4 or at least
+/// the precision.
 std::string generalWithZeros(double number, std::size_t precision) {
     const auto significant = static_cast<int>(precision == 0 ? 1 : precision);
     std::string text =

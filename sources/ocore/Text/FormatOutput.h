@@ -15,10 +15,10 @@ class FormatOutput {
 public:
     static constexpr std::size_t limit = 1U << 20; // units
 
-    FormatOutput() { m_text.reserve(120); } // most texts
+    FormatOutput() { m_text.reserve(120); } // enough for most texts
 
     void append(std::u16string_view text) { m_text += platform::cutText(text, room()); }
-    /// ASCII.
+    /// Appends ASCII.
     void append(std::string_view text) {
         m_text.append(text.begin(),
                       text.begin() + static_cast<std::ptrdiff_t>(std::min(text.size(), room())));

@@ -73,7 +73,7 @@ bool takePrefix(std::u16string_view& rest, std::u16string_view prefix) {
     return found;
 }
 
-/// The number that a "*" stands for.
+/// Takes the argument that a "*" stands for, as a number.
 std::optional<std::int64_t> takeStar(FormatArgumentReader& arguments) {
     const FormatArgument* const argument = arguments.take();
     const auto bits = argument ? integerBits(argument->value()) : std::nullopt;
@@ -161,7 +161,8 @@ void FormatSpecifier::parseSizes(std::u16string_view& rest) {
         } else if (takePrefix(rest, u"l")) {
             m_size = Size::longer;
         } else {
-            // Long double, far and near pointers: typed arguments know better.
+            // These prefixes stand for long double, far and near pointers, which the types of the
+            // arguments tell already.
             found = takePrefix(rest, u"L") || takePrefix(rest, u"F") || takePrefix(rest, u"N");
         }
     }
@@ -180,7 +181,7 @@ bool FormatSpecifier::format(FormatArgumentReader& arguments, FormatOutput& outp
     }
     switch (m_conversion) {
     case u'n':
-        return true; // would write to the argument; takes it and does nothing
+        return true; // "%n" would write to the argument: it is taken, and nothing is written
     case u'c':
     case u'C':
         return formatCharacter(*argument, output);

@@ -31,11 +31,11 @@ private:
 /// One specifier of a printf format: flags, width, precision, size prefix and conversion.
 class FormatSpecifier {
 public:
-    /// The most that width and precision can be.
+    /// The largest width and precision.
     static constexpr std::size_t maximumExtent = 65535;
 
-    /// Reads a specifier from behind its "%", and takes it off `rest`; a "*" takes its number from
-    /// the arguments. Nothing if it isn't one.
+    /// Reads what follows a "%", and takes it off `rest`; a "*" takes its number from the
+    /// arguments. Nothing if it is no specifier.
     static std::optional<FormatSpecifier> parse(std::u16string_view& rest,
                                                 FormatArgumentReader& arguments);
 

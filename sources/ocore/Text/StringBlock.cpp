@@ -1,3 +1,6 @@
+// Most texts are short, and are made and dropped in great number. A pool for each of a few sizes
+// serves those faster than the heap, which keeps the long ones.
+
 #include "ocore/Text/StringBlock.h"
 
 #include <algorithm>

@@ -6,8 +6,8 @@
 
 namespace zent {
 
-/// What stands before the units of a CXString's text: the head of a block that strings share.
-/// The units, and one terminating zero unit, follow it in memory.
+/// The head of a block that strings share. The units of a CXString's text, and one terminating zero
+/// unit, follow it in memory.
 struct StringBlock {
     /// False in builds that a sanitizer watches: there every block comes from the heap.
     static const bool usesPools;

@@ -40,7 +40,8 @@ void StringBlockPool::giveBack(void* block) noexcept {
 void StringBlockPool::grow() {
     void* const memory = ::operator new(sizeof(Chunk) + m_blockSize * blocksPerChunk);
     m_chunks = new (memory) Chunk{m_chunks};
-    // Linked from the last to the first, so that blocks are taken in the order of memory.
+    // The blocks are linked from the last to the first, so that they are taken in the order of
+    // memory.
     auto* const first = static_cast<std::byte*>(memory) + sizeof(Chunk);
     for (std::size_t i = blocksPerChunk; i-- > 0;) {
         m_free = new (first + i * m_blockSize) FreeBlock{m_free};

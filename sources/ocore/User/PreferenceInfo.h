@@ -19,7 +19,7 @@ constexpr std::uint32_t rawData = 5;
 /// A preference that the library itself knows: its type is fixed.
 struct PreferenceInfo {
     CXString name;
-    std::uint32_t dataType = 0; // of preferenceType
+    std::uint32_t dataType = 0; // one of preferenceType
     ByteBuffer value;           // the default
 
     /// The type as failure messages show it.

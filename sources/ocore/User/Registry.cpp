@@ -65,7 +65,8 @@ CXString Registry::getStringValue(const CXString& key, const CXString& name,
     if (!getValue(key, name, value)) {
         return defaultValue;
     }
-    // Other programs, such as the registry editor, count a terminator as a part of the value.
+    // The terminator is cut, since other programs, such as the registry editor, store it as a part
+    // of the value.
     CXString text = value.getAsString();
     text.trimRight(u'\0');
     return text;

@@ -9,20 +9,20 @@ namespace zent {
 
 namespace {
 
-/// Codes of StockSize.
+/// The codes of StockSize for the papers of locales.
 constexpr std::uint32_t sizeLetter = 2;
 constexpr std::uint32_t sizeLegal = 3;
 constexpr std::uint32_t sizeA4 = 8;
 constexpr std::uint32_t sizeA3 = 9;
 
-/// What went wrong on the way without being a failure.
+/// Traces what went wrong on the way without being a failure.
 void traceError(std::uint32_t systemError) {
     if (systemError != 0) {
         trace::systemErrorText(systemError, 0);
     }
 }
 
-/// Support staff know these texts, so that they name the same functions on every system.
+/// Support staff know these texts, which therefore name the same functions on every system.
 void requireFound(const platform::UserProfile& profile) {
     const Raise<UserInformationRequestException> raise;
     switch (profile.status) {
@@ -71,7 +71,7 @@ bool User::usesInches() { return platform::getLocaleMeasurement() != u"0"; }
 
 std::uint32_t User::getDefaultStockSize() {
     const std::u16string paper = platform::getLocalePaperSize();
-    // Of an empty text this is the terminator.
+    // The first unit of an empty text is its terminator.
     switch (paper.c_str()[0]) {
     case u'1':
         return sizeLetter;

@@ -1,3 +1,6 @@
+// Well-known preferences have a type that can't be asked for otherwise: a wrong type is a mistake
+// of the caller, and is raised, whereas a value that isn't stored just gives a default.
+
 #include "ocore/User/UserPreferences.h"
 
 #include <algorithm>
@@ -40,7 +43,7 @@ std::vector<PreferenceInfo> makeWellKnownPreferences() {
         {useLogonNameForRecipient, type::boolean, yes},
         {genericTicket, type::boolean, yes},
         {preferredTicket, type::text, ByteBuffer()},
-        // The locale decides on units in place of these defaults.
+        // For units these defaults have no effect: the locale decides.
         {customPaperSizeUnit, type::unitOfMeasure, one},
         {imageShiftUnit, type::unitOfMeasure, one},
         {toolBar, type::number, one},

@@ -20,7 +20,7 @@ namespace zent {
 /// failing store raises RegistryRequestException.
 class UserPreferences {
 public:
-    /// An empty name stands for the set above all named ones.
+    /// Opens the set of a name; an empty name stands for the set that all printers share.
     explicit UserPreferences(const CXString& setName);
 
     /// A stored number above 0 is true.
