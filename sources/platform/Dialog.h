@@ -11,7 +11,8 @@
 
 namespace zent::platform {
 
-/// The object of a class that stands for what isn't there: a dialog, or a kind of item.
+/// The object of a class that stands for something that isn't there: a dialog, or an item of a
+/// kind.
 template <typename Kind>
 Kind& none() {
     static Kind& object = keepForever<Kind>();
@@ -24,9 +25,11 @@ Kind& none() {
 /// event::initDialog (wParam 0, lParam 0), before anything is visible. The user's acts arrive as
 /// commands and notifications. What the program does itself raises no event, but for setText on
 /// edit items, which raises notification::editChanged whenever the text changes, and for send(),
-/// which is what it says. event::destroy comes last, when the items still stand.
+/// which delivers just the message that it is given. event::destroy comes last, while the items are
+/// still there.
 ///
-/// What this class does by itself is nothing: so it stands for a dialog that isn't there.
+/// The operations of this class do nothing, so that an object of it stands for a dialog that isn't
+/// there.
 class Dialog {
 public:
     Dialog() = default;
@@ -38,7 +41,7 @@ public:
 
     /// Ends a modal dialog when the event at hand is done; validation has passed.
     virtual void end(std::intptr_t /*value*/) {}
-    /// Ends a modeless one.
+    /// Ends a modeless dialog.
     virtual void destroy() {}
     /// Delivers a message to the dialog's procedure, now, and gives the message result.
     virtual std::intptr_t send(std::uint32_t /*message*/, std::uintptr_t /*wParam*/,
@@ -50,26 +53,26 @@ public:
 
     virtual void setCaption(std::u16string_view /*text*/) {}
     virtual bool isVisible() const { return false; }
-    /// On the screen, the frame included.
+    /// The place of the dialog on the screen, the frame included.
     virtual Rectangle getWindowRectangle() const { return {}; }
     /// The inner area, from (0, 0).
     virtual Rectangle getClientRectangle() const { return {}; }
     virtual void moveTo(const Rectangle& /*place*/) {}
-    /// What of the screen is free for windows.
+    /// The part of the screen that is free for windows.
     virtual Rectangle getWorkArea() const { return {}; }
-    /// Dialog units of this dialog's font as pixels.
+    /// Converts dialog units of this dialog's font to pixels.
     virtual Rectangle mapDialogUnits(const Rectangle& /*units*/) const { return {}; }
 
-    /// Of the screen, from top to bottom.
+    /// The vertical resolution of the screen.
     virtual std::int32_t getDotsPerInch() const { return 0; }
 
     /// The item with the keyboard's focus, 0 for none.
     virtual std::uint16_t getFocusedItem() const { return 0; }
-    /// In the order of the template.
+    /// The items in the order of the template.
     virtual std::vector<DialogItem*> getItems() const { return {}; }
     /// The first item of an id, null if there is none.
     virtual DialogItem* findItem(std::uint16_t /*id*/) const { return nullptr; }
-    /// The same, if it is of a kind; else one that isn't there.
+    /// The first item of an id if it is of a kind; otherwise an object that does nothing.
     template <typename Kind = DialogItem>
     Kind& item(std::uint16_t id) const {
         auto* const found = dynamic_cast<Kind*>(findItem(id));

@@ -16,7 +16,7 @@ constexpr std::uint32_t notify = 78;     // wParam: the item; lParam: a const No
 constexpr std::uint32_t initDialog = 272;
 constexpr std::uint32_t command = 273;          // wParam: the item, and a notification code << 16
 constexpr std::uint32_t horizontalScroll = 276; // wParam: position << 16; lParam: the item
-// Of pictures that watch the mouse. wParam: the item; lParam: the place in it, x | y << 16.
+// Events of pictures that watch the mouse. wParam: the item; lParam: the place in it, x | y << 16.
 constexpr std::uint32_t mouseMoved = 0x200;
 constexpr std::uint32_t mousePressed = 0x201; // the left button
 } // namespace event
@@ -32,8 +32,8 @@ constexpr std::uint32_t editChanged = 0x300;   // after each change of the text,
 constexpr std::uint32_t editLeft = 0x200;      // the item lost the keyboard focus
 // Codes of event::notify.
 constexpr std::int32_t spinStep = -722;
-/// The user is about to select a row, or to deselect it; what is selected then is told by
-/// listViewChanged. It can't be refused.
+/// The user is about to select a row, or to deselect it; listViewChanged follows when it is done.
+/// It can't be refused.
 constexpr std::int32_t listViewChanging = -100;
 constexpr std::int32_t listViewChanged = -101; // a row's selection or check mark
 constexpr std::int32_t listViewActivated = -3; // double click

@@ -11,7 +11,7 @@ namespace zent::platform {
 /// An item of a dialog, of whichever kind: what is common to all. Each kind is a class of its own
 /// below this one.
 ///
-/// What these classes do by themselves is nothing, with empty, zero or false answers: an object of
+/// The operations of these classes do nothing and answer with empty, zero or false: an object of
 /// such a class stands for an item that the dialog lacks (none()), since pages leave out what they
 /// don't show. The adapters' items derive from them. An item lives as long as its dialog, up to the
 /// end of event::destroy; one that was removed is there no more, but can still be asked.
@@ -25,11 +25,11 @@ public:
     virtual bool isThere() const { return false; }
     virtual std::uint16_t getId() const { return 0; }
 
-    /// In the dialog's inner area.
+    /// The item's place in the dialog's inner area.
     virtual Rectangle getPlace() const { return {}; }
     virtual void moveTo(const Rectangle& /*place*/) {}
     virtual Rectangle getScreenPlace() const { return {}; }
-    /// Whether it is shown by itself, be the dialog visible or not.
+    /// Whether the item itself is shown, whether or not the dialog is visible.
     virtual bool isShown() const { return false; }
     virtual void show(bool /*isShown*/) {}
     virtual bool isEnabled() const { return false; }

@@ -13,11 +13,11 @@ namespace zent::platform {
 class ButtonItem : public virtual DialogItem {
 public:
     virtual bool isChecked() const { return false; }
-    /// Leaves the other buttons of its group alone.
+    /// Sets the state of this button. It leaves the other buttons of its group alone.
     virtual void setChecked(bool /*isChecked*/) {}
-    /// Of a push button: whether Enter presses it unless the focus is on another.
+    /// Whether Enter presses this push button unless another one has the focus.
     virtual bool isDefault() const { return false; }
-    /// In place of the one that was.
+    /// Makes this the default button, in place of the one that was.
     virtual void makeDefault() {}
 };
 
@@ -32,11 +32,12 @@ public:
     /// How much the user can enter, in UTF-16 units: of what would go beyond, as many whole
     /// characters as there is room for. 0 for as much as the window system takes.
     virtual void setLimit(std::uint32_t /*units*/) {}
-    /// Asked for each character that is typed or pasted, for one of two units twice, and takes both
-    /// or none; what it refuses is dropped in silence. Backspace, Escape and the keys of the
-    /// keyboard's own editing are never refused. False if the window system can't do it.
+    /// Sets the filter that is asked for each character that is typed or pasted. For a character of
+    /// two units it is asked twice, and both are taken or none. What it refuses is dropped in
+    /// silence. Backspace, Escape and the keys of the keyboard's own editing are never refused.
+    /// False if the window system can't do it.
     virtual bool setFilter(const CharacterFilter& /*filter*/) { return true; }
-    /// [start, end) in UTF-16 units of the text; an `end` of -1 is that of the text.
+    /// Selects [start, end) in UTF-16 units of the text; an `end` of -1 is the end of the text.
     virtual void selectText(std::int32_t /*start*/, std::int32_t /*end*/) {}
     /// Lets a read-only item look like part of the page.
     virtual void setTransparent() {}
@@ -69,15 +70,15 @@ public:
     /// icons, with a check mark each or without.
     enum class Style { icons, list, details, checkedDetails };
 
-    /// At any time. Rows stay as they are, but for their marks.
+    /// May be called at any time. Rows stay as they are, but lose their marks.
     virtual void setStyle(Style /*style*/) {}
-    /// From one icon to the next, in pixels.
+    /// The distances from one icon to the next, in pixels.
     struct Spacing {
         std::int32_t across = 0;
         std::int32_t down = 0;
         bool operator==(const Spacing&) const = default;
     };
-    /// Of the style of icons, in which the list view is.
+    /// The spacing of the style of icons, which the list view must have.
     virtual Spacing getIconSpacing() const { return {}; }
     virtual void setIconSpacing(const Spacing& /*spacing*/) {}
     /// `width` in pixels.
@@ -100,7 +101,7 @@ public:
     virtual std::vector<std::int32_t> getSelectedRows() const { return {}; }
     /// Selects this row alone, focuses it and brings it into view.
     virtual void selectRow(std::int32_t /*row*/) {}
-    /// The row that the keyboard goes on from.
+    /// The row from which the arrow keys go on.
     virtual std::int32_t getFocusedRow() const { return -1; }
     virtual void focusRow(std::int32_t /*row*/) {}
     virtual void ensureRowVisible(std::int32_t /*row*/) {}

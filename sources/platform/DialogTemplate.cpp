@@ -6,7 +6,7 @@ namespace zent::platform {
 
 namespace {
 
-/// Reads one field after the other. Past the end all is zero, and the cursor says so.
+/// Reads one field after the other. Past the end it gives zeros, and says that it has got there.
 class Cursor {
 public:
     explicit Cursor(Bytes bytes) : m_bytes(bytes) {}
@@ -41,7 +41,8 @@ public:
         return place;
     }
 
-    /// Creation data: its length counts itself, but for the length of none, which is zero.
+    /// Passes over creation data. Its length counts the length field too, unless it is zero and
+    /// there are no data.
     void skipCreationData() {
         const std::uint64_t start = m_offset;
         const std::uint16_t length = take16();

@@ -17,7 +17,8 @@ struct DialogTemplate {
     /// A class, title or menu: a text, or the number of a system class or resource.
     using Name = std::variant<std::u16string, std::uint16_t>;
 
-    /// In dialog units: a quarter of an average character across, an eighth down.
+    /// A place in dialog units: these are a quarter of an average character wide, and an eighth
+    /// high.
     struct Place {
         std::int16_t x = 0;
         std::int16_t y = 0;
@@ -32,7 +33,8 @@ struct DialogTemplate {
         std::uint16_t id = 0;
         Name windowClass;
         Name title;
-        /// In bytes, up to where the next item begins; the padding of the last one may be missing.
+        /// The size in bytes, up to where the next item begins; the padding of the last one may be
+        /// missing.
         std::size_t size = 0;
     };
 

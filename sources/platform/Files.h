@@ -10,7 +10,7 @@
 
 namespace zent::platform {
 
-/// What ends a folder's name in a path: a backslash on Windows, a slash elsewhere.
+/// The unit that ends a folder's name in a path: a backslash on Windows, a slash elsewhere.
 extern const char16_t pathSeparator;
 
 /// Whether a path names no folder: the system would look for it in one of its own choice, where
@@ -46,7 +46,7 @@ protected:
 /// Removes a file; false on failure.
 bool deleteFile(std::u16string_view path);
 
-/// What tells one state of a file from another without reading it. All zero if there is no file.
+/// Identifies the state of a file without reading it. All is zero if there is no file.
 struct FileStamp {
     bool exists = false;
     std::uint64_t size = 0;
@@ -61,10 +61,10 @@ FileStamp getFileStamp(std::u16string_view path);
 /// 260 units.
 std::u16string getModulePath();
 
-/// The folder of printer drivers, with a trailing separator: where driver files lie when no
-/// session has told the library its own folder. Windows: by the spooler, for a printer (its
-/// driver's folder) or, with an empty name or failing that, the environment's ("...\3").
-/// Elsewhere: the library's own folder.
+/// The folder of printer drivers, with a trailing separator: where driver files lie as long as no
+/// session has made the library's own folder known. Windows: by the spooler, for a printer (its
+/// driver's folder) or, with an empty name or failing that, the environment's ("...\3"). Elsewhere:
+/// the library's own folder.
 std::u16string getDriverDirectory(std::u16string_view printerName = {});
 
 } // namespace zent::platform

@@ -33,7 +33,7 @@ std::u16string InputRule::accept(std::u16string_view text, std::size_t start, st
         const std::u16string_view character = takeCharacter(entered);
         const bool hasRoom = current.size() - (end - start) + character.size() <= limit;
         if (!hasRoom || (character == lineEnd && !hasLines)) {
-            break; // the start of what was entered, without gaps
+            break; // only the beginning of what was entered is taken, so that it has no gaps
         }
         if (accepts(current, start, end, character)) {
             current.replace(start, end - start, character);
@@ -61,7 +61,7 @@ bool InputRule::accepts(std::u16string_view text, std::size_t start, std::size_t
     if (!passes(text, start, end, first)) {
         return false;
     }
-    // A line end is one key, and asked for as that.
+    // A line end is one key, so that the filter is asked for it once.
     if (character.size() == 1 || character == lineEnd) {
         return true;
     }

@@ -17,7 +17,7 @@ struct InputRule {
     bool hasLines = false;
     bool isNumber = false; // decimal digits alone
 
-    /// What is taken of `entered`, which is to stand in place of a part of `text`, [start, end). A
+    /// Gives what is taken of `entered`, which is to replace the part [start, end) of `text`. A
     /// surrogate pair is taken as a whole or not at all, and a single surrogate never.
     std::u16string accept(std::u16string_view text, std::size_t start, std::size_t end,
                           std::u16string_view entered) const;

@@ -5,8 +5,8 @@
 
 namespace zent {
 
-/// Makes an object that is never destroyed. Everything static is made in this way: while the
-/// process ends in one thread, others may still be in a call, and would find what they use gone.
+/// Makes an object that is never destroyed. All static objects are made in this way: while the
+/// process ends in one thread, others may still be in a call, and would use objects that are gone.
 /// The caller keeps the reference in a static variable, by which leak checkers find the object.
 template <typename Object, typename... Arguments>
 Object& keepForever(Arguments&&... arguments) {

@@ -2,8 +2,9 @@
 
 namespace zent::platform {
 
-/// What is called when the system's loader tells the library something. Set while the library is
-/// loaded, since it may go without ever having been used; until then nothing is called.
+/// The functions that the adapter calls when the system's loader reports something. They are set
+/// while the library is loaded, since it may be unloaded without ever having been used; until then
+/// they do nothing.
 struct LibraryHooks {
     void (*onProcessDetach)() = [] {};
     void (*onThreadDetach)() = [] {}; // Windows alone reports threads

@@ -4,9 +4,9 @@
 
 namespace zent::platform {
 
-// All are asked for anew by each call, of the user's default locale. Windows: the locale of the
-// control panel. Elsewhere: what the environment says (LC_ALL, then LC_MEASUREMENT, LC_PAPER
-// or LC_CTYPE, then LANG); the host's own locale isn't touched.
+// Each call asks the user's default locale anew. Windows: the locale of the control panel.
+// Elsewhere: what the environment says (LC_ALL, then LC_MEASUREMENT, LC_PAPER or LC_CTYPE, then
+// LANG); the host's own locale isn't touched.
 
 /// The system of measurement: "0" metric, "1" US. Empty if the system can't tell.
 std::u16string getLocaleMeasurement();
@@ -15,7 +15,7 @@ std::u16string getLocaleMeasurement();
 /// Windows may give other numbers, elsewhere other papers give an empty text.
 std::u16string getLocalePaperSize();
 
-/// Whether the user's language counts a UTF-16 unit among its letters and digits.
+/// Whether a UTF-16 unit is a letter or digit in the user's language.
 bool isLetterOrDigit(char16_t unit);
 
 } // namespace zent::platform

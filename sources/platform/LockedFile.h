@@ -11,17 +11,17 @@ enum class FileKind {
     missing,
     regular,
     folder,
-    device,  // or a pipe: what is written to, but not replaced
+    device,  // a device or a pipe, which is written to, but not replaced
     unknown, // the system can't tell; getLastError() says why
 };
-/// What a path names, links followed. Windows can't tell that of the names of its devices, which
-/// aren't looked at, nor locked below.
+/// What a path names, links followed. On Windows the names of devices give `unknown`: such files
+/// are neither looked at, nor locked below.
 FileKind getFileKind(std::u16string_view path);
 
 /// A file that is read and replaced by one at a time, of this process or another. The lock is a
-/// file beside it (".NAME.zent-lock"), which is gone when nobody holds it; that of a process that
-/// ended without letting go is free. Those who only read need no lock, since a file is replaced in
-/// one step.
+/// file beside it (".NAME.zent-lock"), which is removed when nobody holds the lock; the lock of a
+/// process that ended without letting go is free. Those who only read need no lock, since a file is
+/// replaced in one step.
 class LockedFile {
 public:
     /// Waits for the lock of a file, which need not exist. A link stands for the file that it leads

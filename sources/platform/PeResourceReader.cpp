@@ -6,7 +6,7 @@ namespace zent::platform {
 
 namespace {
 
-/// Where the headers put what is needed of them.
+/// The offsets in the file of what is needed of the headers.
 struct Headers {
     std::uint64_t sectionTable;
     std::uint32_t sectionCount;
@@ -81,7 +81,8 @@ bool PeResourceReader::readSections(Bytes file, std::uint64_t offset, std::uint3
         const std::uint64_t address = *read32(header, 12);
         const std::uint64_t fileSize = *read32(header, 16);
         const std::uint64_t fileOffset = *read32(header, 20);
-        // The part in memory alone is zeros, and no resource lies there.
+        // What a section has in memory beyond its part of the file is zeros, and no resource lies
+        // there.
         const std::uint64_t size = memorySize == 0 ? fileSize : std::min(memorySize, fileSize);
         const auto content = slice(file, fileOffset, size);
         if (!content) {
@@ -92,7 +93,7 @@ bool PeResourceReader::readSections(Bytes file, std::uint64_t offset, std::uint3
     return true;
 }
 
-/// What the file holds from an address on, up to its section's end.
+/// The bytes that the file holds from an address on, up to the end of the section.
 std::optional<Bytes> PeResourceReader::contentAt(std::uint64_t address) const {
     for (const Section& section : m_sections) {
         if (address >= section.address && address - section.address < section.content.size()) {

@@ -16,12 +16,13 @@ constexpr std::uint32_t binary = 3; // REG_BINARY: any bytes
 constexpr std::uint32_t number = 4; // REG_DWORD: 4 bytes, little-endian
 } // namespace registryType
 
-/// The most bytes of a value, and the most units of a name: as the first registries had it, so that
-/// what can be kept on one system can be kept on all. A key may be as long as a name.
+/// The largest size of a value in bytes, and of a name in units. These are the limits of the first
+/// registries, so that what can be kept on one system can be kept on all. A key may be as long as a
+/// name.
 constexpr std::uint32_t largestPreference = 1024 * 1024;
 constexpr std::uint32_t longestPreferenceName = 16'383;
 
-/// A value as stored. Its bytes may be none, which is something else than no value.
+/// A value as it is stored. It may have no bytes, which differs from there being no value.
 struct StoredPreference {
     std::uint32_t type = 0;
     std::vector<std::byte> bytes;
@@ -35,9 +36,9 @@ enum class PreferenceStatus {
     valueFailed, // the store failed when the value was read or written
 };
 
-/// What became of a request. The error is the system's number for anything but success (Windows:
-/// as the registry functions return it; elsewhere: SQLite's result code, and what the system said
-/// to it where it failed in that).
+/// The outcome of a request. The error is the system's number for anything but success (Windows: as
+/// the registry functions return it; elsewhere: SQLite's result code, and what the system said to
+/// it where it failed in that).
 struct PreferenceResult {
     PreferenceStatus status = PreferenceStatus::done;
     std::uint32_t error = 0;
@@ -62,7 +63,7 @@ PreferenceResult readPreference(std::u16string_view key, std::u16string_view nam
 PreferenceResult writePreference(std::u16string_view key, std::u16string_view name,
                                  std::uint32_t type, std::span<const std::byte> bytes);
 
-/// Where the store of a key lies and what is wrong with it, by a result with an error.
+/// Says where the store of a key lies and what is wrong with it, for a result with an error.
 std::u16string explainPreferenceFailure(std::u16string_view key, const PreferenceResult& result);
 
 } // namespace zent::platform

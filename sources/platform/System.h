@@ -11,8 +11,8 @@ namespace zent::platform {
 
 /// Shows a titled text with an icon and buttons and returns the button pressed (1 OK, 2 Cancel).
 /// `flags` are those of the Windows message box: 16, 32, 48, 64 icons, 8192 task modal, 1 OK and
-/// Cancel. Where there is nobody to see it, on this thread, the text goes to the standard error
-/// stream and a choice counts as refused: Cancel, or No; a box with OK alone counts as OK.
+/// Cancel. Where nobody can see it, or this thread can't show it, the text goes to the standard
+/// error stream and a choice counts as refused: Cancel, or No; a box with OK alone counts as OK.
 std::int32_t showMessageBox(WindowHandle owner, std::u16string_view body, std::u16string_view title,
                             std::uint32_t flags);
 
@@ -37,8 +37,8 @@ std::string getTypeName(const std::type_info& type);
 bool isDebuggerPresent();
 void breakIntoDebugger();
 
-/// Whether an exception that nothing is known of may travel on into the application: true on
-/// Windows, where it can be a processor fault that the application's own handlers want to see.
+/// Whether an exception of an unknown kind may travel on into the application: true on Windows,
+/// where it can be a processor fault that the application's own handlers want to see.
 extern const bool unknownExceptionsMayLeave;
 
 } // namespace zent::platform

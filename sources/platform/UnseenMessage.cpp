@@ -10,7 +10,7 @@ namespace zent::platform {
 
 namespace {
 
-/// Of what a message holds, line ends are kept; any other control character could steer a terminal.
+/// Keeps the line ends of a message, but no other control character, which could steer a terminal.
 std::string printable(std::u16string_view text) {
     std::string result = toAnsi(text);
     std::erase(result, '\r');
@@ -67,7 +67,8 @@ std::int32_t printUnseenMessage(std::u16string_view body, std::u16string_view ti
         box += std::string("\nThere is no display to ask on: taken as ") + answer.name + ".\n";
     }
     box += rule + '\n';
-    // In one piece, so that nothing that another thread prints comes in between.
+    // The text is written in one piece, so that nothing that another thread prints comes in
+    // between.
     std::fwrite(box.data(), 1, box.size(), stderr);
     return answer.number;
 }

@@ -6,8 +6,7 @@
 namespace zent::platform {
 
 /// Writes a message box to the standard error stream, where there is nobody to show it to, and
-/// gives the answer that it counts as: what refuses (Cancel, No, Abort) where there is a choice,
-/// else OK.
+/// gives the answer: where there is a choice, the one that refuses (Cancel, No, Abort), else OK.
 std::int32_t printUnseenMessage(std::u16string_view body, std::u16string_view title,
                                 std::uint32_t flags);
 

@@ -9,7 +9,7 @@ namespace zent::platform {
 /// receives its number for the reason, else 0.
 std::u16string getUserLogonName(std::uint32_t& systemError);
 
-/// What became of the request for the folder of the user's own files.
+/// The outcome of the request for the folder of the user's own files.
 enum class ProfileStatus {
     found,
     noFunction,       // the system knows profiles, but has no function that finds one

@@ -15,9 +15,9 @@ unsigned char byteAt(std::string_view text, std::size_t index) {
     return static_cast<unsigned char>(text[index]);
 }
 
-/// What the first byte of a UTF-8 sequence says: how many bytes follow, the range of the next one
-/// (narrower than 80 to BF where overlong forms, surrogates and values above 10FFFF must be kept
-/// out), and its bits of the value. No sequence starts with a byte that `isLead` is false for.
+/// What the first byte of a UTF-8 sequence determines: how many bytes follow, the range of the next
+/// one (narrower than 80 to BF where overlong forms, surrogates and values above 10FFFF must be
+/// kept out), and its bits of the value. No sequence starts with a byte that `isLead` is false for.
 struct Lead {
     bool isLead;
     int following;
@@ -46,7 +46,7 @@ Lead classify(unsigned char byte) {
     return {false, 0, 0, 0, 0};
 }
 
-/// Takes one character from `position` on. Where there is none, nothing, and what is taken is the
+/// Takes one character from `position` on. Where there is none it gives nothing, and takes the
 /// longest piece that could have begun one.
 std::optional<char32_t> decodeNext(std::string_view text, std::size_t& position) {
     Lead lead = classify(byteAt(text, position++));

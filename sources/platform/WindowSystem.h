@@ -12,15 +12,15 @@
 
 namespace zent::platform {
 
-/// The window system: opens dialogs, and what else is put before the user. All of it belongs to the
-/// thread that uses it. Text crosses the port as plain UTF-16, since an adapter may be a library of
-/// its own.
+/// The window system: opens dialogs and message boxes, asks for files, and shows help. All of it
+/// belongs to the thread that uses it. Text crosses the port as plain UTF-16, since an adapter may
+/// be a library of its own.
 class WindowSystem {
 public:
     /// The window system at hand, or null where there is none (no display, no adapter). It is
     /// looked for at the first need and then stays. An adapter makes its own application object if
-    /// the host process has none, and shares it if it has. A toolkit that is bound to one thread is
-    /// there for that thread alone; on others this is null.
+    /// the host process has none, and shares it if it has. A toolkit that is bound to one thread
+    /// exists for that thread alone; on others this is null.
     static WindowSystem* find();
 
     virtual ~WindowSystem() = default;
@@ -37,18 +37,19 @@ public:
     virtual std::intptr_t runModal(std::span<const std::byte> dialogTemplate,
                                    const ResourceModule& resources, WindowHandle owner,
                                    DialogProcedure& procedure) = 0;
-    /// The same without a loop: shown, and destroyed by its destroy(), by a close, or with its
-    /// owner; null if it couldn't be made.
+    /// Shows a dialog in the same way without a loop of its own. It is destroyed by its destroy(),
+    /// when the user closes it, or with its owner. Null if it couldn't be made.
     virtual Dialog* createModeless(std::span<const std::byte> dialogTemplate,
                                    const ResourceModule& resources, WindowHandle owner,
                                    DialogProcedure& procedure) = 0;
 
     /// The dialog that a window is; for any other window, one that isn't there.
     virtual Dialog& getDialog(WindowHandle window) = 0;
-    /// Of any window of the application, not only a dialog.
+    /// The title of any window of the application, not only of a dialog.
     virtual std::u16string getCaption(WindowHandle window) = 0;
 
-    /// As platform::showMessageBox, but 0 if it couldn't be shown or ended without an answer.
+    /// Shows a message box as platform::showMessageBox does, but gives 0 if it couldn't be shown or
+    /// ended without an answer.
     virtual std::int32_t showMessageBox(WindowHandle owner, std::u16string_view body,
                                         std::u16string_view title, std::uint32_t flags) = 0;
 
@@ -59,7 +60,7 @@ public:
         std::u16string extension;     // appended to a name without one, no dot
         std::u16string fileName;      // proposed
     };
-    /// Nothing if the user gave up.
+    /// These give nothing if the user gave up.
     virtual std::optional<std::u16string> askForOpenFile(WindowHandle owner,
                                                          const FileQuestion& question) = 0;
     virtual std::optional<std::u16string> askForSaveFile(WindowHandle owner,

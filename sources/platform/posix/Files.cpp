@@ -49,8 +49,8 @@ public:
     std::uintptr_t getHandle() const override { return static_cast<std::uintptr_t>(m_descriptor); }
 
 private:
-    /// The system may move less than it was asked to, or be interrupted, without anything being
-    /// wrong.
+    /// Repeats a call until all bytes are moved: the system may move fewer than it was asked to, or
+    /// be interrupted, without a failure.
     template <typename Byte, typename Step>
     static bool transfer(std::span<Byte> bytes, std::size_t& done, const Step& step) {
         done = 0;
@@ -72,8 +72,9 @@ private:
     int m_descriptor;
 };
 
-/// The file that holds this code, as the loader knows it. Taken when the library is loaded, since
-/// the loader's name may be relative to the folder that the process is in at that time.
+/// The file that holds this code, as the loader knows it. It is asked for when the library is
+/// loaded, since the loader's name may be relative to the folder that the process is in at that
+/// time.
 const std::string& loadedFrom() {
     static const std::string& path = keepForever<std::string>([] {
         Dl_info information = {};

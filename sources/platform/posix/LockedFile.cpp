@@ -22,7 +22,8 @@ namespace {
 
 constexpr mode_t allModes = S_IRWXU | S_IRWXG | S_IRWXO;
 constexpr mode_t ownerAlone = S_IRUSR | S_IWUSR;
-constexpr mode_t everybody = ownerAlone | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH; // less the umask
+// The umask is taken off this.
+constexpr mode_t everybody = ownerAlone | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
 
 class Descriptor {
 public:
@@ -35,7 +36,7 @@ public:
     bool isOpen() const { return m_number >= 0; }
     int get() const { return m_number; }
     int release() { return std::exchange(m_number, -1); }
-    /// What went wrong before is still the last error.
+    /// Closes the file. The last error stays as it was.
     void reset() {
         const int error = errno;
         if (isOpen()) {
@@ -48,14 +49,14 @@ private:
     int m_number;
 };
 
-/// Removes a file; what went wrong before is still the last error.
+/// Removes a file. The last error stays as it was.
 void removeQuietly(const std::string& path) {
     const int error = errno;
     unlink(path.c_str());
     errno = error;
 }
 
-/// "folder/" of a path; "./" of a bare name, and "/" of what stands in the root.
+/// The folder of a path with its slash: "./" for a bare name, and "/" for what lies in the root.
 std::string folderOf(const std::string& path) {
     const std::size_t slash = path.rfind('/');
     return slash == std::string::npos ? "./" : path.substr(0, slash + 1);
@@ -63,7 +64,7 @@ std::string folderOf(const std::string& path) {
 
 /// The file that a path leads to, which need not exist. Empty on failure.
 std::string followLinks(std::string path) {
-    constexpr int mostLinks = 40; // as the system itself follows them
+    constexpr int mostLinks = 40; // as many as the system itself follows
     for (int count = 0; count < mostLinks; ++count) {
         std::array<char, PATH_MAX> text = {};
         const ssize_t length = readlink(path.c_str(), text.data(), text.size());
@@ -78,16 +79,18 @@ std::string followLinks(std::string path) {
     return {};
 }
 
-/// What the names of all files begin with that stand beside a file for its sake. Names that are so
-/// long that nothing could be added to them share it with others.
+/// The beginning of the names of the files that are made beside a file: its lock and its new
+/// content. Long names are cut, since nothing could be added to them otherwise, and may share a
+/// beginning with others.
 std::string makeStem(const std::string& path) {
     constexpr std::size_t longest = 180; // of the 255 bytes that a name may have
     const std::string folder = folderOf(path);
-    const std::string name = path.substr(path.rfind('/') + 1); // of a bare name, all
+    const std::string name = path.substr(path.rfind('/') + 1); // all of a bare name
     return folder + '.' + name.substr(0, longest) + ".zent-";
 }
 
-/// The file of a lock, made if it isn't there. A user may use that of another, but not write to it.
+/// Opens the file of a lock, and makes it if it isn't there. A user may lock the file of another,
+/// but not write to it.
 Descriptor openLock(const std::string& path) {
     constexpr int flags = O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
     const int descriptor = open(path.c_str(), O_RDWR | flags, everybody);
@@ -96,7 +99,7 @@ Descriptor openLock(const std::string& path) {
                           : open(path.c_str(), O_RDONLY | flags, everybody));
 }
 
-/// Whether a name still is that of an open file; nothing if the system can't tell.
+/// Whether a name still leads to an open file; nothing if the system can't tell.
 std::optional<bool> isNameOf(const std::string& path, const Descriptor& file) {
     struct stat open = {};
     struct stat named = {};
@@ -109,8 +112,8 @@ std::optional<bool> isNameOf(const std::string& path, const Descriptor& file) {
     return open.st_dev == named.st_dev && open.st_ino == named.st_ino;
 }
 
-/// The lock, once it is held; closed on failure. Whoever lets go removes the file, so that what one
-/// who has waited gets may have no name any more; then he begins anew.
+/// Gives the locked file; a closed one on failure. Whoever lets go of a lock removes its file, so
+/// that the file that a waiting process has locked may have no name any more; then it begins anew.
 Descriptor acquire(const std::string& path) {
     constexpr int longestWait = 30'000; // milliseconds, or a little more
     for (int waited = 0; waited < longestWait; ++waited) {
@@ -150,8 +153,8 @@ bool writeAll(int descriptor, std::span<const std::byte> bytes) {
     return true;
 }
 
-/// Gives a new file the owner and the modes of the old one. Where the group can't be kept, which
-/// takes privileges, it gets no more than others had: it isn't the group that was meant.
+/// Gives a new file the owner and the modes of the old one. To keep the group takes privileges;
+/// where it can't be kept, the new group gets no more rights than others had.
 bool takeOver(int descriptor, const struct stat& old) {
     mode_t modes = old.st_mode & allModes;
     struct stat status = {};
@@ -167,8 +170,8 @@ bool takeOver(int descriptor, const struct stat& old) {
     return fchmod(descriptor, modes) == 0;
 }
 
-/// What is in a folder is on the disk only when the folder itself is. Some file systems can't do
-/// it.
+/// Brings a folder to the disk, without which its files aren't there after a crash. Some file
+/// systems can't do it.
 void syncFolder(const std::string& folder) {
     const Descriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (descriptor.isOpen()) {
@@ -182,7 +185,7 @@ public:
         : m_path(std::move(path)), m_stem(makeStem(m_path)), m_lock(std::move(lock)) {}
 
     ~PosixLockedFile() override {
-        // A file of that name that isn't empty is somebody's own.
+        // A file of that name that isn't empty belongs to somebody else.
         struct stat status = {};
         if (fstat(m_lock.get(), &status) == 0 && status.st_size == 0) {
             removeQuietly(lockOf(m_stem));
@@ -219,8 +222,9 @@ public:
     }
 
 private:
-    /// Nobody else writes while the lock is held: what has the name already was left by a writer
-    /// that was killed, or put there by somebody who wants it to be written to.
+    /// Nobody else writes while the lock is held: a file that has the name already was left by a
+    /// writer that was killed, or put there by somebody who wants it to be written to, and is
+    /// removed.
     static Descriptor createTemporary(const std::string& path, mode_t modes) {
         unlink(path.c_str());
         return Descriptor(
@@ -229,7 +233,7 @@ private:
 
     std::string m_path;
     std::string m_stem;
-    Descriptor m_lock; // goes last: the file of the lock is gone before the lock is free
+    Descriptor m_lock; // destroyed last, so that the lock's file is removed before the lock is free
 };
 
 } // namespace

@@ -34,7 +34,7 @@ bool isWritableMemory(const void* address, std::size_t length) noexcept {
     if (first == 0 || first + length < first) {
         return false;
     }
-    // Rights are given by the page, so one aligned word stands for all of its page.
+    // All of a page has the same rights, so that one aligned word in it is enough.
     const std::uintptr_t end = first + length;
     for (std::uintptr_t place = first & ~std::uintptr_t{3}; place < end;
          place = (place & ~(pageSize - 1)) + pageSize) {

@@ -13,7 +13,8 @@ namespace zent::platform {
 namespace {
 
 constexpr std::int64_t nanosecondsPerSecond = 1'000'000'000;
-/// More than the longest tick of a file system's clock, which is two seconds.
+/// How long a file must be left alone until its state is settled: longer than the longest tick of a
+/// file system's clock, which is two seconds.
 constexpr std::int64_t settlingTime = 3 * nanosecondsPerSecond;
 constexpr std::size_t maximumSize = std::size_t{64} * 1024;
 

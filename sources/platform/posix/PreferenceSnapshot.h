@@ -12,22 +12,22 @@
 
 namespace zent::platform {
 
-/// One state of a file, told from another without reading it.
+/// The state of a file, by which it can be compared with another without reading the file.
 struct FileState {
     std::uint64_t device = 0;
     std::uint64_t number = 0;
     std::uint64_t size = 0;
-    std::int64_t modified = 0; // nanoseconds since 1970, as is the next
+    std::int64_t modified = 0; // in nanoseconds since 1970, as is the next
     std::int64_t changed = 0;
     bool operator==(const FileState&) const = default;
 
-    /// Whether the next writing will surely make it another one: file systems have clocks with long
-    /// ticks, within which two states can look the same.
+    /// Whether the next change of the file will certainly show in its state: within one tick of a
+    /// file system's clock, which can be long, two states look the same.
     bool isSettled() const;
 };
 
-/// The state of a file as the file system has it now, be it on another machine; nothing if that
-/// can't be told.
+/// The state of a file as the file system has it now, be it on another machine; nothing if the
+/// system can't tell.
 std::optional<FileState> findFileState(const std::string& path);
 
 /// The small values of the preference database in one state of its file. To open the database costs
@@ -40,7 +40,8 @@ public:
 
     explicit PreferenceSnapshot(const FileState& state) : m_state(state) {}
 
-    /// Takes a value, or that there is one which is too large. False when no more have room.
+    /// Adds a value; nothing in place of one that is too large to be kept. False when there is no
+    /// room for more.
     bool add(std::u16string key, std::u16string name, std::optional<StoredPreference> value);
     /// Whether the snapshot can tell what the database holds there.
     bool knows(std::u16string_view key, std::u16string_view name) const;
@@ -49,7 +50,7 @@ public:
 
     /// The snapshot that is kept, if it is of this state; else null.
     static std::shared_ptr<const PreferenceSnapshot> findKept(const FileState& state);
-    /// Keeps this snapshot, or with null none at all.
+    /// Keeps a snapshot in place of the one before; null keeps none.
     static void keep(std::shared_ptr<const PreferenceSnapshot> snapshot);
 
 private:

@@ -17,8 +17,9 @@ namespace zent::platform {
 
 namespace {
 
-/// Called, with how often it was before, while another process uses the database: false ends the
-/// wait. SQLite's own wait counts its pauses as whole ones though signals cut them short.
+/// SQLite calls this while another process uses the database, with the number of calls before;
+/// false ends the wait. SQLite's own wait counts its pauses as whole ones though signals cut them
+/// short.
 int waitForOthers(void* /*unused*/, int pauses) {
     constexpr int pause = 5; // milliseconds, as is the next
     constexpr int longestWait = 30'000;
@@ -29,7 +30,7 @@ int waitForOthers(void* /*unused*/, int pauses) {
     return 1;
 }
 
-/// Raised in here for whatever SQLite refuses.
+/// The exception for all that SQLite refuses. It doesn't leave this source.
 struct StoreError {
     int code = SQLITE_OK;
     int systemError = 0; // an errno number, if it comes from that
@@ -66,7 +67,7 @@ public:
         require(sqlite3_bind_blob64(m_statement.get(), ++m_bound, data, bytes.size(), nullptr));
     }
 
-    /// Whether there is a row, the next one.
+    /// Goes to the next row; false if there is none.
     bool step() {
         const int code = sqlite3_step(m_statement.get());
         if (code != SQLITE_ROW) {
@@ -81,7 +82,7 @@ public:
         return static_cast<std::uint32_t>(sqlite3_column_int64(m_statement.get(), column));
     }
     std::vector<std::byte> getBytes(int column) {
-        // In this order: the second asks for the size of what the first has made.
+        // The order matters: the second call gives the size of what the first has made.
         const void* data = sqlite3_column_blob(m_statement.get(), column);
         requireMemory(data);
         const int size = sqlite3_column_bytes(m_statement.get(), column);
@@ -120,7 +121,7 @@ public:
         sqlite3* connection = nullptr;
         const int code = sqlite3_open_v2(path.c_str(), &connection,
                                          SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
-        m_connection.reset(connection); // also a failed one
+        m_connection.reset(connection); // even if it has failed, since it must be closed then too
         if (code != SQLITE_OK) {
             throw StoreError{code, sqlite3_system_errno(connection)};
         }
@@ -172,7 +173,7 @@ bool hasTable(Connection& database) {
     return database.prepare("SELECT 1 FROM sqlite_schema WHERE name = 'preference'").step();
 }
 
-/// Texts are kept as they come, 16-bit unit by unit, also where they aren't valid UTF-16.
+/// Makes SQLite keep texts as they come, unit by unit, even if they aren't valid UTF-16.
 constexpr std::string_view keepUnits = "PRAGMA encoding = 'UTF-16le'";
 
 constexpr std::string_view createTable = "CREATE TABLE IF NOT EXISTS preference ("
@@ -182,14 +183,14 @@ constexpr std::string_view createTable = "CREATE TABLE IF NOT EXISTS preference 
                                          "bytes BLOB NOT NULL, "
                                          "PRIMARY KEY (key, name)) STRICT";
 
-/// The form of the database that this library writes. The database itself says which it has; 0 is
-/// said by those that were written before the form had a number, and is the same form.
+/// The form of the database that this library writes. The database holds its number. Databases that
+/// were written before the form had a number hold 0, and have the same form.
 constexpr std::uint32_t formVersion = 1;
 constexpr std::string_view sayForm = "PRAGMA user_version = 1";
-/// What a database of a later form fails with; SQLite gives this code to nothing any more.
+/// The code with which a database of a later form fails. SQLite itself no longer uses it.
 constexpr int laterForm = SQLITE_FORMAT;
 
-/// The form of a database. A later one isn't looked into: what stands there may mean other things.
+/// Gives the form of a database. A later form fails, since its tables may mean something else.
 std::uint32_t requireKnownForm(Connection& database) {
     Statement select = database.prepare("PRAGMA user_version");
     const std::uint32_t version = select.step() ? select.getNumber(0) : 0;
@@ -199,15 +200,17 @@ std::uint32_t requireKnownForm(Connection& database) {
     return version;
 }
 
-/// Takes what may be kept of a database; null if it is nothing.
+/// Reads all values that may be kept; null if nothing may be kept, since a change of the database
+/// couldn't be seen.
 std::shared_ptr<const PreferenceSnapshot> readAll(Connection& database, const FileState& state) {
-    // A write-ahead log takes what is written without a trace in the file itself.
+    // With a write-ahead log a change leaves no trace in the file itself.
     Statement mode = database.prepare("PRAGMA journal_mode");
     if (!state.isSettled() || !mode.step() || mode.getText(0) == u"wal") {
         return nullptr;
     }
     const auto snapshot = std::make_shared<PreferenceSnapshot>(state);
-    // The size of a value stands before it, and what is too large for the snapshot isn't read.
+    // The database stores the size of a value before it, so that a value that is too large isn't
+    // read.
     Statement select = database.prepare(
         "SELECT key, name, type, CASE WHEN length(bytes) <= ? THEN bytes END FROM preference");
     select.bind(PreferenceSnapshot::largestValue);
@@ -230,12 +233,12 @@ bool take(const PreferenceSnapshot& snapshot, std::u16string_view key, std::u16s
     return found != nullptr;
 }
 
-/// Looks into the database. The state is one that its file was in before the call, if that could be
-/// told and no snapshot of it is kept.
+/// Finds a value in the database. `state` is that of its file before the call, if it is known and
+/// no snapshot of it is kept; then a new snapshot is.
 bool find(const std::string& path, const std::optional<FileState>& state, std::u16string_view key,
           std::u16string_view name, StoredPreference& value) {
     Connection database(path);
-    database.run("BEGIN"); // one lock for all that follows
+    database.run("BEGIN"); // so that all that follows sees one state of the database
     requireKnownForm(database);
     if (!hasTable(database)) {
         return false;
@@ -261,8 +264,8 @@ bool find(const std::string& path, const std::optional<FileState>& state, std::u
     return true;
 }
 
-/// Opens a database that was to be created. Where that failed, its reason says more than that
-/// there is none now.
+/// Opens a database after an attempt to create it. If that failed, its reason says more than that
+/// there is no database.
 Connection openCreated(const std::string& path, int reason) {
     try {
         return Connection(path);
@@ -293,8 +296,8 @@ PreferenceResult failed(PreferenceStatus status, const StoreError& error) {
             static_cast<std::uint32_t>(error.systemError)};
 }
 
-/// Whether a store is good, but the value can't be had, or not just now. All else is like no store
-/// to a reader.
+/// Whether an error is about one value or the moment. For a reader any other error is as if there
+/// were no store.
 bool isOfValue(const StoreError& error) {
     return error.code == SQLITE_BUSY || error.code == SQLITE_LOCKED || error.code == SQLITE_NOMEM ||
            error.code == SQLITE_TOOBIG;
@@ -310,7 +313,7 @@ PreferenceResult readPreference(std::u16string_view key, std::u16string_view nam
         return {PreferenceStatus::noKey, SQLITE_CANTOPEN};
     }
     try {
-        // Keys are nothing by themselves here, so that none is missing.
+        // A key doesn't exist apart from its values here, so that only a value can be missing.
         const auto kept = state ? PreferenceSnapshot::findKept(*state) : nullptr;
         const bool found = kept && kept->knows(key, name)
                                ? take(*kept, key, name, value)

@@ -44,7 +44,7 @@ bool equalsIgnoringCase(std::string_view a, std::string_view b) {
                       [&](char x, char y) { return lower(x) == lower(y); });
 }
 
-/// The number that a text starts with, 0 if with none.
+/// The number that a text begins with; 0 if it begins with none.
 std::int32_t leadingNumber(std::string_view text) {
     std::int32_t value = 0;
     std::from_chars(text.data(), text.data() + text.size(), value);

@@ -11,7 +11,7 @@ namespace zent::platform {
 
 namespace {
 
-/// A folder from the environment. One that isn't absolute counts as not set.
+/// A folder that a variable of the environment names; empty if the path isn't absolute.
 std::string getFolderVariable(const char* name) {
     const char* value = std::getenv(name);
     return value != nullptr && *value == '/' ? value : "";

@@ -4,16 +4,16 @@
 
 namespace zent::platform {
 
-/// What the user database says of the user who runs the process.
+/// The entry of the user who runs the process in the user database.
 struct UserEntry {
     std::string name;
     std::string home;
 };
-/// Empty texts if it says nothing; `error` is then the reason, an errno number.
+/// Its texts are empty if there is no entry; `error` is then the reason, an errno number.
 UserEntry findUserEntry(int& error);
 
-/// The user's home folder: HOME if it is an absolute path, else the user database's. Empty if there
-/// is neither; `error` is then the reason.
+/// The user's home folder: HOME if it is an absolute path, else the one of the user database. Empty
+/// if there is neither; `error` is then the reason.
 std::string getHomeFolder(int& error);
 
 /// Where programs keep the user's configuration, by the XDG Base Directory conventions:

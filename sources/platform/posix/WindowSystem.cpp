@@ -15,7 +15,7 @@ namespace {
 
 using Adapter = WindowSystem* (*)();
 
-/// Whether somebody may be there to see a window.
+/// Whether there may be a display on which somebody sees a window.
 bool isDisplayNamed() {
     const char* const variables[] = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
     return std::any_of(std::begin(variables), std::end(variables), [](const char* variable) {
@@ -24,7 +24,8 @@ bool isDisplayNamed() {
     });
 }
 
-/// The adapter's one call; null without the adapter, or what it needs. What is loaded stays.
+/// Finds the adapter's one function; null if the adapter, or a library that it needs, is missing.
+/// The adapter stays loaded.
 Adapter loadAdapter() {
     if (!isDisplayNamed()) {
         return nullptr;
