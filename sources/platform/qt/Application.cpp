@@ -13,8 +13,8 @@ namespace zent::platform::qt {
 
 namespace {
 
-/// The application object sets the process's locale to the user's. The host keeps its own, but for
-/// the classes of characters, which input methods go by.
+/// Keeps the host's locale, since an application object sets the process's locale to the user's.
+/// Only the classes of characters become the user's, since input methods need them.
 class LocaleKeeper {
 public:
     LocaleKeeper() : m_locale(std::setlocale(LC_ALL, nullptr)) {}

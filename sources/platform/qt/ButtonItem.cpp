@@ -26,7 +26,7 @@ enum Kind : std::uint32_t {
 
 std::uint32_t kindOf(std::uint32_t style) { return style & 0xF; }
 
-/// A check box or radio button that leaves its state to the program.
+/// A check box or radio button whose state only the program changes.
 template <typename Button>
 class ProgramsButton final : public Button {
 public:
@@ -102,7 +102,8 @@ ButtonItem::ButtonItem(Dialog& dialog, const DialogTemplate::Item& source)
 ButtonItem::ButtonItem(Dialog& dialog, const DialogTemplate::Item& source, QAbstractButton& button)
     : Item(dialog, source, button), m_button(button) {
     button.setText(textOf(source.title));
-    // Those of the template's groups alone belong together.
+    // Only buttons of one group of the template belong together, whatever the toolkit would take
+    // for a group.
     button.setAutoExclusive(false);
     if (kindOf(style()) == defaultPush) {
         makeDefault();
@@ -117,7 +118,7 @@ bool ButtonItem::isMarkedButton() const {
 }
 
 void ButtonItem::setChecked(bool isChecked) {
-    // An exclusive group would keep one button checked, and one alone.
+    // An exclusive group would always keep exactly one button checked.
     QButtonGroup* const group = m_button.group();
     if (group != nullptr) {
         group->setExclusive(false);
@@ -128,7 +129,8 @@ void ButtonItem::setChecked(bool isChecked) {
     }
 }
 
-/// The toolkit's own mark moves with the focus.
+/// Whether the button is the default one. The toolkit's own mark can't tell, since it moves with
+/// the focus.
 bool ButtonItem::isDefault() const { return dialog().defaultButton() == this; }
 
 void ButtonItem::makeDefault() {

@@ -22,7 +22,8 @@ public:
 
     bool isDefault() const override;
     void makeDefault() override;
-    /// Of radio buttons that switch each other off. Gives whether this is one.
+    /// Joins a group of radio buttons that switch each other off, if this is one. Says whether it
+    /// is.
     bool joinGroup(QButtonGroup& group);
 
 private:

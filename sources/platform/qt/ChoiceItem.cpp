@@ -21,7 +21,7 @@ void ChoiceItem::setEntryText(int index, std::u16string_view text) {
     showEntryText(index, toQt(text));
 }
 
-/// Behind all texts that don't come after this one.
+/// The position after all texts that don't sort after this one.
 int ChoiceItem::findPlace(const QString& text) const {
     int first = 0;
     int last = getCount();

@@ -27,7 +27,8 @@ void ComboBoxItem::letEdit() {
     m_combo.setInsertPolicy(QComboBox::NoInsert);
     m_combo.setCompleter(nullptr);
     QLineEdit* const edit = m_combo.lineEdit();
-    // Else a text that equals one of the list but for case turns into it when the user leaves.
+    // Otherwise a text that differs from one of the list only in case would become that one when
+    // the user leaves.
     QObject::disconnect(edit, &QLineEdit::editingFinished, &m_combo, nullptr);
     QObject::connect(edit, &QLineEdit::textEdited, &m_combo,
                      [this] { dialog().tellCommand(getId(), notification::comboEdited); });
@@ -39,7 +40,7 @@ void ComboBoxItem::showText(const QString& text) {
     }
 }
 
-/// An edited text selects nothing.
+/// Once the text is edited, no text of the list is selected.
 int ComboBoxItem::getSelected() const {
     const int index = m_combo.currentIndex();
     return m_combo.currentText() == m_combo.itemText(index) ? index : -1;
@@ -47,7 +48,7 @@ int ComboBoxItem::getSelected() const {
 
 void ComboBoxItem::select(int index) { m_combo.setCurrentIndex(isIndex(index) ? index : -1); }
 
-/// The box would select a neighbour of the one that goes.
+/// Removes a text. If it is selected, none is afterwards: the box would select a neighbour.
 void ComboBoxItem::removeEntry(int index) {
     if (index == m_combo.currentIndex()) {
         m_combo.setCurrentIndex(-1);
@@ -65,7 +66,7 @@ std::uintptr_t ComboBoxItem::getEntryValue(int index) const {
     return m_combo.itemData(index).toULongLong();
 }
 
-/// The box would select its first entry.
+/// Adds a text. If none was selected, none is afterwards: the box would select its first text.
 void ComboBoxItem::insert(int index, const QString& text, std::uintptr_t value) {
     const bool isNoneSelected = m_combo.currentIndex() < 0;
     const QString edited = m_combo.currentText();

@@ -6,7 +6,7 @@
 
 namespace zent::platform::qt {
 
-/// A list of texts that drops down, below a text to edit or not.
+/// A list of texts that drops down below the chosen one, which the user may edit or not.
 class ComboBoxItem final : public ChoiceItem {
 public:
     ComboBoxItem(Dialog& dialog, const DialogTemplate::Item& source);

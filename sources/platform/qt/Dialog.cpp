@@ -67,7 +67,7 @@ Dialog::Dialog(const DialogTemplate& source, const ResourceModule& resources, QW
     m_area.setFrameShape(QFrame::NoFrame);
     m_area.setFocusPolicy(Qt::NoFocus);
     m_area.setWidget(&m_surface);
-    m_surface.setAutoFillBackground(false); // the dialog's ground is the items'
+    m_surface.setAutoFillBackground(false); // the items are drawn on the dialog's own ground
     setInnerSize(m_units.toPixels(source.place).size());
     placeInTheMiddle();
     connect(qApp, &QApplication::focusChanged, this,
@@ -78,13 +78,13 @@ Dialog::~Dialog() {
     try {
         sendDestroy();
     } catch (...) {
-        // There is nobody left to tell.
+        // The dialog has ended, so that nobody hears of it any more.
     }
     std::erase(liveDialogs(), this);
     if (m_run != nullptr) {
         m_run->end();
     }
-    // The widgets go before the items that they tell of what happens to them.
+    // The widgets go first, since they report to the items.
     qApp->disconnect(this);
     qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
 }
@@ -104,7 +104,8 @@ bool Dialog::addItems(const DialogTemplate& source) {
     return true;
 }
 
-/// A group goes from an item of that style to the next one.
+/// Makes the groups of radio buttons. A group goes from an item with the group style to the next
+/// one.
 void Dialog::groupRadioButtons() {
     for (const auto& item : m_items) {
         if (m_radioGroups.empty() || item->hasStyle(itemStyle::group)) {
@@ -116,7 +117,7 @@ void Dialog::groupRadioButtons() {
     }
 }
 
-/// Labels name the item behind them, spins belong to the one before.
+/// Connects items: a label names the next one, and a spin belongs to the one before.
 void Dialog::connectNeighbours() {
     for (std::size_t i = 0; i < m_items.size(); ++i) {
         Item* const item = m_items[i].get();
@@ -132,7 +133,7 @@ void Dialog::connectNeighbours() {
     }
 }
 
-/// Without one in the template, Enter stands for the item that accepts.
+/// Without a default button in the template, Enter presses OK.
 void Dialog::chooseDefault() {
     if (m_defaultButton == nullptr) {
         item<platform::ButtonItem>(okItem).makeDefault();
@@ -271,7 +272,7 @@ std::intptr_t Dialog::send(std::uint32_t message, std::uintptr_t wParam, std::in
     return result;
 }
 
-/// Called by Qt, which exceptions had better not pass through.
+/// Qt calls this, so that no exception may leave it.
 std::intptr_t Dialog::deliver(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam) {
     if (m_state != State::running) {
         return 0;
@@ -320,7 +321,7 @@ void Dialog::noticeFocus(const QWidget* left, QWidget* now) {
     }
 }
 
-/// The item that a widget is, or is a part of; null for any other.
+/// The item to which a widget belongs; null if it belongs to none.
 Item* Dialog::findItemOf(const QWidget* widget) const {
     const auto found = std::find_if(m_items.begin(), m_items.end(), [&](const auto& item) {
         return &item->widget() == widget || item->widget().isAncestorOf(widget);
@@ -352,7 +353,8 @@ std::vector<DialogItem*> Dialog::getItems() const {
     return items;
 }
 
-/// Where it will stand, unless it is told another place: only its size changes until then.
+/// Puts the window where it will stand unless the procedure moves it: in the middle of its owner,
+/// or of the screen.
 void Dialog::placeInTheMiddle() {
     const QRect area = parentWidget() != nullptr ? parentWidget()->window()->frameGeometry()
                                                  : screen()->availableGeometry();
@@ -378,7 +380,7 @@ void Dialog::setInnerSize(const QSize& size) {
 
 /// A dialog that is larger than its screen shows a part of its surface, and bars to scroll it.
 void Dialog::fitScreen() {
-    // What the frame takes is known once the window is there.
+    // The size of the frame is known only once the window is there.
     const int edge = style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
     const QSize frame =
         isVisible() ? frameGeometry().size() - size()

@@ -25,12 +25,12 @@ class ButtonItem;
 /// A dialog and its items. What the user does goes to its procedure.
 class Dialog final : public QDialog, public platform::Dialog {
 public:
-    /// Makes the window and its items, and nothing yet of what the user sees. Null for bytes that
-    /// are no template, or with an item of an unknown class. The owner, if there is one, destroys
-    /// the dialog with itself.
+    /// Makes the window and its items, and shows nothing yet. Null for bytes that are no template,
+    /// or with an item of an unknown class. The owner, if there is one, destroys the dialog with
+    /// itself.
     static Dialog* create(std::span<const std::byte> bytes, const ResourceModule& resources,
                           QWidget* owner, DialogProcedure& procedure);
-    /// The dialog of a handle, null if there is none (any more).
+    /// The dialog of a handle; null if there is none, or it is gone.
     static Dialog* find(WindowHandle handle);
 
     ~Dialog() override;
@@ -43,7 +43,7 @@ public:
     void startModeless();
 
     void end(std::intptr_t value) override;
-    /// The object goes once the event at hand is done.
+    /// The object is destroyed once the event at hand is done.
     void destroy() override;
     std::intptr_t send(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam) override;
     void setCaption(std::u16string_view text) override;
@@ -58,9 +58,10 @@ public:
     std::vector<DialogItem*> getItems() const override;
     Item* findItem(std::uint16_t id) const override;
 
-    // What the user did. Dialogs that haven't started, or have ended, say nothing of it.
+    // These report what the user did. A dialog that hasn't started, or has ended, doesn't pass it
+    // on.
     void tellCommand(std::uint16_t item, std::uint32_t code);
-    /// Gives the message result.
+    /// Reports an event and gives the message result.
     std::intptr_t tellNotification(const Notification& notification);
     void tellScroll(std::uint16_t item, int position);
     void tellDraw(const DrawRequest& request);
@@ -70,9 +71,9 @@ public:
     /// an event handler does.
     bool focusBehind(const QWidget& widget);
 
-    /// What the items stand on. It scrolls where the dialog doesn't fit the screen.
+    /// The widget that holds the items. It scrolls where the dialog doesn't fit the screen.
     QWidget& surface() { return m_surface; }
-    /// Null if there is none.
+    /// The item of an id; null if there is none.
     const ButtonItem* defaultButton() const { return m_defaultButton; }
     void setDefaultButton(ButtonItem& button) { m_defaultButton = &button; }
     Pictures& pictures() { return m_pictures; }
@@ -111,7 +112,7 @@ private:
     ButtonItem* m_defaultButton = nullptr;
     std::vector<std::unique_ptr<QButtonGroup>> m_radioGroups;
     State m_state = State::created;
-    ModalRun* m_run = nullptr; // of a modal dialog
+    ModalRun* m_run = nullptr; // null unless the dialog is modal
 };
 
 } // namespace zent::platform::qt

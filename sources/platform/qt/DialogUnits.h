@@ -9,7 +9,8 @@
 
 namespace zent::platform::qt {
 
-/// Dialog units as pixels: a quarter of a font's average letter across, an eighth of a line down.
+/// Converts dialog units to pixels: they are a quarter of a font's average letter wide, and an
+/// eighth of a line high.
 class DialogUnits {
 public:
     explicit DialogUnits(const QFont& font);

@@ -18,7 +18,7 @@ namespace zent::platform::qt {
 
 namespace {
 
-/// Null if there is no answer.
+/// Connects to an X display; null if it doesn't answer.
 std::shared_ptr<void> connectToXServer() {
     std::shared_ptr<xcb_connection_t> connection(xcb_connect(nullptr, nullptr), xcb_disconnect);
     return xcb_connection_has_error(connection.get()) == 0 ? connection : nullptr;

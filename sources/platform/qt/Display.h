@@ -7,11 +7,11 @@
 
 namespace zent::platform::qt {
 
-/// What an application object can be made with.
+/// What an application object needs.
 struct Platform {
     QByteArray plugin; // with its arguments
-    /// To the display, until Qt has its own: some X servers start anew when the last client leaves,
-    /// and refuse others meanwhile.
+    /// A connection to the display that is held until Qt has its own: some X servers start anew
+    /// when the last client leaves, and refuse others meanwhile.
     std::shared_ptr<void> connection;
 };
 

@@ -9,7 +9,7 @@
 
 namespace zent::platform::qt {
 
-/// As WindowSystem::askForOpenFile and askForSaveFile.
+/// These do what WindowSystem::askForOpenFile and askForSaveFile promise.
 std::optional<std::u16string> askForFile(QWidget* owner, const WindowSystem::FileQuestion& question,
                                          QFileDialog::AcceptMode mode);
 

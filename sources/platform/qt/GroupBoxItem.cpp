@@ -9,7 +9,7 @@
 namespace zent::platform::qt {
 
 /// A frame with its title in the upper line, since templates leave no room for it elsewhere. Its
-/// mnemonic leads to the first item behind it that can have the focus.
+/// mnemonic leads to the first item after it that can have the focus.
 class GroupBoxItem::Box final : public QGroupBox {
 public:
     explicit Box(Dialog& dialog) : QGroupBox(&dialog.surface()), m_dialog(dialog) {}
@@ -51,7 +51,7 @@ GroupBoxItem::GroupBoxItem(Dialog& dialog, const DialogTemplate::Item& source)
 GroupBoxItem::GroupBoxItem(Dialog& dialog, const DialogTemplate::Item& source, QGroupBox& box)
     : Item(dialog, source, box), m_box(box) {
     box.setTitle(textOf(source.title));
-    // What it surrounds lies above it, and isn't in it.
+    // The items that it surrounds lie above it, and aren't its children.
     box.setAttribute(Qt::WA_TransparentForMouseEvents);
     box.lower();
 }

@@ -92,7 +92,7 @@ std::unique_ptr<Item> Item::make(Dialog& dialog, const DialogTemplate::Item& sou
 
 Item::Item(Dialog& dialog, const DialogTemplate::Item& source, QWidget& widget)
     : m_dialog(dialog), m_widget(widget), m_id(source.id), m_style(source.style) {
-    // By this name tests and other programs that look at windows find the item.
+    // Tests, and other programs that look at windows, find the item by this name.
     widget.setObjectName(QString::number(m_id));
     widget.setGeometry(dialog.units().toPixels(source.place));
     widget.setVisible(hasStyle(itemStyle::visible));
@@ -110,7 +110,7 @@ Rectangle Item::getScreenPlace() const {
     return fromQt(QRect(m_widget.mapToGlobal(QPoint(0, 0)), m_widget.size()));
 }
 
-/// The object stays: it may be its own event that removes it.
+/// The object stays, since an event of the item itself may be what removes it.
 void Item::remove() {
     m_isThere = false;
     m_widget.hide();

@@ -53,7 +53,7 @@ public:
 
     virtual QString text() const { return {}; }
     virtual void showText(const QString& /*text*/) {}
-    /// The keyboard's focus went elsewhere.
+    /// Reports that the keyboard's focus went elsewhere.
     virtual void leaveFocus() {}
 
 protected:
@@ -71,7 +71,7 @@ private:
     bool m_isThere = true;
 };
 
-/// The text of a title; empty for a number.
+/// The text of a title; empty for one that is a number.
 QString textOf(const DialogTemplate::Name& name);
 
 } // namespace zent::platform::qt

@@ -2,8 +2,8 @@
 #include "platform/qt/Application.h"
 #include "platform/qt/QtWindowSystem.h"
 
-/// The one call of this library: the window system for the calling thread, null if it can't have
-/// one.
+/// The one function that this library exports: it gives the window system for the calling thread;
+/// null if that can't have one.
 extern "C" [[gnu::visibility("default")]] zent::platform::WindowSystem* zentQtWindowSystem() {
     using namespace zent::platform::qt;
     static auto& windowSystem = zent::keepForever<QtWindowSystem>();

@@ -112,7 +112,7 @@ LineEditItem::LineEditItem(Dialog& dialog, const DialogTemplate::Item& source, E
 }
 
 void LineEditItem::showText(const QString& text) {
-    if (text != m_edit.text()) { // else the cursor and what can be undone stay
+    if (text != m_edit.text()) { // an equal text leaves the cursor and the undo history alone
         m_edit.setText(text);
     }
 }

@@ -21,7 +21,7 @@ constexpr std::uint32_t noHeader = 0x4000;
 
 constexpr int valueRole = Qt::UserRole;
 
-/// The rows that are selected once a command is done.
+/// The rows that will be selected once a command is done.
 std::set<int> applySelection(std::set<int> rows, const QItemSelection& selection,
                              QItemSelectionModel::SelectionFlags command) {
     if (command.testFlag(QItemSelectionModel::Clear)) {
@@ -43,7 +43,7 @@ std::set<int> applySelection(std::set<int> rows, const QItemSelection& selection
 
 } // namespace
 
-/// Tells of what is about to be selected.
+/// A selection that reports which rows it is about to change.
 class ListViewItem::Selection final : public QItemSelectionModel {
 public:
     Selection(QStandardItemModel& model, QObject& parent, ListViewItem& item)
@@ -55,7 +55,8 @@ public:
                             m_comingRow >= 0 ? m_comingRow : currentIndex().row());
         QItemSelectionModel::select(selection, command);
     }
-    /// Selects before the index is the current one.
+    /// The base class calls select() before the row is the current one, so that it is kept for
+    /// select().
     void setCurrentIndex(const QModelIndex& index, SelectionFlags command) override {
         const QScopedValueRollback guard(m_comingRow, index.row());
         QItemSelectionModel::setCurrentIndex(index, command);
@@ -79,7 +80,7 @@ ListViewItem::ListViewItem(Dialog& dialog, const DialogTemplate::Item& source, P
          {static_cast<QAbstractItemView*>(&m_table), static_cast<QAbstractItemView*>(&m_icons)}) {
         stack.addWidget(view);
         view->setModel(&m_model);
-        delete view->selectionModel(); // its own, made with the model
+        delete view->selectionModel(); // the view has made one of its own with the model
         view->setSelectionModel(&m_selection);
         view->setEditTriggers(QAbstractItemView::NoEditTriggers);
         view->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -113,7 +114,7 @@ void ListViewItem::setUpTable() {
 
 void ListViewItem::showIcons() {
     const int side = m_icons.style()->pixelMetric(QStyle::PM_LargeIconSize);
-    m_icons.setViewMode(QListView::IconMode); // which sets the rest back
+    m_icons.setViewMode(QListView::IconMode); // this sets other properties back, which follow
     m_icons.setIconSize(QSize(side, side));
     m_icons.setGridSize(QSize(m_spacing.across, m_spacing.down));
     m_icons.setMovement(QListView::Static);
@@ -279,7 +280,7 @@ void ListViewItem::tellChanging(const QItemSelection& selection,
 }
 
 void ListViewItem::tellSelection(const QItemSelection& now, const QItemSelection& before) {
-    // First those that were selected, then those that are.
+    // The rows that were selected are reported first, then those that are.
     for (const QItemSelection* const selection : {&before, &now}) {
         for (const QModelIndex& place : QItemSelection(*selection).indexes()) {
             if (place.column() == 0) {

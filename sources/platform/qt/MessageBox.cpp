@@ -10,7 +10,7 @@ namespace zent::platform::qt {
 
 namespace {
 
-/// A button, and the answer that it is.
+/// A button, and the answer that it stands for.
 struct Answer {
     QMessageBox::StandardButton button;
     std::int32_t number;

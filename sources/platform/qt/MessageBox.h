@@ -8,7 +8,7 @@ class QWidget;
 
 namespace zent::platform::qt {
 
-/// As WindowSystem::showMessageBox.
+/// Does what WindowSystem::showMessageBox promises.
 std::int32_t showMessageBox(QWidget* owner, const QString& body, const QString& title,
                             std::uint32_t flags);
 

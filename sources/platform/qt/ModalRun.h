@@ -7,7 +7,8 @@
 
 namespace zent::platform::qt {
 
-/// A modal dialog's loop and what comes of it. It outlives the dialog, which may go with its owner.
+/// A modal dialog's loop and its result. It outlives the dialog, which may be destroyed with its
+/// owner.
 class ModalRun {
 public:
     ModalRun();
@@ -15,12 +16,12 @@ public:
     ModalRun(const ModalRun&) = delete;
     ModalRun& operator=(const ModalRun&) = delete;
 
-    /// Stays until the run ends, if it hasn't yet.
+    /// Runs the loop until the run ends, if it hasn't yet.
     void stay();
     void end(std::intptr_t value);
-    /// Ends it with the value that it has.
+    /// Ends the run with the value that it has.
     void end() { end(m_value); }
-    /// The value that ended the run; throws the exception that did instead.
+    /// The value that ended the run. If an exception has ended it, that is thrown.
     std::intptr_t value() const;
 
     /// Whether a run is going on, in whichever dialog.

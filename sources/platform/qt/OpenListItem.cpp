@@ -23,7 +23,7 @@ void OpenListItem::clear() {
     m_list.clear();
 }
 
-/// The list would select a neighbour of the one that goes.
+/// Removes a text. If it is selected, none is afterwards: the list would select a neighbour.
 void OpenListItem::removeEntry(int index) {
     const QSignalBlocker blocker(m_list);
     if (index == getSelected()) {

@@ -33,13 +33,13 @@ void append(QByteArray& bytes, Bytes more) {
     bytes.append(reinterpret_cast<const char*>(more.data()), static_cast<qsizetype>(more.size()));
 }
 
-/// The next image that a reader gives, if it is no larger than anybody draws.
+/// The next image of a reader; empty if it is larger than any sensible picture.
 QImage readImage(QImageReader& reader, int largest) {
     const QSize size = reader.size();
     return std::max(size.width(), size.height()) <= largest ? reader.read() : QImage();
 }
 
-/// The size of what stands between a bitmap's header and its pixels.
+/// The size of the masks and colours between a bitmap's header and its pixels.
 std::optional<std::uint64_t> sizeOfColours(Bytes bitmap, std::uint32_t headerSize) {
     constexpr std::uint32_t coreHeaderSize = 12;
     constexpr std::uint32_t plainHeaderSize = 40;

@@ -16,9 +16,9 @@ public:
     /// The library outlives this.
     explicit Pictures(const ResourceModule& resources) : m_resources(resources) {}
 
-    /// What has the colour of the bitmap's top left pixel is transparent.
+    /// A bitmap, in which all that has the colour of the top left pixel is transparent.
     QPixmap bitmap(std::uint32_t id);
-    /// In all the sizes that the resource has.
+    /// An icon in all the sizes that the resource has.
     QIcon icon(std::uint32_t id) const;
 
 private:

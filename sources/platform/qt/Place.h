@@ -4,7 +4,7 @@
 
 #include "platform/Rectangle.h"
 
-/// Places of the port and Qt's.
+/// Convert places of the port to Qt's, and back.
 namespace zent::platform::qt {
 
 inline QRect toQt(const Rectangle& place) {

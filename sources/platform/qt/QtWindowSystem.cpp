@@ -71,7 +71,7 @@ std::optional<std::u16string> QtWindowSystem::askForSaveFile(WindowHandle owner,
     return askForFile(findWidget(owner), question, QFileDialog::AcceptSave);
 }
 
-/// By the desktop's own viewer of such files.
+/// Opens a help file with the desktop's own viewer of such files.
 bool QtWindowSystem::showHelp(WindowHandle /*owner*/, std::u16string_view helpFile,
                               std::uint32_t /*context*/) {
     const QFileInfo file(toQt(helpFile));

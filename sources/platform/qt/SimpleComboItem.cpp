@@ -8,7 +8,7 @@
 
 namespace zent::platform::qt {
 
-/// The text, whose keys for up and down go to the list.
+/// The text of the box. It passes the keys for up and down to the list.
 class SimpleComboItem::Entry final : public QLineEdit {
 public:
     Entry(QWidget& box, QListWidget& list) : QLineEdit(&box), m_list(list) {}

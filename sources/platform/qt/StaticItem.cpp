@@ -29,11 +29,11 @@ std::uint32_t kindOf(std::uint32_t style) { return style & 0x1F; }
 
 } // namespace
 
-/// A label whose mnemonic leads to the first item behind it that can have the focus.
+/// A label whose mnemonic leads to the first item after it that can have the focus.
 class StaticItem::Label final : public QLabel {
 public:
     explicit Label(Dialog& dialog) : QLabel(&dialog.surface()), m_dialog(dialog) {
-        setBuddy(&dialog); // or it wouldn't underline the mnemonic
+        setBuddy(&dialog); // without a buddy it wouldn't underline the mnemonic
     }
 
     void watchMouse(std::uint16_t item) {

@@ -17,7 +17,7 @@ public:
     void showText(const QString& text) override;
     void setBitmap(std::uint32_t bitmap, bool clearsGround) override;
     void watchMouse() override;
-    /// The item that this one tells the name of.
+    /// Sets the item of which this label is the name.
     void setBuddy(QWidget& widget);
 
 private:

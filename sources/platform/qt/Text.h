@@ -6,7 +6,8 @@
 #include <QString>
 #include <QStringView>
 
-/// Text of the port, whose lines end with CR LF, and Qt's, whose lines end with LF.
+/// Convert text of the port, whose lines end with CR LF, to Qt's, whose lines end with LF, and
+/// back.
 namespace zent::platform::qt {
 
 inline QString toQt(std::u16string_view text) {

@@ -19,7 +19,7 @@ bool isEnter(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
-/// The place in Qt's text, whose line ends are one character, of one in the port's.
+/// Converts a position in the port's text to one in Qt's, whose line ends are one character.
 int placeOf(std::u16string_view text, std::int32_t position) {
     const auto end = std::min(static_cast<std::size_t>(position), text.size());
     return static_cast<int>(end) -
@@ -39,7 +39,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override {
         const bool insistsOnLine = (event->modifiers() & Qt::ControlModifier) != 0;
         if (isEnter(*event) && !m_item->hasStyle(editStyle::takesEnter) && !insistsOnLine) {
-            event->ignore(); // for the dialog's default button
+            event->ignore(); // so that the dialog's default button gets it
             return;
         }
         const QString typed = isReadOnly()      ? QString()
@@ -95,7 +95,7 @@ TextEditItem::TextEditItem(Dialog& dialog, const DialogTemplate::Item& source, Q
 }
 
 void TextEditItem::showText(const QString& text) {
-    if (text != m_lastText) { // else the cursor and what can be undone stay
+    if (text != m_lastText) { // an equal text leaves the cursor and the undo history alone
         m_edit.setPlainText(text);
         m_lastText = m_edit.toPlainText();
     }
@@ -127,7 +127,7 @@ QString TextEditItem::accept(const QString& entered) const {
                               place(cursor.selectionEnd()), entered.toStdU16String()));
 }
 
-/// Qt tells changes of the text's look as well.
+/// Reports a change of the text. Qt also reports changes of its look, which don't count.
 void TextEditItem::noticeChange() {
     QString text = m_edit.toPlainText();
     if (text != m_lastText) {

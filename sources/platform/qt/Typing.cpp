@@ -9,7 +9,7 @@ QString typedBy(const QKeyEvent& event) {
     }
     const QChar first = text.front();
     const QChar::Category category = first.category();
-    if (category == QChar::Other_Format) { // joiners and the like, on some keyboards with Control
+    if (category == QChar::Other_Format) { // some keyboards type joiners and the like with Control
         return text;
     }
     // Control and Alt together are the AltGr of some keyboards.

@@ -23,7 +23,8 @@ public:
     void makeDefault() override;
 };
 
-/// The styles of the buttons go with the focus.
+/// Whether the button is the default one. The styles of buttons can't tell, since they change with
+/// the focus.
 bool AnyButton::isDefault() const {
     const LRESULT answer = SendMessageW(dialog().window(), DM_GETDEFID, 0, 0);
     return isThere() && HIWORD(answer) == DC_HASDEFID && LOWORD(answer) == getId();

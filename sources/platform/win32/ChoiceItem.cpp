@@ -27,7 +27,7 @@ constexpr ListMessages ofComboBox = {
 constexpr ListMessages ofListBox = {
     LB_RESETCONTENT, LB_ADDSTRING,  LB_INSERTSTRING, LB_DELETESTRING, LB_GETCOUNT,   LB_GETCURSEL,
     LB_SETCURSEL,    LB_GETTEXTLEN, LB_GETTEXT,      LB_GETITEMDATA,  LB_SETITEMDATA};
-// What both say of an index that isn't there, and what stands for none.
+// The answer of both for an index that isn't there, and the index that stands for none.
 constexpr LRESULT noIndex = -1;
 static_assert(CB_ERR == noIndex && LB_ERR == noIndex);
 

@@ -7,7 +7,7 @@ namespace zent::platform {
 
 namespace {
 
-/// ASCII letters in upper case, separators as backslashes.
+/// Puts ASCII letters into upper case and makes all separators backslashes.
 std::u16string normalized(std::u16string_view text) {
     std::u16string result(text);
     for (char16_t& unit : result) {
@@ -21,7 +21,8 @@ bool hasDrive(std::u16string_view path) {
     return path.size() >= 2 && path[0] >= u'A' && path[0] <= u'Z' && path[1] == u':';
 }
 
-/// Whether a path goes by the system's own names of all that it has, and not to a drive or share.
+/// Whether a path begins with a prefix of the system's own names of objects, and leads to no drive
+/// or share.
 bool isInDeviceNamespace(std::u16string_view path) {
     if (!path.starts_with(u"\\\\?\\")) {
         return path.starts_with(u"\\\\.\\") || path.starts_with(u"\\??\\");
@@ -30,11 +31,11 @@ bool isInDeviceNamespace(std::u16string_view path) {
     return !hasDrive(path) && !path.starts_with(u"UNC\\") && !path.starts_with(u"VOLUME{");
 }
 
-/// What the system looks at in a path to find a device: the last name, less what follows a dot or
-/// colon and the spaces before that.
+/// The part of a path by which the system finds a device: the last name, without what follows a dot
+/// or colon, and without spaces before that.
 std::u16string_view baseOf(std::u16string_view path) {
     path = path.substr(0, path.find_last_not_of(u'\\') + 1);
-    path.remove_prefix(path.find_last_of(u'\\') + 1); // all, where there is none
+    path.remove_prefix(path.find_last_of(u'\\') + 1); // all is left where there is no backslash
     path.remove_prefix(hasDrive(path) ? 2 : 0);
     path = path.substr(0, path.find_first_of(u".:"));
     return path.substr(0, path.find_last_not_of(u' ') + 1);

@@ -55,7 +55,7 @@ Dialog* Dialog::createModeless(std::span<const std::byte> dialogTemplate, HWND o
         DestroyWindow(window);
         std::rethrow_exception(m_exception);
     }
-    if (window == nullptr || m_hasEnded) { // perhaps by its own first event
+    if (window == nullptr || m_hasEnded) { // its own first event may have ended it
         return nullptr;
     }
     ShowWindow(window, SW_SHOW);
@@ -96,7 +96,7 @@ void Dialog::endBy(const std::exception_ptr& exception, HWND window) {
             return;
         }
     }
-    // The loop is the application's: perhaps it knows what to do.
+    // The loop is the application's, which may know what to do with the exception.
     std::rethrow_exception(exception);
 }
 
@@ -204,14 +204,15 @@ std::uint16_t Dialog::getFocusedItem() const {
     return focus != nullptr && found != m_items.end() ? (*found)->getId() : std::uint16_t{0};
 }
 
-// ---- What the window is told --------------------------------------------------------------------
+// ---- What the window receives
+// --------------------------------------------------------------------
 
 INT_PTR CALLBACK Dialog::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_INITDIALOG) {
         SetWindowLongPtrW(window, GWLP_USERDATA, lParam);
         reinterpret_cast<Dialog*>(lParam)->m_window = window;
     }
-    // What comes before is about the making of the items.
+    // Messages that come before the window has its object are about the making of the items.
     const std::shared_ptr<Dialog> dialog = of(window);
     if (dialog == nullptr) {
         return FALSE;
@@ -277,7 +278,8 @@ void Dialog::open() {
     focusFirstItem();
 }
 
-/// Of the screen, where the system would leave a dialog without an owner in the corner.
+/// Moves the dialog to the middle of the screen. The system would leave a dialog without an owner
+/// in the corner.
 void Dialog::placeInTheMiddle() {
     MONITORINFO info = {};
     info.cbSize = sizeof(info);
@@ -285,7 +287,7 @@ void Dialog::placeInTheMiddle() {
     const RECT& area = info.rcWork;
     RECT place = {};
     GetWindowRect(m_window, &place);
-    // What is larger than the screen shows its top left.
+    // A dialog that is larger than the screen shows its top left part.
     const LONG left =
         area.left + std::max(area.right - area.left - (place.right - place.left), 0L) / 2;
     const LONG top =
@@ -325,8 +327,8 @@ void Dialog::loadImage(HWND label, std::uint32_t type, std::uint16_t resource) {
     }
 }
 
-/// Unless the procedure has put the focus on an item. The system would choose before the procedure
-/// has shown any.
+/// Gives the first item the focus unless the procedure has chosen one. The system would choose
+/// before the procedure has shown any item.
 void Dialog::focusFirstItem() {
     if (m_hasEnded || IsChild(m_window, GetFocus())) {
         return;
@@ -343,7 +345,7 @@ void Dialog::onDestroy() {
     std::intptr_t result = 0;
     deliver(event::destroy, 0, 0, result);
     for (const auto& [item, name] : m_properties) {
-        RemovePropW(item, wide(name.c_str())); // a window is to have none left at its end
+        RemovePropW(item, wide(name.c_str())); // a window must have no property left at its end
     }
     if (m_hasShownHelp) {
         WinHelpW(m_window, nullptr, HELP_QUIT, 0);

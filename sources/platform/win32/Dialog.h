@@ -23,18 +23,19 @@
 
 namespace zent::platform::win32 {
 
-/// A dialog of the library, from its window's creation to its end: turns what the window is told
-/// into the port's events. It is always held by shared pointers, since an event may end its window.
+/// A dialog of the library, from its window's creation to its end: turns the window's messages into
+/// the port's events. It is always held by shared pointers, since kept, since an event may end the
+/// dialogs window.
 class Dialog final : public platform::Dialog, public std::enable_shared_from_this<Dialog> {
 public:
     Dialog(DialogTemplate form, const ResourceModule& resources, DialogProcedure& procedure);
 
     // ---- Opening and ending --------------------------------------------------------------------
 
-    /// Gives the value that ended the dialog, -1 if it couldn't be made. `dialogTemplate` is what
-    /// the form was read from.
+    /// Runs a modal dialog and gives the value that ended it, -1 if it couldn't be made.
+    /// `dialogTemplate` holds the bytes from which the form was read.
     std::intptr_t runModal(std::span<const std::byte> dialogTemplate, HWND owner);
-    /// Null if it couldn't be made. The window keeps this object.
+    /// Makes and shows a modeless dialog; null if it couldn't be made. The window keeps the object.
     Dialog* createModeless(std::span<const std::byte> dialogTemplate, HWND owner);
 
     /// The dialog that a window is; null for all other windows.
@@ -46,7 +47,7 @@ public:
     /// Calls the procedure at once; gives whether it handled the event.
     bool deliver(std::uint32_t message, std::uintptr_t wParam, std::intptr_t lParam,
                  std::intptr_t& result);
-    /// Tells the procedure of a command, whoever's doing it is.
+    /// Reports a command to the procedure, whether or not the user is its cause.
     bool command(std::uint16_t item, std::uint32_t code);
 
     // ---- As the port has it --------------------------------------------------------------------
@@ -61,7 +62,7 @@ public:
     Rectangle getWindowRectangle() const override;
     Rectangle getClientRectangle() const override;
     void moveTo(const Rectangle& place) override;
-    /// Of the screen that the dialog is on.
+    /// The work area of the screen that the dialog is on.
     Rectangle getWorkArea() const override;
     Rectangle mapDialogUnits(const Rectangle& units) const override;
     std::int32_t getDotsPerInch() const override;
@@ -73,13 +74,13 @@ public:
 
     HWND window() const { return m_window; }
     const ResourceModule& resources() const { return m_resources; }
-    /// In the order of the template, with those that were removed.
+    /// All items in the order of the template, including those that were removed.
     const std::vector<std::unique_ptr<Item>>& items() const { return m_items; }
     void setToolTip(HWND item, std::u16string_view text) { m_toolTips.set(m_window, item, text); }
     /// Lets the page shine through an edit item that is read-only.
     void setTransparent(HWND edit) { m_transparent.insert(edit); }
     void setProperty(HWND item, std::u16string_view name, std::uintptr_t value);
-    /// Before an item's window goes.
+    /// Called before an item's window is destroyed.
     void forget(HWND item);
     void tellMouse(std::uint32_t message, std::uint16_t item, LPARAM place);
     bool showHelp(const std::u16string& helpFile, std::uint32_t context);
@@ -131,15 +132,15 @@ private:
     std::vector<std::unique_ptr<Item>> m_items;
     std::set<HWND> m_transparent;
     std::set<std::pair<HWND, std::u16string>> m_properties;
-    std::vector<OwnBitmap> m_bitmaps; // of the template's items
+    std::vector<OwnBitmap> m_bitmaps; // the pictures of the template's items
     std::vector<OwnIcon> m_icons;
     ToolTips m_toolTips;
     std::unique_ptr<ModelessKeys> m_keys;
-    std::shared_ptr<Dialog> m_self; // of a modeless dialog, as long as the window stands
+    std::shared_ptr<Dialog> m_self; // set for a modeless dialog, as long as its window exists
     std::exception_ptr m_exception;
     int m_silences = 0;
     bool m_isModal = false;
-    bool m_isBeingOpened = false; // what opens it waits, for the whole run of a modal one
+    bool m_isBeingOpened = false; // true while it is made, and for the whole run of a modal dialog
     bool m_hasEnded = false;
     bool m_hasShownHelp = false;
 };

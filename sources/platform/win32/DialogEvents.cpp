@@ -1,4 +1,4 @@
-// What the items tell their dialog, as the port's events.
+// This source turns what the items report to their dialog into the port's events.
 
 #include <algorithm>
 #include <optional>
@@ -11,14 +11,15 @@ namespace zent::platform::win32 {
 
 namespace {
 
-/// The code of a command as the port has it, or nothing for what it doesn't tell of.
+/// The port's code for a command; nothing for a command that it doesn't report.
 std::optional<std::uint32_t> asNotification(HWND control, std::uint32_t code) {
     const auto oneOf = [code](std::uint32_t first, std::uint32_t second) {
         return code == first || code == second ? std::optional(code) : std::nullopt;
     };
     switch (getItemKind(control)) {
     case ItemKind::button:
-        // An owner-drawn button takes the second of two quick clicks for another thing.
+        // The second of two quick clicks on an owner-drawn button comes with another code, and is a
+        // click as well.
         if (code == BN_DOUBLECLICKED &&
             (GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK) == BS_OWNERDRAW) {
             return notification::clicked;
@@ -35,7 +36,8 @@ std::optional<std::uint32_t> asNotification(HWND control, std::uint32_t code) {
     }
 }
 
-/// Once its text is edited, a combo box has no item chosen. The system leaves that as it was.
+/// Once the text of a combo box is edited, no text of its list is chosen. The system would keep the
+/// choice.
 void deselect(HWND comboBox) {
     constexpr WPARAM none = static_cast<WPARAM>(-1);
     COMBOBOXINFO parts = {};
@@ -45,7 +47,7 @@ void deselect(HWND comboBox) {
     }
 }
 
-/// Moves a scroll bar as it asks to be; unlike a slider it leaves that to its dialog.
+/// Moves a scroll bar: unlike a slider, it leaves that to its dialog.
 int moveScrollBar(HWND bar, std::uint32_t code) {
     SCROLLINFO info = {};
     info.cbSize = sizeof(info);
@@ -88,7 +90,7 @@ bool Dialog::onCommand(std::uint16_t id, std::uint32_t code, HWND control) {
     // The keyboard's commands come without a control where the dialog has no such item.
     const auto notification =
         control != nullptr ? asNotification(control, code) : std::optional(notification::clicked);
-    // The focus is gone whoever has moved it.
+    // The loss of the focus is reported whoever has moved it.
     const bool isTold = raisesEvents() || (!m_hasEnded && notification == notification::editLeft);
     if (!notification || !isTold) {
         return false;
@@ -126,7 +128,7 @@ bool Dialog::onNotify(const NMHDR& header) {
     case ItemKind::listView:
         if (header.code == LVN_ITEMCHANGING) {
             onListViewChanging(reinterpret_cast<const NMLISTVIEW&>(header));
-            return false; // whatever the answer
+            return false; // the answer doesn't matter
         }
         return (header.code == LVN_ITEMCHANGED || header.code == NM_DBLCLK) &&
                onListView(reinterpret_cast<const NMLISTVIEW&>(header));
@@ -147,7 +149,7 @@ bool Dialog::onSpinStep(const NMUPDOWN& step) {
     int upper = 0;
     SendMessageW(step.hdr.hwndFrom, UDM_GETRANGE32, reinterpret_cast<WPARAM>(&lower),
                  reinterpret_cast<LPARAM>(&upper));
-    // A spin that nobody has given a range counts from 100 up to 0.
+    // The range may be reversed: a spin without a range of its own counts from 100 up to 0.
     const bool countsUp = lower <= upper;
     Notification notification;
     notification.item = static_cast<std::uint16_t>(step.hdr.idFrom);
@@ -203,7 +205,7 @@ bool Dialog::onScroll(std::uint32_t code, HWND control) {
 
 void Dialog::tellMouse(std::uint32_t message, std::uint16_t item, LPARAM place) {
     if (raisesEvents()) {
-        const auto kept = shared_from_this(); // the event may end it
+        const auto kept = shared_from_this(); // the event may end the dialog
         std::intptr_t result = 0;
         deliver(message, item, place, result);
     }
@@ -214,7 +216,8 @@ bool Dialog::onDrawItem(const DRAWITEMSTRUCT& request) {
         return false;
     }
     if ((request.itemAction & (ODA_DRAWENTIRE | ODA_SELECT)) == 0) {
-        DrawFocusRect(request.hDC, &request.rcItem); // a second time takes it away
+        // Drawn a second time, the rectangle disappears.
+        DrawFocusRect(request.hDC, &request.rcItem);
         return true;
     }
     FillRect(request.hDC, &request.rcItem, GetSysColorBrush(COLOR_3DFACE));

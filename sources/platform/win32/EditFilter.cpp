@@ -33,7 +33,7 @@ public:
         if (text == nullptr) {
             return {};
         }
-        // Another program put it there, perhaps without a terminator.
+        // Another program has put the text there, perhaps without a terminator.
         const std::size_t length = wcsnlen(text, GlobalSize(data) / sizeof(wchar_t));
         std::u16string result(units(text), length);
         GlobalUnlock(data);
@@ -62,7 +62,8 @@ bool EditFilter::hasStyle(LONG style) const {
     return (GetWindowLongW(window(), GWL_STYLE) & style) != 0;
 }
 
-/// The halves of a surrogate pair come as two messages, and are taken as one character.
+/// Takes a unit that was typed. The halves of a surrogate pair come as two messages, and are asked
+/// for as one character.
 void EditFilter::type(char16_t unit, LPARAM key) {
     const char16_t first = std::exchange(m_highSurrogate, u'\0');
     if (isHighSurrogate(unit)) {
@@ -87,7 +88,7 @@ void EditFilter::paste() const {
     }
 }
 
-/// What is taken of a text that is to stand in place of the selection.
+/// The part of a text that may replace the selection.
 std::u16string EditFilter::accept(std::u16string_view entered) const {
     DWORD start = 0;
     DWORD end = 0;

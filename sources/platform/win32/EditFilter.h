@@ -8,8 +8,8 @@
 
 namespace zent::platform::win32 {
 
-/// Lets in what an edit item takes of what is typed or pasted: within its limit, and what its
-/// filter passes, if it has one.
+/// Keeps out of an edit item what is typed or pasted beyond its limit, or against its filter, if it
+/// has one.
 class EditFilter final : public SubclassedItem {
 public:
     explicit EditFilter(HWND edit) : SubclassedItem(edit) {}
@@ -26,7 +26,7 @@ private:
     std::u16string accept(std::u16string_view entered) const;
 
     CharacterFilter m_filter;
-    char16_t m_highSurrogate = u'\0'; // that waits for the other half of its character
+    char16_t m_highSurrogate = u'\0'; // waits for the other half of its character
 };
 
 } // namespace zent::platform::win32

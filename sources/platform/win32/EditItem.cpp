@@ -26,10 +26,10 @@ private:
     EditFilter* findOrAttachFilter() const;
 };
 
-/// Windows of several lines don't tell of a new text by themselves, and others tell of the same
-/// one too.
+/// Sets the text and reports the change. A window of several lines doesn't report it itself, and
+/// one of a single line reports an equal text too.
 void EditItem::setText(std::u16string_view text) {
-    const auto kept = dialog().shared_from_this(); // the event may end it
+    const auto kept = dialog().shared_from_this(); // the event may end the dialog
     const bool isNewText = isThere() && getText() != text;
     Item::setText(text);
     if (isNewText) {
@@ -37,7 +37,7 @@ void EditItem::setText(std::u16string_view text) {
     }
 }
 
-/// What stands before the window's procedure; null if the system refuses.
+/// The filter of the window, which is attached at the first need; null if the system refuses.
 EditFilter* EditItem::findOrAttachFilter() const {
     if (SubclassedItem::of(window()) == nullptr) {
         SubclassedItem::attach(std::make_unique<EditFilter>(window()));

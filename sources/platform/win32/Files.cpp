@@ -45,7 +45,7 @@ public:
     std::uintptr_t getHandle() const override { return reinterpret_cast<std::uintptr_t>(m_handle); }
 
 private:
-    /// One call takes 32-bit counts only.
+    /// Moves bytes with one call, which takes 32-bit counts only.
     template <typename Byte, typename Step>
     static bool transfer(std::span<Byte> bytes, std::size_t& done, const Step& step) {
         constexpr std::size_t mostAtOnce = 0x40000000;
@@ -93,7 +93,7 @@ std::unique_ptr<OpenFile> open(std::u16string_view path, DWORD access, DWORD sha
         return nullptr;
     }
     auto file = std::make_unique<WindowsFile>(handle);
-    if (GetFileType(handle) != FILE_TYPE_DISK) { // such as a pipe of another machine
+    if (GetFileType(handle) != FILE_TYPE_DISK) { // it may be a pipe of another machine
         file.reset();
         SetLastError(ERROR_INVALID_NAME);
     }
@@ -171,7 +171,8 @@ FileStamp getFileStamp(std::u16string_view path) {
         GetFileAttributesExW(terminated(path).c_str(), GetFileExInfoStandard, &found) == FALSE) {
         return {};
     }
-    // The file's number would need the file to be opened; its birth tells as much.
+    // The time of creation stands for the file's number, for which the file would have to be
+    // opened.
     return {.exists = true,
             .size = (std::uint64_t{found.nFileSizeHigh} << 32) | found.nFileSizeLow,
             .modified = joined(found.ftLastWriteTime),
@@ -181,7 +182,7 @@ FileStamp getFileStamp(std::u16string_view path) {
 std::u16string getModulePath() {
     constexpr DWORD capacity = 261;
     wchar_t path[capacity] = {};
-    // A path that is cut would lead into a folder further up.
+    // A path that was cut would lead to another folder.
     const DWORD length = GetModuleFileNameW(getOwnModule(), path, capacity);
     return length < capacity ? std::u16string(units(path), length) : std::u16string();
 }

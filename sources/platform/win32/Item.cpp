@@ -51,7 +51,7 @@ Rectangle Item::getScreenPlace() const {
 
 void Item::moveTo(const Rectangle& place) {
     const Rectangle old = getPlace();
-    // The size of a combo box says how far its list drops down, and can't be asked for.
+    // The height of a combo box includes its list when that is open, and can't be asked for.
     const bool keepsSize = old.width() == place.width() && old.height() == place.height();
     SetWindowPos(m_window, nullptr, place.left, place.top, place.width(), place.height(),
                  SWP_NOZORDER | SWP_NOACTIVATE | (keepsSize ? SWP_NOSIZE : 0U));
@@ -61,7 +61,7 @@ bool Item::isShown() const { return hasStyle(WS_VISIBLE); }
 
 void Item::show(bool isShown) {
     if (!isShown) {
-        leave(); // else the keyboard would be lost
+        leave(); // otherwise no item would have the keyboard's focus
     }
     const Dialog::Silence silence(m_dialog);
     ShowWindow(m_window, isShown ? SW_SHOW : SW_HIDE);
@@ -78,7 +78,8 @@ void Item::enable(bool isEnabled) {
 
 void Item::focus() {
     if (isShown() && isEnabled()) {
-        const Dialog::Silence silence(m_dialog); // of a radio button, it would click
+        // A radio button that gets the focus would report a click.
+        const Dialog::Silence silence(m_dialog);
         SendMessageW(m_dialog.window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(m_window), TRUE);
     }
 }

@@ -44,7 +44,8 @@ public:
 protected:
     Dialog& dialog() const { return m_dialog; }
     bool hasStyle(std::uint32_t bits) const;
-    /// Sends the window a message without an event that comes of it; 0 if there is no window.
+    /// Sends the window a message, and keeps events from following from it; 0 if there is no
+    /// window.
     LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     LRESULT send(UINT message, WPARAM wParam, const void* lParam) const {
         return send(message, wParam, reinterpret_cast<LPARAM>(lParam));

@@ -9,8 +9,8 @@ namespace {
 
 HMODULE ownModule = nullptr;
 
-/// What the library keeps stays when a host unloads it, so the library stays as well. Windows 2000
-/// has no such call.
+/// Keeps the library loaded for good, since the objects that it keeps would outlive it if a host
+/// unloaded it. Windows 2000 has no function for that.
 void stayLoaded() noexcept {
     const SystemLibrary kernel(L"kernel32.dll");
     HMODULE module = nullptr;
@@ -28,7 +28,7 @@ HMODULE getOwnModule() noexcept { return ownModule; }
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID reserved);
 
-/// The loader's calls. A program that the library's objects are linked into never calls this.
+/// The loader calls this. A program that the library's objects are linked into never does.
 extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID /*reserved*/) {
     switch (LOWORD(reason)) {
     case DLL_PROCESS_ATTACH:

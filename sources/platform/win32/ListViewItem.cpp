@@ -11,7 +11,7 @@ namespace zent::platform::win32 {
 
 namespace {
 
-/// Where a search begins that goes through all rows.
+/// The row before the first, from which a search goes through all rows.
 constexpr auto firstRow = static_cast<WPARAM>(-1);
 
 class ListViewItem final : public Item, public RowsItem {
@@ -84,7 +84,8 @@ private:
         const int cy = GetSystemMetrics(height);
         auto* images = reinterpret_cast<HIMAGELIST>(send(LVM_GETIMAGELIST, which));
         if (images == nullptr) {
-            images = ImageList_Create(cx, cy, ILC_COLOR32 | ILC_MASK, 1, 1); // the list view's
+            // The list view owns the list.
+            images = ImageList_Create(cx, cy, ILC_COLOR32 | ILC_MASK, 1, 1);
             send(LVM_SETIMAGELIST, which, images);
         }
         const OwnIcon image = createIcon(dialog().resources(), icon, cx, cy);
@@ -92,10 +93,11 @@ private:
     }
 
     std::optional<Spacing> m_spacing;
-    bool m_isList = false; // by its style, not for want of columns
+    bool m_isList = false; // true if its style is that of a list; details without columns are shown
+                           // as a list too
 };
 
-/// The numbers of the pictures of a check mark, in their place in an item's state.
+/// The numbers of the pictures of a check mark, shifted to their bits in an item's state.
 constexpr UINT withoutMark = 1U << 12U;
 constexpr UINT withMark = 2U << 12U;
 
@@ -107,7 +109,7 @@ void ListViewItem::setStyle(Style style) {
     case Style::icons:
         setView(LVS_ICON);
         send(LVM_SETEXTENDEDLISTVIEWSTYLE, extended, LPARAM{0});
-        if (m_spacing) { // a new style has forgotten it
+        if (m_spacing) { // a change of the style has reset it
             setIconSpacing(*m_spacing);
         }
         break;
@@ -117,7 +119,7 @@ void ListViewItem::setStyle(Style style) {
         break;
     case Style::details:
     case Style::checkedDetails:
-        // Details of no column would show nothing.
+        // Details without a column would show nothing.
         setView(countColumns() > 0 ? LVS_REPORT : LVS_LIST);
         send(LVM_SETEXTENDEDLISTVIEWSTYLE, extended,
              style == Style::details ? LPARAM{LVS_EX_FULLROWSELECT} : LPARAM{extended});
@@ -175,7 +177,7 @@ std::u16string ListViewItem::getCell(std::int32_t row, std::int32_t column) cons
     if (!hasRow(row)) {
         return {};
     }
-    // The length isn't to be asked for: a text that fills the buffer may go on.
+    // The length can't be asked for, and a text that fills the buffer may be longer.
     std::u16string text(256, u'\0');
     LVITEMW entry = {};
     entry.iSubItem = column;

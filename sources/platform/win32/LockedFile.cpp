@@ -26,7 +26,7 @@ public:
 
     bool isOpen() const { return m_handle != INVALID_HANDLE_VALUE; }
     HANDLE get() const { return m_handle; }
-    /// What went wrong before is still the last error.
+    /// Closes the handle. The last error stays as it was.
     void reset() {
         const DWORD error = GetLastError();
         if (isOpen()) {
@@ -41,7 +41,7 @@ private:
 
 const wchar_t* wide(const std::u16string& text) { return platform::wide(text.c_str()); }
 
-/// Removes a file; what went wrong before is still the last error.
+/// Removes a file. The last error stays as it was.
 void removeQuietly(const std::u16string& path) {
     const DWORD error = GetLastError();
     DeleteFileW(wide(path));
@@ -67,21 +67,22 @@ std::u16string followLinks(const std::u16string& path) {
     if (getPath == nullptr || !file.isOpen()) {
         return path;
     }
-    std::vector<wchar_t> buffer(32'768); // no path is longer
+    std::vector<wchar_t> buffer(32'768); // the longest path that the system has
     const DWORD length = getPath(file.get(), buffer.data(), static_cast<DWORD>(buffer.size()), 0);
     return length == 0 || length >= buffer.size() ? path
                                                   : std::u16string(units(buffer.data()), length);
 }
 
-/// What the names of the files begin with that stand beside a file for its sake. Files whose names
-/// are so long that nothing could be added to them share it.
+/// The beginning of the names of the files that are made beside a file: its lock and its new
+/// content. Long names are cut, since nothing could be added to them otherwise, and may share a
+/// beginning.
 std::u16string makeStem(const std::u16string& path) {
     constexpr std::size_t longest = 180; // of the 255 units that a name may have
     const std::u16string folder = path.substr(0, path.find_last_of(u"\\/:") + 1);
     return folder + u'.' + path.substr(folder.size(), longest) + u".zent-";
 }
 
-/// The lock, once it is held; closed on failure. Nobody else can open the file meanwhile.
+/// Gives the open file of a lock, which nobody else can open meanwhile; a closed one on failure.
 Handle acquire(const std::u16string& path) {
     constexpr Patience patience = {.whileOpen = 30'000, .whileDenied = 1'000};
     HANDLE file = INVALID_HANDLE_VALUE;
@@ -93,7 +94,7 @@ Handle acquire(const std::u16string& path) {
     return Handle(file);
 }
 
-/// Who may do what with a file; empty if there is none.
+/// The security descriptor of a file; empty if there is no file.
 std::vector<char> readProtection(const std::u16string& path) {
     DWORD size = 0;
     GetFileSecurityW(wide(path), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
@@ -122,8 +123,8 @@ public:
         : m_path(std::move(path)), m_stem(makeStem(m_path)), m_lock(std::move(lock)) {}
 
     ~WindowsLockedFile() override {
-        // A file of that name that isn't empty is somebody's own. One that another has opened by
-        // now stays for him to remove.
+        // A file of that name that isn't empty belongs to somebody else. A file that another
+        // process has opened by now stays, for that process to remove.
         const bool isEmpty = GetFileSize(m_lock.get(), nullptr) == 0;
         m_lock.reset();
         if (isEmpty) {
@@ -144,7 +145,7 @@ public:
         file.reset();
         bool isReplaced = false;
         if (isWritten) {
-            // Those who only read have no lock, and a file can't be replaced under their hands.
+            // Readers hold no lock, and a file that they have open can't be replaced.
             constexpr Patience patience = {.whileOpen = 2'000, .whileDenied = 2'000};
             whileOthersUseIt(patience, [&] {
                 isReplaced =
@@ -160,7 +161,8 @@ public:
     }
 
 private:
-    /// With the protection of the old file, so that nobody reads more of the new one.
+    /// Creates the new file with the protection of the old one, so that nobody can read more than
+    /// before.
     Handle createTemporary(const std::u16string& path) const {
         std::vector<char> protection = readProtection(m_path);
         SECURITY_ATTRIBUTES attributes = {sizeof attributes, protection.data(), FALSE};

@@ -9,8 +9,8 @@ namespace {
 constexpr COLORREF black = RGB(0, 0, 0);
 constexpr COLORREF white = RGB(255, 255, 255);
 
-/// What becomes of a mask's bits on a coloured target: of those set the background colour, of the
-/// others the text colour.
+/// Sets the colours that a mask's bits get on a coloured target: set bits get the background
+/// colour, others the text colour.
 void setColors(HDC target, COLORREF ofBackground, COLORREF ofPicture) {
     SetBkColor(target, ofBackground);
     SetTextColor(target, ofPicture);

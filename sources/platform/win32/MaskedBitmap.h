@@ -4,12 +4,12 @@
 
 namespace zent::platform::win32 {
 
-/// A picture whose background, what has the colour of its top left pixel, stays out when it is
-/// drawn: a mask of the background, and the picture with a black one. Both are put on the target by
-/// plain copies, which every display driver can do.
+/// A picture that is drawn without its background, which is all that has the colour of its top left
+/// pixel. It consists of a mask of the background, and of the picture with a black one. Both are
+/// put on the target by plain copies, which every display driver can do.
 class MaskedBitmap {
 public:
-    /// Null draws nothing.
+    /// A null bitmap draws nothing.
     explicit MaskedBitmap(OwnBitmap bitmap);
 
     SIZE size() const { return m_size; }

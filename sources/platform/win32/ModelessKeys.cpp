@@ -4,7 +4,7 @@ namespace zent::platform::win32 {
 
 namespace {
 
-/// A property of the dialogs that want this.
+/// The property that marks a dialog whose keys are handled here.
 constexpr const wchar_t* modelessProperty = L"SC_MODELESS";
 
 bool isKey(const MSG& message) {
@@ -29,7 +29,7 @@ LRESULT CALLBACK ModelessKeys::translate(int code, WPARAM removed, LPARAM messag
     if (code == HC_ACTION && removed == PM_REMOVE && isKey(taken)) {
         const HWND window = GetAncestor(taken.hwnd, GA_ROOT);
         if (GetPropW(window, modelessProperty) != nullptr && IsDialogMessageW(window, &taken)) {
-            taken.message = WM_NULL; // the loop is to do nothing more about it
+            taken.message = WM_NULL; // so that the loop does nothing more with it
         }
     }
     return CallNextHookEx(nullptr, code, removed, message);

@@ -4,8 +4,8 @@
 
 namespace zent::platform {
 
-/// The module that this code was loaded with, as told at process attach; null, which stands for the
-/// program itself, where the library's objects are part of a program.
+/// The module that this code was loaded with, as the loader gave it at process attach; null, which
+/// stands for the program itself, where the library's objects are part of a program.
 HMODULE getOwnModule() noexcept;
 
 } // namespace zent::platform

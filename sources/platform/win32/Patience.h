@@ -4,8 +4,9 @@
 
 namespace zent::platform {
 
-/// How long to wait for a file, in milliseconds: one that others have open, and one that they are
-/// about to remove or replace, to which the system denies access as to one that isn't ours.
+/// How long to wait for a file, in milliseconds: for one that others have open, and for one that
+/// they are about to remove or replace. To the latter the system denies access, as it does to a
+/// file that the user has no right to.
 struct Patience {
     DWORD whileOpen;
     DWORD whileDenied;

@@ -8,7 +8,7 @@ namespace {
 
 constexpr const wchar_t* bitmapProperty = L"SC_ID";
 
-/// The page below the item, so that what the new bitmap leaves out doesn't keep the old one.
+/// Draws the page below the item, so that nothing of an old bitmap shows through the new one.
 void redrawWithPage(HWND item) {
     RECT place = {};
     GetWindowRect(item, &place);
@@ -35,7 +35,7 @@ void Picture::setBitmap(const ResourceModule& resources, std::uint32_t id, bool 
 
 LRESULT Picture::process(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_NCHITTEST && m_tellMouse) {
-        return HTCLIENT; // by itself the item leaves the mouse to the page
+        return HTCLIENT; // a static item would leave the mouse to the page
     }
     const LRESULT result = SubclassedItem::process(message, wParam, lParam);
     if (message == WM_PAINT) {
@@ -45,7 +45,7 @@ LRESULT Picture::process(UINT message, WPARAM wParam, LPARAM lParam) {
     } else if (message == WM_DESTROY) {
         RemovePropW(window(), bitmapProperty);
     } else if ((message == WM_MOUSEMOVE || message == WM_LBUTTONDOWN) && m_tellMouse) {
-        const auto tell = m_tellMouse; // which may end the window
+        const auto tell = m_tellMouse; // copied, since the call may end the window
         tell(message, lParam);
     }
     return result;

@@ -15,10 +15,11 @@ class Picture final : public SubclassedItem {
 public:
     explicit Picture(HWND item) : SubclassedItem(item) {}
 
-    /// A bitmap resource, 0 for none. Without `clearsGround` it is drawn over what is there.
+    /// Sets the bitmap resource, 0 for none. Without `clearsGround` it is drawn over what is there.
     void setBitmap(const ResourceModule& resources, std::uint32_t id, bool clearsGround);
 
-    /// Gives what is to be told of the mouse on the item: the message and the place in the item.
+    /// Sets the function that hears of the mouse on the item: it gets the message and the place in
+    /// the item.
     void watchMouse(std::function<void(UINT message, LPARAM place)> tell) {
         m_tellMouse = std::move(tell);
     }

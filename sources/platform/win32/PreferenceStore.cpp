@@ -89,7 +89,7 @@ PreferenceResult writePreference(std::u16string_view path, std::u16string_view n
     if (error != ERROR_SUCCESS) {
         return resultOf(PreferenceStatus::keyFailed, error);
     }
-    // The system looks at what follows a text, and counts a zero unit there as a part of it.
+    // The system stores a zero unit that follows a text as a part of it.
     std::vector<std::byte> guarded(bytes.begin(), bytes.end());
     guarded.resize(bytes.size() + sizeof(wchar_t), std::byte{1});
     error = RegSetValueExW(key.get(), terminated(name).c_str(), 0, type, bytesOf(guarded),

@@ -1,4 +1,4 @@
-// Sliders, scroll bars and spins, which differ in how they are told.
+// Sliders, scroll bars and spins, which differ in the numbers of their messages.
 
 #include "platform/win32/Item.h"
 

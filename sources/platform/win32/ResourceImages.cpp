@@ -18,7 +18,8 @@ Bytes find(const ResourceModule& resources, std::uint32_t id, std::uint32_t type
     return failure == ResourceModule::Failure::none ? bytes : Bytes();
 }
 
-/// Size and depth where drawing needs no more memory than a screen full of pictures does.
+/// Bounds on size and depth within which drawing takes no more memory than a screen full of
+/// pictures.
 bool isSound(const BITMAPINFOHEADER& header) {
     constexpr LONG largestSide = 4096;
     constexpr WORD depths[] = {1, 4, 8, 16, 24, 32};
@@ -44,7 +45,7 @@ std::uint64_t sizeOfPixels(const BITMAPINFOHEADER& header) {
     return rowBytes * static_cast<std::uint64_t>(std::abs(header.biHeight));
 }
 
-/// A device-independent bitmap with its parts in place; nothing if they don't fit in its bytes.
+/// The parts of a device-independent bitmap, found within its bytes.
 struct PackedBitmap {
     std::vector<std::byte> info; // the header and the colours, aligned
     Bytes pixels;
@@ -71,8 +72,7 @@ std::optional<PackedBitmap> unpack(Bytes bytes) {
     return PackedBitmap{{info->begin(), info->end()}, *pixels};
 }
 
-/// Whether all the entries that an icon group counts are there: the system takes their number for
-/// true.
+/// Whether all the entries that an icon group counts are there: the system trusts their number.
 bool isSoundIconGroup(Bytes group) {
     constexpr std::uint64_t countPlace = 4;
     constexpr std::uint64_t headerSize = 6;
@@ -81,7 +81,7 @@ bool isSoundIconGroup(Bytes group) {
     return count && *count != 0 && slice(group, headerSize, *count * entrySize);
 }
 
-/// The system's functions take what they only read as writable.
+/// Casts away const for functions of the system that only read.
 BYTE* unprotected(Bytes bytes) {
     return const_cast<BYTE*>(reinterpret_cast<const BYTE*>(bytes.data()));
 }

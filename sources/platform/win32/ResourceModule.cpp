@@ -7,7 +7,8 @@ namespace zent::platform {
 
 namespace {
 
-/// A number in the place of a resource's name. Larger ones would be cut to another number.
+/// The largest number that can stand in the place of a resource's name. A larger one would be cut
+/// to another number.
 constexpr std::uint32_t largestNumber = 0xFFFF;
 const wchar_t* asName(std::uint32_t number) { return MAKEINTRESOURCEW(number); }
 
@@ -66,7 +67,8 @@ std::unique_ptr<ResourceModule> ResourceModule::load(std::u16string_view path,
         lastError = ERROR_BAD_PATHNAME;
         return nullptr;
     }
-    // The altered search path: what the library itself needs is looked for in its own folder.
+    // With the altered search path, the libraries that this one needs are looked for in its own
+    // folder.
     const HMODULE module =
         LoadLibraryExW(terminated(path).c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
     if (module == nullptr) {

@@ -25,7 +25,7 @@ public:
     }
 
 private:
-    /// What stands before the window's procedure; null if the system refuses.
+    /// The picture of the item, which is attached at the first need; null if the system refuses.
     Picture* findOrAttachPicture() const {
         if (SubclassedItem::of(window()) == nullptr) {
             SubclassedItem::attach(std::make_unique<Picture>(window()));

@@ -8,7 +8,7 @@ namespace zent::platform::win32 {
 
 namespace {
 
-// Properties of the window.
+// The names of the window's properties.
 constexpr const wchar_t* itemProperty = L"SC_THS";
 constexpr const wchar_t* procedureProperty = L"SC_WND";
 
@@ -24,13 +24,13 @@ LONG_PTR setProcedure(HWND window, WNDPROC procedure) {
 
 bool SubclassedItem::attach(std::unique_ptr<SubclassedItem> item) {
     const HWND window = item->window();
-    // The properties stand before the first message can come.
+    // The properties are set before the first message can come.
     const LONG_PTR own = GetWindowLongPtrW(window, GWLP_WNDPROC);
     const bool isReady =
         SetPropW(window, procedureProperty, reinterpret_cast<HANDLE>(own)) != FALSE &&
         SetPropW(window, itemProperty, item.get()) != FALSE;
     if (isReady && setProcedure(window, &procedure) != 0) {
-        static_cast<void>(item.release()); // the window's, until its last message
+        static_cast<void>(item.release()); // the window owns it until its last message
         return true;
     }
     item->detach();

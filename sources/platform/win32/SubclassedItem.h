@@ -6,8 +6,8 @@
 
 namespace zent::platform::win32 {
 
-/// What a dialog item's messages go through before the item's own procedure sees them. It belongs
-/// to the item's window and goes with it.
+/// An object that gets a dialog item's messages before the item's own procedure does. It belongs to
+/// the item's window and goes with it.
 class SubclassedItem {
 public:
     virtual ~SubclassedItem() = default;

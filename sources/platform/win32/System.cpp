@@ -33,7 +33,8 @@ std::u16string getWindowCaption(WindowHandle window) {
 std::u16string getSystemErrorText(std::uint32_t error) {
     const DWORD lastError = GetLastError();
     wchar_t* text = nullptr;
-    // With the first flag, the buffer's place takes the address of what the system allocates.
+    // With the first flag, the system allocates the text, and puts its address in the place of a
+    // buffer.
     const DWORD length = FormatMessageW(
         FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
         nullptr, error, 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);

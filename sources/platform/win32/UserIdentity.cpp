@@ -61,7 +61,7 @@ std::u16string getWorkstationUser(const SystemLibrary& netapi, NetWkstaUserGetIn
     BYTE* result = nullptr;
     const NET_API_STATUS status = getInfo(nullptr, 0, &result);
     if (status == NERR_Success && result != nullptr) {
-        // The function's own allocation, aligned for what it holds.
+        // The function has allocated the bytes itself, aligned for the structure that they hold.
         const void* information = result;
         name = units(static_cast<const WKSTA_USER_INFO_0*>(information)->wkui0_username);
     } else {

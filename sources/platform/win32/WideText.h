@@ -7,8 +7,8 @@
 
 namespace zent::platform {
 
-// A wchar_t is 16 bits wide on this system, and holds what a char16_t holds: the casts between the
-// two stand here.
+// A wchar_t is 16 bits wide on this system, and holds what a char16_t holds: all casts between the
+// two are here.
 static_assert(sizeof(wchar_t) == sizeof(char16_t));
 
 inline const wchar_t* wide(const char16_t* text) { return reinterpret_cast<const wchar_t*>(text); }

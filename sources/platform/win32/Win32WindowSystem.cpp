@@ -13,7 +13,7 @@ namespace {
 
 HWND asWindow(WindowHandle handle) { return static_cast<HWND>(handle); }
 
-/// The dialog of bytes that are a template; null for others, which the system would read beyond
+/// Makes a dialog of a template; null for bytes that are none, which the system would read beyond
 /// their end.
 std::shared_ptr<Dialog> makeDialog(std::span<const std::byte> dialogTemplate,
                                    const ResourceModule& resources, DialogProcedure& procedure) {

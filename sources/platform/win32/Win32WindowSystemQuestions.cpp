@@ -1,4 +1,4 @@
-// What stands beside dialogs: message boxes, file questions and help.
+// The questions and answers besides dialogs: message boxes, file questions and help.
 
 #include <array>
 
@@ -38,7 +38,7 @@ public:
     std::optional<std::u16string> ask(FileDialog dialog) {
         bool isAnswered = dialog(&m_form) != FALSE;
         if (!isAnswered && CommDlgExtendedError() == FNERR_INVALIDFILENAME) {
-            m_path.fill(u'\0'); // what was proposed can't be a file's name
+            m_path.fill(u'\0'); // the proposed name can't be one of a file
             isAnswered = dialog(&m_form) != FALSE;
         }
         return isAnswered ? std::optional<std::u16string>(m_path.data()) : std::nullopt;

@@ -7,7 +7,7 @@ namespace zent::platform {
 std::u16string getWindowText(HWND window) {
     const int length = GetWindowTextLengthW(window);
     std::u16string text(static_cast<std::size_t>(length), u'\0');
-    // The length is an upper bound; the terminator has its place behind the text.
+    // The length is an upper bound; the terminator has room after the text.
     const int copied = GetWindowTextW(window, wide(text.data()), length + 1);
     text.resize(static_cast<std::size_t>(copied));
     return text;
