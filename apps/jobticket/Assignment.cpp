@@ -58,7 +58,7 @@ void checkParent(std::string_view where, const Feature& parent, const Feature& m
     }
 }
 
-/// One step of a way to an attribute, whose members of sets are counted from 1.
+/// One step of the path to an attribute in a report, where the members of sets are counted from 1.
 struct WayStep {
     std::string_view name;
     std::optional<std::uint32_t> index; // from 0 on
@@ -74,7 +74,8 @@ WayStep parseWayStep(std::string_view text) {
     return step;
 }
 
-/// Features in a collection of the ticket, or in the first of several, are found by themselves.
+/// Whether a step can be left out: features in a collection of the ticket, or in the first of
+/// several, are found by their names alone.
 bool isFoundThrough(const WayStep& step) {
     return step.index.value_or(0) == 0 && Feature::exists(step.name) &&
            !Feature::named(step.name).isPageLevel();
@@ -143,7 +144,7 @@ std::string_view nameOf(std::string_view step) { return step.substr(0, step.find
 
 AttributeStep parseAttributeStep(std::string_view text) {
     if (nameOf(text).empty()) {
-        Feature::named(""); // raises the error for a name that none has
+        Feature::named(""); // raises the error for an unknown name
     }
     AttributeStep step = {zent::AttrID(zent::CXString(fromUtf8(nameOf(text)))), 0, std::nullopt};
     if (const std::size_t bracket = text.find('['); bracket != std::string_view::npos) {
@@ -160,7 +161,8 @@ AttrNodeList& membersOf(AttrNode& node) {
     return static_cast<zent::IppList&>(node.getAttrValue()).getAttrNodeList();
 }
 
-/// A group of features that stand beside all others, so that listings leave it out of paths.
+/// Whether a node is a group of features that a ticket holds beside all others. Listings leave such
+/// groups out of paths.
 bool isTransparent(const AttrNode& node) {
     const std::string name = toUtf8(node.getName());
     return node.getAttrValue().isCollection() && Feature::exists(name) &&
@@ -210,7 +212,7 @@ bool remove(AttrNodeList& list, std::string_view path) {
 }
 
 std::string_view lastOf(std::string_view path) {
-    return nameOf(path.substr(path.rfind('.') + 1)); // all of it without a dot
+    return nameOf(path.substr(path.rfind('.') + 1)); // the whole path if there is no dot
 }
 
 } // namespace
@@ -266,7 +268,7 @@ std::string listHolders(const Feature& feature) {
     return holders;
 }
 
-/// What no ticket holds can be written to none.
+/// Refuses a path that no ticket can have.
 void checkPlace(const FeaturePath& path) {
     const Feature& outermost = path.front().feature;
     if (!outermost.standsInTicket()) {
@@ -281,7 +283,7 @@ void checkPlace(const FeaturePath& path) {
     }
 }
 
-/// The path that says the same of another feature of the place.
+/// The path of another feature in the same place.
 FeaturePath withLast(const std::string& place, const std::string& name) {
     return parsePath(place + name);
 }
@@ -365,9 +367,11 @@ void editAt(Ticket& ticket, std::span<const PathStep> path, const Enter& enter,
         editAt(nested, rest, enter, change);
         ticket.setNested(step.feature, index, nested);
     } else if (index == 0) {
-        editAt(ticket, rest, enter, change); // features lie in the first member by themselves
+        // Features in the first member are found by their names.
+        editAt(ticket, rest, enter, change);
     } else {
-        // In a ticket that has no other member, it is the first.
+        // Only the first member can be edited, so that this one is made the first of a ticket of
+        // its own.
         Ticket alone = ticket.createEmpty();
         alone.setNested(step.feature, 0, ticket.copyNested(step.feature, index));
         editAt(alone, rest, enter, change);
@@ -385,7 +389,7 @@ void removeFrom(Ticket& ticket, const Feature& feature, std::uint32_t first) {
 } // namespace
 
 void setValues(Ticket& ticket, std::span<const PathStep> path, const std::vector<Value>& values) {
-    // Sets have no gaps: a value takes the place of another, or comes behind the last.
+    // Sets have no gaps: a value takes the place of another, or comes after the last.
     const auto checkNoGap = [](const Ticket& holder, const PathStep& step) {
         const std::uint32_t count = holder.count(step.feature);
         if (indexOf(step) > count) {

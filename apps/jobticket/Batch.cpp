@@ -1,3 +1,6 @@
+// A command on many tickets goes on after a failure, so that one bad file doesn't hide what the
+// others would have shown.
+
 #include "Batch.h"
 
 #include <algorithm>

@@ -53,12 +53,12 @@ ExitStatus check(const Options& options, const PrinterChoice& printer, const std
     return check.problems.empty() ? ExitStatus::success : ExitStatus::differences;
 }
 
-/// The user sees what there is, and may refuse a repair.
+/// Checks a ticket with a dialog, in which the user sees the problems and may refuse the repair.
 ExitStatus checkInDialog(const Options& options, const PrinterChoice& printer,
                          const std::string& ticket, const std::string& result) {
     Session session(printer);
     const std::string document = readFile(ticket);
-    readDocument(document, ticket); // says what is wrong with it, if anything is
+    readDocument(document, ticket); // raises an error that says where it is wrong
     const Session::Report report =
         session.importAndReportTicket(document, nameForMessages(ticket), options.repairs);
     if (options.repairs && report.isTaken) {
@@ -73,8 +73,8 @@ struct PrinterResult {
     std::size_t problems;
 };
 
-/// What all printers that have the language, or PCL, make of a ticket; those that can do more of it
-/// stand first.
+/// Checks a ticket for all printers that have the language, or PCL without one. Those with the
+/// fewest problems come first.
 std::vector<PrinterResult> checkWithAll(const zent::AttrNodeList& ticket, const Options& options) {
     const std::vector<Model> models = getModels();
     std::vector<PrinterResult> results;
@@ -188,8 +188,8 @@ namespace {
 struct Move {
     Offers from;
     Offers to;
-    std::vector<Problem> lost;   // what the first printer can do
-    std::vector<Problem> others; // what neither can
+    std::vector<Problem> lost;   // the first printer can do these
+    std::vector<Problem> others; // neither printer can do these
 };
 
 Move compare(const zent::AttrNodeList& ticket, const PrinterChoice& from, const PrinterChoice& to) {
@@ -282,7 +282,7 @@ void note(const Options& options, const std::string& text) {
     }
 }
 
-/// What a line says of a name that the ticket has and the instructions have not.
+/// The note about a name of the ticket that the logon name replaces in the instructions.
 std::string describeReplacement(const std::vector<OutlineLine>& outline, const char* feature,
                                 const std::string& logonName) {
     const auto line = std::ranges::find_if(outline, [&](const OutlineLine& each) {
@@ -329,7 +329,8 @@ ExitStatus writeInstructions(const Options& options, const PrinterChoice& printe
     return ExitStatus::success;
 }
 
-/// By what form a printer takes, results of several tickets are XML documents or lines of text.
+/// Writes the instructions for all tickets. The form that the printer takes decides between ".xml"
+/// and ".txt" for the names of several results.
 ExitStatus writeAll(const Options& options) {
     const PrinterChoice printer = choosePrinter(options.printer);
     const bool isXml = getOffers(printer).choice.form == ZENT_INSTRUCTIONS_XML;

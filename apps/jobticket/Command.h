@@ -11,14 +11,15 @@
 
 namespace jobticket {
 
-/// What a command line says of a printer. Empty texts weren't given.
+/// The options that choose a printer. Those that weren't given are empty.
 struct PrinterOptions {
     std::string model;
     std::string language;
     std::string form;
 };
 
-/// All that a command line can say. Each command reads what its own options fill in.
+/// The values of all options of all commands. Each command reads those that its own options fill
+/// in.
 struct Options {
     std::string ticket; // or the state blob
     std::vector<std::string> tickets;
@@ -58,8 +59,8 @@ struct Options {
     std::vector<std::string> words; // of a command, or of a line that the shell completes
 };
 
-/// What an option takes, or what stands at an argument's place. Help names it, and the shell's
-/// completion offers it.
+/// The kind of value that an option or argument takes. Help names it, and the shell's completion
+/// offers such values.
 enum class Operand {
     none, // a flag
     text,
@@ -77,12 +78,12 @@ enum class Operand {
     command,
 };
 
-/// Where in the options a value goes.
+/// The member of the options that gets the value.
 using Target = std::variant<bool& (*)(Options&), std::string& (*)(Options&),
                             std::optional<std::string>& (*)(Options&),
                             std::vector<std::string>& (*)(Options&)>;
 
-/// The target that a way of members leads to: in<&Options::from, &PrinterOptions::model>.
+/// The target that a path of members leads to: in<&Options::from, &PrinterOptions::model>.
 template <auto... members>
 constexpr auto& in(Options& options) {
     return (options.*....*members);
@@ -118,8 +119,8 @@ struct Command {
     std::span<const Option> options;
     ExitStatus (*run)(const Options& options);
     const char* examples = "";               // a line each
-    std::span<const char* const> about = {}; // what else its help tells
-    bool isHidden = false;                   // from people: other programs use it
+    std::span<const char* const> about = {}; // more paragraphs for its help
+    bool isHidden = false;                   // true for commands that only other programs use
 };
 
 /// All commands, in the order in which help lists them; a group stands before its own.
@@ -220,7 +221,7 @@ constexpr Option quietOption = {
 /// no sense.
 ExitStatus runCommandLine(const std::vector<std::string>& arguments);
 
-/// What stands for the value of an option: "FILE", "PRINTER", ...
+/// The name of an option's value in help: "FILE", "PRINTER", ...
 std::string getName(Operand operand);
 /// "TICKET", "[PATTERN]", "[FEATURE=VALUE...]": an argument in a line that shows how to use a
 /// command.

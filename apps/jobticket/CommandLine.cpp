@@ -20,8 +20,9 @@ std::string helpFor(std::string_view command) {
     return "\"jobticket " + std::string(command) + (command.empty() ? "" : " ") + "--help\"";
 }
 
-/// The parser would only say that a command is missing. Gives the command, or the group whose own
-/// is missing; null where the program's is.
+/// Finds the command that the arguments begin with: a group if the name of its command is missing,
+/// and null if there is no command at all. The parser itself can only say that a command is
+/// missing.
 const Command* chooseCommand(std::span<const std::string> arguments) {
     const Command* chosen = nullptr;
     std::string before;
@@ -61,8 +62,8 @@ void addOption(CLI::App& parser, const Option& row, Options& options) {
 class OptionParser {
 public:
     OptionParser(const Command& command, Options& options) : m_command(command) {
-        m_parser.allow_extras(); // they are told of below
-        // On every system "/a" is a file.
+        m_parser.allow_extras(); // they are reported below
+        // "/a" is a file on every system.
         m_parser.allow_windows_style_options(false);
         for (const Option& row : command.options) {
             addOption(m_parser, row, options);
@@ -86,7 +87,7 @@ public:
         } catch (const CLI::CallForHelp&) {
             return false;
         } catch (const CLI::ParseError& error) {
-            checkAllIsKnown(); // an option that is misspelt isn't missing
+            checkAllIsKnown(); // a misspelt option is reported as such, not as missing
             fail(describe(error));
         }
         checkAllIsKnown();
@@ -101,7 +102,7 @@ private:
 
     void checkAllIsKnown() const {
         std::vector<std::string> extras = m_parser.remaining();
-        std::erase(extras, "--"); // which the parser leaves there, though it heeds it
+        std::erase(extras, "--"); // the parser obeys it, but leaves it there
         if (extras.empty()) {
             return;
         }

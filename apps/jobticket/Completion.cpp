@@ -1,4 +1,5 @@
-// What the shell offers at the end of a line; the script for bash asks for it.
+// Lists what the last word of a command line may become. The completion script for bash asks for
+// it.
 
 #include <algorithm>
 #include <array>
@@ -18,7 +19,7 @@ namespace jobticket {
 
 namespace {
 
-/// What goes behind a feature's name.
+/// The text that follows the name of a feature in an assignment.
 std::string endingOf(const Feature& feature) {
     if (feature.getKind() != ValueKind::collection) {
         return "=";
@@ -39,7 +40,7 @@ std::vector<std::string> completeFeature(std::string_view word) {
         const bool fits = parents.empty() ? feature.standsInTicket()
                                           : parents.back().feature.isPageLevel() ||
                                                 feature.isMemberOf(parents.back().feature);
-        // Other collections are no more than their features, which have names of their own.
+        // Other collections aren't offered, since their features have names of their own.
         const bool isUseful = feature.getKind() != ValueKind::collection || feature.isPageLevel();
         if (fits && isUseful && feature.getName().starts_with(begin)) {
             words.push_back(prefix + feature.getName() + endingOf(feature));
@@ -71,8 +72,8 @@ std::vector<std::string> completeValue(std::string_view word, std::size_t equals
 
 using Words = std::vector<std::string>;
 
-/// What an argument FEATURE=VALUE that begins so may be: with the features of the ticket or of the
-/// collection named, or with the values of the feature.
+/// Completes an argument FEATURE=VALUE: the name by the features of the ticket, or of the
+/// collection that is named before it; the value by those of the feature.
 Words completeAssignment(std::string_view word) {
     try {
         const std::size_t equals = word.find('=');
@@ -106,13 +107,13 @@ Words split(std::string_view line) {
     return words;
 }
 
-/// What a line asks to be completed.
+/// The place in a command line that is to be completed.
 struct Place {
     Operand operand = Operand::none;
     std::string word;                 // typed so far
-    const Command* command = nullptr; // that is given; null before one is
-    std::string group;                // before that
-    bool isOption = false;            // its name is being typed
+    const Command* command = nullptr; // null as long as none is given
+    std::string group;                // the group that was given before
+    bool isOption = false;            // the name of an option is being typed
 };
 
 const Option* findOption(const Command& command, const std::string& name) {
@@ -124,8 +125,8 @@ const Option* findOption(const Command& command, const std::string& name) {
     return found == command.options.end() ? nullptr : &*found;
 }
 
-/// What stands at the place of an argument, counted from 0. One that may be repeated is, unless
-/// another follows.
+/// What the argument at a position, counted from 0, takes. One that may be repeated takes all that
+/// follow, unless another argument comes after it.
 Operand operandAt(const Command& command, std::size_t count) {
     const Option* last = nullptr;
     for (const Option& option : command.options) {
@@ -145,7 +146,7 @@ Place findPlace(Words words) {
     Place place;
     place.word = std::move(words.back());
     words.pop_back();
-    const Option* waiting = nullptr; // for its value
+    const Option* waiting = nullptr; // the option whose value comes next
     std::size_t arguments = 0;
     // The first is the program's own name, which may be all that is typed.
     for (const std::string& word : std::span(words).subspan(words.empty() ? 0 : 1)) {
@@ -245,7 +246,7 @@ Words listCandidates(const Place& place) {
     }
 }
 
-/// As the shell takes it for one word.
+/// Escapes a text so that the shell takes it for one word.
 std::string quoted(std::string_view word) {
     std::string text;
     for (const char c : word) {

@@ -11,7 +11,7 @@ struct ResultText {
     const char* meaning;
 };
 
-// By the results' numbers, from 1 on.
+// The texts are in the order of the results' numbers, from 1 on.
 constexpr std::array<ResultText, 32> resultTexts = {{
     {"ZENT_OK", "success"},
     {"ZENT_ERR_VERSION", "the library has another version than the program"},

@@ -8,7 +8,7 @@
 
 namespace jobticket {
 
-/// What the program tells its caller, so that a script can act on the kind of failure. The manual
+/// The exit status of the program, by which a script can act on the kind of failure. The manual
 /// page lists these numbers; they never change.
 enum class ExitStatus : int {
     success = 0,
@@ -33,8 +33,8 @@ private:
     ExitStatus m_status;
 };
 
-/// An exported call that failed: which one, on what, with what result. Its status follows from the
-/// result.
+/// The failure of an exported call. The message names the call, its subject and its result; the
+/// status follows from the result.
 class LibraryError : public ProgramError {
 public:
     /// `subject` is the feature or file that the call was about; may be empty.
@@ -46,11 +46,12 @@ private:
     ZentResult m_result;
 };
 
-/// Raises LibraryError for any result but ZENT_OK.
+/// Raises LibraryError unless the result is ZENT_OK.
 void check(ZentResult result, const char* call, const std::string& subject = {});
 
-/// What an exported call hands out in a buffer: it is asked first for the size and then for the
-/// content. `call` takes the buffer and the size; `name` and `subject` are for messages.
+/// Fetches what an exported call hands out in a buffer: the call is asked first for the size and
+/// then for the content. `call` takes the buffer and the size; `name` and `subject` are for
+/// messages.
 template <typename Content, typename Call>
 Content fetch(const char* name, const std::string& subject, const Call& call) {
     std::uint32_t size = 0;

@@ -31,7 +31,7 @@ std::string withUnit(std::int32_t number, const Unit& unit) {
     }
     const std::string_view name = unit.name;
     std::string text = std::to_string(number);
-    // "Insert after page: 12" says already what the number is.
+    // "Insert after page: 12" says without a unit what the number is.
     if (!name.empty() && name.find("number") == std::string_view::npos) {
         text.append(" ").append(name);
         if (number == 1 && text.ends_with('s')) {
@@ -130,7 +130,7 @@ bool Feature::takesOwnValues() const {
 }
 
 bool Feature::keepsWhiteSpace() const {
-    // What is no known value goes in by the first syntax.
+    // A value that isn't known is stored in the first syntax, which therefore decides.
     const zent::AVTE type = zent::syntaxToAVTE(m_id.getSyntax(0));
     return type == zent::AVTE_NAME || type == zent::AVTE_TEXT;
 }
@@ -161,7 +161,8 @@ std::string Feature::getLocation() const {
     const zent::CXString& value = u"value";
     std::string location;
     for (std::uint32_t index = path.getDepth(); index-- > 0;) {
-        // Sets stand for their members, and a set that names the feature isn't around it.
+        // Sets are left out, since their members stand for them, and so is a set that the feature
+        // is named after.
         if (path.isNamingParent(index) || path.getParentName(index) == value) {
             continue;
         }

@@ -189,7 +189,7 @@ std::string describeProgram() {
 
 namespace {
 
-/// Text for man(7): hyphens and backslashes stand for themselves.
+/// Escapes a text for man(7), so that hyphens and backslashes stand for themselves.
 std::string escaped(std::string_view text) {
     std::string result;
     for (const char c : text) {
@@ -239,7 +239,7 @@ std::string writeNames(const Option& option) {
     return text + (hasValue(option) ? ' ' + italic(getName(option.operand)) : "");
 }
 
-/// The options of a command, set in below it. Its arguments need no more than their names.
+/// The options of a command, indented below it. Its arguments are explained by their names.
 std::string writeOptions(const Command& command) {
     std::string text;
     for (const Option& option : command.options) {
@@ -251,8 +251,8 @@ std::string writeOptions(const Command& command) {
     return text.empty() ? "" : ".RS\n" + text + ".RE\n";
 }
 
-/// What stands in place of a line of the page: ".\" @title", ".\" @synopsis",
-/// ".\" @options COMMAND".
+/// Gives what replaces a line of the page if it is one of ".\" @title", ".\" @synopsis" and ".\"
+/// @options COMMAND"; else the line.
 std::string replaceLine(const std::string& line) {
     const std::string synopsis = ".\\\" @synopsis\n";
     const std::string optionsOf = ".\\\" @options ";

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t widestColumn = 40;
 
-/// Characters, of UTF-8 text; the bytes that continue a character don't count.
+/// The number of characters of UTF-8 text: bytes that continue a character don't count.
 std::size_t widthOf(const std::string& text) {
     return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
         return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
@@ -74,7 +74,8 @@ bool isEscaped(unsigned char byte) {
     return byte < 0x20U || byte == 0x7FU || byte == '"' || byte == '\\';
 }
 
-/// Controls are escaped, also those above ASCII, so that no text steers a terminal.
+/// Puts a text into quotation marks. Control characters are escaped, even those above ASCII, so
+/// that no text steers a terminal.
 std::string quoted(std::string_view content) {
     std::string text = "\"";
     for (std::size_t index = 0; index < content.size(); ++index) {
@@ -116,7 +117,8 @@ std::string Json::toText() const {
     return text + '\n';
 }
 
-/// Scalars alone, such as the two ends of a range, need no lines of their own.
+/// Whether a value is written on one line: arrays and objects that hold only scalars, such as the
+/// two ends of a range, are.
 bool Json::isFlat() const {
     return std::ranges::all_of(m_values,
                                [](const Json& value) { return value.m_kind == Kind::scalar; });

@@ -1,3 +1,6 @@
+// A stock is described by the features of media, so that the command line takes and lists it as it
+// does a ticket.
+
 #include "MediaLibrary.h"
 
 #include <algorithm>
@@ -119,7 +122,8 @@ const Stock* MediaLibrary::find(const std::string& name) {
 
 void MediaLibrary::add(const std::string& name, const std::vector<Assignment>& assignments,
                        bool isFavorite) {
-    parseValues(Feature(zent::feature::mediaKey), name); // says what is wrong with a name
+    // This raises an error for a name that no stock can have.
+    parseValues(Feature(zent::feature::mediaKey), name);
     if (find(name) != nullptr) {
         throw ProgramError(ExitStatus::badValue, "the library has a stock " + inQuotes(name));
     }
@@ -172,7 +176,8 @@ std::string nameOf(const Stock& stock) { return toUtf8(stock.getKey().getText())
 std::vector<OutlineLine> describe(const Stock& stock) {
     std::vector<OutlineLine> outline = makeOutline(*stock.getSettings().getAttrNodeList());
     std::erase_if(outline, [](const OutlineLine& line) {
-        return line.isHeading || line.path == "media" || line.path == "media-key"; // the name
+        // These hold the name, which is listed apart.
+        return line.isHeading || line.path == "media" || line.path == "media-key";
     });
     return outline;
 }

@@ -21,15 +21,15 @@ public:
     /// ProgramError (invalidTicket) for a file that is none.
     MediaLibrary(const PrinterChoice& printer, const std::string& folder)
         : MediaLibrary(printer, folder, nullptr) {}
-    /// The same to change it: until the object goes, nobody else does. Raises ProgramError
-    /// (unwritable) as well.
+    /// Reads the library to change it. As long as the object lives, nobody else can. Raises
+    /// ProgramError (unwritable) as well.
     static MediaLibrary openForChange(const PrinterChoice& printer, const std::string& folder);
 
     /// The path of the file; empty if there is none yet.
     const std::string& getFile() const { return m_file; }
     std::vector<const zent::Stock*> getStocks(zent::StockType kind);
-    /// What a ticket says that asks for the user's stock of that name. Raises ProgramError
-    /// (badValue) if there is none.
+    /// The lines of a ticket that asks for the user's stock of that name. Raises ProgramError
+    /// (badValue) if there is no such stock.
     std::vector<OutlineLine> describe(const std::string& name);
 
     /// Adds a stock of the user's; without assignments it is known by its name alone. Raises

@@ -75,7 +75,8 @@ private:
     }
 
     std::optional<Range> readLength() const {
-        const std::vector<Range> ranges = readRanges(); // of a text's length, for want of numbers
+        // A feature without numbers has the limits of a text's length here.
+        const std::vector<Range> ranges = readRanges();
         if (!ranges.empty()) {
             return ranges.front();
         }
@@ -121,7 +122,8 @@ private:
         return values;
     }
 
-    /// The values of form-cycle-type stand where collections have their members.
+    /// Reads the keywords. Those of form-cycle-type stand in the capability that holds the members
+    /// of other collections.
     std::vector<NamedValue> readKeywords() const {
         std::vector<NamedValue> values;
         if (has(zent::CAPTYPE_SUPPORTED_FEATURES)) {
@@ -167,7 +169,8 @@ void addOffered(std::set<zent::FeatureEnum>& offered, const Capabilities& capabi
     if (!offered.insert(feature.getNumber()).second) {
         return;
     }
-    if (feature.getKind() == ValueKind::size) { // of its members nothing is told: it has both
+    // The capabilities don't list its members, but it always has both.
+    if (feature.getKind() == ValueKind::size) {
         offered.insert({zent::feature::xDimension, zent::feature::yDimension});
     }
     for (const Feature& member : readMembers(capabilities, feature)) {
@@ -200,9 +203,10 @@ bool isMemberOfAny(const std::vector<Feature>& members, const Feature& feature) 
 } // namespace
 
 bool mayHold(const Feature& holder, const Feature& feature) {
-    std::set<std::pair<std::uint32_t, std::uint32_t>> seen; // families and languages
+    // The pairs of family and language that were looked at.
+    std::set<std::pair<std::uint32_t, std::uint32_t>> seen;
     std::vector<Model> models = getModels();
-    std::ranges::reverse(models); // the later ones hold more
+    std::ranges::reverse(models); // later models offer more, so that the loop ends sooner
     return std::ranges::any_of(models, [&](const Model& model) {
         return std::ranges::any_of(model.drivers, [&](const Driver& driver) {
             if (!seen.emplace(model.family, driver.language.number).second) {

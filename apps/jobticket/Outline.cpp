@@ -1,3 +1,6 @@
+// An outline shows a ticket as "jobticket set" would take it. So it leaves out collections that the
+// features in them don't need to be found.
+
 #include "Outline.h"
 
 #include <algorithm>
@@ -77,7 +80,7 @@ std::optional<ShownValue> showSize(const AttrNodeList& dimensions) {
     return ShownValue{textOf(width) + "x" + textOf(height), text};
 }
 
-/// Whether another value of the feature has the same text for people.
+/// Whether another value of the feature is shown by the same text.
 bool hasTwin(const Feature& feature, const zent::FeatureValue& value) {
     const std::vector<zent::FeatureValue> values = feature.getValues();
     return std::ranges::any_of(values, [&](const zent::FeatureValue& other) {
@@ -218,7 +221,7 @@ private:
             const AttrValue& member = members.getNodeAt(index).getAttrValue();
             const std::string memberPath = path + "[" + std::to_string(index) + "]";
             const std::string memberLabel = label + " " + std::to_string(index + 1);
-            // Features are found in the first member of a set by themselves.
+            // The features of the first member are addressed by their names alone.
             addCollection(member, index == 0 ? feature : std::nullopt, memberLabel, memberPath,
                           prefix, depth);
         }
@@ -228,7 +231,8 @@ private:
                        const std::string& label, const std::string& path, const std::string& prefix,
                        unsigned depth) {
         if (const auto values = value.isList() ? std::nullopt : showValues(value, feature)) {
-            m_lines.push_back({depth, false, path, label, *values}); // among collections of a set
+            // A value among the collections of a set.
+            m_lines.push_back({depth, false, path, label, *values});
             return;
         }
         m_lines.push_back({depth, true, path, label, {}});

@@ -31,15 +31,15 @@ std::string joinTexts(const std::vector<ShownValue>& values);
 
 /// One line of a ticket's listing.
 struct OutlineLine {
-    unsigned depth;                 // how many collections the line lies in
-    bool isHeading;                 // of a collection, whose members follow one deeper
-    std::string path;               // as "jobticket set" takes it
-    std::string label;              // the name for people
+    unsigned depth;    // how many collections the line lies in
+    bool isHeading;    // the line is that of a collection, whose members follow one level deeper
+    std::string path;  // as "jobticket set" takes it
+    std::string label; // the name for people
     std::vector<ShownValue> values; // none in a heading
 };
 
-/// What a ticket says, line by line in its own order. Attributes that are no feature are listed by
-/// the names that they have.
+/// The content of a ticket, line by line in its own order. Attributes that are no feature are
+/// listed by the names that they have.
 std::vector<OutlineLine> makeOutline(const zent::AttrNodeList& ticket);
 
 /// An array of the lines that are no headings, each with its path, name and values.

@@ -25,7 +25,8 @@ namespace jobticket::platform {
 
 #ifdef _WIN32
 
-// What main() gets is in the ANSI code page; the command line itself is UTF-16.
+// The arguments of main() are in the ANSI code page, so that those of the UTF-16 command line are
+// taken.
 std::vector<std::string> getArguments(int /*count*/, char** /*arguments*/) {
     int count = 0;
     const std::unique_ptr<wchar_t*, decltype(&LocalFree)> arguments(
@@ -73,7 +74,7 @@ std::optional<std::string> getVariable(const char* name) {
     return value == nullptr ? std::nullopt : std::optional<std::string>(value);
 }
 
-// Here a device has a path like any file, and is opened by who names it.
+// A device has a path like any file here, and who names it means it.
 bool isDeviceName(const std::string& /*argument*/) { return false; }
 
 #endif

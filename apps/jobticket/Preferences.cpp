@@ -22,7 +22,7 @@ namespace jobticket {
 
 namespace {
 
-// By the types' numbers, from 1 on.
+// The names are in the order of the types' numbers, from 1 on.
 constexpr std::array<const char*, 5> typeNames = {"bool", "number", "text", "unit", "data"};
 
 constexpr std::int32_t inches = 1;
@@ -207,14 +207,16 @@ std::string Preferences::read(const std::string& name, PreferenceType type, bool
 }
 
 std::optional<std::string> Preferences::find(const std::string& name, PreferenceType type) const {
-    // What is stored comes out whatever the default.
+    // A stored value is read whatever the default is, so that two defaults show whether there is
+    // one.
     std::string value = read(name, type, false);
     return value == read(name, type, true) ? std::optional(std::move(value)) : std::nullopt;
 }
 
 void Preferences::store(const std::string& name, PreferenceType type,
                         const std::string& value) const {
-    // Not by the exported calls, whose results can't say where the store lies and what is wrong.
+    // The exported calls aren't used, since their results can't say where the store lies and what
+    // is wrong with it.
     const auto preferences = zent::ZENTSession::getSessionObject(m_session).getUserPreferences();
     try {
         storeIn(*preferences, name, type, value);

@@ -137,7 +137,7 @@ std::string describeOwnValues(const Offer& offer) {
     }
 }
 
-/// All that is to say of an offer but its values and members.
+/// Describes an offer apart from its values and members.
 std::string summarize(const Offer& offer) {
     std::string text;
     for (const Range& range : offer.ranges) {
@@ -199,7 +199,7 @@ std::string joinByHyphen(const Range& range) {
     return std::to_string(range.lower) + '-' + std::to_string(range.upper);
 }
 
-/// Name, name for people, and what there is to say as key=value.
+/// Name, name for people, and all else as key=value.
 Row makeRow(const Offer& offer) {
     Row row = {offer.feature.getName(), offer.feature.getDisplayName()};
     const auto add = [&row](std::string key, const std::string& value) {
@@ -247,7 +247,7 @@ Json makeJson(const Offers& offers) {
         .add("features", features);
 }
 
-/// Leaves only the feature of that name, or those with the text in a name.
+/// Keeps only the feature of that name, or those with the text in a name.
 void keepMatching(std::vector<Offer>& features, const std::string& pattern) {
     const auto isNamed = [&](const Offer& offer) { return offer.feature.getName() == pattern; };
     const bool isName = std::ranges::any_of(features, isNamed);

@@ -148,8 +148,8 @@ std::uint32_t chooseForm(const std::string& text) {
                        "--form: " + inQuotes(text) + " is none of xml (1), stream (2), model (3)");
 }
 
-/// What stands for a printer that isn't given: in the environment, or else in the preferences that
-/// all printers share. The language may follow after a colon: "43:ps".
+/// The printer that is used if none is given: it is named in the environment, or else in the
+/// preferences that all printers share. The language may follow after a colon: "43:ps".
 std::string getDefaultPrinter() {
     constexpr const char* name = "JOBTICKET_PRINTER";
     if (auto variable = platform::getVariable(name)) {

@@ -48,23 +48,22 @@ bool hasLanguage(const Model& model, const std::string& language);
 /// "pcl, ps": the languages of a model.
 std::string listLanguages(const Model& model);
 
-/// What the options are called, for messages.
+/// The names of the options that choose a printer, for messages.
 struct PrinterOptionNames {
     std::string model = "--model";
     std::string language = "--pdl";
     bool hasDefault = true;
 };
 
-/// The printer that is meant, or the user's default one. Raises ProgramError, telling what there
-/// is: usage if there is none of both, badValue for one that doesn't exist, or not with that
-/// language.
+/// The printer that the options choose, or the user's default one. Raises ProgramError, with the
+/// printers or languages that there are: usage if neither is given, badValue for a printer that
+/// doesn't exist, or doesn't have that language.
 PrinterChoice choosePrinter(const PrinterOptions& options, const PrinterOptionNames& names = {});
 
-/// A session with the set of preferences that is meant; without any option for it, whatever the
-/// printer, that is the one that all printers share.
-/// Raises as choosePrinter() does.
+/// A session with the set of preferences that the options choose: without an option for it, that is
+/// the set that all printers share, whatever the printer. Raises as choosePrinter() does.
 Session openSession(const Options& options);
-/// The same for a command that goes by a printer in any case.
+/// The same for a command that has chosen a printer.
 Session openSession(const Options& options, const PrinterChoice& printer);
 
 } // namespace jobticket

@@ -45,7 +45,7 @@ struct Setter {
     }
 };
 
-/// The size as the calls take it.
+/// The size of a document, as the calls take it.
 std::uint32_t sizeOf(std::string_view bytes, const char* call, const std::string& subject) {
     if (bytes.size() > std::numeric_limits<std::uint32_t>::max()) {
         throw LibraryError(ZENT_ERR_XML_OTHER, call, subject);
@@ -150,7 +150,7 @@ Ticket::Ticket(Ticket&& other) noexcept
 
 Ticket::~Ticket() {
     if (m_handle != nullptr) {
-        fnReleaseTarvoJtSettings(m_session, &m_handle); // leaves the session's own ticket alone
+        fnReleaseTarvoJtSettings(m_session, &m_handle); // does nothing to the session's own ticket
     }
 }
 

@@ -30,7 +30,7 @@ struct PreferenceSet {
 /// tells the user.
 class Session {
 public:
-    /// Tickets are edited as they are, whatever the printer; then it doesn't matter which.
+    /// Opens a session. To edit tickets as they are any printer will do.
     explicit Session(const PrinterChoice& printer = {}, const PreferenceSet& preferences = {});
     ~Session();
     Session(const Session&) = delete;
@@ -43,21 +43,21 @@ public:
     bool importTicket(std::string_view document, const std::string& name) {
         return import(document, ZENT_FORMAT_XML, name, ZENT_APPLY_SILENT_KEEP);
     }
-    /// The same, but what the printer can't do is repaired.
+    /// Reads a ticket in the same way, and repairs what the printer can't do.
     bool importAndRepairTicket(std::string_view document, const std::string& name) {
         return import(document, ZENT_FORMAT_XML, name, ZENT_APPLY_SILENT_REPAIR);
     }
-    /// What a report has come to.
+    /// The outcome of a report.
     struct Report {
         bool hadProblems = false;
         bool isTaken = false; // the ticket, as it is now; not if the user refused the repair
     };
-    /// The same, but a dialog tells the user of what the printer can't do, and `repairs` that it is
-    /// repaired unless the user refuses. Without a display the report goes to standard error, and
-    /// the repair counts as refused.
+    /// Reads a ticket in the same way. A dialog shows the user what the printer can't do; with
+    /// `repairs` it is repaired unless the user refuses. Without a display the report goes to
+    /// standard error, and the repair counts as refused.
     Report importAndReportTicket(std::string_view document, const std::string& name, bool repairs);
     std::string exportTicket() { return exportAs(ZENT_FORMAT_XML); }
-    /// The same with a state blob.
+    /// These do the same with a state blob.
     void importState(std::string_view blob, const std::string& name) {
         import(blob, ZENT_FORMAT_STATE, name, ZENT_APPLY_SILENT_KEEP);
     }
@@ -65,7 +65,7 @@ public:
     /// The printing instructions for a document of the job, in the session's form. The name of the
     /// document may be empty.
     std::string getInstructions(const std::string& documentName);
-    /// A state blob anew, with the present user's name and preferences in it.
+    /// Makes a state blob anew, with the present user's name and preferences in it.
     std::string renewState(std::string_view blob, const std::string& name);
 
     /// Lets the user edit the job notes of the ticket in a dialog.
@@ -84,10 +84,10 @@ private:
     ZentSessionType m_handle = nullptr;
 };
 
-/// A ticket, or a part of one, behind a settings handle of a session.
+/// A ticket, or a part of one, to which a settings handle of a session belongs.
 class Ticket {
 public:
-    /// An empty one of its own.
+    /// Makes an empty ticket of its own.
     explicit Ticket(const Session& session);
     ~Ticket();
     Ticket(Ticket&& other) noexcept;
@@ -104,7 +104,7 @@ public:
     Ticket copyNested(const Feature& feature, std::uint32_t index) const;
     void setNested(const Feature& feature, std::uint32_t index, const Ticket& nested);
 
-    /// An empty one, in the same session.
+    /// Makes an empty ticket in the same session.
     Ticket createEmpty() const;
 
 private:

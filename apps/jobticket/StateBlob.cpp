@@ -19,7 +19,7 @@ namespace {
 using zent::ByteBuffer;
 
 constexpr std::size_t versionOffset = 4;
-constexpr std::size_t tagOffset = 8; // in the header of the oldest form, which has no structure
+constexpr std::size_t tagOffset = 8; // in the header of the oldest form alone
 constexpr std::size_t headerWithTag = 10;
 
 /// A number of the header, little-endian.
@@ -29,7 +29,7 @@ std::uint32_t readNumber(const ByteBuffer& blob, std::size_t offset, std::size_t
     return static_cast<std::uint32_t>(number.getAsLongValue());
 }
 
-/// What lies compressed behind the header.
+/// Expands what lies compressed after the header.
 ByteBuffer expandBehind(const ByteBuffer& blob, std::size_t header) {
     ByteBuffer content;
     if (blob.size() > header) {
@@ -40,7 +40,8 @@ ByteBuffer expandBehind(const ByteBuffer& blob, std::size_t header) {
 }
 
 StateBlob inspect(const ByteBuffer& blob) {
-    const zent::PersistentSettings valid(blob, false); // so that all of what follows is there
+    // This raises an error unless all that is read below is there.
+    const zent::PersistentSettings valid(blob, false);
     const std::size_t header = readNumber(blob, 0, versionOffset);
     const ByteBuffer content = expandBehind(blob, header);
     StateBlob state;

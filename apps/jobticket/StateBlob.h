@@ -9,7 +9,7 @@
 
 namespace jobticket {
 
-/// What a state blob says besides its ticket. Sizes are in bytes.
+/// The content of a state blob besides its ticket. Sizes are in bytes.
 struct StateBlob {
     std::size_t size = 0;
     std::uint32_t version = 0;
@@ -18,11 +18,11 @@ struct StateBlob {
     std::optional<zent::UserContext> user; // blobs of the oldest form have none
 };
 
-/// Looks into a blob, of any form that the library reads, as it stands. Raises LibraryError for
-/// what is none; `name` is for messages.
+/// Reads a blob, of any form that the library knows, without upgrading it. Raises LibraryError for
+/// other bytes; `name` is for messages.
 StateBlob inspectState(std::string_view bytes, const std::string& name);
 
-/// A blob of the present form anew, by which the logon name is neither the sender nor the
+/// Makes a blob anew in the present form, by which the logon name is neither the sender nor the
 /// recipient.
 std::string withoutLogonNames(std::string_view bytes);
 

@@ -79,7 +79,7 @@ std::string toLine(std::u16string_view message) {
 
 std::string toPrintable(std::string_view text) {
     std::string result = toPrintable(takeUtf8(text));
-    while (!text.empty()) { // begins with what isn't UTF-8
+    while (!text.empty()) { // the text begins with a byte that isn't UTF-8
         result += inHexadecimal(static_cast<unsigned char>(text.front()));
         text.remove_prefix(1);
         result += toPrintable(takeUtf8(text));
@@ -129,7 +129,7 @@ std::size_t editDistance(std::string_view a, std::string_view b) {
 
 /// Of the names that begin with a text, or else hold it, the shortest; empty if there is none.
 std::string findShortestWith(std::string_view text, const std::vector<std::string>& names) {
-    constexpr std::size_t leastPart = 3; // what is shorter stands in many names by chance
+    constexpr std::size_t leastPart = 3; // a shorter text is a part of many names by chance
     std::string found;
     bool isStart = false;
     for (const std::string& name : names) {
@@ -149,7 +149,7 @@ std::string findShortestWith(std::string_view text, const std::vector<std::strin
 } // namespace
 
 std::string findNearest(std::string_view text, const std::vector<std::string>& names) {
-    constexpr std::size_t longestText = 64; // beyond that it is no misspelt name
+    constexpr std::size_t longestText = 64; // a longer text is no misspelt name
     const bool isNumber = text.find_first_not_of("0123456789") == std::string_view::npos;
     if (isNumber || text.size() > longestText) {
         return {};
@@ -158,7 +158,7 @@ std::string findNearest(std::string_view text, const std::vector<std::string>& n
         return name;
     }
     std::string nearest;
-    std::size_t best = text.size() / 3 + 2; // a slip in every third letter, and one more
+    std::size_t best = text.size() / 3 + 2; // allows for a slip in every third letter, and one more
     for (const std::string& name : names) {
         const std::size_t distance = editDistance(text, name);
         if (distance < best) {

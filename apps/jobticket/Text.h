@@ -24,13 +24,14 @@ std::u16string fromZent(const ZentText& text);
 /// UTF-8 for one line of a listing: control characters, which could break the line or steer a
 /// terminal, are shown as "\n", "\t" or "\x1b".
 std::string toPrintable(std::u16string_view text);
-/// The same of UTF-8; bytes that aren't are shown as control characters are.
+/// The same for a text in UTF-8; bytes that aren't are shown as control characters are.
 std::string toPrintable(std::string_view text);
 
-/// The same of a message: what ends its lines goes, and of a longer one no word is cut.
+/// The same for a message on one line: its line end is removed, and one that is too long is cut
+/// after a sentence or word.
 std::string toLine(std::u16string_view message);
 
-/// UTF-8 of at most so many UTF-16 units; what is longer ends in "...".
+/// Cuts UTF-8 text to so many UTF-16 units; a text that is cut ends in "...".
 std::string shorten(const std::string& text, std::size_t length);
 
 /// An argument in quotation marks for a message, printable.

@@ -1,3 +1,6 @@
+// The check is the library's own; what is added here is what a person needs to act on a problem: a
+// path to type, and what the printer takes instead.
+
 #include "TicketCheck.h"
 
 #include <algorithm>
@@ -26,7 +29,7 @@ using zent::ProblemRule;
 using zent::RepairAction;
 using zent::RepairEntry;
 
-/// The offers by feature, to be shared by the problems of each. With that of a size stand the
+/// The offers by feature, which the problems of a feature share. The offer of a size also has the
 /// ranges of its two edges.
 using OfferMap = std::map<zent::FeatureEnum, std::shared_ptr<const Offer>>;
 
@@ -54,7 +57,8 @@ std::optional<ShownValue> showValue(const RepairEntry& entry, const zent::Repair
                : std::optional(describeAttribute(toUtf8(entry.attribute), *value.value));
 }
 
-/// A set that stands in the ticket itself is no part of it.
+/// Says which part of the ticket a problem is in. A set that lies in the ticket itself is no part
+/// of its own.
 void setPart(Problem& problem, const zent::RepairLocation& location) {
     if (location.feature == zent::TJTF_ANY || !Feature(location.feature).isPageLevel()) {
         return;
@@ -68,7 +72,7 @@ void setPart(Problem& problem, const zent::RepairLocation& location) {
     }
 }
 
-/// What should hold something that is missing, and makes no sense without it.
+/// The path of the collection that lacks a required member.
 std::string pathOfHolder(const RepairEntry& entry) {
     const std::string way = toUtf8(entry.path);
     return toPathText(way.substr(0, way.rfind('/')));
@@ -109,11 +113,12 @@ Problem makeProblem(const RepairEntry& entry, const OfferMap& offers) {
     return problem;
 }
 
-/// Where the attribute or its value as a whole is at fault, a repair begins with that, and what
-/// else is wrong there has no effect.
+/// Leaves out problems that a repair doesn't get to: where an attribute or its value as a whole is
+/// at fault, it is repaired first, and other problems there are gone.
 std::vector<const RepairEntry*> leaveEffective(const std::vector<RepairEntry>& entries) {
     using Kind = zent::SettingsProblem::Kind;
-    std::map<std::u16string_view, const RepairEntry*> settled; // by path; attributes come first
+    // By path; problems of attributes come first.
+    std::map<std::u16string_view, const RepairEntry*> settled;
     for (const RepairEntry& entry : entries) {
         if (entry.kind == Kind::unsupportedAttribute || entry.kind == Kind::unsupportedValue) {
             settled.try_emplace(entry.path.view(), &entry);
@@ -133,7 +138,7 @@ zent::NonDriverBasedPrinter makePrinter(const PrinterChoice& choice) {
     return {choice.model, choice.pdl, choice.form, zent::CXString(), true};
 }
 
-/// As an import does.
+/// Brings a ticket into the form that an import gives it.
 void normalize(zent::AttrNodeList& ticket) { zent::FeatureSettings(&ticket).normalize(); }
 
 Omission makeOmission(const zent::AjtOmission& omission) {
@@ -153,8 +158,8 @@ std::vector<Omission> findOmissions(const zent::AttrNodeList& ticket, zent::Prin
     return omissions;
 }
 
-/// What would still be left out of a ticket without its problems. Nothing where it holds a value
-/// that instructions can't be made of.
+/// Finds what the instructions leave out once the problems are repaired. Nothing if the ticket
+/// holds a value from which no instructions can be made.
 std::vector<Omission> findOmissionsAfterRepair(zent::SettingsProblemList& problems,
                                                const zent::AttrNodeList& ticket,
                                                zent::Printer& printer) {
@@ -199,8 +204,8 @@ bool isNumber(const std::string& value) {
     return std::ranges::all_of(value, [](char c) { return c >= '0' && c <= '9'; });
 }
 
-/// Numbers that stand for something are told by name as well: "20 (Staple, top left)". A text that
-/// two values have tells the number itself.
+/// Adds the meaning to a number that stands for something: "20 (Staple, top left)". A text that two
+/// values share has the number in it already.
 std::string withMeaning(const std::string& value, const std::string& shown) {
     const std::string text = shown.substr(0, shown.rfind(" (" + value + ")"));
     return isNumber(value) && !text.starts_with(value) ? value + " (" + text + ")" : value;
@@ -239,7 +244,7 @@ std::string describeRanges(const Offer& offer) {
     return text;
 }
 
-/// The values that the printer has, the first few of many.
+/// The values that the printer has; of many only the first few.
 std::string describeValues(const Offer& offer) {
     constexpr std::size_t mostListed = 8;
     const std::size_t count = offer.values.size();
@@ -260,14 +265,14 @@ std::string describeOffer(const Problem& problem) {
     return values.empty() ? "no such value" : "allowed: " + values;
 }
 
-/// The limits are of a number or of a text's length.
+/// Describes the limits, which are those of a number or of a text's length.
 std::string describeLimits(const Problem& problem) {
     const ValueKind kind = Feature::named(problem.feature).getKind(); // others have no limits
     const bool isNumber = kind == ValueKind::number || kind == ValueKind::range;
     return (isNumber ? "allowed: " : "length: ") + toText(*problem.limits);
 }
 
-/// What the printer takes instead.
+/// Describes what the printer takes in place of a value.
 std::string describeAllowed(const Problem& problem) {
     switch (problem.rule) {
     case ProblemRule::outOfRange:

@@ -15,7 +15,7 @@ namespace jobticket {
 
 /// What a repair does about a problem.
 enum class Repair {
-    remove,  // what is there goes, or what lacks something goes as a whole
+    remove,  // the value is removed, or the whole collection that lacks a member
     replace, // by another value
     add,     // the printer's default of what is missing
 };
@@ -28,7 +28,7 @@ struct Problem {
     zent::ProblemRule rule;
     std::string part;                // such as "page-overrides[1]"; empty for the job as a whole
     std::optional<Range> pages;      // that the part is for
-    std::optional<ShownValue> value; // nothing for what is missing
+    std::optional<ShownValue> value; // nothing if the value is missing
     std::optional<Range> limits;     // of the number, or of the length of the text
     Repair repair;
     std::string removedPath;            // of what a removal takes away
@@ -36,8 +36,8 @@ struct Problem {
     std::shared_ptr<const Offer> offer; // of the feature; null if the printer lacks it
 };
 
-/// Something in a ticket that the printing instructions for a printer don't speak of, since they
-/// are a stream of comment lines, which has no line for it.
+/// Something in a ticket that the printing instructions leave out: they are a stream of comment
+/// lines, which has no line for it.
 struct Omission {
     std::string path;    // as "jobticket set" takes it
     std::string feature; // or the attribute, if it is none
@@ -55,8 +55,8 @@ struct TicketCheck {
 /// gives it.
 TicketCheck checkTicket(zent::AttrNodeList ticket, const PrinterChoice& choice);
 
-/// Finds what the instructions for a printer don't speak of in a ticket, which is first brought
-/// into the form that an import gives it. Nothing for a printer that gets the XML document.
+/// Finds what the instructions for a printer leave out of a ticket, which is first brought into the
+/// form that an import gives it. Nothing for a printer that gets the XML document.
 std::vector<Omission> findOmissions(zent::AttrNodeList ticket, const PrinterChoice& choice);
 
 /// A line for each problem: where in the ticket, what is there and what a repair makes of it, and
@@ -68,7 +68,7 @@ Json toJson(const std::vector<Problem>& problems);
 /// A sentence that says how much the printing instructions leave out, and an indented line for
 /// each: where in the ticket, and what is there. Empty if there is nothing.
 std::string listOmissions(const std::vector<Omission>& omissions);
-/// An array of them, as notes of what isn't wrong.
+/// An array of them, as notes about what isn't wrong.
 Json toJson(const std::vector<Omission>& omissions);
 
 /// "Tarvo Lumaset 430, monochrome PCL".

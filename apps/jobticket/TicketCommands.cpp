@@ -42,7 +42,7 @@ std::string listForPrograms(const std::vector<OutlineLine>& outline) {
     return text;
 }
 
-/// Of several tickets each has its name, above it or in a document of its own.
+/// Lists a ticket. Each of several tickets has its name above it, or in a JSON document of its own.
 std::string list(const std::vector<OutlineLine>& outline, const std::string& ticket,
                  const Options& options) {
     const bool hasName = options.tickets.size() > 1;
@@ -280,7 +280,8 @@ std::vector<std::string> readAssignments(const std::string& file) {
     return lines;
 }
 
-/// The tickets stand first; what follows is all to be set, and so is what looks like it.
+/// Moves the assignments from the tickets to the edits. The tickets come first: from the first
+/// argument that looks like an assignment on, all are assignments.
 void moveAssignments(Options& options) {
     std::vector<std::string>& tickets = options.tickets;
     const auto first =
@@ -301,7 +302,7 @@ void moveAssignments(Options& options) {
     }
 }
 
-/// A name of a feature among the tickets lacks its value.
+/// Refuses the name of a feature among the tickets: it lacks its value.
 void checkAreFiles(const std::vector<std::string>& tickets) {
     for (const std::string& ticket : tickets) {
         if (Feature::exists(ticket) &&
@@ -317,8 +318,8 @@ bool isGeneralShift(const Assignment& assignment) {
     return number == zent::feature::xImageShift || number == zent::feature::yImageShift;
 }
 
-/// The session's ticket with what was set. A general image shift becomes those of the printed sides
-/// at once, as an import makes it, so that what is set after it prevails.
+/// Sets all values in the session's ticket. A general image shift becomes those of the printed
+/// sides at once, as an import makes it, so that what is set after it prevails.
 void setAll(Session& session, const std::vector<Assignment>& assignments) {
     for (const Assignment& assignment : assignments) {
         Ticket ticket = session.getTicket();
@@ -360,8 +361,8 @@ ExitStatus set(const Options& given) {
     });
 }
 
-/// What unset is to remove: features by the exported calls; attributes that only the document type
-/// knows have no number there and are taken out of the document.
+/// Features are removed by the exported calls. Attributes that only the document type knows aren't
+/// known to the calls, and are taken out of the document.
 ExitStatus unset(const Options& options) {
     std::vector<FeaturePath> features;
     std::vector<std::string> attributes;
@@ -440,7 +441,7 @@ ExitStatus editNotes(const Options& options) {
     session.showJobNotes();
     const std::string after = session.exportTicket();
     const std::string target = options.output.value_or(options.ticket);
-    // A file is left alone if the user has given up.
+    // The file isn't written if the user has given up.
     const bool isSameFile = target == options.ticket && target != standardStream;
     if (!isSameFile || after != before) {
         writeFile(target, after);

@@ -37,7 +37,7 @@ constexpr std::size_t largestFile = 64U << 20U; // what the library takes
 /// Why the last operation of the C library failed.
 std::string lastReason() { return std::generic_category().message(errno); }
 
-/// Windows opens devices by such names as "aux.xml" too, and may wait for them.
+/// Refuses the name of a device. Windows takes even "aux.xml" for one, and may wait for it.
 void refuseDeviceName(ExitStatus status, const char* action, const std::string& name) {
     if (platform::isDeviceName(name)) {
         fail(status, action, name, "it is the name of a device");
@@ -161,7 +161,7 @@ void writeFile(const std::string& name, std::string_view bytes) {
     switch (zent::platform::getFileKind(path)) {
     case zent::platform::FileKind::folder:
         fail(ExitStatus::unwritable, "write", name, "it is a folder");
-    case zent::platform::FileKind::device: // is written to, not replaced
+    case zent::platform::FileKind::device: // a device is written to, not replaced
         if (!writeIntoDevice(platform::toPath(name), bytes)) {
             fail(ExitStatus::unwritable, "write", name, lastReason());
         }
@@ -189,7 +189,7 @@ std::vector<std::string> parserMessages(const zent::CXString& message) {
         if (line.starts_with(u"XML is:")) {
             break;
         }
-        // The first one stands behind what raised it.
+        // The first message follows the name of what raised it.
         if (const std::size_t start =
                 std::min(line.find(u"Error at line"), line.find(u"Fatal error at line"));
             start != std::u16string_view::npos) {
@@ -245,7 +245,8 @@ bool importDocumentFile(Session& session, const std::string& name) {
     try {
         return session.importTicket(document, nameForMessages(name));
     } catch (const LibraryError&) {
-        readDocument(document, name); // fails as well, and says where in the document
+        // This fails as well, with a message that says where in the document.
+        readDocument(document, name);
         throw;
     }
 }

@@ -15,7 +15,7 @@ namespace jobticket {
 class Session;
 struct PrinterChoice;
 
-/// What stands for standard input or output in place of a file's name.
+/// The name that stands for standard input or output in place of a file's name.
 constexpr std::string_view standardStream = "-";
 
 /// The bytes of a file or of standard input. Raises ProgramError (unreadable), also for more bytes
@@ -30,8 +30,8 @@ void writeFile(const std::string& name, std::string_view bytes);
 void writeResult(const std::optional<std::string>& name, std::string_view bytes);
 void writeStandardOutput(std::string_view bytes);
 
-/// Where a result goes that is made of one of several tickets: into the folder that is named, under
-/// the ticket's name with another ending if one is given. Raises ProgramError (usage) if no folder
+/// Chooses the files for the results of several tickets: in the folder that is named, each under
+/// its ticket's name, with another ending if one is given. Raises ProgramError (usage) if no folder
 /// is, or if two tickets would go to one file.
 std::vector<std::string> chooseResultFiles(const std::vector<std::string>& tickets,
                                            const std::optional<std::string>& output,
@@ -58,12 +58,13 @@ zent::AttrNodeList readDocument(std::string_view document, const std::string& na
 /// The same from a file or standard input.
 zent::AttrNodeList readDocumentFile(const std::string& name);
 
-/// A ticket document with all repaired that a printer can't do of it. `name` is for messages.
+/// Repairs what a printer can't do of a ticket document. `name` is for messages.
 std::string repairTicket(std::string_view document, const std::string& name,
                          const PrinterChoice& printer);
 
 /// Imports a ticket document from a file or standard input into a session. True if there is
-/// anything in it that the printer can't do. What is no valid ticket fails with the same messages.
+/// anything in it that the printer can't do. A document that is no valid ticket fails with the
+/// messages of readDocument().
 bool importDocumentFile(Session& session, const std::string& name);
 
 } // namespace jobticket

@@ -152,7 +152,8 @@ std::optional<Size> findNamedSize(std::string_view name) {
     return std::nullopt;
 }
 
-/// Without a unit the numbers are hundredths of a millimetre, and small ones are a slip.
+/// Refuses a size that is too small to be meant: numbers without a unit are hundredths of a
+/// millimetre.
 void checkSizeIsMeant(const Feature& feature, std::string_view text, const Range& sides) {
     constexpr std::int32_t smallest = 1000;
     if (std::min(sides.lower, sides.upper) < smallest) {
@@ -169,7 +170,7 @@ Size parseSize(const Feature& feature, std::string_view text) {
     }
     std::string_view numbers = text;
     const LengthUnit* const unit = removeUnit(numbers);
-    // A unit may stand with each side; that of the second one is there in any case.
+    // Each side may have a unit. Without one, the first side has that of the second.
     const auto parseSide = [unit](std::string_view side) {
         const LengthUnit* const own = removeUnit(side);
         return parseLength(side, own == nullptr ? *unit : *own);
@@ -187,7 +188,7 @@ Size parseSize(const Feature& feature, std::string_view text) {
     return {pair->lower, pair->upper};
 }
 
-/// What XML can't hold can't be in a ticket.
+/// Refuses characters that XML can't hold, since no ticket can.
 void checkCharacters(const Feature& feature, std::string_view text, std::u16string_view units) {
     for (const char16_t unit : units) {
         const bool isAllowedControl = unit == u'\t' || unit == u'\n' || unit == u'\r';
@@ -209,8 +210,8 @@ struct FinishingName {
     std::string_view number;
     std::string_view name;
 };
-// As the Internet Printing Protocol names the numbers (PWG 5100.1). Programs of the finisher, from
-// 110 on, have numbers alone.
+// The names that the Internet Printing Protocol gives to the numbers (PWG 5100.1). The finisher's
+// own programs, from 110 on, have no names.
 constexpr std::array<FinishingName, 14> finishingNames = {{
     {"3", "none"},
     {"7", "bind"},
@@ -228,8 +229,7 @@ constexpr std::array<FinishingName, 14> finishingNames = {{
     {"52", "bind-right"},
 }};
 
-/// The names by which values may be typed, each with the value; of those without a name the value
-/// itself.
+/// The texts by which values may be typed: the name, or the value itself if it has none.
 std::vector<std::string> getTypedNames(const Feature& feature) {
     std::vector<std::string> names;
     for (const std::string& value : getValueNames(feature)) {

@@ -5,7 +5,7 @@
 
 namespace zent {
 
-// Units are converted one by one, since ZentChar is another type than char16_t on Windows.
+// Units are converted one by one, since ZentChar isn't char16_t on Windows.
 
 CXString textOf(const ZentChar* argument) {
     CXString text;

@@ -11,8 +11,8 @@ namespace zent {
 
 namespace {
 
-/// Where a call failed, as "ZENT::fnOpenSession()". No text if memory has run out: a report mustn't
-/// fail for that.
+/// The location of a failed call, such as "ZENT::fnOpenSession()". It is empty if memory has run
+/// out, since the report must not fail for that.
 CXString locationOf(const char* function) noexcept {
     try {
         return formatText("ZENT::%S()", function);

@@ -8,8 +8,8 @@ namespace zent {
 
 /// Shows a caught exception, unless silent, and gives the result code.
 ZentResult endCall(const std::exception& exception, bool silent, const char* function);
-/// Shows, unless silent, that something unknown went wrong. True if it is to travel on into the
-/// application, which wants to see it.
+/// Shows, unless silent, that something unknown went wrong. True if the exception must travel on
+/// into the application, which wants to see it.
 bool endUnknownCall(bool silent, const char* function);
 
 /// The frame around every exported call: no exception leaves it (but for what endUnknownCall says),

@@ -11,7 +11,7 @@ using namespace zent;
 
 namespace {
 
-/// What the components of a dialog share, and what it points to.
+/// What the components of a dialog share, together with the objects that it points to.
 struct DialogContext {
     explicit DialogContext(ZENTSession& session)
         : ticketStocks(session),
@@ -42,8 +42,8 @@ ZentResult runJobNotes(ZENTSession& session, platform::WindowHandle owner,
 
 extern "C" {
 
-// The context comes before the kind: what fails in it is told for any kind. Of the known kinds that
-// there is no dialog for, each refuses to start.
+// The context comes before the kind: a failure in it is reported for any kind. A known kind without
+// a dialog refuses to start.
 ZentResult ZENT_CALL fnInvokeTarvoJobTicketDialog(ZentSessionType session, uint32_t kind,
                                                   ZentWindow owner, uint32_t /*reserved*/) {
     return inSession(session, __func__, [&](ZENTSession& opened) -> ZentResult {

@@ -1,3 +1,6 @@
+// Each call is one query of the settings in the frame of a call; all checks of arguments and
+// results are the frame's.
+
 #include "ZENT_API/Arguments.h"
 #include "ZENT_API/CallFrame.h"
 

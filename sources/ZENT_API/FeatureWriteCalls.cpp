@@ -1,3 +1,5 @@
+// Each call is one change of the settings, which drops what was generated from them before.
+
 #include "ZENT_API/Arguments.h"
 #include "ZENT_API/CallFrame.h"
 #include "ocore/FeatureSettings/FeatureEnum.h"

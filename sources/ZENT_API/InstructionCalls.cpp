@@ -6,7 +6,8 @@ using namespace zent;
 
 extern "C" {
 
-// The buffer isn't emptied for another document: what was generated and not fetched stays in front.
+// The buffer isn't emptied for another document, so that what was generated for the last one and
+// not fetched comes before it.
 ZentResult ZENT_CALL fnGetPrintInstructions(ZentSessionType session, void* buffer, uint32_t* size,
                                             const char* documentName) {
     return inSession(session, __func__, [&](ZENTSession& opened) -> ZentResult {

@@ -1,4 +1,4 @@
-// What the library does when the system's loader lets go of it.
+// The hooks that run when the system's loader unloads the library, or reports the end of a thread.
 
 #include "platform/LibraryEntry.h"
 

@@ -9,7 +9,7 @@
 namespace zent {
 
 CXString cutToDirectory(const CXString& path, char16_t separator) {
-    // The first character stays in any case, also where no separator was found behind it.
+    // The first character always stays, even if there is no separator.
     return path.left(std::max(path.findLast(separator), 0) + 1);
 }
 

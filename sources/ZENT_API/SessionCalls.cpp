@@ -1,3 +1,6 @@
+// A session that is being opened has no silent flag yet to go by, so that the argument itself
+// decides whether a failure is shown.
+
 #include <memory>
 
 #include "ZENT_API/Arguments.h"

@@ -1,3 +1,7 @@
+// An import works on copies of the ticket and the state, which replace those of the session only
+// when all has gone well. An export that is asked for its size first keeps the bytes for the second
+// call.
+
 #include <memory>
 #include <optional>
 #include <utility>
@@ -49,7 +53,8 @@ std::optional<FeatureSettings> readTicket(const void* data, uint32_t length, uin
     }
 }
 
-/// A document goes behind what the cache holds, and what a failure leaves of it has the key too.
+/// Appends the document to what the cache holds. A failure leaves the key, and what was written so
+/// far.
 void cacheXml(ZENTSession& session, CachedOutput& cache) {
     const AttrNodeList& list = *session.settings().getAttrNodeList();
     ordoDtd::requireReadable(list);
@@ -57,12 +62,12 @@ void cacheXml(ZENTSession& session, CachedOutput& cache) {
     try {
         OrdoTranslator().anlToBuffer(list, &cache.buffer());
     } catch (const OrdoParseException&) {
-        cache.buffer().clear(); // the beginning of a document that would be too large
+        cache.buffer().clear(); // drops the beginning of a document that is too large
         throw;
     }
 }
 
-/// A blob takes the place of what the cache holds, and only once it is there as a whole.
+/// Puts the blob in the place of what the cache holds, but only once all of it is there.
 void cacheState(ZENTSession& session, CachedOutput& cache) {
     PersistentSettings& state = session.currentState();
     session.updateUserContext(state);

@@ -8,7 +8,7 @@
 
 namespace zent {
 
-/// What is behind a session handle: a printer, the live ticket, the ticket as a state blob, and
+/// The object of a session handle: a printer, the live ticket, the ticket as a state blob, and
 /// results that haven't been fetched yet.
 ///
 /// The handle is the object's plain address. The address of the settings is what
@@ -20,7 +20,7 @@ public:
     ZENTSession(std::uint32_t model, std::uint32_t pdl, std::uint32_t instructionForm, bool silent,
                 const CXString& preferencesName, bool useGenericPreferences);
 
-    /// The object behind a handle. Null, and memory that isn't mapped or not writable, raises
+    /// The object of a handle. Null, and memory that isn't mapped or not writable, raises
     /// InvalidZentSessionException; there is no test of what the memory holds.
     static ZENTSession& getSessionObject(ZentSessionType handle);
     /// The same for the settings handle in a variable, with InvalidTarvoJtSettingsException.
