@@ -30,7 +30,7 @@ std::uint32_t readNumber(const ByteBuffer& blob, std::size_t offset, std::size_t
 }
 
 /// Expands what lies compressed after the header.
-ByteBuffer expandBehind(const ByteBuffer& blob, std::size_t header) {
+ByteBuffer expandAfter(const ByteBuffer& blob, std::size_t header) {
     ByteBuffer content;
     if (blob.size() > header) {
         zent::CompressedBuffer(ByteBuffer(blob.data() + header, blob.size() - header))
@@ -43,7 +43,7 @@ StateBlob inspect(const ByteBuffer& blob) {
     // This raises an error unless all that is read below is there.
     const zent::PersistentSettings valid(blob, false);
     const std::size_t header = readNumber(blob, 0, versionOffset);
-    const ByteBuffer content = expandBehind(blob, header);
+    const ByteBuffer content = expandAfter(blob, header);
     StateBlob state;
     state.size = blob.size();
     state.version = readNumber(blob, versionOffset, sizeof state.version);

@@ -70,7 +70,7 @@ public:
     /// icons, with a check mark each or without.
     enum class Style { icons, list, details, checkedDetails };
 
-    /// May be called at any time. Rows stay as they are, but lose their marks.
+    /// May be called at any time. Rows stay as they are, apart from their marks.
     virtual void setStyle(Style /*style*/) {}
     /// The distances from one icon to the next, in pixels.
     struct Spacing {

@@ -38,7 +38,7 @@ bool hasHeader(const ByteBuffer& state, std::size_t size, std::uint32_t wanted) 
            readNumber(state, 4, 4) == wanted;
 }
 
-ByteBuffer behind(const ByteBuffer& bytes, std::size_t offset) {
+ByteBuffer after(const ByteBuffer& bytes, std::size_t offset) {
     return {bytes.data() + offset, bytes.size() - offset};
 }
 
@@ -50,7 +50,7 @@ ByteBuffer getBlock(const ByteBuffer& state) {
                                  "required header  (%ld bytes)!\r\n",
                                  state.size(), headerSize);
     }
-    return behind(state, headerSize);
+    return after(state, headerSize);
 }
 
 ByteBuffer expand(const ByteBuffer& block) {
@@ -130,7 +130,7 @@ PersistentSettings::Parts PersistentSettings::split(const ByteBuffer& content) {
                                  "required header (%ld bytes)!\r\n",
                                  content.size(), StateData::size);
     }
-    return {StateData(content.data()), behind(content, StateData::size)};
+    return {StateData(content.data()), after(content, StateData::size)};
 }
 
 /// Brings a blob of one of the two older forms to the present one, so that all other code knows
@@ -148,7 +148,7 @@ ByteBuffer PersistentSettings::upgrade(const ByteBuffer& state) {
 ByteBuffer PersistentSettings::upgradeFromDocument(const ByteBuffer& state) {
     ByteBuffer payload;
     if (state.size() > documentHeaderSize) {
-        payload = toSmallDocument(expand(behind(state, documentHeaderSize)));
+        payload = toSmallDocument(expand(after(state, documentHeaderSize)));
     }
     Parts parts = defaultParts();
     parts.payload.swap(payload);

@@ -204,8 +204,7 @@ std::uint16_t Dialog::getFocusedItem() const {
     return focus != nullptr && found != m_items.end() ? (*found)->getId() : std::uint16_t{0};
 }
 
-// ---- What the window receives
-// --------------------------------------------------------------------
+// ---- What the window receives ------------------------------------------------------------------
 
 INT_PTR CALLBACK Dialog::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_INITDIALOG) {

@@ -24,8 +24,7 @@
 namespace zent::platform::win32 {
 
 /// A dialog of the library, from its window's creation to its end: turns the window's messages into
-/// the port's events. It is always held by shared pointers, since kept, since an event may end the
-/// dialogs window.
+/// the port's events. It is always held by shared pointers, since an event may end its window.
 class Dialog final : public platform::Dialog, public std::enable_shared_from_this<Dialog> {
 public:
     Dialog(DialogTemplate form, const ResourceModule& resources, DialogProcedure& procedure);
