@@ -34,7 +34,7 @@ CupsTicket toCups(const std::string& state) {
     return CupsTicket(*settings.toNewAttrNodeList());
 }
 
-/// A change that is undone by nothing, so that the next export writes the ticket anew.
+/// Changes the ticket, so that the next export writes it anew.
 void touch(const TicketSession& session) {
     require(fnSetNumberValue(session.session(), session.settings(), u"copies", 2, 0));
 }

@@ -17,7 +17,7 @@ public:
 
     /// cupsAddOption replaces the option's value.
     void setOption(const std::string& name, const std::string& value);
-    /// Null if there is none.
+    /// The value; null if there is none.
     const char* getOption(const std::string& name) const;
 
     /// ippAddString appends an attribute, whether or not there is one of that name.

@@ -33,7 +33,7 @@ private:
     UIConfiguration m_configuration;
     std::vector<std::byte> m_base;
     std::vector<std::byte> m_page;
-    std::vector<FeatureEnum> m_features; // of the tree
+    std::vector<FeatureEnum> m_features; // the features of the tree
     ConfigurableUIComponent m_tree;
 };
 

@@ -12,8 +12,8 @@ namespace zent::bench {
 /// on the same names; and the memory probe, of which every call runs two. The names are
 /// "set/SUBJECT", "get/SUBJECT" and "probe/HANDLE". An iteration is one call.
 ///
-/// All 136 features are in the ticket; the ones that are set and got are those that have a value
-/// of their own. Collections are left out, since their members are features themselves.
+/// All 136 features are in the ticket; the ones that are set and got are those that have a value of
+/// their own. Collections are left out, since their members are features themselves.
 class FeatureBenchmark {
 public:
     FeatureBenchmark();
@@ -29,7 +29,7 @@ private:
     std::vector<FeatureRequest> m_requests; // in random order, the same in each run
     TicketSession m_ticket;
     CupsPeer m_cups;    // holds all
-    CupsPeer m_written; // is filled anew in each round
+    CupsPeer m_written; // filled anew in each round
 };
 
 } // namespace zent::bench

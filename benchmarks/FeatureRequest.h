@@ -23,7 +23,8 @@ public:
 
     /// A collection has no value of its own to set or get: its members are features themselves.
     bool isCollection() const { return m_kind == Kind::collection; }
-    /// Stands only in a collection: of a cover, an override, an insert or a paper source.
+    /// Whether the feature stands only in the collection of a cover, an override, an insert or a
+    /// paper source.
     bool isMemberOnly() const { return m_memberOnly; }
 
     ZentResult set(ZentSessionType session, TarvoJtSettingsType settings,

@@ -20,7 +20,7 @@ std::unique_ptr<AnlToStreamTranslator> makeTranslator(const TicketSession& sessi
     return createStreamTranslator(printer.getCapabilities(), printer.getInstructionForm());
 }
 
-/// A change after which the blob has to be made anew.
+/// Changes the ticket, so that the blob has to be made anew.
 void touch(const TicketSession& session) {
     require(fnSetNumberValue(session.session(), session.settings(), u"copies", 2, 0));
 }

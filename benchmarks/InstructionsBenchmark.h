@@ -41,10 +41,10 @@ private:
         std::string name;
         TicketSession session; // holds the ticket
         BlobContent blob;      // the same ticket
-        AttrNodeList list;     // and again
+        AttrNodeList list;     // and once more as a list
         std::unique_ptr<AnlToStreamTranslator> translator;
         ByteBuffer translated;
-        std::optional<XercesWrite> document; // one of these two
+        std::optional<XercesWrite> document; // set for the XML form, as the next is for the stream
         std::optional<StreamFloor> stream;
         std::size_t bytes = 0;
     };

@@ -47,7 +47,7 @@ std::vector<Ticket> makeTickets() {
     return tickets;
 }
 
-/// A number of kilobytes in what the system tells of the process.
+/// Reads a number of kilobytes from what the system reports about the process.
 double readMemory(const std::string& name) {
     std::ifstream status("/proc/self/status");
     std::string word;
@@ -65,7 +65,7 @@ std::u16string toText(int number) {
     return {digits.begin(), digits.end()};
 }
 
-/// What no two jobs have in common.
+/// Sets the texts that differ between any two jobs.
 void setNames(const TicketSession& session, const std::u16string& name) {
     for (const auto* const feature : {u"job-name", u"job-account-id", u"job-message-to-operator"}) {
         require(fnSetStringValue(session.session(), session.settings(), feature, name.c_str(), 0));
@@ -102,7 +102,7 @@ private:
 } // namespace
 
 void registerJobs() {
-    constexpr int repetitions = 3; // seconds each
+    constexpr int repetitions = 3; // each takes seconds
     benchmark::RegisterBenchmark("jobs/10000",
                                  [](benchmark::State& state) {
                                      for ([[maybe_unused]] auto each : state) {

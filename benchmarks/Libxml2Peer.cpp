@@ -17,7 +17,7 @@ void countError(void* count, xmlErrorPtr error) {
     }
 }
 
-// It would print each error otherwise; the result of the validation tells what counts.
+// Without this it would print each error; the result of the validation is enough.
 void ignoreMessage(void* /*context*/, const char* /*format*/, ...) {}
 
 } // namespace

@@ -28,8 +28,8 @@ public:
 
     /// xmlReadMemory, which reads the document type anew each time: this is what most programs do.
     Document parse(std::string_view xml);
-    /// The best that can be done: one parser context for all parses, and a document type that was
-    /// compiled beforehand to validate the tree against.
+    /// The fastest way that the library has: one parser context for all parses, and validation by a
+    /// document type that was compiled beforehand.
     Document parseWithCompiledDtd(std::string_view xml);
     /// xmlDocDumpMemoryEnc. Gives the number of bytes written.
     static std::size_t write(const Document& document);

@@ -13,7 +13,7 @@ namespace {
 
 using Names = std::initializer_list<std::u16string_view>;
 
-// What page tickets hold; all have a medium of their own.
+// The features of page tickets, which all have a medium of their own.
 constexpr Names medium = {u"media-key",   u"x-dimension", u"y-dimension",
                           u"media-color", u"media-type",  u"media-weight-metric"};
 constexpr Names cover = {u"cover-type"};

@@ -6,7 +6,7 @@ namespace zent::bench {
 
 /// Tickets as the library writes them, made through the exported calls.
 
-/// What most jobs say: some 15 elements.
+/// A ticket like those of most jobs: some 15 elements.
 std::string makeSmallTicket();
 /// Every feature that can stand in a document, sets with several members, covers, inserts, paper
 /// sources and some page overrides.

@@ -7,7 +7,7 @@ namespace zent::bench {
 
 namespace {
 
-/// Where the next number begins that snprintf writes as it stands there; the end if there is none.
+/// Finds the next number that snprintf writes as the stream has it; the end if there is none.
 std::size_t findNumber(std::string_view text) {
     constexpr std::string_view digits = "0123456789";
     std::size_t at = text.find_first_of(digits);

@@ -7,7 +7,7 @@
 namespace zent::bench {
 
 /// The least that writing a ticket stream costs: snprintf from a flat list, one call for each
-/// number with the text in front of it.
+/// number with the text before it.
 class StreamFloor {
 public:
     /// Takes a stream apart.
@@ -23,7 +23,7 @@ private:
     };
 
     std::vector<Piece> m_pieces;
-    std::string m_end; // behind the last number
+    std::string m_end; // the text after the last number
     std::string m_written;
 };
 

@@ -27,7 +27,7 @@ void add(const std::string& name, const std::string& xml, Work work) {
 TicketBenchmark::Ticket::Ticket(std::string ticketName, std::string text)
     : name(std::move(ticketName)), xml(std::move(text)), pieces(xml) {
     session.importTicket(xml);
-    // So that all write the same: what is imported may be written in another form.
+    // The import may change the form, so that what it gives is what all of them write.
     xml = session.exportTicket();
     pieces = XercesWrite(xml);
     if (pieces.writePieces() != xml || pieces.writeWhole() != xml) {
@@ -45,7 +45,7 @@ TicketBenchmark::TicketBenchmark(const std::string& dtdPath)
 }
 
 void TicketBenchmark::registerAll() {
-    constexpr std::size_t besidePeers = 3; // the rest shows how the cost grows
+    constexpr std::size_t besidePeers = 3; // the others show how the cost grows
     for (std::size_t i = 0; i < m_tickets.size(); ++i) {
         registerImport(m_tickets[i]);
         registerExport(m_tickets[i]);

@@ -23,7 +23,7 @@ public:
 
     /// Both throw std::runtime_error if there is any error. The tree is dropped at once.
     void parseToTree(std::string_view xml);
-    /// To events that nobody hears: no program on this parser can read faster.
+    /// Parses to events without a handler: no program on this parser can read faster.
     void parseToEvents(std::string_view xml);
 
 private:
@@ -50,7 +50,8 @@ public:
 
     /// Both write the ticket. The bytes are valid until the next call.
     std::string_view writePieces();
-    /// All of it as one piece, with nothing left to escape: just the formatter's conversion.
+    /// Writes all as one piece, with nothing left to escape: this is the formatter's conversion
+    /// alone.
     std::string_view writeWhole();
 
 private:

@@ -22,12 +22,12 @@ constexpr std::size_t mostExpanded = std::size_t{1} << 22;
 
 /// An input in its parts.
 struct Blob {
-    std::string head; // whatever stands before the stream
+    std::string head; // all that comes before the stream
     std::string content;
     std::string footer; // after the stream: a level, a size and a signature
 };
 
-/// What the stream at the beginning holds. `used` becomes the stream's size.
+/// Expands the stream at the beginning of the bytes. `used` becomes the stream's size.
 std::optional<std::string> expand(const std::string& bytes, std::size_t& used) {
     std::string content;
     int result = Z_BUF_ERROR;
@@ -79,7 +79,7 @@ std::string pack(const Blob& blob, int level) {
     return blob.head + stream + blob.footer;
 }
 
-/// With the size that the content has.
+/// Makes a footer with the size of the content.
 std::string footerFor(const Blob& blob) {
     if (blob.footer.size() < footerSize) {
         return blob.footer;

@@ -68,7 +68,7 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
     return LLVMFuzzerMutate(data, size, most);
 }
 
-/// Some calls of the second among those of the first.
+/// Puts some calls of the second input among those of the first.
 extern "C" std::size_t LLVMFuzzerCustomCrossOver(const std::uint8_t* first, std::size_t firstSize,
                                                  const std::uint8_t* second, std::size_t secondSize,
                                                  std::uint8_t* out, std::size_t most,

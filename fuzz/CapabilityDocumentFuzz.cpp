@@ -33,7 +33,7 @@ private:
     const ByteBuffer& m_document;
 };
 
-/// Tells the library where its files lie.
+/// Opens a session, by which the library learns where its files lie.
 void openSessionOnce() {
     static const ZentSessionType session = [] {
         ZentSessionType opened = nullptr;

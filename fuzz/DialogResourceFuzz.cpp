@@ -1,6 +1,6 @@
-// Dialog templates that are split into items and merged, over any bytes: what has been taken must
-// be a template that says the same. The first two bytes tell how long the first of two templates
-// is.
+// Dialog templates that are split into items and merged, over any bytes: a template that was taken
+// must say the same when it is written. The first two bytes give the length of the first of two
+// templates.
 
 #include <algorithm>
 #include <cstdint>
@@ -34,7 +34,7 @@ void requireSame(const DialogTemplate::Item& before, const DialogTemplate::Item&
     require(before.size == after.size);
 }
 
-/// The items of `after` from an index on are those of `before`.
+/// Requires that the items of `after` from an index on are those of `before`.
 void requireItems(const DialogTemplate& before, const DialogTemplate& after, std::size_t from,
                   bool hides) {
     require(after.items.size() >= from + before.items.size());
@@ -49,7 +49,7 @@ DialogTemplate readBack(const DialogResource& resource) {
     return *parsed;
 }
 
-/// Nothing for what is no template; that is refused.
+/// Loads a template; nothing for bytes that are none, which must be refused.
 std::optional<DialogTemplate> load(DialogResource& resource, Bytes bytes) {
     auto parsed = DialogTemplate::read(bytes);
     try {

@@ -16,7 +16,7 @@ namespace zent::fuzz {
 
 namespace {
 
-/// Places in a document: "<name attributes>" content "</name>".
+/// The places of an element in a document: "<name attributes>" content "</name>".
 struct Element {
     std::size_t begin;
     std::size_t contentBegin;
@@ -109,7 +109,8 @@ std::string pickName(const std::vector<Element>& elements, Random& random) {
     if (below(random, oneInThree) == 0) {
         return std::string(pick(elements, random).name);
     }
-    constexpr std::array suffixes{"", "", "", "", "-supported", "-default"}; // of capabilities
+    // The suffixes of capabilities.
+    constexpr std::array suffixes{"", "", "", "", "-supported", "-default"};
     return pick(declaredNames(), random) + pick(suffixes, random);
 }
 
@@ -146,20 +147,20 @@ public:
         return (this->*kind)(pick(m_elements, m_random));
     }
 
-    /// With something in an element: before all else in it or after that.
+    /// Puts a text into an element: before all else in it or after that.
     std::string put(const std::string& content) {
         if (m_elements.empty()) {
             return m_document;
         }
         const Element& target = pick(m_elements, m_random);
-        if (target.contentBegin == target.end) { // "<name/>" has no inside
+        if (target.contentBegin == target.end) { // "<name/>" can't hold anything
             return replaced(target.end, target.end, content);
         }
         const std::size_t place = below(m_random, 2) == 0 ? target.contentBegin : target.contentEnd;
         return replaced(place, place, content);
     }
 
-    /// One of the smaller elements, most often.
+    /// Chooses an element, mostly a small one.
     std::string pickText() {
         if (m_elements.empty()) {
             return {};
@@ -197,7 +198,7 @@ private:
         }
         return replaced(element.end, element.end, copies);
     }
-    /// What makes a document slow to read is rare.
+    /// Chooses how to change the document. Changes that make it slow to read are rare.
     std::string change(const Element& element) {
         switch (below(m_random, 16)) {
         case 0:
@@ -246,7 +247,7 @@ private:
         mutateBytes(text, text.size() + mostAdded);
         return replaced(element.contentBegin, element.contentEnd, text);
     }
-    /// Declared where a document has the place for it, and used.
+    /// Declares an entity, if the document has a place for declarations, and refers to it.
     std::string insertEntity(const Element& element) {
         const std::size_t root = m_document.find("<" + std::string(m_elements.back().name));
         const std::string text = replaced(element.contentBegin, element.contentBegin, "&e;");

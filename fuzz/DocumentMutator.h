@@ -19,10 +19,10 @@ inline std::size_t below(Random& random, std::size_t limit) {
 
 /// The document with one element removed, repeated, moved into another, wrapped, renamed, of
 /// another syntax or with another text, by the names of the document type and the values of the
-/// features. What stands before the first tag stays. Without an element the same document.
+/// features. All before the first tag stays as it is. A document without an element stays the same.
 std::string mutateDocument(const std::string& document, Random& random);
 
-/// The document with an element of the other one in it.
+/// Puts an element of the other document into the document.
 std::string crossDocuments(const std::string& document, const std::string& other, Random& random);
 
 } // namespace zent::fuzz

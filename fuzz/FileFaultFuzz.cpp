@@ -36,7 +36,7 @@ using zent::fuzz::require;
 
 enum class Function : std::uint8_t { open, read, write, fsync, rename, stat, fstat, flock, count };
 
-/// What is to fail.
+/// Which calls of the system are to fail.
 struct Fault {
     bool isArmed = false;
     Function function = Function::open;
@@ -46,7 +46,7 @@ struct Fault {
 };
 Fault fault;
 
-/// Whether this call is to fail; then with the error set.
+/// Whether this call is to fail; errno is set then.
 bool fails(Function function) {
     if (!fault.isArmed || function != fault.function) {
         return false;
@@ -77,7 +77,7 @@ int __real_flock(int file, int operation);
 int __wrap_open(const char* path, int flags, ...) {
     std::va_list arguments;
     va_start(arguments, flags);
-    const auto modes = va_arg(arguments, mode_t); // whatever it is where none was given
+    const auto modes = va_arg(arguments, mode_t); // any bits if the caller gave none
     va_end(arguments);
     return fails(Function::open) ? -1 : __real_open(path, flags, modes);
 }
@@ -141,7 +141,7 @@ ZentSessionType getSession() {
     return session;
 }
 
-/// Its media library, in a folder of its own.
+/// A media library in a folder of its own.
 class Library {
 public:
     Library() { fs::create_directories(m_folder); }
@@ -203,7 +203,7 @@ ZentResult importTicket(std::string_view document) {
                              ZENT_APPLY_SILENT_KEEP, nullptr, nullptr, &problems, &applied);
 }
 
-/// The document type is read anew.
+/// Imports a ticket, for which the document type is read anew.
 void importUnderFault(const Fault& planned, std::string_view document) {
     const ZentResult expected = importTicket(document);
     CompiledDtd::forget();
@@ -222,14 +222,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size < choices) {
         return 0;
     }
-    getSession(); // tells the library where its files lie
+    getSession(); // a session sets the folder of the library's files
     static constexpr std::array errors{EIO, EACCES, ENOENT, ENOSPC, EMFILE, ESTALE, EINTR, ELOOP};
     Fault planned;
     planned.isArmed = true;
     planned.function = static_cast<Function>(data[1] % static_cast<std::uint8_t>(Function::count));
     planned.callsBefore = data[2] % 32;
     planned.error = errors.at(data[4] % errors.size());
-    planned.stays = data[3] % 2 == 1 && planned.error != EINTR; // which would be tried for ever
+    // Such a call would be repeated for ever.
+    planned.stays = data[3] % 2 == 1 && planned.error != EINTR;
     const std::string_view document(reinterpret_cast<const char*>(data + choices), size - choices);
     switch (data[0] % 3) {
     case 0:

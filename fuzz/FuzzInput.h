@@ -1,6 +1,6 @@
 #pragma once
 
-// A fuzzer's bytes as the arguments of calls. Behind the end of the input all bytes are zero.
+// A fuzzer's bytes as the arguments of calls. After the end of the input all bytes are zero.
 
 #include <algorithm>
 #include <array>
@@ -10,7 +10,8 @@
 
 namespace zent::fuzz {
 
-/// ASCII as it is; the rest from places where 16-bit text has its pitfalls.
+/// Makes a unit of a byte: ASCII stays as it is, and other bytes give units in which 16-bit text
+/// has its pitfalls.
 inline char16_t unitOf(std::uint8_t byte) {
     constexpr std::array<char16_t, 4> bases{0x0080, 0xD800, 0xDC00, 0xFFE0};
     return static_cast<char16_t>(byte < 0x80 ? byte : bases[byte / 32 - 4] + byte % 32);
@@ -48,7 +49,7 @@ public:
     }
     std::int32_t takeSigned() { return static_cast<std::int32_t>(takeNumber()); }
 
-    /// Their number, and the bytes.
+    /// Takes a number of bytes, and that many bytes.
     std::string takeBytes() {
         const std::size_t size = std::min<std::size_t>(takeNumber(), m_rest);
         std::string bytes(m_data, m_data + size);
@@ -57,7 +58,7 @@ public:
         return bytes;
     }
 
-    /// The same as text of the interface, which ends before the first zero.
+    /// Takes them as text of the interface, which ends before the first zero.
     template <typename Unit>
     std::basic_string<Unit> takeText() {
         std::basic_string<Unit> text;

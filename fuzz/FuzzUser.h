@@ -44,7 +44,7 @@ private:
     using Window = test::FakeWindowSystem::Window;
     using Id = test::FakeWindowSystem::Id;
 
-    /// Some acts, and then one of the buttons, OK or Cancel. Left open, the dialog is cancelled.
+    /// Plays some acts, and then presses OK or Cancel. A dialog that is still open is cancelled.
     void actOn(Window dialog) {
         constexpr int mostActs = 32;
         const int acts = m_arguments.takeByte() % mostActs;
@@ -87,7 +87,7 @@ private:
         m_windows.leave(dialog, id);
     }
 
-    /// A spin or a slider; in vain for any other item.
+    /// Moves a spin or slider; any other item ignores it.
     void move(Window dialog, Id id) {
         const std::int32_t by = m_arguments.takeSigned();
         const auto& item = m_windows.item(dialog, id);

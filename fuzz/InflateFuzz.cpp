@@ -24,7 +24,7 @@ void requireTravels(const ByteBuffer& original, std::int32_t level) {
     CompressedBuffer(stored.getImage()).getOriginalData(expanded);
     require(expanded == original);
     if (original.isEmpty()) {
-        return; // has no stream
+        return; // an image without a stream
     }
     ByteBuffer unmeasured;
     CompressedBuffer::uncompressBuffer(stored.getImage(), unmeasured);

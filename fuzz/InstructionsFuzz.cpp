@@ -30,7 +30,7 @@ using zent::fuzz::require;
 constexpr std::uint32_t models = 51;
 constexpr std::uint32_t languages = 3;
 
-/// Tells the library where its files lie.
+/// Opens a session, by which the library learns where its files lie.
 void openSessionOnce() {
     static const ZentSessionType session = [] {
         ZentSessionType opened = nullptr;
@@ -41,7 +41,8 @@ void openSessionOnce() {
     require(session != nullptr);
 }
 
-/// Each is made once: its capabilities take longer than an input.
+/// The printer of a model and language. Each is made once, since to read its capabilities takes
+/// longer than an input.
 Printer& getPrinter(std::uint32_t model, std::uint32_t language) {
     static std::map<std::pair<std::uint32_t, std::uint32_t>, std::unique_ptr<Printer>> printers;
     std::unique_ptr<Printer>& printer = printers[{model, language}];
@@ -52,7 +53,7 @@ Printer& getPrinter(std::uint32_t model, std::uint32_t language) {
     return *printer;
 }
 
-/// Runs what may raise one of the library's own exceptions.
+/// Runs work that may raise one of the library's own exceptions.
 template <typename Work>
 bool succeeds(const Work& work) {
     try {

@@ -74,7 +74,7 @@ Setting& setting() {
     return shared;
 }
 
-/// A member without content is written, but not read back.
+/// Whether a member is read back. One without content is written, but not read back.
 bool isReadBack(const AttrValue& value) {
     return value.isList()
                ? static_cast<const IppList&>(value).getAttrNodeList().getNumberOfNodes() != 0
@@ -91,7 +91,8 @@ bool isReadBack(const Stock& stock) {
     return false;
 }
 
-/// Characters that a document can't hold, or holds in another form, make another text.
+/// Whether a text comes back as it was: a document can't hold some characters, and holds others in
+/// another form.
 bool keepsItsText(const Stock& stock) {
     for (const char16_t unit : stock.getKey().getText().view()) {
         if (unit < u' ' || (unit >= 0xD800 && unit < 0xE000) || unit >= 0xFFFE) {
@@ -149,7 +150,7 @@ std::unique_ptr<Library> readLibrary() {
     return library;
 }
 
-/// What can't be written leaves the file as it was.
+/// Saves the library. A library that can't be written must leave the file as it was.
 void saveAndReadAgain(Library& library) {
     const std::string before = setting().read("omedpref.omp");
     StockList all(library.printerStocks);
@@ -197,7 +198,7 @@ void runOn(const char* name, const std::uint8_t* data, std::size_t size) {
     try {
         library = readLibrary();
     } catch (const TarvoException&) {
-        // No library.
+        // The document is no media library.
     }
     try {
         if (library != nullptr) {

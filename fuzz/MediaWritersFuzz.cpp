@@ -68,7 +68,7 @@ Setting& setting() {
 
 constexpr std::string_view prefix = "fuzz-";
 
-/// Those of the fuzzer's; the default library has others.
+/// Adds a stock if it is one of the fuzzer's; the default library has others.
 template <typename List>
 void add(Stocks& stocks, const List& stock) {
     const std::string name = stock.getKey().getText().toNarrow();
@@ -100,7 +100,7 @@ public:
             m_library.setFavorite(*stock, !stock->isFavorite());
         }
     }
-    /// What the file then holds of the fuzzer's stocks, if it held these before.
+    /// The fuzzer's stocks that the file must hold after a writer has saved, given those before.
     Stocks save(Stocks file) {
         const Stocks own = getStocks();
         for (const auto& [name, isFavorite] : m_saved) {
@@ -156,7 +156,7 @@ Stocks readFile() {
     return stocks;
 }
 
-/// What a killed writer leaves, or somebody who wants to see his own file written to.
+/// Makes a file that a killed writer leaves, or somebody who wants it to be written to.
 void plant(std::uint8_t choice) {
     const fs::path folder = setting().getFolder();
     static constexpr std::array names{".omedpref.omp.zent-new", ".omedpref.omp.zent-lock"};

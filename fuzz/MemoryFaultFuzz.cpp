@@ -60,12 +60,12 @@ private:
     zent::FeatureSettings* m_settings = nullptr;
 };
 
-/// Memory ran out, or no document could be made without it.
+/// Whether a result says that memory ran out, or that no document could be made for want of it.
 bool saysSo(ZentResult result) {
     return result == ZENT_ERR_OUT_OF_MEMORY || result == ZENT_ERR_XML_OTHER;
 }
 
-/// Runs a call that one allocation fails in. Whether the call says so.
+/// Runs a call in which one allocation fails. True if the call reports it.
 template <typename Call>
 bool runsOut(std::uint32_t allocationsBefore, ZentResult& result, const Call& call) {
     const AllocationFailure failure(allocationsBefore);

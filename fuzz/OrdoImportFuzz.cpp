@@ -20,7 +20,7 @@ using zent::AttrNodeList;
 using zent::fuzz::require;
 using zent::fuzz::requireSameList;
 
-/// One silent session for all inputs, so that what an input leaves behind meets the next one.
+/// One silent session for all inputs, so that each input meets what the last one has left.
 class Session {
 public:
     Session() {
@@ -54,7 +54,8 @@ public:
         return result;
     }
 
-    /// What a failed export has left would be the next one's result; a change drops it.
+    /// Makes a change, which drops what a failed export has left. Otherwise that would be the
+    /// result of the next export.
     void dropExport() {
         require(fnUnspecifyAllFeatures(
                     m_session, reinterpret_cast<TarvoJtSettingsType>(m_settings)) == ZENT_OK);
@@ -67,8 +68,8 @@ private:
     zent::FeatureSettings* m_settings = nullptr;
 };
 
-/// As a document has it: in each of its two categories, the one of the first attribute before the
-/// other.
+/// Puts a list into the order of a document: by its two categories, of which that of the first
+/// attribute comes first.
 AttrNodeList groupByCategory(const AttrNodeList& list) {
     AttrNodeList first;
     AttrNodeList second;

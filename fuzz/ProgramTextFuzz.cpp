@@ -87,7 +87,7 @@ void assign(const std::string& text) {
     }
 }
 
-/// On a ticket of its own, and taken back.
+/// Carries an assignment out on a ticket of its own, and takes it back.
 void apply(const std::string& text) {
     static const Session session;
     Ticket ticket(session);
@@ -105,7 +105,7 @@ enum class Kind { text, number, flag, array, object };
 
 struct Node {
     Kind kind = Kind::flag;
-    std::u16string text; // of a number or a flag as it is written
+    std::u16string text; // a number or a flag, as it is written
     std::vector<std::u16string> names;
     std::vector<Node> members;
 
@@ -228,7 +228,8 @@ private:
             require(plain != std::string_view::npos);
             const std::u16string units = fromUtf8(m_rest.substr(0, plain));
             for (const char16_t unit : units) {
-                require(unit >= 0x20 && (unit < 0x7F || unit >= 0xA0)); // nothing that steers
+                // No character that steers a terminal.
+                require(unit >= 0x20 && (unit < 0x7F || unit >= 0xA0));
             }
             text += units;
             const bool isEnd = m_rest[plain] == '"';

@@ -1,6 +1,6 @@
 #pragma once
 
-// What a fuzz target holds against what was written as a document and read again.
+// Compares a list with what was written of it as a document and read again.
 
 #include <algorithm>
 #include <cstdlib>

@@ -40,7 +40,7 @@ inline const std::vector<Text>& getValues(FeatureEnum feature) {
     return values.at(feature);
 }
 
-/// A session for what belongs to no input.
+/// A session for calls that belong to no input.
 inline ZentSessionType helperSession() {
     static const ZentSessionType session = [] {
         ZentSessionType opened = nullptr;
@@ -95,7 +95,7 @@ public:
     bool givesNull() const { return m_nulls != 0; }
     void giveNoNull() { m_nulls = 0; }
     bool isNull(int bit) const { return (m_nulls >> bit & 1) != 0; }
-    /// What a call is to go through: this or, if its bit says so, null.
+    /// A pointer for the call: this one or, if its bit says so, null.
     template <typename T>
     T* out(T& variable, int bit = 0) const {
         return isNull(bit) ? nullptr : &variable;
@@ -105,13 +105,13 @@ public:
     ZentSessionType session() const {
         return m_place < sessionCount ? m_sessions.at(m_place) : nullptr;
     }
-    /// Puts a session in its place.
+    /// Puts a session in the place of the call's.
     void keep(ZentSessionType opened) {
         ZentSessionType& place = m_sessions.at(m_place % sessionCount);
         close(place);
         place = opened;
     }
-    /// The session of the call is no more.
+    /// Forgets the session of the call, which has been closed.
     void forgetSession() { m_sessions.at(m_place) = nullptr; }
 
     /// A ticket that the application owns, which may be null, or that of a session.
@@ -217,8 +217,8 @@ private:
     }
 
     FuzzInput m_input;
-    std::uint8_t m_nulls = 0; // for which arguments of the call null is given
-    std::size_t m_place = 0;  // of the session
+    std::uint8_t m_nulls = 0; // a bit for each argument of the call that is null
+    std::size_t m_place = 0;  // the position of the call's session
     FeatureEnum m_feature = feature::none;
     Text m_name;
     Text m_value;

@@ -31,14 +31,15 @@ public:
         }
     }
 
-    /// Where its calls began.
+    /// The places at which its calls began.
     const std::vector<std::size_t>& getPlaces() const { return m_places; }
 
 private:
     using Call = void (Play::*)();
     static const std::vector<Call> calls;
 
-    // Each nesting may double a ticket; the others take their time.
+    // Bounds on what takes much time: a nesting may double a ticket, and long tickets make all
+    // calls slow.
     static constexpr int mostNestings = 8;
     static constexpr int mostOpenings = 4;
     static constexpr int mostWritings = 4;
@@ -504,7 +505,7 @@ private:
     }
 
     FuzzUser m_user{*this};
-    std::vector<char> m_bytes; // what a call gave last
+    std::vector<char> m_bytes; // the bytes that a call gave last
     std::vector<std::size_t> m_places;
     int m_nestings = 0;
     int m_openings = 0;

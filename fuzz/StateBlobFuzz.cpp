@@ -24,7 +24,7 @@ using zent::PersistentSettings;
 using zent::StateData;
 using zent::fuzz::require;
 
-/// Tells the library where its files lie.
+/// Opens a session, by which the library learns where its files lie.
 void openSessionOnce() {
     static const ZentSessionType session = [] {
         ZentSessionType opened = nullptr;
@@ -35,7 +35,7 @@ void openSessionOnce() {
     require(session != nullptr);
 }
 
-/// One of its own for each use: the user's data take longer to find out than most inputs take.
+/// A copy for each use, since to ask for the user's data takes longer than most inputs.
 PersistentSettings makeState() {
     static const PersistentSettings state = [] {
         PersistentSettings made;
@@ -45,7 +45,7 @@ PersistentSettings makeState() {
     return state;
 }
 
-/// A header, and a block that holds the content.
+/// Makes a blob of a header and a compressed block that holds the content.
 ByteBuffer compose(std::int32_t headerSize, std::int32_t version, const ByteBuffer& tag,
                    const ByteBuffer& content) {
     ByteBuffer blob = ByteBuffer::fromLong(headerSize);
@@ -80,7 +80,7 @@ ByteBuffer makeBlob(int form, const ByteBuffer& rest) {
     }
 }
 
-/// Whether the work comes to its end; a failure must be one of the library's own.
+/// Whether the work succeeds; a failure must be one of the library's own.
 template <typename Work>
 bool succeeds(const Work& work) {
     try {
@@ -104,7 +104,7 @@ void requireTravels(const AttrNodeList& list, PersistentSettings state) {
     zent::fuzz::requireSameList(list, parsed);
 }
 
-/// All of a blob but its ticket.
+/// What a blob holds besides its ticket.
 std::u16string describe(const PersistentSettings& state) {
     const zent::UserContext user = state.getUserContext();
     std::u16string text(user.logonName.view());

@@ -12,7 +12,7 @@ thread_local std::int64_t allocationsLeft = never;
 
 void* allocate(std::size_t size) noexcept {
     if (allocationsLeft != never && allocationsLeft-- == 0) {
-        return nullptr; // and from here on it is never
+        return nullptr; // from here on no allocation fails
     }
     return std::malloc(size != 0 ? size : 1);
 }

@@ -4,8 +4,8 @@
 
 namespace zent::test {
 
-/// Lets an allocation of this thread fail: the one after so many others. What comes after that
-/// succeeds again, as it does for a program that had one moment without memory.
+/// Lets one allocation of this thread fail, after so many others. Those after it succeed again, as
+/// they do in a program that had one moment without memory.
 class AllocationFailure {
 public:
     explicit AllocationFailure(std::uint32_t allocationsBefore);
@@ -13,7 +13,7 @@ public:
     AllocationFailure(const AllocationFailure&) = delete;
     AllocationFailure& operator=(const AllocationFailure&) = delete;
 
-    /// Whether it has come to it.
+    /// Whether the allocation has failed by now.
     bool hasHappened() const;
 };
 

@@ -8,7 +8,7 @@
 #include "platform/WindowHandle.h"
 
 /// Acts on dialogs as a person does, through the toolkit's own input: each adapter of the window
-/// system has its own. What is done to an item that is hidden or disabled is done in vain.
+/// system has its own. An item that is hidden or disabled ignores it.
 namespace zent::test::user {
 
 enum class Key { tab, shiftTab, enter, escape, backspace, remove, up, down, space };
@@ -30,14 +30,14 @@ void moveMouse(platform::WindowHandle dialog, std::uint16_t item, int x, int y);
 void pressMouse(platform::WindowHandle dialog, std::uint16_t item, int x, int y);
 /// Chooses from a combo box or list box.
 void choose(platform::WindowHandle dialog, std::uint16_t item, std::int32_t index);
-/// Of a list view: whether the whole row can be seen without scrolling.
+/// Whether the whole row of a list view can be seen without scrolling.
 bool seesRow(platform::WindowHandle dialog, std::uint16_t item, std::int32_t row);
 void clickRow(platform::WindowHandle dialog, std::uint16_t item, std::int32_t row);
 void checkRow(platform::WindowHandle dialog, std::uint16_t item, std::int32_t row);
 void moveSlider(platform::WindowHandle dialog, std::uint16_t item, std::int32_t position);
 /// One step of a spin's upper or lower arrow.
 void spin(platform::WindowHandle dialog, std::uint16_t item, bool up);
-/// By the window system's own means, such as the cross in the frame.
+/// Closes the dialog by the window system's own means, such as the cross in the frame.
 void close(platform::WindowHandle dialog);
 
 /// Writes what the user sees of a dialog to a PNG or BMP file; false on failure.

@@ -13,8 +13,8 @@
 
 namespace zent::test {
 
-/// All that the calls need, made beforehand, so that only their own allocations count. The ticket
-/// has problems, so that there is something to repair.
+/// Holds all that the calls need. It is made beforehand, so that only their own allocations count.
+/// The ticket has problems, so that there is something to repair.
 struct Job {
     ZentSessionType s = nullptr;
     TarvoJtSettingsType t = nullptr;
@@ -45,7 +45,7 @@ struct Job {
         ASSERT_EQ(import(xml, ZENT_FORMAT_XML, ZENT_APPLY_SILENT_KEEP), ZENT_OK);
         ASSERT_EQ(fnSetNumberValue(s, t, ZT("copies"), 70000, 0), ZENT_OK);
     }
-    /// What the last call handed out.
+    /// The bytes that the last call handed out.
     std::string fetched() const { return output.substr(0, size); }
 
     static ZentResult open(ZentSessionType* opened) {

@@ -33,7 +33,7 @@ constexpr std::uint32_t buttonType(std::uint32_t style) { return style & 0xF; }
 
 bool isButton(const FakeItem& item) { return item.windowClass == u"#128"; }
 
-/// Of automatic check boxes and radio buttons the window system sets the mark.
+/// Sets the mark of an automatic check box or radio button, as a window system does.
 bool isCheckBox(const FakeItem& item) {
     return isButton(item) && (buttonType(item.style) == 3 || buttonType(item.style) == 6);
 }

@@ -36,7 +36,7 @@ public:
     std::int32_t position = 0;
     std::uint32_t bitmap = 0;
     bool isGroundCleared = false;
-    FakeDialog* dialog = nullptr; // null for one that isn't there
+    FakeDialog* dialog = nullptr; // null for an item that isn't there
 
     bool isThere() const override { return dialog != nullptr; }
     std::uint16_t getId() const override { return id; }
@@ -96,11 +96,11 @@ public:
     std::intptr_t spin(Window dialog, Id id, std::int32_t delta);
     void slide(Window dialog, Id id, std::int32_t position);
 
-    /// One that isn't there and does no harm, if the dialog has no such item.
+    /// The item of an id. If the dialog has none, it is one that isn't there and does nothing.
     FakeItem& item(Window dialog, Id id);
-    /// Of all items that are shown.
+    /// The ids of all items that are shown.
     std::vector<std::uint16_t> shownItems(Window dialog);
-    /// How often the dialogs have told of a change.
+    /// How often the dialogs have reported a change.
     std::size_t changesReported() const { return m_changesReported; }
     /// Which button is the default one; 0 for none.
     std::uint16_t defaultButton(Window dialog);

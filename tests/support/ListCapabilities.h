@@ -20,8 +20,8 @@ private:
     AttrNodeList m_list;
 };
 
-/// The capabilities of a printer that says this of itself, and of its tables what they add; unless
-/// told otherwise of a colour printer.
+/// The capabilities of a printer with this document, and with what the tables add for it: a colour
+/// printer unless another is given.
 inline Capabilities capabilitiesOf(std::string_view list, std::uint32_t model = 43) {
     return {PrinterModel(model, pageLanguage::postScript), 1, ListSource(list)};
 }

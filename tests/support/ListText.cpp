@@ -26,7 +26,7 @@ bool isNumber(std::string_view text) {
     return text.find_first_not_of("-0123456789") == std::string_view::npos;
 }
 
-/// What a value without a named syntax is taken for.
+/// The syntax of a value that names none.
 const CXString& plainSyntax(std::string_view text) {
     return isNumber(text) ? syntax::integer : syntax::keyword;
 }
