@@ -395,7 +395,7 @@ ZENT_API ZentResult ZENT_CALL fnInvokeTarvoJobTicketDialog(ZentSessionType sessi
  * Preferences of the user, by name, in the set that the session was opened with. Getters give the
  * default where nothing is stored, or the store can't be used; setters give ZENT_ERR_REGISTRY then.
  *
- * The library knows these names, and goes by the value behind each where nothing is stored; to ask
+ * The library knows these names, and goes by the value after each where nothing is stored; to ask
  * for one as another type gives ZENT_ERR_PREFERENCE_TYPE. docs/preferences.md tells what they mean.
  *   Boolean   JOB_NAME_PREFERENCE 1, ACCOUNT_REQUIRED_PREFERENCE 0, ACCT_NUMBER_IN_JT_PREFERENCE 0,
  *             USE_LOGON_NAME_PREFERENCE 1, USE_LOGON_NAME_PREFERENCE_RECIPIENT 1,
