@@ -582,7 +582,7 @@ TEST_F(WindowSystemTest, ListViewsChangeTheirStyleWhileOpen) {
         std::int32_t chosen = 0;
         for (const auto& [style, isLarge] :
              Rows<Style, bool>{{Style::icons, true}, {Style::list, false}, {Style::icons, true}}) {
-            EXPECT_EQ(told([&] { rows.setStyle(style); }), "");
+            EXPECT_EQ(told([&, wanted = style] { rows.setStyle(wanted); }), "");
             EXPECT_EQ(rows.getSelectedRows(), std::vector{chosen});
             EXPECT_EQ(rows.getCell(2, 0), u"Covers");
             EXPECT_EQ(shows(largeColour), isLarge);
