@@ -103,7 +103,7 @@ TEST(ComponentTreeTest, ConfiguringTakesOutWhatThePrinterLacks) {
     Node& label = root.makeChild<Node>(log, "label");
     EXPECT_FALSE(root.configure()); // what is no feature stays, and doesn't count
     root.makeChild<Feature>(configuration, false);
-    Feature& kept = root.makeChild<Feature>(configuration, true);
+    auto& kept = root.makeChild<Feature>(configuration, true);
     root.makeChild<Feature>(configuration, false);
     EXPECT_TRUE(root.configure());
     EXPECT_EQ(root.getComponents(), (std::vector<UIComponent*>{&label, &kept}));
