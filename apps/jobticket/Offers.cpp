@@ -1,12 +1,14 @@
 #include "Offers.h"
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 #include "Printers.h"
 #include "Text.h"
 #include "ocore/FeatureSettings/FeatureEnum.h"
 #include "ocore/Printer/NonDriverBasedPrinter.h"
+#include "platform/KeepForever.h"
 
 namespace jobticket {
 
@@ -200,23 +202,38 @@ bool isMemberOfAny(const std::vector<Feature>& members, const Feature& feature) 
     });
 }
 
-} // namespace
+using MembersByHolder = std::map<zent::FeatureEnum, std::vector<Feature>>;
 
-bool mayHold(const Feature& holder, const Feature& feature) {
-    // The pairs of family and language that were looked at.
-    std::set<std::pair<std::uint32_t, std::uint32_t>> seen;
-    std::vector<Model> models = getModels();
-    std::ranges::reverse(models); // later models offer more, so that the loop ends sooner
-    return std::ranges::any_of(models, [&](const Model& model) {
-        return std::ranges::any_of(model.drivers, [&](const Driver& driver) {
+/// What each collection of pages holds on one printer or another. All their capability documents
+/// are read for it.
+MembersByHolder readAllMembers() {
+    MembersByHolder members;
+    std::set<std::pair<std::uint32_t, std::uint32_t>> seen; // families and languages
+    for (const Model& model : getModels()) {
+        for (const Driver& driver : model.drivers) {
             if (!seen.emplace(model.family, driver.language.number).second) {
-                return false;
+                continue;
             }
             zent::NonDriverBasedPrinter printer(model.number, driver.language.number,
                                                 ZENT_INSTRUCTIONS_BY_MODEL, zent::CXString(), true);
-            return isMemberOfAny(readMembers(printer.getCapabilities(), holder), feature);
-        });
-    });
+            for (const Feature& holder : Feature::all()) {
+                if (holder.isPageLevel()) {
+                    const auto found = readMembers(printer.getCapabilities(), holder);
+                    auto& known = members[holder.getNumber()];
+                    known.insert(known.end(), found.begin(), found.end());
+                }
+            }
+        }
+    }
+    return members;
+}
+
+} // namespace
+
+bool mayHold(const Feature& holder, const Feature& feature) {
+    static const MembersByHolder& members = zent::keepForever<MembersByHolder>(readAllMembers());
+    const auto found = members.find(holder.getNumber());
+    return found != members.end() && isMemberOfAny(found->second, feature);
 }
 
 Offers getOffers(const PrinterChoice& choice) {
