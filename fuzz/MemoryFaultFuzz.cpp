@@ -6,6 +6,7 @@
 // a document or a blob, and its bytes.
 
 #include <cstdint>
+#include <new>
 #include <vector>
 
 #include "SameList.h"
@@ -46,7 +47,11 @@ public:
         if (result != ZENT_OK) {
             return result;
         }
-        bytes.resize(size);
+        try {
+            bytes.resize(size);
+        } catch (const std::bad_alloc&) { // the allocation that fails is the caller's
+            return ZENT_ERR_OUT_OF_MEMORY;
+        }
         return fnExportJobTicket(m_session, bytes.data(), &size, format);
     }
     ZentResult makeInstructions() {
