@@ -99,7 +99,7 @@ void FeatureBenchmark::registerCups() {
     add(
         "set/cups-ipp", m_requests, [this] { m_written.removeAllAttributes(); },
         [this](const FeatureRequest& request) {
-            m_written.addAttribute(request.narrowName(), request.narrowValue());
+        m_written.addAttribute(request.narrowName(), request.narrowValue());
         });
 }
 

@@ -103,17 +103,18 @@ private:
 
 void registerJobs() {
     constexpr int repetitions = 3; // each takes seconds
-    benchmark::RegisterBenchmark("jobs/10000",
-                                 [](benchmark::State& state) {
-                                     for ([[maybe_unused]] auto each : state) {
-                                         const std::vector<double> numbers = runChild(jobsOption);
-                                         state.SetIterationTime(numbers.at(0));
-                                         state.counters["rate"] = allJobs / numbers.at(0);
-                                         state.counters["after-1000"] = numbers.at(1);
-                                         state.counters["after-10000"] = numbers.at(2);
-                                         state.counters["peak"] = numbers.at(3);
-                                     }
-                                 })
+    benchmark::RegisterBenchmark(
+        "jobs/10000",
+        [](benchmark::State& state) {
+        for ([[maybe_unused]] auto each : state) {
+            const std::vector<double> numbers = runChild(jobsOption);
+            state.SetIterationTime(numbers.at(0));
+            state.counters["rate"] = allJobs / numbers.at(0);
+            state.counters["after-1000"] = numbers.at(1);
+            state.counters["after-10000"] = numbers.at(2);
+            state.counters["peak"] = numbers.at(3);
+        }
+        })
         ->UseManualTime()
         ->Iterations(1)
         ->Repetitions(repetitions);

@@ -35,12 +35,13 @@ void storePreferences() {
 /// Each iteration is a process of its own.
 void addFirstSessions(const char* name, double FirstSessions::*which) {
     constexpr benchmark::IterationCount processes = 5;
-    benchmark::RegisterBenchmark(name,
-                                 [which](benchmark::State& state) {
-                                     for ([[maybe_unused]] auto each : state) {
-                                         state.SetIterationTime(measureFirstSessions().*which);
-                                     }
-                                 })
+    benchmark::RegisterBenchmark(
+        name,
+        [which](benchmark::State& state) {
+        for ([[maybe_unused]] auto each : state) {
+            state.SetIterationTime(measureFirstSessions().*which);
+        }
+        })
         ->UseManualTime()
         ->Iterations(processes);
 }

@@ -79,8 +79,8 @@ void TicketBenchmark::registerLibxml2(const Ticket& ticket) {
         [&] { m_libxml2.parseWithCompiledDtd(xml); });
     add("export/" + ticket.name + "/libxml2", xml,
         [document = std::make_shared<Libxml2Peer::Document>(m_libxml2.parse(xml))] {
-            benchmark::DoNotOptimize(Libxml2Peer::write(*document));
-        });
+        benchmark::DoNotOptimize(Libxml2Peer::write(*document));
+    });
 }
 
 } // namespace zent::bench

@@ -121,13 +121,12 @@ ExitStatus listOrDescribe(const Options& options) {
     if (features.empty()) {
         Feature::named(options.pattern); // raises the error that suggests a name
     }
+    const auto writeText = [&] {
+        return features.size() == 1 ? describe(features.front()) : listFeatures(features);
+    };
     printListing({.asJson = [&] { return makeJson(features); },
                   .asTable = [&] { return makeTable(features); },
-                  .asText =
-                      [&] {
-                          return features.size() == 1 ? describe(features.front())
-                                                      : listFeatures(features);
-                      }},
+                  .asText = writeText},
                  options);
     return ExitStatus::success;
 }

@@ -265,13 +265,13 @@ ExitStatus listCapabilities(const Options& options) {
         throw ProgramError(ExitStatus::badValue,
                            offers.printer + " has no feature " + inQuotes(options.pattern));
     }
+    const auto writeText = [&] {
+        return (options.pattern.empty() ? listPrinter(offers) + "\n" : "") +
+               listFeatures(offers.features);
+    };
     printListing({.asJson = [&] { return makeJson(offers); },
                   .asTable = [&] { return makeTable(offers.features); },
-                  .asText =
-                      [&] {
-                          return (options.pattern.empty() ? listPrinter(offers) + "\n" : "") +
-                                 listFeatures(offers.features);
-                      }},
+                  .asText = writeText},
                  options);
     return ExitStatus::success;
 }

@@ -111,11 +111,11 @@ std::string Session::exportAs(std::uint32_t format) {
 
 std::string Session::getInstructions(const std::string& documentName) {
     const std::string name = zent::platform::toAnsi(fromUtf8(documentName));
-    return fetch<std::string>(
-        "fnGetPrintInstructions", documentName, [&](void* buffer, std::uint32_t* size) {
-            return fnGetPrintInstructions(m_handle, buffer, size,
-                                          name.empty() ? nullptr : name.c_str());
-        });
+    return fetch<std::string>("fnGetPrintInstructions", documentName,
+                              [&](void* buffer, std::uint32_t* size) {
+        return fnGetPrintInstructions(m_handle, buffer, size,
+                                      name.empty() ? nullptr : name.c_str());
+    });
 }
 
 std::string Session::renewState(std::string_view blob, const std::string& name) {

@@ -53,8 +53,8 @@ bool InputRule::accepts(std::u16string_view text, std::size_t start, std::size_t
     if (isControl || (isNumber && !isDigit) || isSingleSurrogate(character)) {
         return false;
     }
-    const auto passes = [this](std::u16string_view where, std::size_t from, std::size_t to,
-                               char16_t unit) {
+    const auto passes =
+        [this](std::u16string_view where, std::size_t from, std::size_t to, char16_t unit) {
         return !filter ||
                filter(where, static_cast<std::int32_t>(from), static_cast<std::int32_t>(to), unit);
     };

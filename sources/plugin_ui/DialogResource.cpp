@@ -44,9 +44,10 @@ DialogResource& DialogResource::operator=(const DialogResource& other) {
 // Items stay whole records of bytes, and are never interpreted further: whatever the designer of a
 // page has put into them reaches the window system as it was.
 std::size_t DialogResource::getSize() const {
-    return std::accumulate(
-        m_items.begin(), m_items.end(), getBytes().size(),
-        [](std::size_t sum, const DialogItemBytes& item) { return sum + item.size(); });
+    return std::accumulate(m_items.begin(), m_items.end(), getBytes().size(),
+                           [](std::size_t sum, const DialogItemBytes& item) {
+        return sum + item.size();
+    });
 }
 
 const std::byte* DialogResource::getResourceData() const {

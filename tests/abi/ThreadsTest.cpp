@@ -144,10 +144,11 @@ TEST(ThreadsTest, TicketsBringAnyNumberOfNamesOfTheirOwn) {
         numberFromEnvironment("ZENT_TEST_NAMES", 4000) / namesOfTicket / 4;
     std::int64_t memoryOfFirst = 0;
     for (std::uint32_t first = 0; first < 4 * quarter; first += quarter) {
-        EXPECT_EQ(onEightThreads(quarter,
-                                 [&](std::uint32_t number, std::string& output) {
-                                     return runTicketOfNames(first + number, namesOfTicket, output);
-                                 }),
+        EXPECT_EQ(onEightThreads(
+                      quarter,
+                      [&](std::uint32_t number, std::string& output) {
+            return runTicketOfNames(first + number, namesOfTicket, output);
+                      }),
                   0);
         memoryOfFirst = first == 0 ? readMemoryInUse() : memoryOfFirst;
     }

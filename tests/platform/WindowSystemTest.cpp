@@ -112,10 +112,10 @@ TEST_F(WindowSystemTest, TakesWhatTheFilterPasses) {
         edit.setLimit(5);
         edit.setFilter(
             [](std::u16string_view text, std::int32_t start, std::int32_t, char16_t character) {
-                const bool isFirstMinus =
-                    character == u'-' && start == 0 && text.find(u'-') == std::u16string_view::npos;
-                return isFirstMinus || (character >= u'0' && character <= u'9');
-            });
+            const bool isFirstMinus =
+                character == u'-' && start == 0 && text.find(u'-') == std::u16string_view::npos;
+            return isFirstMinus || (character >= u'0' && character <= u'9');
+        });
     };
     run([&](WindowHandle dialog) {
         auto& edit = at<TextItem>(dialog, number);

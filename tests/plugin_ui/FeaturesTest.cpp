@@ -140,21 +140,20 @@ TEST_F(FeaturesTest, AValueOfTheUsersOwnIsAskedFor) {
     const char* const pink = "media-col{media-color=name:pink}";
     // A value that the ticket brings along stands in the list, also when another one is chosen.
     // Giving up puts the choice back.
-    EXPECT_EQ(run(pink,
+    EXPECT_EQ(run(
+                  pink,
                   [&](Window window) {
-                      m_windows.onceOpen([&](Window asking) {
-                          EXPECT_EQ(m_windows.item(asking, customEdit).getText(), u"pink");
-                          m_windows.clear(asking, customEdit);
-                          EXPECT_FALSE(m_windows.item(asking, ok).isEnabled());
-                      });
-                      m_windows.choose(window, combo, 3);
-                      EXPECT_EQ(choices(window),
-                                u"Printer default|White|Red|Custom\u2026|[pink (custom)]");
-                      EXPECT_EQ(m_windows.item(window, picture).bitmap, std::uint32_t{IDB_OVERLAY});
-                      EXPECT_FALSE(m_windows.item(window, picture).isGroundCleared);
-                      m_windows.choose(window, combo, 2);
-                      EXPECT_EQ(choices(window),
-                                u"Printer default|White|[Red]|Custom\u2026|pink (custom)");
+        m_windows.onceOpen([&](Window asking) {
+            EXPECT_EQ(m_windows.item(asking, customEdit).getText(), u"pink");
+            m_windows.clear(asking, customEdit);
+            EXPECT_FALSE(m_windows.item(asking, ok).isEnabled());
+        });
+        m_windows.choose(window, combo, 3);
+        EXPECT_EQ(choices(window), u"Printer default|White|Red|Custom\u2026|[pink (custom)]");
+        EXPECT_EQ(m_windows.item(window, picture).bitmap, std::uint32_t{IDB_OVERLAY});
+        EXPECT_FALSE(m_windows.item(window, picture).isGroundCleared);
+        m_windows.choose(window, combo, 2);
+        EXPECT_EQ(choices(window), u"Printer default|White|[Red]|Custom\u2026|pink (custom)");
                   }),
               "media-col{media-color=red}");
     const auto typeOwn = [&](std::u16string_view text, std::u16string_view offered) {
@@ -175,14 +174,15 @@ TEST_F(FeaturesTest, AValueOfTheUsersOwnIsAskedFor) {
     // One that the ticket brings along may be too long, and isn't taken as it is.
     const std::string longColor = "media-col{media-color=name:" + std::string(40, 'y') + "}";
     const BoxCapture boxes;
-    EXPECT_EQ(run(longColor,
+    EXPECT_EQ(run(
+                  longColor,
                   [&](Window window) {
-                      m_windows.onceOpen([&](Window asking) {
-                          EXPECT_EQ(m_windows.item(asking, customEdit).getText().size(), 40U);
-                          m_windows.click(asking, ok);
-                          EXPECT_EQ(boxes.shown().size(), 1U);
-                      });
-                      m_windows.choose(window, combo, 3);
+        m_windows.onceOpen([&](Window asking) {
+            EXPECT_EQ(m_windows.item(asking, customEdit).getText().size(), 40U);
+            m_windows.click(asking, ok);
+            EXPECT_EQ(boxes.shown().size(), 1U);
+        });
+        m_windows.choose(window, combo, 3);
                   }),
               longColor);
     // One that names a value of the printer is that one.
@@ -220,26 +220,29 @@ TEST_F(FeaturesTest, CheckBoxesStandForTwoValuesAndTheDefault) {
                                                value::antiAliasingStandard,
                                                value::antiAliasingNone}};
     addFeatures(m_dialog, features);
-    EXPECT_EQ(run("",
+    EXPECT_EQ(run(
+                  "",
                   [&](Window window) {
-                      EXPECT_TRUE(m_windows.item(window, defaultBox).isChecked());
-                      EXPECT_FALSE(m_windows.item(window, box).isEnabled());
-                      m_windows.click(window, box); // in vain
-                      m_windows.click(window, defaultBox);
-                      EXPECT_TRUE(m_windows.item(window, box).isEnabled());
+        EXPECT_TRUE(m_windows.item(window, defaultBox).isChecked());
+        EXPECT_FALSE(m_windows.item(window, box).isEnabled());
+        m_windows.click(window, box); // in vain
+        m_windows.click(window, defaultBox);
+        EXPECT_TRUE(m_windows.item(window, box).isEnabled());
                   }),
               "anti-aliasing=none");
-    EXPECT_EQ(run("anti-aliasing=none",
+    EXPECT_EQ(run(
+                  "anti-aliasing=none",
                   [&](Window window) {
-                      EXPECT_FALSE(m_windows.item(window, defaultBox).isChecked());
-                      EXPECT_FALSE(m_windows.item(window, box).isChecked());
-                      m_windows.click(window, box);
+        EXPECT_FALSE(m_windows.item(window, defaultBox).isChecked());
+        EXPECT_FALSE(m_windows.item(window, box).isChecked());
+        m_windows.click(window, box);
                   }),
               "anti-aliasing=standard");
-    EXPECT_EQ(run("anti-aliasing=standard",
+    EXPECT_EQ(run(
+                  "anti-aliasing=standard",
                   [&](Window window) {
-                      EXPECT_TRUE(m_windows.item(window, box).isChecked());
-                      m_windows.click(window, defaultBox);
+        EXPECT_TRUE(m_windows.item(window, box).isChecked());
+        m_windows.click(window, defaultBox);
                   }),
               "");
 }

@@ -172,9 +172,10 @@ bool SettingsValidator::validateAgainstPrivateCapabilities(const WalkNode& place
 
 WalkLevel SettingsValidator::enter(const WalkNode& place, AttrNodeList& list) const {
     const FeatureEnum feature = place.attribute.feature;
-    const bool isParent = std::ranges::any_of(
-        m_capabilities.getCollectionFeatures(),
-        [feature](const _FI& collection) { return collection.getFeature() == feature; });
+    const bool isParent = std::ranges::any_of(m_capabilities.getCollectionFeatures(),
+                                              [feature](const _FI& collection) {
+        return collection.getFeature() == feature;
+    });
     const bool isSet = place.node.getAttrValue().is1setOf();
     return {.list = list,
             .enclosing = &place.level,

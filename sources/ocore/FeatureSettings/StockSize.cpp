@@ -96,9 +96,9 @@ std::vector<StockSize> StockSize::getSizesWithin(const SizeLimits& limits) {
     std::vector<StockSize> fitting;
     std::copy_if(std::next(store().begin()), store().end(), std::back_inserter(fitting),
                  [&](const StockSize& size) {
-                     return limits.contains(size.m_width, size.m_height) ||
-                            limits.contains(size.m_height, size.m_width);
-                 });
+        return limits.contains(size.m_width, size.m_height) ||
+               limits.contains(size.m_height, size.m_width);
+    });
     return fitting;
 }
 

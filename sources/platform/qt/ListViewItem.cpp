@@ -90,18 +90,18 @@ ListViewItem::ListViewItem(Dialog& dialog, const DialogTemplate::Item& source, P
         view->setFocusPolicy(hasStyle(itemStyle::tabStop) ? Qt::StrongFocus : Qt::ClickFocus);
         QObject::connect(view, &QAbstractItemView::doubleClicked, view,
                          [this](const QModelIndex& place) {
-                             tell(notification::listViewActivated, place.row(), place.column());
-                         });
+            tell(notification::listViewActivated, place.row(), place.column());
+        });
     }
     setStyle((style() & kindBits) == isTable ? Style::details : Style::icons);
     QObject::connect(&m_selection, &QItemSelectionModel::selectionChanged, &stack,
                      [this](const QItemSelection& now, const QItemSelection& before) {
-                         tellSelection(now, before);
-                     });
+        tellSelection(now, before);
+    });
     QObject::connect(&m_model, &QStandardItemModel::itemChanged, &stack,
                      [this](const QStandardItem* cell) {
-                         tell(notification::listViewChanged, cell->row(), cell->column());
-                     });
+        tell(notification::listViewChanged, cell->row(), cell->column());
+    });
 }
 
 void ListViewItem::setUpTable() {

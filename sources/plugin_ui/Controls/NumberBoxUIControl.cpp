@@ -89,8 +89,8 @@ void NumberBoxUIControl::setControlCallBack() {
     item().setLimit(m_maxLength);
     const bool isFiltered = item().setFilter(
         [this](std::u16string_view text, std::int32_t start, std::int32_t end, char16_t character) {
-            return acceptsNumberCharacter(m_numberType, {text, start, end, m_maxLength}, character);
-        });
+        return acceptsNumberCharacter(m_numberType, {text, start, end, m_maxLength}, character);
+    });
     if (!isFiltered) {
         Raise<UnknownCaseException>{}("NumberBoxUIControl::setControlCallBack() Unknown ANL value "
                                       "for disposition.\r\n");

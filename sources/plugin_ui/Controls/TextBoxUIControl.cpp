@@ -35,8 +35,8 @@ void TextBoxUIControl::setControlCallBack() {
     item().setLimit(m_maxLength);
     const bool isFiltered = item().setFilter(
         [this](std::u16string_view text, std::int32_t start, std::int32_t end, char16_t character) {
-            return acceptsTextCharacter(m_filterMode, {text, start, end, m_maxLength}, character);
-        });
+        return acceptsTextCharacter(m_filterMode, {text, start, end, m_maxLength}, character);
+    });
     if (!isFiltered) {
         Raise<UnknownCaseException>{}("TextBoxUIControl::setControlCallBack() Unknown ANL value "
                                       "for disposition.\r\n");

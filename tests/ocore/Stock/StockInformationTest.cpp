@@ -104,8 +104,8 @@ TEST_F(StockInformationTest, AnIdOfAnotherSessionIsNoStock) {
 
 TEST_F(StockInformationTest, WhatOthersSavedMeanwhileStays) {
     StockInformation other(m_printer, MediaPreferences(folderName()));
-    const auto change = [](StockInformation& stocks, const char* name, const char* removed,
-                           const char* favorite) {
+    const auto change =
+        [](StockInformation& stocks, const char* name, const char* removed, const char* favorite) {
         Stock added = *stockOf("media-col{media-color=red}");
         added.setKeyFromText(CXString(name));
         stocks.addStock(added);

@@ -76,34 +76,33 @@ TEST_F(QtWindowSystemTest, AllWaysIntoABoxAreFiltered) {
     using Way = void (*)(QLineEdit&);
     const Way ways[] = {
         [](QLineEdit& edit) {
-            QInputMethodEvent event;
-            event.setCommitString(QStringLiteral("1a2"));
-            QApplication::sendEvent(&edit, &event);
+        QInputMethodEvent event;
+        event.setCommitString(QStringLiteral("1a2"));
+        QApplication::sendEvent(&edit, &event);
         },
         [](QLineEdit& edit) {
-            QApplication::clipboard()->setText(QStringLiteral("1a2"));
-            QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5),
-                                    edit.mapToGlobal(QPoint(5, 5)));
-            QApplication::sendEvent(&edit, &event);
-            auto* const menu = edit.findChild<QMenu*>();
-            ASSERT_NE(menu, nullptr);
-            for (QAction* const action : menu->actions()) {
-                if (action->text().startsWith(QLineEdit::tr("&Paste"))) {
-                    action->trigger();
-                }
+        QApplication::clipboard()->setText(QStringLiteral("1a2"));
+        QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5),
+                                edit.mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(&edit, &event);
+        auto* const menu = edit.findChild<QMenu*>();
+        ASSERT_NE(menu, nullptr);
+        for (QAction* const action : menu->actions()) {
+            if (action->text().startsWith(QLineEdit::tr("&Paste"))) {
+                action->trigger();
             }
-            menu->close();
-        },
-        [](QLineEdit& edit) {
-            QMimeData data;
-            data.setText(QStringLiteral("1a2"));
-            QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton,
-                                  Qt::NoModifier);
-            QApplication::sendEvent(&edit, &enter);
-            QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-            QApplication::sendEvent(&edit, &event);
-        },
-    };
+        }
+        menu->close();
+    },
+              [](QLineEdit& edit) {
+        QMimeData data;
+        data.setText(QStringLiteral("1a2"));
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&edit, &enter);
+        QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&edit, &event);
+    },
+        };
     TemplateBuilder builder(u"Ways");
     builder.add(3, TemplateBuilder::edit, stop, {5, 5, 60, 12});
     for (const Way way : ways) {
@@ -169,9 +168,9 @@ TEST_F(QtWindowSystemTest, EndsWithAWindowOfTheHost) {
     run(
         builder,
         [&](WindowHandle dialog) {
-            EXPECT_EQ(static_cast<QWidget*>(dialog)->parentWidget(), host.get());
-            host.reset();
-            EXPECT_FALSE(at(dialog, 3).isThere());
+        EXPECT_EQ(static_cast<QWidget*>(dialog)->parentWidget(), host.get());
+        host.reset();
+        EXPECT_FALSE(at(dialog, 3).isThere());
         },
         host.get());
     EXPECT_EQ(m_recorder.log, "init; destroy");
