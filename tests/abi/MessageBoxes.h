@@ -27,7 +27,8 @@ public:
 
     /// What was shown since the last call.
     std::vector<MessageBox> take() {
-        const std::string rule = std::string(72, '-') + '\n';
+        std::string rule(72, '-');
+        rule += '\n';
         std::string text = testing::internal::GetCapturedStderr();
         testing::internal::CaptureStderr();
         std::erase(text, '\r'); // as Windows ends its lines
