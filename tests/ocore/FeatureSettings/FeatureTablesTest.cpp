@@ -128,6 +128,7 @@ TEST(FeatureTablesTest, CapabilitiesStandOnceInTheOrderOfTheirTypes) {
 }
 
 TEST(StockSizeTest, SizesAreTurnedIfOnlyThatFits) {
+    useResourceLibrary();
     const Rows<SizeLimits, bool> rows{
         {{21000, 21000, 29700, 29700}, false}, // bounds are inclusive
         {{29700, 29700, 21000, 21000}, true},
@@ -146,6 +147,7 @@ TEST(StockSizeTest, SizesAreTurnedIfOnlyThatFits) {
 }
 
 TEST(StockSizeTest, SizesWithinLimits) {
+    useResourceLibrary();
     const Rows<SizeLimits, std::vector<std::uint32_t>> rows{
         // 17 x 11 inches and A3 stand in landscape order in the table.
         {{27000, 30000, 40000, 43200}, {4, 9}},
