@@ -1,6 +1,7 @@
 #include "Offers.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <set>
 
@@ -202,38 +203,57 @@ bool isMemberOfAny(const std::vector<Feature>& members, const Feature& feature) 
     });
 }
 
-using MembersByHolder = std::map<zent::FeatureEnum, std::vector<Feature>>;
-
-/// What each collection of pages holds on one printer or another. All their capability documents
-/// are read for it.
-MembersByHolder readAllMembers() {
-    MembersByHolder members;
-    std::set<std::pair<std::uint32_t, std::uint32_t>> seen; // families and languages
-    for (const Model& model : getModels()) {
-        for (const Driver& driver : model.drivers) {
-            if (!seen.emplace(model.family, driver.language.number).second) {
-                continue;
-            }
-            zent::NonDriverBasedPrinter printer(model.number, driver.language.number,
-                                                ZENT_INSTRUCTIONS_BY_MODEL, zent::CXString(), true);
-            for (const Feature& holder : Feature::all()) {
-                if (holder.isPageLevel()) {
-                    const auto found = readMembers(printer.getCapabilities(), holder);
-                    auto& known = members[holder.getNumber()];
-                    known.insert(known.end(), found.begin(), found.end());
+/// What page-level features hold on one printer or another. The printers are read one by one, and
+/// only as far as a question needs: most features are found on the first.
+class PageLevelMembers {
+public:
+    PageLevelMembers() {
+        std::set<std::pair<std::uint32_t, std::uint32_t>> seen; // families and languages
+        std::vector<Model> models = getModels();
+        std::ranges::reverse(models); // the later ones hold more
+        for (const Model& model : models) {
+            for (const Driver& driver : model.drivers) {
+                if (seen.emplace(model.family, driver.language.number).second) {
+                    m_printers.emplace_back(model.number, driver.language.number);
                 }
             }
         }
     }
-    return members;
-}
+
+    bool has(const Feature& holder, const Feature& feature) {
+        const std::vector<Feature>& members = m_members[holder.getNumber()];
+        bool isFound = isMemberOfAny(members, feature);
+        while (!isFound && m_read < m_printers.size()) {
+            readNextPrinter();
+            isFound = isMemberOfAny(members, feature);
+        }
+        return isFound;
+    }
+
+private:
+    void readNextPrinter() {
+        const auto [model, language] = m_printers[m_read++];
+        zent::NonDriverBasedPrinter printer(model, language, ZENT_INSTRUCTIONS_BY_MODEL,
+                                            zent::CXString(), true);
+        for (const Feature& holder : Feature::all()) {
+            if (holder.isPageLevel()) {
+                std::vector<Feature>& members = m_members[holder.getNumber()];
+                std::ranges::copy(readMembers(printer.getCapabilities(), holder),
+                                  std::back_inserter(members));
+            }
+        }
+    }
+
+    std::vector<std::pair<std::uint32_t, std::uint32_t>> m_printers; // models and languages
+    std::size_t m_read = 0;
+    std::map<zent::FeatureEnum, std::vector<Feature>> m_members; // by the number of their holder
+};
 
 } // namespace
 
 bool mayHold(const Feature& holder, const Feature& feature) {
-    static const MembersByHolder& members = zent::keepForever<MembersByHolder>(readAllMembers());
-    const auto found = members.find(holder.getNumber());
-    return found != members.end() && isMemberOfAny(found->second, feature);
+    static auto& members = zent::keepForever<PageLevelMembers>();
+    return members.has(holder, feature);
 }
 
 Offers getOffers(const PrinterChoice& choice) {

@@ -26,7 +26,6 @@ void whileOthersUseIt(Patience patience, const Step& step) {
             return;
         }
         Sleep(pause);
-        SetLastError(error);
     }
 }
 
