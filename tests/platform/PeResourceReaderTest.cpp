@@ -1,6 +1,11 @@
 #include "platform/PeResourceReader.h"
 
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
 #include "ocore/Resources/ByteBuffer.h"
+#include "platform/Files.h"
 #include "platform/PeImage.h"
 #include "platform/ResourceModule.h"
 #include "support/LibraryTesting.h"
@@ -166,6 +171,66 @@ TEST(PeResourceReader, FindsNoStringThatRunsOutOfItsBlock) {
         EXPECT_EQ(findString(*reader, 0).size(), length) << block.size();
         EXPECT_EQ(findString(*reader, 1), u"");
         EXPECT_EQ(findString(*reader, 15), u"");
+    }
+}
+
+TEST(PeResourceReader, SurvivesEachCutAndEachChangedByte) {
+    const File whole = sample(false).build();
+    const auto readAll = [](const File& file) {
+        std::size_t total = 0;
+        if (const auto reader = open(file)) {
+            for (const std::uint32_t type : {3U, 6U, 10U, 14U}) {
+                for (const std::uint32_t id : {1U, 2U, 5U, 6U, 7U, 100U, 101U, 727U}) {
+                    total += find(*reader, type, id).size();
+                }
+            }
+            total += reader->findString(7).size() + reader->findString(11619).size();
+            total += reader->findIcon(100).value_or(std::span<const std::byte>()).size();
+        }
+        return total;
+    };
+    const std::size_t all = readAll(whole);
+    for (auto end = whole.begin(); end != whole.end(); ++end) {
+        EXPECT_LE(readAll(File(whole.begin(), end)), all);
+    }
+    for (std::size_t i = 0; i < whole.size(); ++i) {
+        for (const std::uint8_t value : {std::uint8_t{0}, std::uint8_t{0x7F}, std::uint8_t{0xFF}}) {
+            File changed = whole;
+            changed[i] = value;
+            EXPECT_LE(readAll(changed), 64 * whole.size());
+        }
+    }
+}
+
+/// The reader and the system's own way to a resource library agree; on Windows that is the loader.
+TEST(PeResourceReader, AgreesWithTheSystemOnTheResourceLibrary) {
+    const CXString program(getModulePath());
+    const CXString library = program.left(program.findLast(pathSeparator) + 1) + u"zenres27.dll";
+    std::ifstream stream(std::filesystem::path(library.view()), std::ios::binary);
+    const File file(std::istreambuf_iterator<char>(stream), {});
+    const auto reader = open(file);
+    ASSERT_TRUE(reader);
+    std::uint32_t error = 0;
+    const auto module = ResourceModule::load(library, error);
+    ASSERT_TRUE(module) << error;
+    int count = 0;
+    for (std::uint32_t id = 0; id < 0x10000; ++id) {
+        char16_t buffer[1024];
+        const std::int32_t length = module->loadString(id, buffer, 1024);
+        ASSERT_EQ(findString(*reader, id),
+                  std::u16string_view(buffer, static_cast<std::size_t>(length)))
+            << id;
+        count += length > 0 ? 1 : 0;
+    }
+    EXPECT_GE(count, 551);
+    for (std::uint32_t type = 1; type <= 24; ++type) {
+        for (std::uint32_t id = 1; id < 1000; ++id) {
+            ResourceModule::Failure failure = {};
+            const auto bytes = module->findResource(id, type, failure);
+            const std::string expected =
+                failure == ResourceModule::Failure::none ? text(bytes) : "-";
+            ASSERT_EQ(find(*reader, type, id), expected) << type << ' ' << id;
+        }
     }
 }
 
